@@ -1,0 +1,11 @@
+# Lays out the program folder beside the executable as an installer would.
+file(MAKE_DIRECTORY "${PROGRAM_DIR}/Packages")
+if(NOT EXISTS "${PROGRAM_DIR}/Location.loc")
+  file(WRITE "${PROGRAM_DIR}/Location.loc" "")
+endif()
+if(EXISTS "${SOURCE_DIR}/help/Cartomar.hlp")
+  file(COPY "${SOURCE_DIR}/help/Cartomar.hlp" DESTINATION "${PROGRAM_DIR}")
+endif()
+if(EXISTS "${SOURCE_DIR}/help/images")
+  file(COPY "${SOURCE_DIR}/help/images" DESTINATION "${PROGRAM_DIR}/Help")
+endif()

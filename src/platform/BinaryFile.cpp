@@ -1,0 +1,134 @@
+#include "platform/BinaryFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <unistd.h>
+
+#include "platform/Errors.h"
+#include "platform/FileSys.h"
+
+namespace {
+constexpr qint64 kBlockBytes = 1 << 20;
+
+void OpenOrRaise(QFile& file, QIODevice::OpenMode mode) {
+    if (!file.open(mode)) RaiseError(file.exists() ? errPermissionDenied : errFileNotFound);
+}
+
+void WriteOrRaise(QFile& file, const char* bytes, qint64 length) {
+    if (file.write(bytes, length) != length) RaiseError(errDiskFull);
+}
+
+void FlushOrRaise(QFile& file) {
+    if (!file.flush()) RaiseError(errDiskFull);
+    ::fsync(file.handle());
+}
+}  // namespace
+
+RecordFileReader::RecordFileReader(const QString& path, int recordLength)
+    : file_(std::make_unique<QFile>(NativePath(path))), length_(recordLength) {
+    // A record file that is not there holds no records, as an empty one.
+    if (!file_->exists()) return;
+    OpenOrRaise(*file_, QIODevice::ReadOnly);
+    count_ = static_cast<int>(std::min<qint64>(file_->size() / length_, 0x7FFFFFFF));
+}
+
+RecordFileReader::~RecordFileReader() = default;
+
+void RecordFileReader::Seek(int recordNumber) {
+    current_ = std::max(0, recordNumber - 1);
+    bufferRecords_ = 0;
+}
+
+void RecordFileReader::Fill() {
+    const int first = current_ + 1;
+    const int perBlock = std::max<int>(1, static_cast<int>(kBlockBytes / length_));
+    const int want = std::min(perBlock, count_ - first + 1);
+    bufferFirst_ = first;
+    bufferRecords_ = 0;
+    if (want <= 0) return;
+    buffer_.resize(static_cast<qsizetype>(want) * length_);
+    if (!file_->seek(static_cast<qint64>(first - 1) * length_)) RaiseError(errPathFileAccess);
+    const qint64 got = file_->read(buffer_.data(), buffer_.size());
+    if (got < 0) RaiseError(errPathFileAccess);
+    bufferRecords_ = static_cast<int>(got / length_);
+}
+
+const char* RecordFileReader::Next() {
+    if (current_ >= count_) return nullptr;
+    const int wanted = current_ + 1;
+    if (wanted < bufferFirst_ || wanted >= bufferFirst_ + bufferRecords_) {
+        Fill();
+        if (bufferRecords_ == 0) return nullptr;
+    }
+    current_ = wanted;
+    return buffer_.constData() + static_cast<qsizetype>(wanted - bufferFirst_) * length_;
+}
+
+AtomicFileWriter::AtomicFileWriter(const QString& newPath, const QString& realPath)
+    : file_(std::make_unique<QFile>(NativePath(newPath))),
+      newPath_(NativePath(newPath)),
+      realPath_(NativePath(realPath)) {
+    if (!file_->open(QIODevice::WriteOnly | QIODevice::Truncate)) RaiseError(errPathNotFound);
+}
+
+AtomicFileWriter::~AtomicFileWriter() {
+    if (!committed_) {
+        file_->close();
+        QFile::remove(newPath_);
+    }
+}
+
+void AtomicFileWriter::Write(const char* bytes, qint64 length) {
+    pending_.append(bytes, length);
+    if (pending_.size() >= kBlockBytes) Flush();
+}
+
+void AtomicFileWriter::Flush() {
+    WriteOrRaise(*file_, pending_.constData(), pending_.size());
+    pending_.clear();
+}
+
+void AtomicFileWriter::Commit() {
+    Flush();
+    FlushOrRaise(*file_);
+    file_->close();
+    ReplaceFile(newPath_, realPath_);
+    committed_ = true;
+}
+
+int RecordCountOf(const QString& path, int recordLength) {
+    QFileInfo info(NativePath(path));
+    if (!info.exists()) return 0;
+    return static_cast<int>(std::min<qint64>(info.size() / recordLength, 0x7FFFFFFF));
+}
+
+bool ReadRecordBytes(const QString& path, int recordLength, int recordNumber, char* out) {
+    if (recordNumber < 1) RaiseError(errBadFileName, QStringLiteral("Bad record number"));
+    QFile file(NativePath(path));
+    if (!file.exists()) return false;
+    OpenOrRaise(file, QIODevice::ReadOnly);
+    const qint64 offset = static_cast<qint64>(recordNumber - 1) * recordLength;
+    if (offset + recordLength > file.size()) return false;
+    if (!file.seek(offset)) RaiseError(errPathFileAccess);
+    return file.read(out, recordLength) == recordLength;
+}
+
+void WriteRecordBytes(const QString& path, int recordLength, int recordNumber, const char* bytes) {
+    if (recordNumber < 1) RaiseError(errBadFileName, QStringLiteral("Bad record number"));
+    QFile file(NativePath(path));
+    OpenOrRaise(file, QIODevice::ReadWrite);
+    if (!file.seek(static_cast<qint64>(recordNumber - 1) * recordLength)) RaiseError(errPathFileAccess);
+    WriteOrRaise(file, bytes, recordLength);
+    FlushOrRaise(file);
+}
+
+void AppendRecordBytes(const QString& path, int recordLength, const QByteArray& records) {
+    QFile file(NativePath(path));
+    OpenOrRaise(file, QIODevice::ReadWrite);
+    const qint64 whole = (file.size() / recordLength) * recordLength;
+    if (!file.seek(whole)) RaiseError(errPathFileAccess);
+    WriteOrRaise(file, records.constData(), records.size());
+    if (file.size() > whole + records.size()) file.resize(whole + records.size());
+    FlushOrRaise(file);
+}

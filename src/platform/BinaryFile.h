@@ -1,0 +1,77 @@
+#pragma once
+// Files of fixed-length records, read and written in large blocks. A file is
+// read sequentially from a position; a rewrite goes to a new file beside the
+// real one, is flushed to the disk, and then renamed over it, so that at any
+// instant the real file is either the old or the new one, whole.
+#include <QByteArray>
+#include <QString>
+#include <memory>
+
+class QFile;
+
+// Sequential reader of whole records. A partial last record is never seen.
+class RecordFileReader {
+public:
+    // A missing file reads as empty; one that cannot be opened raises.
+    RecordFileReader(const QString& path, int recordLength);
+    ~RecordFileReader();
+    RecordFileReader(const RecordFileReader&) = delete;
+    RecordFileReader& operator=(const RecordFileReader&) = delete;
+
+    int RecordCount() const { return count_; }
+    // Record numbers are 1-based. Seek puts the next read at that record.
+    void Seek(int recordNumber);
+    // The next record's bytes (recordLength of them), or nullptr at the end.
+    const char* Next();
+    // The number of the record that Next returned last.
+    int Current() const { return current_; }
+
+private:
+    void Fill();
+    std::unique_ptr<QFile> file_;
+    int length_;
+    int count_ = 0;
+    int current_ = 0;   // number of the last record returned
+    QByteArray buffer_;
+    int bufferFirst_ = 1;    // record number of the buffer's first record
+    int bufferRecords_ = 0;
+};
+
+// Writes a new file beside the target and puts it in place on Commit.
+// Destroying an uncommitted writer removes the new file and leaves the
+// target as it was.
+class AtomicFileWriter {
+public:
+    // newPath: where the new file is built (the program's ".tmp" names);
+    // realPath: the file it replaces on Commit.
+    AtomicFileWriter(const QString& newPath, const QString& realPath);
+    ~AtomicFileWriter();
+    AtomicFileWriter(const AtomicFileWriter&) = delete;
+    AtomicFileWriter& operator=(const AtomicFileWriter&) = delete;
+
+    void Write(const char* bytes, qint64 length);
+    void Write(const QByteArray& bytes) { Write(bytes.constData(), bytes.size()); }
+    // Flushes, syncs and renames the new file over the real one.
+    void Commit();
+
+private:
+    void Flush();
+    std::unique_ptr<QFile> file_;
+    QString newPath_;
+    QString realPath_;
+    QByteArray pending_;
+    bool committed_ = false;
+};
+
+// Random access to one record: read record n, or write it in place (the file
+// grows when n is one past the end). Raises on failure.
+bool ReadRecordBytes(const QString& path, int recordLength, int recordNumber, char* out);
+void WriteRecordBytes(const QString& path, int recordLength, int recordNumber, const char* bytes);
+// Appends records after the last whole record of a file (made if missing;
+// a partial last record is written over) and flushes them. A write cut short
+// leaves at most a partial last record, which readers ignore, so the records
+// before it stay whole.
+void AppendRecordBytes(const QString& path, int recordLength, const QByteArray& records);
+// The whole records in a file (its length divided by the record length);
+// 0 for a missing file.
+int RecordCountOf(const QString& path, int recordLength);

@@ -1,0 +1,110 @@
+#include "platform/MsgBox.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+struct Script {
+    bool enabled = false;
+    QList<int> answers;
+    QList<MsgBoxScript::Shown> history;
+    int unanswered = 0;
+};
+
+Script& TheScript() {
+    static Script s;
+    return s;
+}
+
+QList<int> ButtonsOf(int style) {
+    switch (style & 7) {
+    case vbOKCancel: return {vbOK, vbCancel};
+    case vbAbortRetryIgnore: return {vbAbort, vbRetry, vbIgnore};
+    case vbYesNoCancel: return {vbYes, vbNo, vbCancel};
+    case vbYesNo: return {vbYes, vbNo};
+    case vbRetryCancel: return {vbRetry, vbCancel};
+    default: return {vbOK};
+    }
+}
+
+int DefaultOf(int style) {
+    const QList<int> buttons = ButtonsOf(style);
+    const int index = (style & vbDefaultButton3) ? 2 : (style & vbDefaultButton2) ? 1 : 0;
+    return buttons.value(index, buttons.first());
+}
+
+QMessageBox::StandardButton Standard(int answer) {
+    switch (answer) {
+    case vbOK: return QMessageBox::Ok;
+    case vbCancel: return QMessageBox::Cancel;
+    case vbAbort: return QMessageBox::Abort;
+    case vbRetry: return QMessageBox::Retry;
+    case vbIgnore: return QMessageBox::Ignore;
+    case vbYes: return QMessageBox::Yes;
+    default: return QMessageBox::No;
+    }
+}
+
+QMessageBox::Icon IconOf(int style) {
+    switch (style & 0x70) {
+    case vbCritical: return QMessageBox::Critical;
+    case vbQuestion: return QMessageBox::Question;
+    case vbExclamation: return QMessageBox::Warning;
+    case vbInformation: return QMessageBox::Information;
+    default: return QMessageBox::NoIcon;
+    }
+}
+
+int Scripted(const QString& prompt, int style, const QString& title) {
+    Script& s = TheScript();
+    const QList<int> buttons = ButtonsOf(style);
+    int answer;
+    if (!s.answers.isEmpty()) {
+        answer = s.answers.takeFirst();
+    } else if (buttons.size() == 1) {
+        answer = vbOK;
+    } else {
+        ++s.unanswered;
+        answer = DefaultOf(style);
+    }
+    s.history.append({prompt, style, title, answer});
+    return answer;
+}
+
+}  // namespace
+
+int MsgBox(const QString& prompt, int style, const QString& title) {
+    const QString caption = title.isEmpty() ? QStringLiteral("Cartomar") : title;
+    if (TheScript().enabled) return Scripted(prompt, style, caption);
+
+    QMessageBox box(IconOf(style), caption, prompt, QMessageBox::NoButton, QApplication::activeWindow());
+    const QList<int> buttons = ButtonsOf(style);
+    QHash<QAbstractButton*, int> answerOf;
+    for (int b : buttons) answerOf.insert(box.addButton(Standard(b)), b);
+    box.setDefaultButton(Standard(DefaultOf(style)));
+    // Esc answers Cancel where there is one, otherwise the only button.
+    if (buttons.contains(vbCancel)) box.setEscapeButton(box.button(QMessageBox::Cancel));
+    else if (buttons.size() == 1) box.setEscapeButton(box.buttons().first());
+    box.exec();
+    return answerOf.value(box.clickedButton(), buttons.contains(vbCancel) ? vbCancel : buttons.last());
+}
+
+void Beep() { QApplication::beep(); }
+
+namespace MsgBoxScript {
+void Enable() { TheScript().enabled = true; }
+void Disable() { TheScript().enabled = false; }
+bool Enabled() { return TheScript().enabled; }
+void Answer(int answer) { TheScript().answers.append(answer); }
+void Clear() {
+    Script& s = TheScript();
+    s.answers.clear();
+    s.history.clear();
+    s.unanswered = 0;
+}
+const QList<Shown>& History() { return TheScript().history; }
+int Pending() { return static_cast<int>(TheScript().answers.size()); }
+int Unanswered() { return TheScript().unanswered; }
+}  // namespace MsgBoxScript
