@@ -1,0 +1,399 @@
+// The record store: counts, lookups, free ids, delete passes, locations,
+// new-design values and the tests whether a spread or deck can be dealt.
+#include "store/mdlSubRoutines.h"
+
+#include <vector>
+
+#include "platform/FileSys.h"
+#include "platform/OleDate.h"
+#include "store/RecordFile.h"
+
+namespace {
+
+const QString SpreadsTmpName = QStringLiteral("Spreads.tmp");
+const QString LocationTmpName = QStringLiteral("Location.tmp");
+const QString ReadingsTmpName = QStringLiteral("Readings.tmp");
+const QString DiariesTmpName = QStringLiteral("Diaries.tmp");
+const QString CardsTmpName = QStringLiteral("Cards.tmp");
+const QString DecksTmpName = QStringLiteral("Decks.tmp");
+
+template <int N>
+bool SameName(const FixedText<N>& field, const QString& trimmedName) {
+    return field.Trimmed() == trimmedName;
+}
+
+// The number of the first record that satisfies the test, or -1.
+template <class R, class Test>
+int FindRecord(const QString& path, Test matches) {
+    RecordReader<R> reader(path);
+    R r;
+    while (reader.Next(r)) {
+        if (matches(r)) return reader.Current();
+    }
+    return -1;
+}
+
+// Copies every record that the test does not drop to a new file, then puts
+// the new file in place of the real one. The test sees each record with its
+// number, and may act on what goes before it is dropped.
+template <class R, class Drop>
+void RewriteWithout(const QString& realPath, const QString& newPath, Drop drop) {
+    RecordRewriter<R> writer(newPath, realPath);
+    {
+        RecordReader<R> reader(realPath);
+        R r;
+        while (const char* raw = reader.NextRaw()) {
+            DecodeRecord(raw, r);
+            if (!drop(r, reader.Current())) writer.AddRaw(raw);
+        }
+    }
+    writer.Commit();
+}
+
+// The smallest positive id that no record of the file carries.
+template <class R, class IdOf>
+Integer SmallestFreeId(const QString& path, IdOf idOf) {
+    std::vector<bool> used(32768, false);
+    RecordReader<R> reader(path);
+    R r;
+    while (reader.Next(r)) {
+        const Integer id = idOf(r);
+        if (id > 0) used[static_cast<std::size_t>(id)] = true;
+    }
+    for (int candidate = 1; candidate < 32768; ++candidate) {
+        if (!used[static_cast<std::size_t>(candidate)]) return static_cast<Integer>(candidate);
+    }
+    // Every 16-bit id is taken: the id would not fit its field.
+    RaiseError(6, QStringLiteral("Overflow"));
+}
+
+// A design file in Cards/ goes with its design; a failure to delete it is of
+// no consequence. A blank name names no file.
+void KillDesignFile(const QString& name) {
+    const QString trimmed = TrimField(name);
+    if (trimmed.isEmpty()) return;
+    // Names come from records, which a package may have filled: a wildcard
+    // in one must never widen the delete to other designs' files.
+    if (trimmed.contains(QLatin1Char('*')) || trimmed.contains(QLatin1Char('?'))) return;
+    KillIgnoringErrors(CardsDir + name);
+}
+
+void LoadLocationsFrom(const QString& path, Integer spreadId, int count) {
+    SpreadLocations.Redim(1, count);
+    const LocationRecord empty = ZeroRecord<LocationRecord>();
+    for (LocationRecord& location : SpreadLocations) location = empty;
+    RecordReader<LocationRecord> reader(path);
+    LocationRecord r;
+    while (reader.Next(r)) {
+        if (r.LocationSpreadId != spreadId) continue;
+        // A number outside the spread's count has no place in the array.
+        if (SpreadLocations.InBounds(r.LocationNumber)) SpreadLocations(r.LocationNumber) = r;
+    }
+}
+
+}  // namespace
+
+// ---- Counting ----------------------------------------------------------------
+
+int CountCards(const QString& path) { return CountRecords<CardRecord>(path); }
+int CountDecks(const QString& path) { return CountRecords<DeckRecord>(path); }
+int CountSpreads(const QString& path) { return CountRecords<SpreadRecord>(path); }
+int CountReadings(const QString& path) { return CountRecords<ReadingRecord>(path); }
+int CountDiaries(const QString& path) { return CountRecords<DiaryRecord>(path); }
+
+// ---- Lookups -----------------------------------------------------------------
+
+int FindSpreadByName(const QString& name) {
+    const QString wanted = TrimField(name);
+    return FindRecord<SpreadRecord>(SpreadsPath,
+                                    [&](const SpreadRecord& r) { return SameName(r.SpreadName, wanted); });
+}
+
+int FindDeckByName(const QString& name) {
+    const QString wanted = TrimField(name);
+    return FindRecord<DeckRecord>(DecksPath, [&](const DeckRecord& r) { return SameName(r.DeckName, wanted); });
+}
+
+int FindReadingByName(const QString& name) {
+    const QString wanted = TrimField(name);
+    return FindRecord<ReadingRecord>(ReadingsPath,
+                                     [&](const ReadingRecord& r) { return SameName(r.ReadingName, wanted); });
+}
+
+int FindDiaryByName(const QString& name) {
+    const QString wanted = TrimField(name);
+    return FindRecord<DiaryRecord>(DiaryPath, [&](const DiaryRecord& r) { return SameName(r.DiaryName, wanted); });
+}
+
+Integer FindDeckIdByName(const QString& name) {
+    const QString wanted = TrimField(name);
+    Integer id = -1;
+    FindRecord<DeckRecord>(DecksPath, [&](const DeckRecord& r) {
+        if (!SameName(r.DeckName, wanted)) return false;
+        id = r.DeckId;
+        return true;
+    });
+    return id;
+}
+
+int FindDeckRecordById(Integer deckId) {
+    return FindRecord<DeckRecord>(DecksPath, [&](const DeckRecord& r) { return r.DeckId == deckId; });
+}
+
+int FindSpreadRecordById(Integer spreadId) {
+    return FindRecord<SpreadRecord>(SpreadsPath, [&](const SpreadRecord& r) { return r.SpreadId == spreadId; });
+}
+
+QString DeckNameById(Integer deckId) {
+    QString name;
+    FindRecord<DeckRecord>(DecksPath, [&](const DeckRecord& r) {
+        if (r.DeckId != deckId) return false;
+        name = r.DeckName.Value();
+        return true;
+    });
+    return name;
+}
+
+QString SpreadNameById(Integer spreadId) {
+    QString name;
+    FindRecord<SpreadRecord>(SpreadsPath, [&](const SpreadRecord& r) {
+        if (r.SpreadId != spreadId) return false;
+        name = r.SpreadName.Value();
+        return true;
+    });
+    return name;
+}
+
+Integer NextDeckId() {
+    return SmallestFreeId<DeckRecord>(DecksPath, [](const DeckRecord& r) { return r.DeckId; });
+}
+
+Integer NextSpreadId() {
+    return SmallestFreeId<SpreadRecord>(SpreadsPath, [](const SpreadRecord& r) { return r.SpreadId; });
+}
+
+// ---- Delete passes -------------------------------------------------------------
+
+void DeleteSpread(int recordNumber) {
+    RewriteWithout<SpreadRecord>(SpreadsPath, AppPath + SpreadsTmpName, [&](const SpreadRecord& r, int number) {
+        if (number != recordNumber) return false;
+        DeleteSpreadLocations(r.SpreadId);
+        KillDesignFile(r.BackgroundFile.Value());
+        return true;
+    });
+}
+
+void DeleteSpreadLocations(Integer spreadId) {
+    RewriteWithout<LocationRecord>(LocationsPath, AppPath + LocationTmpName,
+                                   [&](const LocationRecord& r, int) { return r.LocationSpreadId == spreadId; });
+}
+
+void ReplaceSpreadLocations(Integer spreadId, int count) {
+    RecordRewriter<LocationRecord> writer(AppPath + LocationTmpName, LocationsPath);
+    {
+        RecordReader<LocationRecord> reader(LocationsPath);
+        LocationRecord r;
+        while (const char* raw = reader.NextRaw()) {
+            DecodeRecord(raw, r);
+            if (r.LocationSpreadId != spreadId) writer.AddRaw(raw);
+        }
+    }
+    for (int i = 1; i <= count; ++i) {
+        LocationRecord& location = SpreadLocations(i);
+        location.LocationSpreadId = spreadId;
+        location.LocationNumber = static_cast<Integer>(i);
+        writer.Add(location);
+    }
+    writer.Commit();
+}
+
+void DeleteReading(const QString& name) {
+    const QString wanted = TrimField(name);
+    RewriteWithout<ReadingRecord>(ReadingsPath, AppPath + ReadingsTmpName,
+                                  [&](const ReadingRecord& r, int) { return SameName(r.ReadingName, wanted); });
+}
+
+void DeleteDiary(const QString& name) {
+    const QString wanted = TrimField(name);
+    RewriteWithout<DiaryRecord>(DiaryPath, AppPath + DiariesTmpName,
+                                [&](const DiaryRecord& r, int) { return SameName(r.DiaryName, wanted); });
+}
+
+void DeleteDeck(int recordNumber) {
+    RewriteWithout<DeckRecord>(DecksPath, TempDir + DecksTmpName, [&](const DeckRecord& r, int number) {
+        if (number != recordNumber) return false;
+        DeleteDeckCards(r.DeckId);
+        return true;
+    });
+}
+
+void DeleteDeckCards(Integer deckId) {
+    RewriteWithout<CardRecord>(CardsPath, AppPath + CardsTmpName, [&](const CardRecord& r, int) {
+        if (r.CardDeckId != deckId) return false;
+        for (const auto& picture : r.CardPicture) {
+            // The shared default picture is recognised by the exact field
+            // value; every other picture belongs to this card alone.
+            if (picture.Value() != DefaultPictureName) KillDesignFile(picture.Value());
+        }
+        for (const auto& sound : r.CardSound) KillDesignFile(sound.Value());
+        return true;
+    });
+}
+
+void DeleteSpreadBackground(int recordNumber) {
+    if (!GetRecord(SpreadsPath, recordNumber, ScratchSpread)) RaiseError(errInputPastEndOfFile);
+    KillDesignFile(ScratchSpread.BackgroundFile.Value());
+}
+
+void LoadSpreadLocations(Integer spreadId, int count) { LoadLocationsFrom(LocationsPath, spreadId, count); }
+
+void LoadSpreadLocationsFrom(const QString& path, Integer spreadId, int count) {
+    LoadLocationsFrom(path, spreadId, count);
+}
+
+// ---- New-design values -----------------------------------------------------------
+
+void ResetDesigner(Designer& designer) { designer = Designer{}; }
+
+void ResetSpread(SpreadRecord& spread) {
+    spread = SpreadRecord{};
+    spread.SpreadId = -1;
+    spread.AllowedDeckId.fill(-1);
+    spread.AllowedDeckCount = 0;
+    ResetDesigner(spread.SpreadDesigner);
+    spread.ModifiedOn = OleToday();
+    spread.StretchBackground = True16;
+}
+
+void ResetLocation(LocationRecord& location) {
+    location = LocationRecord{};
+    location.LocationLeft = 6480;
+    location.LocationTop = 240;
+}
+
+void ResetCard(CardRecord& card) {
+    card = CardRecord{};
+    card.CardPicture[0] = DefaultPictureName;
+    card.CardPicture[1] = DefaultPictureName;
+    card.CardType = 0;
+    card.CardDeckId = -1;
+}
+
+void ResetReading(ReadingRecord& reading) {
+    reading = ReadingRecord{};
+    reading.SavedOn = 0;
+    reading.ReadingSpreadId = -1;
+    reading.ReadingDeckId = -1;
+    reading.DealtCard.fill(0);
+    reading.DealtUpright.fill(True16);
+    reading.TableCardVisible.fill(True16);
+    reading.LocationCard.fill(0);
+    reading.LocationIsUpright.fill(True16);
+    reading.CardTypeSelected.fill(False16);
+}
+
+void ResetDiary(DiaryRecord& diary) {
+    diary = DiaryRecord{};
+    diary.SavedOn = 0;
+    diary.ReadingSpreadId = -1;
+    diary.ReadingDeckId = -1;
+    diary.DiaryChoice = 1;
+    diary.DealtCard.fill(0);
+    diary.DealtUpright.fill(True16);
+    diary.CardTypeSelected.fill(False16);
+}
+
+void ResetDeck() {
+    for (CardRecord& card : CurrentDeck.DeckCards) ResetCard(card);
+    CurrentDeck.DeckCards.Clear();
+    DeckRecord& deck = CurrentDeck;
+    deck = DeckRecord{};
+    deck.IncludesReversed = False16;
+    deck.DisplayCardTitles = True16;
+    ResetDesigner(deck.DeckDesigner);
+    deck.ModifiedOn = OleToday();
+    deck.CardCount = 0;
+    deck.DeckRevision = 0;
+    deck.DeckId = -1;
+    deck.CardTypeName[0] = QStringLiteral("Major Arcana");
+    deck.CardTypeName[1] = QStringLiteral("Minor Arcana");
+    deck.CardTypeUsed = {True16, True16, False16, False16};
+    deck.DeckReserved = 0;
+}
+
+// ---- Can it be dealt? ----------------------------------------------------------------
+
+bool IsReversedComplete(Integer deckId, int cardCount) {
+    RecordReader<CardRecord> reader(CardsPath);
+    CardRecord card;
+    int checked = 0;
+    while (checked < cardCount && reader.Next(card)) {
+        if (card.CardDeckId != deckId) continue;
+        ++checked;
+        // The trimmed name never equals the default constant, which ends in a
+        // space, so only a missing file fails here: a deck whose reversed
+        // sides still show the default picture counts as complete.
+        if (!FileExists(CardsDir + card.CardPicture[1].Value()) || card.CardPicture[1].Trimmed() == DefaultPictureName)
+            return false;
+    }
+    return checked >= cardCount;
+}
+
+namespace {
+
+// The test of IsDeckUsable on a deck record already in hand.
+bool DeckQualifies(const DeckRecord& deck, int neededCardCount) {
+    if (deck.CardCount < neededCardCount) return false;
+    if (deck.IncludesReversed) return IsReversedComplete(deck.DeckId, deck.CardCount);
+    return true;
+}
+
+}  // namespace
+
+bool IsDeckUsable(Integer deckId, int neededCardCount) {
+    DeckRecord deck;
+    const int number = FindRecord<DeckRecord>(DecksPath, [&](const DeckRecord& r) {
+        if (r.DeckId != deckId) return false;
+        deck = r;
+        return true;
+    });
+    return number >= 0 && DeckQualifies(deck, neededCardCount);
+}
+
+bool IsSpreadUsable(const QString& spreadName) {
+    const int number = FindSpreadByName(spreadName);
+    if (number < 0) return false;
+    SpreadRecord spread;
+    if (!GetRecord(SpreadsPath, number, spread)) return false;
+    if (spread.LocationCount < 1) return false;
+    if (spread.AllowedDeckCount < 0) {
+        // Each deck is judged by the first record that carries its id, as a
+        // lookup by id would find it; a later record of the same id adds
+        // nothing.
+        std::vector<bool> seen(65536, false);
+        RecordReader<DeckRecord> reader(DecksPath);
+        DeckRecord deck;
+        while (reader.Next(deck)) {
+            const auto slot = static_cast<std::size_t>(static_cast<std::uint16_t>(deck.DeckId));
+            if (seen[slot]) continue;
+            seen[slot] = true;
+            if (DeckQualifies(deck, spread.LocationCount)) return true;
+        }
+    }
+    const int allowed = qMin<int>(spread.AllowedDeckCount, static_cast<int>(spread.AllowedDeckId.size()));
+    for (int i = 0; i < allowed; ++i) {
+        if (IsDeckUsable(spread.AllowedDeckId[static_cast<std::size_t>(i)], spread.LocationCount)) return true;
+    }
+    return false;
+}
+
+// ---- Small helpers ------------------------------------------------------------------
+
+QString AddTrailingBackslash(const QString& path) {
+    if (path.endsWith(QLatin1Char('/')) || path.endsWith(QLatin1Char('\\'))) return path;
+    return path + QLatin1Char('/');
+}
+
+QString FormatLongDate(double oleDate) { return FormatDdMmmYyyy(oleDate); }
+
+QString FormatSortDate(double oleDate) { return FormatYyyyMmDd(oleDate); }

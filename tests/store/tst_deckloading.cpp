@@ -1,0 +1,173 @@
+// Loading a deck into memory, what a vanished picture does to it, card types,
+// and the names of picture files in Cards/.
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "platform/FileSys.h"
+#include "platform/MsgBox.h"
+#include "store/RecordFile.h"
+#include "store/mdlSubRoutines.h"
+#include "support/Fixtures.h"
+
+namespace {
+
+const QString MissingPicturesQuestion = QStringLiteral(
+    "This deck is missing some pictures. Cannot continue loading.\nDo you want to remove it?");
+
+// Puts the deck of that name in ListDeck, as a deck list does before loading.
+void SelectDeck(const QString& name) {
+    const int number = FindDeckByName(name);
+    QVERIFY(number > 0);
+    QVERIFY(GetRecord(DecksPath, number, ListDeck));
+}
+
+QByteArray CardBytes(int recordNumber) {
+    return ReadWholeFile(CardsPath).mid((recordNumber - 1) * CardRecord::Length, CardRecord::Length);
+}
+
+}  // namespace
+
+class TestDeckLoading : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> dir_;
+
+private slots:
+    void initTestCase() { MsgBoxScript::Enable(); }
+
+    void init() {
+        dir_ = std::make_unique<QTemporaryDir>();
+        QVERIFY(dir_->isValid());
+        Fixtures::UseProgramDir(dir_->path());
+        MsgBoxScript::Clear();
+    }
+
+    void missingPictureBlanksTheCardThenTheDeckFails() {
+        Fixtures::MakeDeck(QStringLiteral("Other"), 2, false);
+        const Integer id = Fixtures::MakeDeck(QStringLiteral("Tarot"), 5, true);
+        // Records 1-2 belong to Other; Tarot's third card is record 5.
+        CardRecord third;
+        QVERIFY(GetRecord(CardsPath, 5, third));
+        QCOMPARE(third.CardTitle.Trimmed(), QStringLiteral("Card 3"));
+        QVERIFY(QFile::remove(CardsDir + third.CardPicture[1].Trimmed()));
+        const QByteArray before = ReadWholeFile(CardsPath);
+
+        SelectDeck(QStringLiteral("Tarot"));
+        bool removed = true;
+        QVERIFY(LoadDeck(removed));
+        QVERIFY(!removed);
+        QCOMPARE(CurrentDeck.DeckId, id);
+        QCOMPARE(CurrentDeck.DeckCards.Count(), 5);
+        QCOMPARE(CurrentDeck.DeckCards(3).CardTitle.Trimmed(), QStringLiteral("Card 3"));
+        QCOMPARE(CurrentDeck.DeckCards(3).CardPicture[0], third.CardPicture[0]);
+        QCOMPARE(CurrentDeck.DeckCards(3).CardPicture[1].Value(), DefaultPictureName);
+        QCOMPARE(CurrentDeck.DeckCards(4).CardTitle.Trimmed(), QStringLiteral("Card 4"));
+        QCOMPARE(MsgBoxScript::History().size(), 0);
+
+        // Exactly that record is blanked; every other byte stays.
+        const QByteArray after = ReadWholeFile(CardsPath);
+        QCOMPARE(after.size(), before.size());
+        QCOMPARE(CardBytes(5), QByteArray(CardRecord::Length, '\0'));
+        QCOMPARE(after.left(4 * CardRecord::Length), before.left(4 * CardRecord::Length));
+        QCOMPARE(after.mid(5 * CardRecord::Length), before.mid(5 * CardRecord::Length));
+
+        // The next load finds only four cards and asks; No keeps the deck.
+        MsgBoxScript::Answer(vbNo);
+        QVERIFY(!LoadDeck(removed));
+        QVERIFY(!removed);
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History().at(0).prompt, MissingPicturesQuestion);
+        QCOMPARE(MsgBoxScript::History().at(0).style, int(vbYesNo | vbCritical));
+        QCOMPARE(FindDeckRecordById(id), 2);
+
+        // Yes deletes the deck, its cards and their pictures.
+        MsgBoxScript::Answer(vbYes);
+        QVERIFY(!LoadDeck(removed));
+        QVERIFY(removed);
+        QCOMPARE(MsgBoxScript::Unanswered(), 0);
+        QCOMPARE(FindDeckRecordById(id), -1);
+        QCOMPARE(CountDecks(), 1);
+        QCOMPARE(CountCards(), 3);  // Other's two cards and the blanked record
+        CardRecord first;
+        QVERIFY(GetRecord(CardsPath, 1, first));
+        QCOMPARE(first.CardTitle.Trimmed(), QStringLiteral("Card 1"));  // Other's
+        QVERIFY(FileExists(CardsDir + first.CardPicture[0].Trimmed()));
+        QVERIFY(!FileExists(CardsDir + QStringLiteral("CR00001.bmp")));
+        // The blanked card no longer names its upright picture: it stays behind.
+        QVERIFY(FileExists(CardsDir + third.CardPicture[0].Trimmed()));
+        QVERIFY(FileExists(DefaultPicturePath));
+    }
+
+    void cardCountDecidesHowManyCardsLoad() {
+        const Integer id = Fixtures::MakeDeck(QStringLiteral("Empty"), 0, false);
+        Fixtures::MakeDeck(QStringLiteral("Five"), 5, false);
+        const QByteArray before = ReadWholeFile(CardsPath);
+        bool removed = true;
+        SelectDeck(QStringLiteral("Empty"));
+        QVERIFY(LoadDeck(removed));
+        QVERIFY(!removed);
+        QCOMPARE(CurrentDeck.DeckId, id);
+        QCOMPARE(CurrentDeck.DeckCards.Count(), 0);
+
+        // A deck that claims fewer cards than it has loads only the first ones.
+        SelectDeck(QStringLiteral("Five"));
+        ListDeck.CardCount = 3;
+        QVERIFY(LoadDeck(removed));
+        QCOMPARE(CurrentDeck.DeckCards.Count(), 3);
+        QCOMPARE(CurrentDeck.DeckCards(3).CardTitle.Trimmed(), QStringLiteral("Card 3"));
+        QCOMPARE(ReadWholeFile(CardsPath), before);
+        QCOMPARE(MsgBoxScript::History().size(), 0);
+
+        // StoreListDeck hands the fields back for a save.
+        CurrentDeck.DeckTitle = QStringLiteral("Renamed");
+        StoreListDeck();
+        QCOMPARE(ListDeck.DeckTitle.Trimmed(), QStringLiteral("Renamed"));
+        QCOMPARE(ListDeck.CardCount, Integer(3));
+    }
+
+    void cardTypes() {
+        Fixtures::MakeDeck(QStringLiteral("Full"), 30, false);
+        SelectDeck(QStringLiteral("Full"));
+        bool removed = false;
+        QVERIFY(LoadDeck(removed));
+        QCOMPARE(CardTypeIndex(QStringLiteral("  Minor Arcana ")), 1);
+        QCOMPARE(CardTypeIndex(QStringLiteral("Cups")), -1);
+        QCOMPARE(CountCardsOfTypeName(QStringLiteral("Major Arcana")), 22);
+        QCOMPARE(CountCardsOfTypeName(QStringLiteral("Minor Arcana")), 8);
+
+        CardTypeSelected = {true, false, false, false};
+        QCOMPARE(CountSelectedCardsOfType(CurrentDeck.DeckCards, 30, 0), 22);
+        QCOMPARE(CountSelectedCardsOfType(CurrentDeck.DeckCards, 30, 1), 0);
+        QCOMPARE(CountSelectedCardsOfType(CurrentDeck.DeckCards, 10, 0), 10);
+    }
+
+    void pictureNames() {
+        QCOMPARE(CardUprightName(12), QStringLiteral("CU00012"));
+        QCOMPARE(CardReversedName(123456), QStringLiteral("CR123456"));
+        QCOMPARE(SpreadPictureName(7), QStringLiteral("S000007"));
+        QCOMPARE(SpreadPictureName(42), QStringLiteral("S000042"));
+        QCOMPARE(SpreadPictureName(999), QStringLiteral("S000999"));
+        QCOMPARE(SpreadPictureName(1000), QStringLiteral("S001000"));
+        QCOMPARE(SpreadPictureName(12345), QStringLiteral("S012345"));
+        QCOMPARE(SpreadPictureName(123456), QStringLiteral("S0123456"));
+    }
+
+    void freeNamesGoByStem() {
+        Fixtures::WritePicture(CardsDir + QStringLiteral("S000001.jpg"));
+        Fixtures::WritePicture(CardsDir + QStringLiteral("s000002.bmp"));
+        WriteWholeFile(CardsDir + QStringLiteral("S000003"), QByteArray("no extension"));
+        QCOMPARE(NewBackgroundName(QStringLiteral("/home/user/table.gif  ")), QStringLiteral("S000003.gif"));
+
+        Fixtures::WritePicture(TempDir + QStringLiteral("CU00001.jpg"));
+        Fixtures::WritePicture(TempDir + QStringLiteral("CU00003.gif"));
+        Fixtures::WritePicture(CardsDir + QStringLiteral("CU00002.bmp"));
+        QCOMPARE(FreeCardPictureName(0, TempDir), QStringLiteral("CU00002"));
+        QCOMPARE(FreeCardPictureName(1, TempDir), QStringLiteral("CR00001"));
+        QCOMPARE(FreeCardPictureNumber(0, {CardsDir, TempDir}), 4);
+        QCOMPARE(FreeCardPictureNumber(0, {CardsDir}, 2), 3);
+    }
+};
+
+QTEST_MAIN(TestDeckLoading)
+#include "tst_deckloading.moc"

@@ -1,0 +1,319 @@
+// The record store: counts, lookups by name and id, free ids, the delete
+// passes with the files they take along, locations, and the tests of whether
+// a spread or deck can be dealt.
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "platform/FileSys.h"
+#include "platform/OleDate.h"
+#include "store/RecordFile.h"
+#include "store/mdlSubRoutines.h"
+#include "support/Fixtures.h"
+
+namespace {
+
+DeckRecord Deck(const QString& name, Integer id) {
+    DeckRecord d;
+    d.DeckName = name;
+    d.DeckId = id;
+    return d;
+}
+
+SpreadRecord Spread(const QString& name, Integer id) {
+    SpreadRecord s;
+    ResetSpread(s);
+    s.SpreadName = name;
+    s.SpreadId = id;
+    return s;
+}
+
+LocationRecord Location(Integer spreadId, Integer number, const QString& title) {
+    LocationRecord l;
+    ResetLocation(l);
+    l.LocationSpreadId = spreadId;
+    l.LocationNumber = number;
+    l.LocationTitle = title;
+    return l;
+}
+
+ReadingRecord Reading(const QString& name) {
+    ReadingRecord r;
+    ResetReading(r);
+    r.ReadingName = name;
+    return r;
+}
+
+DiaryRecord Diary(const QString& name) {
+    DiaryRecord r;
+    ResetDiary(r);
+    r.DiaryName = name;
+    return r;
+}
+
+QStringList SpreadNames() {
+    QStringList names;
+    for (const SpreadRecord& s : ReadAllRecords<SpreadRecord>(SpreadsPath)) names << s.SpreadName.Trimmed();
+    return names;
+}
+
+QStringList LocationKeys() {
+    QStringList keys;
+    for (const LocationRecord& l : ReadAllRecords<LocationRecord>(LocationsPath))
+        keys << QStringLiteral("%1:%2:%3").arg(l.LocationSpreadId).arg(l.LocationNumber).arg(l.LocationTitle.Trimmed());
+    return keys;
+}
+
+bool InCards(const QString& name) { return FileExists(CardsDir + name); }
+
+}  // namespace
+
+class TestRecordOps : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> dir_;
+
+private slots:
+    void init() {
+        dir_ = std::make_unique<QTemporaryDir>();
+        QVERIFY(dir_->isValid());
+        Fixtures::UseProgramDir(dir_->path());
+    }
+
+    void nextIdsFillTheSmallestGap() {
+        QCOMPARE(NextDeckId(), Integer(1));
+        QCOMPARE(NextSpreadId(), Integer(1));
+        for (Integer id : {Integer(4), Integer(1), Integer(-1), Integer(2)}) {
+            AppendRecord(DecksPath, Deck(QStringLiteral("Deck %1").arg(id), id));
+            AppendRecord(SpreadsPath, Spread(QStringLiteral("Spread %1").arg(id), id));
+        }
+        QCOMPARE(NextDeckId(), Integer(3));
+        QCOMPARE(NextSpreadId(), Integer(3));
+    }
+
+    void lookupsCompareTrimmedNamesAndTakeTheFirst() {
+        QCOMPARE(CountDecks(), 0);
+        QCOMPARE(FindDeckByName(QStringLiteral("Any")), -1);
+        QCOMPARE(FindDeckIdByName(QStringLiteral("Any")), Integer(-1));
+        QCOMPARE(DeckNameById(1), QString());
+
+        AppendRecord(DecksPath, Deck(QStringLiteral("Rider"), 7));
+        AppendRecord(DecksPath, Deck(QStringLiteral("  Moon Deck  "), 3));
+        AppendRecord(DecksPath, Deck(QStringLiteral("Moon Deck"), 9));
+        QCOMPARE(CountDecks(), 3);
+        QCOMPARE(FindDeckByName(QStringLiteral(" Moon Deck ")), 2);
+        QCOMPARE(FindDeckIdByName(QStringLiteral("Moon Deck")), Integer(3));
+        QCOMPARE(FindDeckByName(QStringLiteral("moon deck")), -1);
+        QCOMPARE(FindDeckRecordById(9), 3);
+        QCOMPARE(FindDeckRecordById(5), -1);
+        QCOMPARE(DeckNameById(3), QStringLiteral("  Moon Deck") + QString(50 - 11, QLatin1Char(' ')));
+
+        AppendRecord(SpreadsPath, Spread(QStringLiteral("Cross"), 2));
+        QCOMPARE(FindSpreadByName(QStringLiteral("Cross  ")), 1);
+        QCOMPARE(FindSpreadRecordById(2), 1);
+        QCOMPARE(SpreadNameById(2).trimmed(), QStringLiteral("Cross"));
+        QCOMPARE(SpreadNameById(4), QString());
+
+        // A record cut short by a failed write is no record.
+        QFile spreads(SpreadsPath);
+        QVERIFY(spreads.open(QIODevice::Append));
+        spreads.write(QByteArray(100, 'x'));
+        spreads.close();
+        QCOMPARE(CountSpreads(), 1);
+
+        AppendRecord(ReadingsPath, Reading(QStringLiteral("Monday")));
+        AppendRecord(DiaryPath, Diary(QStringLiteral("Tuesday")));
+        QCOMPARE(FindReadingByName(QStringLiteral(" Monday")), 1);
+        QCOMPARE(FindDiaryByName(QStringLiteral("Tuesday ")), 1);
+        QCOMPARE(FindDiaryByName(QStringLiteral("Monday")), -1);
+    }
+
+    void deleteSpreadTakesItsLocationsAndBackground() {
+        const Integer a = Fixtures::MakeSpread(QStringLiteral("A"), 2);
+        const Integer b = Fixtures::MakeSpread(QStringLiteral("B"), 3);
+        const Integer c = Fixtures::MakeSpread(QStringLiteral("C"), 1);
+        SpreadRecord spreadB;
+        QVERIFY(GetRecord(SpreadsPath, 2, spreadB));
+        spreadB.BackgroundFile = QStringLiteral("S000001.bmp");
+        PutRecord(SpreadsPath, 2, spreadB);
+        Fixtures::WritePicture(CardsDir + QStringLiteral("S000001.bmp"));
+        Fixtures::WritePicture(CardsDir + QStringLiteral("S000002.bmp"));
+
+        DeleteSpread(2);
+        QCOMPARE(SpreadNames(), (QStringList{QStringLiteral("A"), QStringLiteral("C")}));
+        QCOMPARE(LocationKeys(), (QStringList{QStringLiteral("%1:1:Position 1").arg(a),
+                                              QStringLiteral("%1:2:Position 2").arg(a),
+                                              QStringLiteral("%1:1:Position 1").arg(c)}));
+        QVERIFY(!InCards(QStringLiteral("S000001.bmp")));
+        QVERIFY(InCards(QStringLiteral("S000002.bmp")));
+        QVERIFY(!FileExists(AppPath + QStringLiteral("Spreads.tmp")));
+        QVERIFY(!FileExists(AppPath + QStringLiteral("Location.tmp")));
+        QCOMPARE(FindSpreadRecordById(b), -1);
+
+        // The background alone goes; the record stays.
+        SpreadRecord spreadC;
+        QVERIFY(GetRecord(SpreadsPath, 2, spreadC));
+        spreadC.BackgroundFile = QStringLiteral("S000002.bmp");
+        PutRecord(SpreadsPath, 2, spreadC);
+        DeleteSpreadBackground(2);
+        QVERIFY(!InCards(QStringLiteral("S000002.bmp")));
+        QCOMPARE(CountSpreads(), 2);
+        QVERIFY(InCards(DefaultPictureName));
+    }
+
+    void deleteDeckTakesItsCardsAndTheirFiles() {
+        const Integer first = Fixtures::MakeDeck(QStringLiteral("First"), 3, true);
+        const Integer second = Fixtures::MakeDeck(QStringLiteral("Second"), 2, false);
+        // A sound on one card of the first deck, and the default picture on
+        // the reversed side of another: the sound goes, the default stays.
+        CardRecord card;
+        QVERIFY(GetRecord(CardsPath, 1, card));
+        card.CardSound[0] = QStringLiteral("MCU00001.wav");
+        PutRecord(CardsPath, 1, card);
+        WriteWholeFile(CardsDir + QStringLiteral("MCU00001.wav"), QByteArray("RIFF"));
+        QVERIFY(GetRecord(CardsPath, 2, card));
+        const QString ownReversed = card.CardPicture[1].Trimmed();
+        card.CardPicture[1] = DefaultPictureName;
+        PutRecord(CardsPath, 2, card);
+
+        DeleteDeck(FindDeckByName(QStringLiteral("First")));
+
+        QCOMPARE(CountDecks(), 1);
+        QCOMPARE(DeckNameById(second).trimmed(), QStringLiteral("Second"));
+        QCOMPARE(FindDeckRecordById(first), -1);
+        const std::vector<CardRecord> after = ReadAllRecords<CardRecord>(CardsPath);
+        QCOMPARE(int(after.size()), 2);
+        for (int i = 0; i < 2; ++i) {
+            QCOMPARE(after[i].CardDeckId, second);
+            QCOMPARE(after[i].CardTitle.Trimmed(), QStringLiteral("Card %1").arg(i + 1));
+            QVERIFY(InCards(after[i].CardPicture[0].Trimmed()));
+        }
+        for (const QString& gone : {QStringLiteral("CU00001.bmp"), QStringLiteral("CU00002.bmp"),
+                                    QStringLiteral("CU00003.bmp"), QStringLiteral("CR00001.bmp"),
+                                    QStringLiteral("CR00003.bmp"), QStringLiteral("MCU00001.wav")})
+            QVERIFY2(!InCards(gone), qPrintable(gone));
+        QVERIFY(InCards(ownReversed));  // no longer named by any card, so nothing removes it
+        QVERIFY(InCards(DefaultPictureName));
+        QVERIFY(!FileExists(TempDir + QStringLiteral("Decks.tmp")));
+        QVERIFY(!FileExists(AppPath + QStringLiteral("Cards.tmp")));
+
+        DeleteDeck(1);
+        QCOMPARE(FileLen(DecksPath), qint64(0));
+        QCOMPARE(FileLen(CardsPath), qint64(0));
+        QVERIFY(InCards(DefaultPictureName));
+    }
+
+    void deleteReadingAndDiaryDropEveryRecordOfTheName() {
+        for (const char* name : {"Alpha", "Beta", " Alpha ", "Gamma"}) {
+            AppendRecord(ReadingsPath, Reading(QString::fromLatin1(name)));
+            AppendRecord(DiaryPath, Diary(QString::fromLatin1(name)));
+        }
+        DeleteReading(QStringLiteral("Alpha"));
+        DeleteDiary(QStringLiteral("Beta"));
+        QStringList readings, diaries;
+        for (const auto& r : ReadAllRecords<ReadingRecord>(ReadingsPath)) readings << r.ReadingName.Trimmed();
+        for (const auto& d : ReadAllRecords<DiaryRecord>(DiaryPath)) diaries << d.DiaryName.Trimmed();
+        QCOMPARE(readings, (QStringList{QStringLiteral("Beta"), QStringLiteral("Gamma")}));
+        QCOMPARE(diaries, (QStringList{QStringLiteral("Alpha"), QStringLiteral("Alpha"), QStringLiteral("Gamma")}));
+        QVERIFY(!FileExists(AppPath + QStringLiteral("Readings.tmp")));
+        QVERIFY(!FileExists(AppPath + QStringLiteral("Diaries.tmp")));
+    }
+
+    void spreadLocationsLoadByNumberAndSaveAtTheEnd() {
+        AppendRecord(LocationsPath, Location(5, 2, QStringLiteral("five-two")));
+        AppendRecord(LocationsPath, Location(8, 1, QStringLiteral("eight-one")));
+        AppendRecord(LocationsPath, Location(5, 4, QStringLiteral("five-four")));
+        AppendRecord(LocationsPath, Location(5, 1, QStringLiteral("five-one")));
+
+        LoadSpreadLocations(5, 3);
+        QCOMPARE(SpreadLocations.LBound(), 1);
+        QCOMPARE(SpreadLocations.UBound(), 3);
+        QCOMPARE(SpreadLocations(1).LocationTitle.Trimmed(), QStringLiteral("five-one"));
+        QCOMPARE(SpreadLocations(2).LocationTitle.Trimmed(), QStringLiteral("five-two"));
+        // Number 3 was not found: the element is all zero bytes, read as empty.
+        QCOMPARE(EncodeRecord(SpreadLocations(3)), QByteArray(LocationRecord::Length, '\0'));
+        QVERIFY(SpreadLocations(3).LocationTitle.Trimmed().isEmpty());
+
+        SpreadLocations(3).LocationTitle = QStringLiteral("five-three");
+        ReplaceSpreadLocations(5, 3);
+        QCOMPARE(LocationKeys(), (QStringList{QStringLiteral("8:1:eight-one"), QStringLiteral("5:1:five-one"),
+                                              QStringLiteral("5:2:five-two"), QStringLiteral("5:3:five-three")}));
+        QVERIFY(!FileExists(AppPath + QStringLiteral("Location.tmp")));
+
+        // The same from another file, as a package's locations are read.
+        const QString other = dir_->filePath(QStringLiteral("other.loc"));
+        AppendRecord(other, Location(1, 1, QStringLiteral("elsewhere")));
+        LoadSpreadLocationsFrom(other, 1, 1);
+        QCOMPARE(SpreadLocations(1).LocationTitle.Trimmed(), QStringLiteral("elsewhere"));
+
+        DeleteSpreadLocations(5);
+        QCOMPARE(LocationKeys(), QStringList{QStringLiteral("8:1:eight-one")});
+    }
+
+    void usabilityOfDecksAndSpreads() {
+        const Integer small = Fixtures::MakeDeck(QStringLiteral("Small"), 2, false);
+        const Integer reversed = Fixtures::MakeDeck(QStringLiteral("Reversed"), 4, true);
+        QVERIFY(IsDeckUsable(small, 2));
+        QVERIFY(!IsDeckUsable(small, 3));
+        QVERIFY(!IsDeckUsable(42, 0));
+        QVERIFY(IsReversedComplete(reversed, 4));
+        QVERIFY(IsDeckUsable(reversed, 4));
+        QVERIFY(!IsReversedComplete(reversed, 5));  // the file ends before a fifth card
+
+        // A reversed side on the default picture still counts: only a
+        // missing file makes the deck incomplete.
+        CardRecord card;
+        QVERIFY(GetRecord(CardsPath, 3, card));
+        QCOMPARE(card.CardDeckId, reversed);
+        card.CardPicture[1] = DefaultPictureName;
+        PutRecord(CardsPath, 3, card);
+        QVERIFY(IsReversedComplete(reversed, 4));
+        QVERIFY(GetRecord(CardsPath, 4, card));
+        QVERIFY(QFile::remove(CardsDir + card.CardPicture[1].Trimmed()));
+        QVERIFY(!IsReversedComplete(reversed, 4));
+        QVERIFY(IsReversedComplete(reversed, 1));  // only the first card is checked
+        QVERIFY(!IsDeckUsable(reversed, 1));
+
+        Fixtures::MakeSpread(QStringLiteral("Empty"), 0, {small});
+        Fixtures::MakeSpread(QStringLiteral("  Pair "), 2, {reversed, small});
+        Fixtures::MakeSpread(QStringLiteral("Three"), 3, {small, reversed});
+        Fixtures::MakeSpread(QStringLiteral("Any Three"), 3, {}, true);
+        Fixtures::MakeSpread(QStringLiteral("Any Two"), 2, {}, true);
+        QVERIFY(!IsSpreadUsable(QStringLiteral("Missing")));
+        QVERIFY(!IsSpreadUsable(QStringLiteral("Empty")));
+        QVERIFY(IsSpreadUsable(QStringLiteral("Pair")));
+        QVERIFY(!IsSpreadUsable(QStringLiteral("Three")));
+        QVERIFY(!IsSpreadUsable(QStringLiteral("Any Three")));
+        QVERIFY(IsSpreadUsable(QStringLiteral("Any Two")));
+    }
+
+    void newDesignValues() {
+        CurrentDeck.DeckCards.Redim(1, 3);
+        CurrentDeck.DeckName = QStringLiteral("Old");
+        CurrentDeck.CardCount = 3;
+        ResetDeck();
+        QCOMPARE(CurrentDeck.DeckCards.Count(), 0);
+        QCOMPARE(CurrentDeck.CardCount, Integer(0));
+        QCOMPARE(CurrentDeck.DeckId, Integer(-1));
+        QVERIFY(CurrentDeck.DeckName.IsBlank());
+        QCOMPARE(CurrentDeck.CardTypeName[1].Trimmed(), QStringLiteral("Minor Arcana"));
+        QVERIFY(CurrentDeck.CardTypeName[2].IsBlank());
+        QCOMPARE(CurrentDeck.CardTypeUsed, (std::array<Integer, 4>{True16, True16, False16, False16}));
+
+        ResetCard();
+        QCOMPARE(CurrentCard.CardPicture[1].Value(), DefaultPictureName);
+        QVERIFY(CurrentCard.CardSound[0].IsBlank());
+        QCOMPARE(CurrentCard.CardDeckId, Integer(-1));
+    }
+
+    void helpers() {
+        QCOMPARE(AddTrailingBackslash(QStringLiteral("/a/b")), QStringLiteral("/a/b/"));
+        QCOMPARE(AddTrailingBackslash(QStringLiteral("/a/b/")), QStringLiteral("/a/b/"));
+        const double day = ToOleDate(QDate(2026, 3, 5));
+        QCOMPARE(FormatLongDate(day), QStringLiteral("05-Mar-2026"));
+        QCOMPARE(FormatSortDate(day), QStringLiteral("2026/03/05"));
+    }
+};
+
+QTEST_MAIN(TestRecordOps)
+#include "tst_recordops.moc"

@@ -1,0 +1,121 @@
+#include "support/Fixtures.h"
+
+#include <QImage>
+
+#include "platform/FileSys.h"
+#include "platform/OleDate.h"
+#include "platform/Picture.h"
+#include "store/RecordFile.h"
+#include "store/mdlSubRoutines.h"
+#include "store/mdlVariables.h"
+
+namespace Fixtures {
+
+namespace {
+
+void MakeEmptyFile(const QString& path) { WriteWholeFile(path, QByteArray()); }
+
+}  // namespace
+
+void UseProgramDir(const QString& dir) {
+    ResetRunState();
+    AppPath = AddTrailingBackslash(dir);
+    SettingsPath = AppPath + QStringLiteral("Settings.dat");
+    SpreadsPath = AppPath + QStringLiteral("Spreads.spr");
+    LocationsPath = AppPath + QStringLiteral("Location.loc");
+    DecksPath = AppPath + QStringLiteral("Decks.dck");
+    CardsDir = AppPath + QStringLiteral("Cards/");
+    PackagesDir = AppPath + QStringLiteral("Packages/");
+    AttachmentsDir = PackagesDir + QStringLiteral("Attachments/");
+    CardsPath = AppPath + QStringLiteral("Cards.crd");
+    ReadingsPath = AppPath + QStringLiteral("Readings.red");
+    DiaryPath = AppPath + QStringLiteral("Diary.dry");
+    DefaultPicturePath = CardsDir + DefaultPictureName;
+    TempDir = AppPath + QStringLiteral("Temp/");
+    TempFilePath = TempDir + QStringLiteral("temp.tmp");
+    TempCardsPath = TempDir + QStringLiteral("Cards.crd");
+
+    for (const QString& folder : {CardsDir, PackagesDir, AttachmentsDir, TempDir}) MkDirIgnoringErrors(folder);
+    for (const QString& file : {ReadingsPath, DiaryPath, SpreadsPath, DecksPath, CardsPath, LocationsPath})
+        MakeEmptyFile(file);
+    WritePicture(DefaultPicturePath, QColor(Qt::white));
+}
+
+void WritePicture(const QString& path, const QColor& colour) {
+    QImage image(4, 6, QImage::Format_RGB32);
+    image.fill(colour);
+    SavePictureAsBmp(image, path);
+}
+
+Integer MakeDeck(const QString& name, int cardCount, bool withReversed) {
+    DeckRecord deck;
+    deck.IncludesReversed = Flag(withReversed);
+    deck.DeckName = name;
+    deck.DisplayCardTitles = True16;
+    deck.DeckTitle = name;
+    deck.ModifiedOn = OleToday();
+    deck.CardCount = static_cast<Integer>(cardCount);
+    deck.DeckRevision = 1;
+    deck.DeckId = NextDeckId();
+    deck.CardTypeName[0] = QStringLiteral("Major Arcana");
+    deck.CardTypeName[1] = QStringLiteral("Minor Arcana");
+    deck.CardTypeUsed = {True16, True16, False16, False16};
+
+    int upright = 0;
+    int reversed = 0;
+    for (int i = 1; i <= cardCount; ++i) {
+        CardRecord card;
+        card.CardType = i <= 22 ? 0 : 1;
+        card.CardTitle = QStringLiteral("Card %1").arg(i);
+        card.CardDescription[0] = QStringLiteral("Upright meaning of card %1").arg(i);
+        card.CardDescription[1] = QStringLiteral("Reversed meaning of card %1").arg(i);
+        card.CardKeywords[0] = QStringLiteral("upright keywords %1").arg(i);
+        card.CardKeywords[1] = QStringLiteral("reversed keywords %1").arg(i);
+        upright = FreeCardPictureNumber(0, {CardsDir}, upright + 1);
+        card.CardPicture[0] = CardUprightName(upright) + QStringLiteral(".bmp");
+        WritePicture(CardsDir + card.CardPicture[0].Trimmed(), QColor::fromHsv((i * 37) % 360, 200, 200));
+        if (withReversed) {
+            reversed = FreeCardPictureNumber(1, {CardsDir}, reversed + 1);
+            card.CardPicture[1] = CardReversedName(reversed) + QStringLiteral(".bmp");
+            WritePicture(CardsDir + card.CardPicture[1].Trimmed(), QColor::fromHsv((i * 37) % 360, 200, 100));
+        } else {
+            card.CardPicture[1] = DefaultPictureName;
+        }
+        card.CardDeckId = deck.DeckId;
+        AppendRecord(CardsPath, card);
+    }
+    AppendRecord(DecksPath, deck);
+    return deck.DeckId;
+}
+
+Integer MakeSpread(const QString& name, int locationCount, const QList<Integer>& allowedDeckIds, bool anyDeck) {
+    SpreadRecord spread;
+    ResetSpread(spread);
+    spread.SpreadName = name;
+    spread.SpreadTitle = name;
+    spread.SpreadId = NextSpreadId();
+    spread.SpreadRevision = 1;
+    spread.LocationCount = static_cast<Integer>(locationCount);
+    if (anyDeck) {
+        spread.AllowedDeckCount = -1;
+    } else {
+        const int tied = qMin(static_cast<int>(allowedDeckIds.size()), static_cast<int>(spread.AllowedDeckId.size()));
+        for (int i = 0; i < tied; ++i) spread.AllowedDeckId[static_cast<std::size_t>(i)] = allowedDeckIds[i];
+        spread.AllowedDeckCount = static_cast<Integer>(tied);
+    }
+    for (int i = 1; i <= locationCount; ++i) {
+        LocationRecord location;
+        ResetLocation(location);
+        location.LocationTitle = QStringLiteral("Position %1").arg(i);
+        location.LocationDescription = QStringLiteral("What position %1 stands for").arg(i);
+        location.LocationSpreadId = spread.SpreadId;
+        location.LocationNumber = static_cast<Integer>(i);
+        location.LocationLeft = static_cast<Integer>(240 + ((i - 1) % 8) * 1200);
+        location.LocationTop = static_cast<Integer>(240 + ((i - 1) / 8) * 1800);
+        AppendRecord(LocationsPath, location);
+    }
+    AppendRecord(SpreadsPath, spread);
+    return spread.SpreadId;
+}
+
+}  // namespace Fixtures

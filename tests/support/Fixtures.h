@@ -1,0 +1,37 @@
+#pragma once
+// Builds a program directory for a test: the run-wide paths pointed at it,
+// the record files, the folders and the default picture as a fresh start
+// leaves them, and decks and spreads written straight into the record files
+// with real picture files in Cards/.
+#include <QColor>
+#include <QList>
+#include <QString>
+
+#include "store/mdlTypes.h"
+
+namespace Fixtures {
+
+// Puts the run-wide state back to its start, forms every path under dir as
+// start-up does, and lays out an empty database of the present format: the
+// six record files (Location.loc too, so nothing asks for a conversion),
+// Cards/ with the default picture, Temp/, Packages/ and Packages/Attachments/.
+void UseProgramDir(const QString& dir);
+
+// Writes a small bitmap at path (a few pixels of one colour).
+void WritePicture(const QString& path, const QColor& colour = QColor(Qt::darkBlue));
+
+// Appends a saved deck of cardCount cards to Decks.dck and Cards.crd and
+// returns its DeckId (the smallest free one). Card i is titled "Card i", is
+// of type 0 ("Major Arcana") for i up to 22 and of type 1 ("Minor Arcana")
+// after, and has an upright picture CUnnnnn.bmp in Cards/; withReversed also
+// gives it a reversed picture CRnnnnn.bmp, otherwise its reversed side is the
+// default picture.
+Integer MakeDeck(const QString& name, int cardCount, bool withReversed);
+
+// Appends a saved spread with locationCount locations ("Position i") to
+// Spreads.spr and Location.loc and returns its SpreadId. The spread is tied
+// to the decks listed (at most 10), or to any deck with anyDeck.
+Integer MakeSpread(const QString& name, int locationCount, const QList<Integer>& allowedDeckIds = {},
+                   bool anyDeck = false);
+
+}  // namespace Fixtures
