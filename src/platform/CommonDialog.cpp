@@ -1,0 +1,103 @@
+#include "platform/CommonDialog.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QList>
+
+#include "platform/Errors.h"
+
+namespace {
+
+struct Script {
+    bool enabled = false;
+    QList<QString> answers;
+    QList<CommonDialogScript::Shown> history;
+};
+
+Script& TheScript() {
+    static Script s;
+    return s;
+}
+
+// "Bitmaps (*.bmp)|*.bmp|All (*.*)|*.*" becomes Qt's "Bitmaps (*.bmp);;All (*)".
+QStringList QtFilters(const QString& filter) {
+    QStringList out;
+    const QStringList parts = filter.split(QLatin1Char('|'));
+    for (int i = 0; i + 1 < parts.size(); i += 2) {
+        QString patterns = parts[i + 1];
+        patterns.replace(QLatin1Char(';'), QLatin1Char(' '));
+        patterns.replace(QStringLiteral("*.*"), QStringLiteral("*"));
+        out.append(parts[i].trimmed() + QStringLiteral(" (") + patterns.simplified() + QLatin1Char(')'));
+    }
+    return out;
+}
+
+}  // namespace
+
+bool CommonDialog::Finish(bool chosen, const QString& path) {
+    if (!chosen) {
+        if (CancelError) RaiseError(errCancel);
+        return false;
+    }
+    FileName = path;
+    FileTitle = QFileInfo(path).fileName();
+    return true;
+}
+
+bool CommonDialog::ShowOpen() {
+    Script& s = TheScript();
+    if (s.enabled) {
+        s.history.append({DialogTitle, Filter, FilterIndex, FileName, false});
+        const QString answer = s.answers.isEmpty() ? QString() : s.answers.takeFirst();
+        return Finish(!answer.isEmpty(), answer);
+    }
+    QFileDialog dialog(QApplication::activeWindow(), DialogTitle);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    const QStringList filters = QtFilters(Filter);
+    dialog.setNameFilters(filters);
+    if (FilterIndex >= 1 && FilterIndex <= filters.size()) dialog.selectNameFilter(filters[FilterIndex - 1]);
+    if (!FileName.isEmpty()) dialog.selectFile(FileName);
+    const bool chosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
+    return Finish(chosen, chosen ? dialog.selectedFiles().first() : QString());
+}
+
+bool CommonDialog::ShowSave() {
+    Script& s = TheScript();
+    if (s.enabled) {
+        s.history.append({DialogTitle, Filter, FilterIndex, FileName, true});
+        const QString answer = s.answers.isEmpty() ? QString() : s.answers.takeFirst();
+        return Finish(!answer.isEmpty(), answer);
+    }
+    QFileDialog dialog(QApplication::activeWindow(), DialogTitle);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    if (!(Flags & cdlOFNOverwritePrompt)) dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    const QStringList filters = QtFilters(Filter);
+    dialog.setNameFilters(filters);
+    if (FilterIndex >= 1 && FilterIndex <= filters.size()) dialog.selectNameFilter(filters[FilterIndex - 1]);
+    if (!FileName.isEmpty()) {
+        const QFileInfo proposed(FileName);
+        dialog.setDirectory(proposed.absolutePath());
+        dialog.selectFile(proposed.fileName());
+    }
+    const bool chosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
+    return Finish(chosen, chosen ? dialog.selectedFiles().first() : QString());
+}
+
+namespace CommonDialogScript {
+void Enable() { TheScript().enabled = true; }
+void Disable() { TheScript().enabled = false; }
+bool Enabled() { return TheScript().enabled; }
+void Answer(const QString& path) { TheScript().answers.append(path); }
+void Cancel() { TheScript().answers.append(QString()); }
+void Clear() {
+    TheScript().answers.clear();
+    TheScript().history.clear();
+}
+int Pending() { return static_cast<int>(TheScript().answers.size()); }
+const QList<Shown>& History() { return TheScript().history; }
+}  // namespace CommonDialogScript
