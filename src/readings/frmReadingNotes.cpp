@@ -1,0 +1,16 @@
+#include "readings/frmReadingNotes.h"
+
+#include "readings/frmNewReading.h"
+#include "store/mdlVariables.h"
+
+frmReadingNotes::frmReadingNotes() : EntryNotesScreen(QStringLiteral("Reading Summary and Notes")) {
+    setObjectName(QStringLiteral("frmReadingNotes"));
+}
+
+QString frmReadingNotes::Notes() const { return CurrentReading.ReadingNotes.Trimmed(); }
+
+void frmReadingNotes::SetNotes(const QString& notes) { CurrentReading.ReadingNotes = notes; }
+
+void frmReadingNotes::MarkEntryChanged() {
+    if (frmNewReading* reading = ScreenSlot<frmNewReading>()) reading->ReadingChanged = true;
+}

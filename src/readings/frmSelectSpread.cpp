@@ -1,0 +1,24 @@
+#include "readings/frmSelectSpread.h"
+
+#include "readings/frmNewReading.h"
+#include "shell/frmMainScreen.h"
+#include "store/mdlVariables.h"
+
+frmSelectSpread::frmSelectSpread() : SelectSpreadScreen(QStringLiteral("Select a Spread for the Reading")) {
+    setObjectName(QStringLiteral("frmSelectSpread"));
+}
+
+void frmSelectSpread::StoreEntryOptions(bool issueAsked, const QString& issue, bool useReversed,
+                                        bool allowDuplicates) {
+    CurrentReading.Issue = issue;
+    CurrentReading.IssueAsked = Flag(issueAsked);
+    CurrentReading.UseReversed = Flag(useReversed);
+    CurrentReading.AllowDuplicateCards = Flag(allowDuplicates);
+}
+
+EntryScreen& frmSelectSpread::Entry() { return Get<frmNewReading>(); }
+
+void frmSelectSpread::CloseEntryScreen() {
+    UnloadScreen<frmNewReading>();
+    Get<frmMainScreen>().Show();
+}
