@@ -144,3 +144,10 @@ void OpenEntryScreen::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& h
         cmdDelete_Click();
     }
 }
+
+void OpenEntryScreen::Form_QueryUnload(bool& cancel, int unloadMode) {
+    // The close box cancels the entry as Cancel does.
+    if (unloadMode != vbFormControlMenu) return;
+    cancel = true;
+    cmdCancel_Click();
+}

@@ -247,3 +247,10 @@ void SelectSpreadScreen::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool
         cmdSelect_Click();
     }
 }
+
+void SelectSpreadScreen::Form_QueryUnload(bool& cancel, int unloadMode) {
+    // The close box cancels the entry as Cancel does.
+    if (unloadMode != vbFormControlMenu) return;
+    cancel = true;
+    cmdCancel_Click();
+}

@@ -57,6 +57,7 @@ protected:
     virtual void CloseEntryScreen() = 0;
 
     void Form_Load() override;
+    void Form_QueryUnload(bool& cancel, int unloadMode) override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 
 private:

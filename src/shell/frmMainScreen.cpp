@@ -13,12 +13,16 @@
 #include "platform/MsgBox.h"
 #include "platform/Palette.h"
 #include "platform/Twips.h"
+#include "readings/frmNewReading.h"
+#include "readings/frmOpenReading.h"
+#include "readings/frmSelectSpread.h"
 #include "shell/ClickLabel.h"
 #include "shell/ImageBox.h"
 #include "shell/MDIMainForm.h"
 #include "shell/frmHelpViewer.h"
 #include "shell/mdlFORM.h"
 #include "store/Startup.h"
+#include "store/mdlSubRoutines.h"
 #include "store/mdlVariables.h"
 
 namespace {
@@ -246,7 +250,19 @@ void frmMainScreen::lblButton_Click(int Index) {
 void frmMainScreen::OpenFirstLevelScreen(int Index) {
     switch (Index) {
     case 1:   // a new reading: frmNewReading, with frmSelectSpread over it
+        ResetSpread(CurrentSpread);
+        ResetReading(CurrentReading);
+        Hide();
+        Get<frmNewReading>().Show();
+        Get<frmSelectSpread>().Show(true);
+        break;
     case 2:   // a saved reading: frmNewReading, with frmOpenReading over it
+        ResetSpread(CurrentSpread);
+        ResetReading(CurrentReading);
+        Hide();
+        Get<frmNewReading>().Show();
+        Get<frmOpenReading>().Show(true);
+        break;
     case 3:   // a new diary entry: frmNewDiary, with frmSelectSpreadforDiary over it
     case 4:   // a saved diary entry: frmNewDiary, with frmOpenDiary over it
     case 5:   // frmDecks

@@ -1,0 +1,92 @@
+#pragma once
+// What the reading tests share: a program directory with a deck and a spread,
+// the way through the main screen's Readings buttons, and acting on a modal
+// screen from inside its own wait.
+#include <QPushButton>
+#include <QTimer>
+#include <functional>
+
+#include "platform/MediaPlayer.h"
+#include "platform/MsgBox.h"
+#include "platform/Rnd.h"
+#include "readings/frmNewReading.h"
+#include "readings/frmOpenReading.h"
+#include "readings/frmReadingCards.h"
+#include "readings/frmSelectSpread.h"
+#include "shell/MDIMainForm.h"
+#include "shell/frmMainScreen.h"
+#include "platform/FileSys.h"
+#include "store/RecordFile.h"
+#include "store/mdlSubRoutines.h"
+#include "store/mdlVariables.h"
+#include "support/Fixtures.h"
+
+namespace ReadingFixtures {
+
+// Runs act once the modal screen about to open waits for the user.
+inline void WhenModal(std::function<void()> act) { QTimer::singleShot(0, std::move(act)); }
+
+// Rewrites record n of a record file through a change.
+template <class R>
+void ChangeRecord(const QString& path, int n, const std::function<void(R&)>& change) {
+    R r;
+    GetRecord(path, n, r);
+    change(r);
+    PutRecord(path, n, r);
+}
+
+// Stands the frame up once, on a folder of its own, so that the screens live
+// in its area as they do in the program; each test then points the run at a
+// program directory of its own.
+inline void StandUpFrame(const QString& frameDir) {
+    WriteWholeFile(frameDir + QStringLiteral("/Location.loc"), QByteArray());
+    WriteWholeFile(frameDir + QStringLiteral("/Decks.dck"), QByteArray(DeckRecord::Length, '\0'));
+    MDIMainForm::SetProgramDirectory(frameDir);
+    Get<MDIMainForm>();
+}
+
+// Twips read back from a screen's place are whole pixels.
+inline bool Near(int a, int b) { return qAbs(a - b) < 15; }
+
+// A fresh program directory with every screen of the last test gone.
+inline void FreshRun(const QString& dir) {
+    UnloadScreen<frmReadingCards>();
+    UnloadScreen<frmNewReading>();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    Fixtures::UseProgramDir(dir);
+    frmReadingCards::LoadingReading = false;
+    MsgBoxScript::Clear();
+    SetRandomizeSeedForTests(4242);
+}
+
+// "New" of the Readings group, choosing the first spread and deck as the
+// selection screen proposes them, with whatever adjust does to its boxes.
+inline frmNewReading& NewReading(const std::function<void(frmSelectSpread&)>& adjust = {}) {
+    WhenModal([adjust] {
+        frmSelectSpread& select = Get<frmSelectSpread>();
+        if (adjust) adjust(select);
+        select.cmdSelect->click();
+    });
+    Get<frmMainScreen>().lblButton_Click(1);
+    return Get<frmNewReading>();
+}
+
+// "Past" of the Readings group, opening the entry in the given row.
+inline void OpenPastReading(int row, const std::function<void(frmOpenReading&)>& beforeOpen = {}) {
+    WhenModal([row, beforeOpen] {
+        frmOpenReading& open = Get<frmOpenReading>();
+        open.lstEntries->setCurrentRow(row);
+        if (beforeOpen) beforeOpen(open);
+        open.cmdOpen->click();
+    });
+    Get<frmMainScreen>().lblButton_Click(2);
+}
+
+// The table position that holds a deck card (duplicates off: each card lies once).
+inline int PositionOfCard(Integer card) {
+    for (int i = 1; i <= frmReadingCards::TableSize; ++i)
+        if (frmReadingCards::LocationCard()(i) == card) return i;
+    return 0;
+}
+
+}  // namespace ReadingFixtures
