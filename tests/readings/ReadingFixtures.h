@@ -2,11 +2,14 @@
 // What the reading tests share: a program directory with a deck and a spread,
 // the way through the main screen's Readings buttons, and acting on a modal
 // screen from inside its own wait.
+#include <QCheckBox>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTimer>
 #include <functional>
 
 #include "platform/MediaPlayer.h"
+#include "platform/Palette.h"
 #include "platform/MsgBox.h"
 #include "platform/Rnd.h"
 #include "readings/frmNewReading.h"

@@ -1,0 +1,252 @@
+// The table of face-down cards: the seeded shuffle against a sequence worked
+// out here from the generator's formula, the reversal rule, the geometry, and
+// the animation (it yields, restores the homes of nested runs, stops when told
+// and when its table goes).
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "shell/ClickLabel.h"
+#include "ReadingFixtures.h"
+
+using namespace ReadingFixtures;
+
+namespace {
+
+// The generator as its formula reads: state = (state * 1140671485 + 12820163)
+// mod 2^24, value = state / 2^24.
+struct HandGenerator {
+    std::uint32_t state;
+    float Next() {
+        state = static_cast<std::uint32_t>((std::uint64_t(state) * 1140671485u + 12820163u) & 0xFFFFFFu);
+        return static_cast<float>(state) / 16777216.0f;
+    }
+};
+
+// The state that the generator leaves as `after` on its next step.
+std::uint32_t StateBefore(std::uint32_t after) {
+    std::uint32_t inverse = 1140671485u;   // Newton's steps for the inverse modulo 2^32
+    for (int i = 0; i < 5; ++i) inverse *= 2u - 1140671485u * inverse;
+    return ((after - 12820163u) * inverse) & 0xFFFFFFu;
+}
+
+struct Expected {
+    QList<Integer> cards;
+    QList<Integer> upright;
+};
+
+// The shuffle worked by hand on a list and a seed.
+Expected HandShuffle(QList<Integer> list, std::uint32_t seed, bool useReversed) {
+    HandGenerator g{seed};
+    Expected e;
+    const int n = static_cast<int>(list.size());
+    for (int i = 1; i <= n; ++i) {
+        const int x = static_cast<int>(std::floor(static_cast<float>(n) * g.Next())) + 1;
+        std::swap(list[i - 1], list[x - 1]);
+        const float s = g.Next();
+        e.upright << ((s < 0.5f || !useReversed) ? True16 : False16);
+    }
+    e.cards = list;
+    return e;
+}
+
+}  // namespace
+
+class TestShuffle : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> dir_;
+    QTemporaryDir frameDir_;
+
+    // A reading on the spread page of a 12-location spread with a deck of
+    // `cards` cards whose types alternate, so that grouping by type shows.
+    frmNewReading& LayTable(int cards, std::uint32_t seed, bool useReversed, bool duplicates = false) {
+        Fixtures::MakeDeck(QStringLiteral("Deck"), cards, true);
+        Fixtures::MakeSpread(QStringLiteral("Line"), qMin(cards, 12), {}, true);
+        for (int n = 1; n <= cards; ++n)
+            ChangeRecord<CardRecord>(CardsPath, n, [n](CardRecord& c) { c.CardType = static_cast<Integer>(n % 2); });
+        SetRandomizeSeedForTests(seed);
+        return NewReading([&](frmSelectSpread& select) {
+            select.chkUseReversed->setChecked(useReversed);
+            select.chkAllowDuplicateCards->setChecked(duplicates);
+        });
+    }
+
+private slots:
+    void initTestCase() {
+        MsgBoxScript::Enable();
+        MediaPlayerScript::Enable();
+        StandUpFrame(frameDir_.path());
+    }
+
+    void init() {
+        dir_ = std::make_unique<QTemporaryDir>();
+        FreshRun(dir_->path());
+    }
+
+    void cleanup() {
+        QCOMPARE(MsgBoxScript::Unanswered(), 0);
+        if (frmNewReading* reading = ScreenSlot<frmNewReading>()) reading->CloseReading();
+        SelectSpreadScreen::LastAllowDuplicateCards = false;
+    }
+
+    void theSeededShuffleIsTheFormulaWorkedByHand() {
+        const std::uint32_t seed = 0x3A5F21;
+        frmNewReading& reading = LayTable(20, seed, true);
+        reading.cmdContinue->click();
+
+        // Grouped by type (even cards are type 0), in deck order within a type.
+        QList<Integer> list;
+        for (int c = 2; c <= 20; c += 2) list << Integer(c);
+        for (int c = 1; c <= 20; c += 2) list << Integer(c);
+        const Expected e = HandShuffle(list, seed, true);
+        for (int i = 1; i <= 20; ++i) {
+            QCOMPARE(frmReadingCards::LocationCard()(i), e.cards[i - 1]);
+            QCOMPARE(frmReadingCards::LocationIsUpright()(i), e.upright[i - 1]);
+            QCOMPARE(CurrentReading.LocationCard[std::size_t(i - 1)], e.cards[i - 1]);
+            QCOMPARE(CurrentReading.LocationIsUpright[std::size_t(i - 1)], e.upright[i - 1]);
+        }
+        QVERIFY(e.upright.contains(False16) && e.upright.contains(True16));
+
+        // A click deals the card of that position, as the shuffle left it.
+        Get<frmReadingCards>().picCard_Click(5);
+        QCOMPARE(CurrentReading.DealtCard[0], e.cards[4]);
+        QCOMPARE(CurrentReading.DealtUpright[0], e.upright[4]);
+    }
+
+    void withoutReversalsTheGeneratorStillStepsTwice() {
+        const std::uint32_t seed = 0x3A5F21;
+        frmNewReading& reading = LayTable(20, seed, false);
+        reading.cmdContinue->click();
+        QList<Integer> list;
+        for (int c = 2; c <= 20; c += 2) list << Integer(c);
+        for (int c = 1; c <= 20; c += 2) list << Integer(c);
+        // The same order as with reversals: the orientation draws still happen.
+        const Expected e = HandShuffle(list, seed, false);
+        for (int i = 1; i <= 20; ++i) {
+            QCOMPARE(frmReadingCards::LocationCard()(i), e.cards[i - 1]);
+            QCOMPARE(frmReadingCards::LocationIsUpright()(i), True16);
+        }
+    }
+
+    void exactlyOneHalfReverses() {
+        // The second number drawn (the orientation of position 1) is 0.5.
+        const std::uint32_t seed = StateBefore(StateBefore(1u << 23));
+        HandGenerator g{seed};
+        g.Next();
+        QCOMPARE(g.Next(), 0.5f);
+        frmNewReading& reading = LayTable(12, seed, true);
+        reading.cmdContinue->click();
+        QCOMPARE(frmReadingCards::LocationIsUpright()(1), False16);
+    }
+
+    void aRestoredReadingIsLeftAlone() {
+        frmNewReading& reading = LayTable(12, 77, true);
+        const auto before = CurrentReading.LocationCard;
+        frmReadingCards::LoadingReading = true;
+        reading.cmdContinue->click();
+        frmReadingCards::LoadingReading = false;
+        QCOMPARE(CurrentReading.LocationCard, before);
+        QVERIFY(frmReadingCards::LocationCard()(1) != 0);
+    }
+
+    void theTableFansOutAndFollowsThePool() {
+        frmNewReading& reading = LayTable(20, 5, true);
+        reading.cmdContinue->click();
+        frmReadingCards& table = Get<frmReadingCards>();
+        QCOMPARE(table.CardLeft(1), 240);
+        QCOMPARE(table.CardTop(1), 120);
+        QCOMPARE(table.CardLeft(16), 240 + 600 * 15);
+        QCOMPARE(table.CardLeft(17), 240 + 120);
+        QCOMPARE(table.CardTop(17), 240);
+        QCOMPARE(frmReadingCards::HomeLeft(100), 240 + 600 * 3 + 120 * 6);
+        QCOMPARE(frmReadingCards::HomeTop(100), 120 + 720);
+        QVERIFY(!table.picCard(20)->isHidden() && table.picCard(21)->isHidden() && table.picCard(0)->isHidden());
+        QCOMPARE(table.picCard(3)->BackColor(), QBColor(CurrentLocationColour));
+        QCOMPARE(frmReadingCards::MaxCardsUsed, Integer(20));
+    }
+
+    void theAnimationYieldsRestoresAndStops() {
+        frmNewReading& reading = LayTable(20, 9, true);
+        reading.cmdContinue->click();
+        frmReadingCards& table = Get<frmReadingCards>();
+        int movedAway = 0;
+        int timerTurns = 0;
+        // Every jump yields: this timer runs while the cards move; it starts
+        // a second run on top, and a little later stops them all.
+        QTimer watcher;
+        watcher.setInterval(0);
+        connect(&watcher, &QTimer::timeout, [&] {
+            ++timerTurns;
+            for (int i = 1; i <= 20; ++i)
+                if (table.CardLeft(i) != frmReadingCards::HomeLeft(i)) ++movedAway;
+            if (timerTurns == 20) {
+                // A second run on top, which returns when the stop comes.
+                QTimer::singleShot(0, [&] { table.FakeShuffle(); });
+            } else if (timerTurns == 40) {
+                table.StopShuffle();
+            }
+        });
+        watcher.start();
+        table.FakeShuffle();
+        watcher.stop();
+        QVERIFY(timerTurns >= 40);
+        QVERIFY(movedAway > 0);
+        for (int i = 1; i <= 20; ++i) {
+            QCOMPARE(table.CardLeft(i), frmReadingCards::HomeLeft(i));
+            QCOMPARE(table.CardTop(i), frmReadingCards::HomeTop(i));
+        }
+        // The order of the cards is not the animation's business.
+        QCOMPARE(CurrentReading.LocationCard[0], frmReadingCards::LocationCard()(1));
+    }
+
+    void closingTheReadingEndsTheAnimation() {
+        frmNewReading& reading = LayTable(20, 11, true);
+        reading.cmdContinue->click();
+        reading.cmdNextCard->click();
+        MsgBoxScript::Answer(vbNo);
+        QTimer::singleShot(20, [&] { reading.cmdClose->click(); });
+        reading.cmdFakeShuffle_Press();
+        QVERIFY(!IsLoaded<frmNewReading>());
+        QVERIFY(!IsLoaded<frmReadingCards>());
+    }
+
+    void duplicatesShuffleBetweenCards() {
+        frmNewReading& reading = LayTable(12, 13, true, true);
+        reading.cmdContinue->click();
+        frmReadingCards& table = Get<frmReadingCards>();
+        int stops = 0;
+        QTimer stopper;
+        stopper.setInterval(5);
+        connect(&stopper, &QTimer::timeout, [&] {
+            ++stops;
+            reading.cmdFakeShuffle_Release();
+        });
+        stopper.start();
+        table.picCard_Click(4);
+        // The card stays in the pool and the table was shuffled anew.
+        QVERIFY(!table.picCard(4)->isHidden());
+        QCOMPARE(reading.DeckCardsLeft, Integer(12));
+        reading.cmdAllCards->click();
+        stopper.stop();
+        QCOMPARE(reading.ThisLocationNumber, Integer(13));
+        QVERIFY(stops >= 11);
+        QVERIFY(!IsLoaded<frmReadingCards>());
+    }
+
+    void aPoolOfOneEndsTheTableAtOnce() {
+        Fixtures::MakeDeck(QStringLiteral("Small"), 3, false);
+        Fixtures::MakeSpread(QStringLiteral("One"), 1, {}, true);
+        frmNewReading& reading = NewReading();
+        reading.cmdContinue->click();
+        QVERIFY(reading.cmdFakeShuffle->isEnabled());
+        reading.cmdNextCard->click();
+        QVERIFY(!IsLoaded<frmReadingCards>());
+        QVERIFY(!reading.cmdFakeShuffle->isEnabled() && reading.cmdDeal->isEnabled());
+        // The plain click of Shuffle does nothing.
+        reading.cmdFakeShuffle->setEnabled(true);
+        reading.cmdFakeShuffle->click();
+        QVERIFY(!IsLoaded<frmReadingCards>());
+    }
+};
+
+QTEST_MAIN(TestShuffle)
+#include "tst_shuffle.moc"
