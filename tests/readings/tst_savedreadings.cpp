@@ -1,0 +1,265 @@
+// Saved readings that can no longer be shown as they were, and the selection
+// screen's lists and boxes: every refusal is one message, the screen stays,
+// nothing is written.
+#include <QLabel>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "platform/FileSys.h"
+#include "readings/frmSaveReading.h"
+#include "store/frmGetPassword.h"
+#include "ReadingFixtures.h"
+
+using namespace ReadingFixtures;
+
+namespace {
+
+const QString DeckGone = QStringLiteral(
+    "This Reading cannot be opened because the deck that was used to create it is no longer installed.");
+const QString SpreadGone = QStringLiteral(
+    "This reading cannot be opened because the spread that was used to create it is no longer installed.");
+const QString TooManyRemoved = QStringLiteral(
+    "The reading cannot be opened because the too many cards were removed from the deck that was used to create "
+    "this reading.");
+const QString DeckChanged = QStringLiteral(
+    "The deck used with this reading has changed since the reading was created. Do you still want to open it?\n"
+    "NOTE: If you choose 'Yes', the reading will be opened with the new deck version and the cards might be "
+    "corrupted.");
+
+}  // namespace
+
+class TestSavedReadings : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> dir_;
+    QTemporaryDir frameDir_;
+    Integer deckId_ = 0;
+    Integer spreadId_ = 0;
+
+    // A complete reading of the 20-location spread, saved as "Saved".
+    ReadingRecord SavedReading(int highCardAt = 0, Integer highCard = 0) {
+        ReadingRecord r;
+        ResetReading(r);
+        r.ReadingName = QStringLiteral("Saved");
+        r.ReadingDeckId = deckId_;
+        r.ReadingDeckRevision = 1;
+        r.ReadingSpreadId = spreadId_;
+        r.ReadingSpreadRevision = 1;
+        r.DealtCount = 20;
+        for (int i = 1; i <= 20; ++i) r.DealtCard[std::size_t(i - 1)] = Integer(i);
+        if (highCardAt > 0) r.DealtCard[std::size_t(highCardAt - 1)] = highCard;
+        r.CardTypeSelected = {True16, True16, False16, False16};
+        r.SavedOn = 46000;
+        AppendRecord(ReadingsPath, r);
+        return r;
+    }
+
+    // Opens row 0 of a fresh open screen; the screen stays up for checks.
+    frmOpenReading& TryOpen() {
+        Get<frmNewReading>();
+        frmOpenReading& open = Get<frmOpenReading>();
+        open.lstEntries->setCurrentRow(0);
+        open.cmdOpen_Click();
+        return open;
+    }
+
+    void ExpectRefusal(const QString& message) {
+        const QByteArray file = ReadWholeFile(ReadingsPath);
+        const ReadingRecord before = CurrentReading;
+        frmOpenReading& open = TryOpen();
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History().at(0).prompt, message);
+        QVERIFY(IsLoaded<frmOpenReading>());
+        QVERIFY(open.cmdOpen->isEnabled());
+        QCOMPARE(ReadWholeFile(ReadingsPath), file);
+        QCOMPARE(EncodeRecord(CurrentReading), EncodeRecord(before));
+        QVERIFY(!IsLoaded<frmReadingCards>());
+    }
+
+private slots:
+    void initTestCase() {
+        MsgBoxScript::Enable();
+        MediaPlayerScript::Enable();
+        StandUpFrame(frameDir_.path());
+    }
+
+    void init() {
+        dir_ = std::make_unique<QTemporaryDir>();
+        UnloadScreen<frmOpenReading>();
+        FreshRun(dir_->path());
+        deckId_ = Fixtures::MakeDeck(QStringLiteral("Tarot"), 22, false);
+        spreadId_ = Fixtures::MakeSpread(QStringLiteral("Big"), 20, {deckId_});
+    }
+
+    void cleanup() {
+        QCOMPARE(MsgBoxScript::Unanswered(), 0);
+        UnloadScreen<frmOpenReading>();
+        if (frmNewReading* reading = ScreenSlot<frmNewReading>()) reading->CloseReading();
+    }
+
+    void aDeletedDeckOrSpreadRefusesTheReading() {
+        SavedReading();
+        DeleteDeck(1);
+        ExpectRefusal(DeckGone);
+        MsgBoxScript::Clear();
+        UnloadScreen<frmOpenReading>();
+        deckId_ = Fixtures::MakeDeck(QStringLiteral("Again"), 22, false);
+        ChangeRecord<ReadingRecord>(ReadingsPath, 1, [this](ReadingRecord& r) { r.ReadingDeckId = deckId_; });
+        DeleteSpread(1);
+        ExpectRefusal(SpreadGone);
+    }
+
+    void aChangedDeckIsCheckedOnTheFirstFifteenLocations() {
+        SavedReading(15, 22);
+        ChangeRecord<DeckRecord>(DecksPath, 1, [](DeckRecord& d) {
+            d.DeckRevision = 2;
+            d.CardCount = 21;
+        });
+        ExpectRefusal(TooManyRemoved);
+        // Declining the question about a changed deck ends there too.
+        MsgBoxScript::Clear();
+        UnloadScreen<frmOpenReading>();
+        ChangeRecord<ReadingRecord>(ReadingsPath, 1, [](ReadingRecord& r) { r.DealtCard[14] = 3; });
+        MsgBoxScript::Answer(vbNo);
+        TryOpen();
+        QCOMPARE(MsgBoxScript::History().at(0).prompt, DeckChanged);
+        QVERIFY(IsLoaded<frmOpenReading>());
+    }
+
+    void aCardPastTheDeckBeyondLocationFifteenClosesTheReadingCleanly() {
+        SavedReading(18, 40);
+        ChangeRecord<DeckRecord>(DecksPath, 1, [](DeckRecord& d) { d.DeckRevision = 2; });
+        const QByteArray file = ReadWholeFile(ReadingsPath);
+        MsgBoxScript::Answer(vbYes);   // open with the changed deck
+        TryOpen();
+        QCOMPARE(MsgBoxScript::History().size(), 2);
+        QCOMPARE(MsgBoxScript::History().at(1).prompt,
+                 QStringLiteral("Run-time error '9':\n\nSubscript out of range"));
+        QVERIFY(!IsLoaded<frmNewReading>());
+        QVERIFY(!IsLoaded<frmReadingCards>());
+        QVERIFY(!frmReadingCards::LoadingReading);
+        QVERIFY(Get<frmMainScreen>().Visible());
+        QCOMPARE(ReadWholeFile(ReadingsPath), file);
+    }
+
+    void aLockedReadingAsksItsPassword() {
+        SavedReading();
+        ChangeRecord<ReadingRecord>(ReadingsPath, 1, [](ReadingRecord& r) {
+            r.EntryLocked = True16;
+            r.EntryPassword = QStringLiteral("moon");
+        });
+        WhenModal([] {
+            frmGetPassword& ask = Get<frmGetPassword>();
+            ask.txtPassword->setText(QStringLiteral("sun"));
+            ask.cmdOK_Click();
+        });
+        ExpectRefusal(QStringLiteral("Incorrect password. Access Denied."));
+        MsgBoxScript::Clear();
+        WhenModal([] {
+            frmGetPassword& ask = Get<frmGetPassword>();
+            ask.txtPassword->setText(QStringLiteral("moon"));
+            ask.cmdOK_Click();
+        });
+        TryOpen();
+        QVERIFY(!IsLoaded<frmOpenReading>());
+        QCOMPARE(Get<frmNewReading>().ThisLocationNumber, Integer(21));
+        QCOMPARE(MsgBoxScript::History().size(), 0);
+    }
+
+    void theListIsByDateAndDeletesAfterTheQuestion() {
+        ReadingRecord later = SavedReading();
+        ChangeRecord<ReadingRecord>(ReadingsPath, 1, [](ReadingRecord& r) { r.SavedOn = 46100; });
+        later.ReadingName = QStringLiteral("Earlier");
+        AppendRecord(ReadingsPath, later);
+        frmOpenReading& open = Get<frmOpenReading>();
+        QCOMPARE(open.lstEntries->count(), 2);
+        QVERIFY(open.lstEntries->item(0)->text().startsWith(FormatSortDate(46000) + QStringLiteral(" - Earlier")));
+        QCOMPARE(open.SelectedName().trimmed(), QStringLiteral("Earlier"));
+        QCOMPARE(open.SelectedName().size(), 50);
+        MsgBoxScript::Answer(vbNo);
+        open.cmdDelete_Click();
+        QCOMPARE(CountReadings(), 2);
+        QCOMPARE(MsgBoxScript::History().at(0).style & vbDefaultButton2, int(vbDefaultButton2));
+        MsgBoxScript::Answer(vbYes);
+        open.cmdDelete_Click();
+        QCOMPARE(CountReadings(), 1);
+        QCOMPARE(open.lstEntries->count(), 1);
+        MsgBoxScript::Answer(vbYes);
+        open.cmdDelete_Click();
+        QCOMPARE(open.lstEntries->count(), 0);
+        QVERIFY(!open.cmdOpen->isEnabled() && !open.cmdDelete->isEnabled());
+    }
+
+    void saveRefusesBlankNamesAndAsksBeforeOverwriting() {
+        SavedReading();
+        frmSaveReading& save = Get<frmSaveReading>();
+        save.txtSaveAs->setText(QStringLiteral("   "));
+        save.cmdSave_Click();
+        QCOMPARE(MsgBoxScript::History().at(0).prompt, QStringLiteral("Please select a name to save the reading as."));
+        QVERIFY(IsLoaded<frmSaveReading>());
+        save.txtSaveAs->setText(QStringLiteral(" Saved "));
+        MsgBoxScript::Answer(vbNo);
+        save.cmdSave_Click();
+        QCOMPARE(MsgBoxScript::History().at(1).prompt, QStringLiteral("Reading already exists. Overwrite?"));
+        QCOMPARE(CountReadings(), 1);
+        QVERIFY(IsLoaded<frmSaveReading>());
+        save.txtSaveAs->setText(QStringLiteral("Second"));
+        save.cmdSave_Click();
+        QCOMPARE(CountReadings(), 2);
+        QVERIFY(!IsLoaded<frmSaveReading>());
+        ReadingRecord second;
+        GetRecord(ReadingsPath, 2, second);
+        QCOMPARE(second.ReadingName.Trimmed(), QStringLiteral("Second"));
+        QCOMPARE(second.SaveCount, Integer(1));
+    }
+
+    void theSelectionListsWhatCanRunAndDefendsItsBoxes() {
+        // A spread tied to a deleted deck, one tied to nothing, one to any deck.
+        Fixtures::MakeDeck(QStringLiteral("Reversed"), 30, true);
+        const Integer gone = Fixtures::MakeDeck(QStringLiteral("Gone"), 22, false);
+        Fixtures::MakeSpread(QStringLiteral("Orphan"), 3, {gone});
+        Fixtures::MakeSpread(QStringLiteral("Nothing"), 3, {});
+        Fixtures::MakeSpread(QStringLiteral("Any"), 10, {}, true);
+        DeleteDeck(FindDeckByName(QStringLiteral("Gone")));
+
+        Get<frmNewReading>();
+        frmSelectSpread& select = Get<frmSelectSpread>();
+        QStringList spreads;
+        for (int i = 0; i < select.lstSpreads->count(); ++i) spreads << select.lstSpreads->item(i)->text();
+        QCOMPARE(spreads, (QStringList{QStringLiteral("Any"), QStringLiteral("Big")}));
+        QCOMPARE(select.lstDecks->count(), 2);   // Any: both usable decks
+        select.lstDecks->setCurrentRow(1);       // Tarot: no reversed sides
+        QCOMPARE(select.lstDecks->currentItem()->text(), QStringLiteral("Tarot"));
+        QVERIFY(!select.chkUseReversed->isEnabled() && !select.chkUseReversed->isChecked());
+        select.chkUseReversed->setChecked(true);
+        QVERIFY(!select.chkUseReversed->isChecked());
+        select.chkIssue->setChecked(true);
+        QVERIFY(!select.chkIssue->isChecked());
+        QCOMPARE(select.lblIssue->text(), QStringLiteral("Spread Does NOT Includes Question/Issue"));
+
+        // Ten locations from 22 cards of one type: enough; Reversed's Minor
+        // Arcana alone (8 cards) is not.
+        select.lstDecks->setCurrentRow(0);
+        QVERIFY(select.chkUseReversed->isChecked());
+        select.lstCardTypes->item(0)->setSelected(false);
+        select.cmdSelect_Click();
+        QCOMPARE(MsgBoxScript::History().at(0).prompt,
+                 QStringLiteral("The card types you have selected are not enough to run this spread.\n"
+                                "Please check more type(s) or change the deck."));
+        QVERIFY(IsLoaded<frmSelectSpread>());
+
+        // The duplicates box is remembered for the next selection.
+        select.lstCardTypes->item(0)->setSelected(true);
+        select.chkAllowDuplicateCards->setChecked(true);
+        select.cmdSelect_Click();
+        QVERIFY(!IsLoaded<frmSelectSpread>());
+        QVERIFY(AllowDuplicateCards && UseReversed);
+        QCOMPARE(CurrentReading.AllowDuplicateCards, True16);
+        QCOMPARE(Get<frmNewReading>().Caption(), QStringLiteral("Reading - Any"));
+        QCOMPARE(Get<frmSelectSpread>().chkAllowDuplicateCards->isChecked(), true);
+        SelectSpreadScreen::LastAllowDuplicateCards = false;
+    }
+};
+
+QTEST_MAIN(TestSavedReadings)
+#include "tst_savedreadings.moc"
