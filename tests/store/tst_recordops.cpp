@@ -287,25 +287,6 @@ private slots:
         QVERIFY(IsSpreadUsable(QStringLiteral("Any Two")));
     }
 
-    void newDesignValues() {
-        CurrentDeck.DeckCards.Redim(1, 3);
-        CurrentDeck.DeckName = QStringLiteral("Old");
-        CurrentDeck.CardCount = 3;
-        ResetDeck();
-        QCOMPARE(CurrentDeck.DeckCards.Count(), 0);
-        QCOMPARE(CurrentDeck.CardCount, Integer(0));
-        QCOMPARE(CurrentDeck.DeckId, Integer(-1));
-        QVERIFY(CurrentDeck.DeckName.IsBlank());
-        QCOMPARE(CurrentDeck.CardTypeName[1].Trimmed(), QStringLiteral("Minor Arcana"));
-        QVERIFY(CurrentDeck.CardTypeName[2].IsBlank());
-        QCOMPARE(CurrentDeck.CardTypeUsed, (std::array<Integer, 4>{True16, True16, False16, False16}));
-
-        ResetCard();
-        QCOMPARE(CurrentCard.CardPicture[1].Value(), DefaultPictureName);
-        QVERIFY(CurrentCard.CardSound[0].IsBlank());
-        QCOMPARE(CurrentCard.CardDeckId, Integer(-1));
-    }
-
     void helpers() {
         QCOMPARE(AddTrailingBackslash(QStringLiteral("/a/b")), QStringLiteral("/a/b/"));
         QCOMPARE(AddTrailingBackslash(QStringLiteral("/a/b/")), QStringLiteral("/a/b/"));

@@ -1,0 +1,244 @@
+// Converting a database of the earlier format: every field of every old
+// record must land at its new offset byte for byte, locations must come out of
+// the spreads in order, the old files must survive as backups, and the screen's
+// Cancel must leave everything as it was. The old files are built here byte by
+// byte from the layout tables, not through the record codec, so the offsets
+// are checked independently.
+#include <QLabel>
+#include <QPushButton>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+#include <cstring>
+#include <functional>
+
+#include "platform/FileSys.h"
+#include "platform/MsgBox.h"
+#include "store/frmConvert.h"
+#include "store/mdlVariables.h"
+#include "support/Fixtures.h"
+
+namespace {
+
+// An old field (offset, width) and where it goes in the new record.
+struct Carried { int from, width, to, newWidth; };
+// A field of the new record that has no old counterpart.
+struct Fresh { int at; QByteArray bytes; };
+
+const QList<Carried> DeckFields = {
+    {0, 2, 0, 2}, {2, 30, 2, 50}, {32, 30, 66, 50}, {62, 130, 116, 130}, {192, 8, 246, 8},
+    {200, 500, 254, 500}, {700, 200, 754, 200}, {900, 2, 954, 2}, {902, 25, 956, 25}, {927, 2, 981, 2},
+    {929, 2, 983, 2}, {931, 2, 985, 2}, {933, 80, 987, 80}, {1013, 8, 1067, 8}};
+const QList<Carried> CardFields = {
+    {0, 2, 0, 2}, {2, 30, 2, 50}, {32, 500, 52, 1500}, {532, 500, 1552, 1500},
+    {1032, 500, 3052, 1000}, {1532, 500, 4052, 1000}, {2032, 24, 5052, 24}, {2056, 2, 5100, 2}};
+const QList<Carried> SpreadFields = {
+    {0, 30, 0, 50}, {30, 30, 50, 50}, {60, 2, 100, 2}, {62, 20, 102, 20}, {82, 2, 122, 2},
+    {84, 130, 124, 130}, {214, 8, 254, 8}, {222, 1500, 262, 1500}, {1722, 2, 1762, 2},
+    {1724, 25, 1764, 25}, {1749, 500, 1789, 650}, {2249, 2, 2439, 2}, {2311, 2, 2501, 2},
+    {15948, 2, 2503, 2}, {15950, 2, 2505, 2}, {15952, 11, 2507, 11}};
+// Offsets within one 909-byte old location.
+const QList<Carried> LocationFields = {
+    {0, 30, 0, 50}, {30, 500, 54, 650}, {530, 375, 704, 375}, {905, 2, 1079, 2}, {907, 2, 1081, 2}};
+
+QByteArray Int16(int v) {
+    const auto u = static_cast<quint16>(v);
+    QByteArray bytes(2, '\0');
+    bytes[0] = char(u & 0xFF);
+    bytes[1] = char(u >> 8);
+    return bytes;
+}
+
+void Put(QByteArray& record, int at, const QByteArray& bytes) { record.replace(at, bytes.size(), bytes); }
+
+// Random bytes everywhere (zero bytes and bytes above 127 included), with
+// real dates where the old records hold them.
+QByteArray OldRecord(int length, const QList<int>& dateOffsets) {
+    QByteArray bytes(length, '\0');
+    for (char& c : bytes) c = char(QRandomGenerator::global()->bounded(256));
+    for (int at : dateOffsets) {
+        const double date = 36526.0 + at;
+        QByteArray raw(8, '\0');
+        std::memcpy(raw.data(), &date, 8);
+        Put(bytes, at, raw);
+    }
+    return bytes;
+}
+
+// Every carried field holds the old bytes padded with spaces, every fresh
+// field its stated bytes, and together they cover the whole new record.
+void CheckRecord(const QByteArray& old, const QByteArray& now, const QList<Carried>& carried,
+                 const QList<Fresh>& fresh) {
+    QVector<bool> covered(now.size(), false);
+    for (const Carried& f : carried) {
+        const QByteArray expected = old.mid(f.from, f.width) + QByteArray(f.newWidth - f.width, ' ');
+        QCOMPARE(now.mid(f.to, f.newWidth).toHex(), expected.toHex());
+        std::fill_n(covered.begin() + f.to, f.newWidth, true);
+    }
+    for (const Fresh& f : fresh) {
+        QCOMPARE(now.mid(f.at, f.bytes.size()).toHex(), f.bytes.toHex());
+        std::fill_n(covered.begin() + f.at, f.bytes.size(), true);
+    }
+    QVERIFY(!covered.contains(false));
+}
+
+QByteArray Spaces(int n) { return QByteArray(n, ' '); }
+
+struct OldDatabase {
+    QByteArray decks, cards, spreads, readings, diary;
+};
+
+// Two decks, three cards (and a partial fourth), two spreads of 3 and 15
+// locations, a reading and a diary entry with stray bytes after them.
+OldDatabase WriteOldDatabase() {
+    OldDatabase db;
+    QByteArray deck1 = OldRecord(1021, {192});
+    Put(deck1, 2, "Tarot de l'\xC9toile \xA7" + Spaces(11));
+    db.decks = deck1 + OldRecord(1021, {192});
+    db.cards = OldRecord(3 * 2058 + 100, {});
+    QByteArray spread1 = OldRecord(15963, {214});
+    Put(spread1, 60, Int16(7));
+    Put(spread1, 2311, Int16(3));
+    QByteArray spread2 = OldRecord(15963, {214});
+    Put(spread2, 60, Int16(300));
+    Put(spread2, 2311, Int16(15));
+    db.spreads = spread1 + spread2;
+    db.readings = OldRecord(3466 + 5, {});
+    db.diary = OldRecord(2866, {});
+    WriteWholeFile(DecksPath, db.decks);
+    WriteWholeFile(CardsPath, db.cards);
+    WriteWholeFile(SpreadsPath, db.spreads);
+    WriteWholeFile(ReadingsPath, db.readings);
+    WriteWholeFile(DiaryPath, db.diary);
+    return db;
+}
+
+QStringList RecordFiles() { return {DecksPath, SpreadsPath, CardsPath, ReadingsPath, DiaryPath}; }
+
+// Acts on the conversion screen once its modal loop runs.
+void WhenShown(std::function<void(frmConvert&)> act) {
+    QTimer::singleShot(0, [act] {
+        frmConvert* screen = ScreenSlot<frmConvert>();
+        QVERIFY(screen && screen->isVisible());
+        act(*screen);
+    });
+}
+
+}  // namespace
+
+class TestConversion : public QObject {
+    Q_OBJECT
+    QTemporaryDir dir_;
+
+private slots:
+    void init() {
+        QVERIFY(dir_.isValid());
+        for (const QString& name : QDir(dir_.path()).entryList(QDir::Files)) QFile::remove(dir_.filePath(name));
+        Fixtures::UseProgramDir(dir_.path());
+        Kill(LocationsPath);
+        MsgBoxScript::Enable();
+        MsgBoxScript::Clear();
+    }
+
+    void convertMovesEveryFieldAndKeepsBackups() {
+        const OldDatabase db = WriteOldDatabase();
+        WriteWholeFile(LocationsPath, QByteArray(1100, 'X'));  // a stray locations file goes first
+        WhenShown([](frmConvert& screen) { QTest::mouseClick(screen.cmdConvert, Qt::LeftButton); });
+        QVERIFY(RunConversionScreen());
+        QVERIFY(!IsLoaded<frmConvert>());
+        QCOMPARE(MsgBoxScript::History().size(), 0);
+
+        const QList<QByteArray> olds = {db.decks, db.spreads, db.cards, db.readings, db.diary};
+        for (int i = 0; i < olds.size(); ++i) QCOMPARE(ReadWholeFile(RecordFiles()[i] + ".bkp"), olds[i]);
+        QCOMPARE(ReadWholeFile(ReadingsPath), db.readings);
+        QCOMPARE(ReadWholeFile(DiaryPath), db.diary);
+
+        const QByteArray decks = ReadWholeFile(DecksPath);
+        QCOMPARE(decks.size(), 2 * 1077);
+        for (int n = 0; n < 2; ++n)
+            CheckRecord(db.decks.mid(n * 1021, 1021), decks.mid(n * 1077, 1077), DeckFields,
+                        {{52, Int16(-1)}, {54, Spaces(12)}, {1075, Int16(0)}});
+        QCOMPARE(decks.mid(2, 50), "Tarot de l'\xC9toile \xA7" + Spaces(11 + 20));
+
+        const QByteArray cards = ReadWholeFile(CardsPath);
+        QCOMPARE(cards.size(), 3 * 5104);  // the partial old record is not a card
+        for (int n = 0; n < 3; ++n)
+            CheckRecord(db.cards.mid(n * 2058, 2058), cards.mid(n * 5104, 5104), CardFields,
+                        {{5076, Spaces(24)}, {5102, Int16(0)}});
+
+        const QByteArray spreads = ReadWholeFile(SpreadsPath);
+        const QByteArray locations = ReadWholeFile(LocationsPath);
+        QCOMPARE(spreads.size(), 2 * 2530);
+        QCOMPARE(locations.size(), (3 + 15) * 1095);
+        const int ids[] = {7, 300};
+        const int counts[] = {3, 15};
+        int next = 0;
+        for (int n = 0; n < 2; ++n) {
+            const QByteArray old = db.spreads.mid(n * 15963, 15963);
+            CheckRecord(old, spreads.mid(n * 2530, 2530), SpreadFields, {{2441, Spaces(60)}, {2518, Spaces(12)}});
+            for (int i = 1; i <= counts[n]; ++i, ++next)
+                CheckRecord(old.mid(2313 + (i - 1) * 909, 909), locations.mid(next * 1095, 1095), LocationFields,
+                            {{50, Int16(ids[n])}, {52, Int16(i)}, {1083, Spaces(12)}});
+        }
+
+        QCOMPARE(Dir(TempDir + "*.*"), QStringList());
+        QCOMPARE(Dir(AppPath + "*.new"), QStringList());
+    }
+
+    void freshDirectoryGivesEmptyFiles() {
+        Get<frmConvert>().Show();
+        QTest::mouseClick(ScreenSlot<frmConvert>()->cmdConvert, Qt::LeftButton);
+        QVERIFY(!IsLoaded<frmConvert>());
+        for (const QString& path : RecordFiles()) {
+            QCOMPARE(FileLen(path + ".bkp"), 0);
+            QCOMPARE(FileLen(path), 0);
+        }
+        QVERIFY(FileExists(LocationsPath));
+        QCOMPARE(FileLen(LocationsPath), 0);
+        QCOMPARE(Dir(TempDir + "*.*"), QStringList());
+    }
+
+    void cancelChangesNothing() {
+        const OldDatabase db = WriteOldDatabase();
+        WhenShown([](frmConvert& screen) {
+            QCOMPARE(screen.Caption(), QString("Cartomar Converter"));
+            QVERIFY(screen.lblMessage->text().startsWith("Cartomar detected an older database version.  Would"));
+            QVERIFY(screen.lblMessage->text().endsWith("version?  (Note that a *.bkp copies will be created of "
+                                                       "the old database files.)"));
+            QCOMPARE(screen.cmdConvert->text(), QString("Con&vert"));
+            QCOMPARE(screen.cmdClose->text(), QString("&Cancel"));
+            QTest::mouseClick(screen.cmdClose, Qt::LeftButton);
+        });
+        QVERIFY(!RunConversionScreen());
+        WhenShown([](frmConvert& screen) { QTest::keyClick(screen.cmdConvert, Qt::Key_Escape); });
+        QVERIFY(!RunConversionScreen());
+
+        const QList<QByteArray> olds = {db.decks, db.spreads, db.cards, db.readings, db.diary};
+        for (int i = 0; i < olds.size(); ++i) {
+            QCOMPARE(ReadWholeFile(RecordFiles()[i]), olds[i]);
+            QVERIFY(!FileExists(RecordFiles()[i] + ".bkp"));
+        }
+        QVERIFY(!FileExists(LocationsPath));
+    }
+
+    void failureShowsErrorBoxAndStopsRetry() {
+        const OldDatabase db = WriteOldDatabase();
+        Kill(CardsPath);
+        Get<frmConvert>().Show();
+        frmConvert* screen = ScreenSlot<frmConvert>();
+        QTest::mouseClick(screen->cmdConvert, Qt::LeftButton);
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QVERIFY(MsgBoxScript::History()[0].prompt.startsWith("Run-time error '53'"));
+        QVERIFY(IsLoaded<frmConvert>());
+        QVERIFY(!screen->cmdConvert->isEnabled());
+        QCOMPARE(ReadWholeFile(DecksPath), db.decks);
+        QVERIFY(!FileExists(LocationsPath));
+        QCOMPARE(Dir(TempDir + "*.*"), QStringList());
+        QTest::mouseClick(screen->cmdClose, Qt::LeftButton);
+        QVERIFY(!IsLoaded<frmConvert>());
+    }
+};
+
+QTEST_MAIN(TestConversion)
+#include "tst_conversion.moc"

@@ -1,0 +1,128 @@
+// Design passwords and the design-exists question: what the user types
+// decides access, cancelling stays silent, and the installer gets the answer.
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+#include <QtTest>
+
+#include "platform/MsgBox.h"
+#include "store/Passwords.h"
+#include "store/frmDesignExists.h"
+#include "store/frmGetPassword.h"
+#include "store/frmSetPassword.h"
+#include "store/mdlVariables.h"
+
+namespace {
+// Acts on a modal screen once it is up.
+template <class F, class Act>
+void WhenShown(Act act) {
+    QTimer::singleShot(0, [act] {
+        QTRY_VERIFY(IsLoaded<F>() && Get<F>().Visible());
+        act(Get<F>());
+    });
+    // Should the screen still stand once the test acted, end its wait so the
+    // test fails instead of hanging.
+    QTimer::singleShot(5000, [] {
+        if (IsLoaded<F>()) Get<F>().Unload();
+    });
+}
+
+bool Check(const QString& stored, const QString& typed, bool cancel = false) {
+    WhenShown<frmGetPassword>([typed, cancel](frmGetPassword& f) {
+        f.txtPassword->setText(typed);
+        if (cancel) QTest::keyClick(f.txtPassword, Qt::Key_Escape);
+        else QTest::keyClick(f.txtPassword, Qt::Key_Return);   // Enter acts as OK
+    });
+    return CheckPassword(stored);
+}
+}  // namespace
+
+class TestPasswords : public QObject {
+    Q_OBJECT
+private slots:
+    void init() {
+        MsgBoxScript::Enable();
+        MsgBoxScript::Clear();
+    }
+
+    void checkPassword() {
+        QVERIFY(Check(QStringLiteral("Secret  "), QStringLiteral("Secret")));   // trailing spaces don't count
+        QVERIFY(MsgBoxScript::History().isEmpty());
+        QVERIFY(!Check(QStringLiteral("Secret"), QStringLiteral("secret")));    // case counts
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History()[0].prompt, QStringLiteral("Incorrect password. Access Denied."));
+        QCOMPARE(MsgBoxScript::History()[0].style & 0x70, int(vbCritical));
+        MsgBoxScript::Clear();
+        QVERIFY(!Check(QStringLiteral("Secret"), QStringLiteral("Secret"), true));   // cancel: silent
+        QVERIFY(!Check(QString(), QString()));   // nothing typed: silent, even for a blank password
+        QVERIFY(MsgBoxScript::History().isEmpty());
+        QVERIFY(!IsLoaded<frmGetPassword>());
+    }
+
+    void askNewPassword() {
+        WhenShown<frmSetPassword>([](frmSetPassword& f) {
+            f.txtPassword1->setText(QStringLiteral("abc"));
+            f.txtPassword2->setText(QStringLiteral("abd"));
+            f.cmdOK->click();
+            // A mismatch empties both boxes and stays.
+            QVERIFY(f.txtPassword1->text().isEmpty() && f.txtPassword2->text().isEmpty());
+            f.txtPassword1->setText(QStringLiteral("Moon"));
+            QTest::keyClick(f.txtPassword1, Qt::Key_Return);   // Enter moves on
+            QTest::keyClicks(f.txtPassword2, QStringLiteral("Moon"));
+            QTest::keyClick(f.txtPassword2, Qt::Key_Return);   // and then acts as OK
+        });
+        QCOMPARE(AskNewPassword(QStringLiteral("old")), QStringLiteral("Moon"));
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History()[0].prompt, QStringLiteral("The two passwords do not match."));
+
+        WhenShown<frmSetPassword>([](frmSetPassword& f) {
+            f.txtPassword1->setText(QStringLiteral("x"));
+            QTest::keyClick(f.txtPassword1, Qt::Key_Escape);
+        });
+        QCOMPARE(AskNewPassword(QStringLiteral("old")), QStringLiteral("old"));
+    }
+
+    void designExistsAnswers() {
+        DesignExistsChoice = 0;
+        WhenShown<frmDesignExists>([](frmDesignExists& f) {
+            QCOMPARE(f.Caption(), QStringLiteral("Deck 'Rider Waite' exists."));
+            f.cmdOverwriteAll->click();
+        });
+        Get<frmDesignExists>().Ask(DesignDeck, QStringLiteral("Rider Waite"));
+        QCOMPARE(DesignExistsChoice, 4);
+        QVERIFY(!IsLoaded<frmDesignExists>());
+
+        // Rename: the proposal keeps 23 characters of the name and adds " (Copy)".
+        QStringList offered;
+        WhenShown<frmDesignExists>([&offered](frmDesignExists& f) {
+            f.NameInUse = [](int design, const QString& padded) {
+                return design == DesignSpread && padded == QStringLiteral("Taken").leftJustified(30);
+            };
+            f.cmdRename->click();
+            QVERIFY(f.picRename->isVisible() && !f.picDoWhat->isVisible());
+            offered << f.txtDesignName->text();
+            f.txtDesignName->setText(QStringLiteral("   "));
+            f.cmdOK->click();   // blank
+            f.txtDesignName->setText(QStringLiteral("Taken"));
+            f.cmdOK->click();   // in use
+            f.cmdCancel->click();
+            QVERIFY(f.picDoWhat->isVisible() && f.txtDesignName->text().isEmpty());
+            f.cmdRename->click();
+            f.txtDesignName->setText(QStringLiteral("  Celtic Cross Mine "));
+            QTest::keyClick(f.txtDesignName, Qt::Key_Return);
+        });
+        Get<frmDesignExists>().Ask(DesignSpread, QStringLiteral("A Very Long Spread Name Indeed"));
+        QCOMPARE(offered, QStringList({QStringLiteral("A Very Long Spread Name (Copy)")}));
+        const auto& h = MsgBoxScript::History();
+        QCOMPARE(h.size(), 2);
+        QCOMPARE(h[0].prompt, QStringLiteral("You must enter a design name."));
+        QCOMPARE(h[1].prompt, QStringLiteral("You already have a design with this name. Please enter a change the "
+                                             "name or click 'Cancel' to return to the previous page."));
+        QCOMPARE(DesignExistsChoice, 1);
+        QCOMPARE(frmDesignExists::NewDesignName, QStringLiteral("Celtic Cross Mine"));
+        QVERIFY(!IsLoaded<frmDesignExists>());
+    }
+};
+
+QTEST_MAIN(TestPasswords)
+#include "tst_passwords.moc"
