@@ -1,0 +1,91 @@
+#include "shell/MDIMainForm.h"
+
+#include <QGuiApplication>
+#include <QMdiArea>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "platform/Application.h"
+#include "platform/Errors.h"
+#include "platform/MsgBox.h"
+#include "shell/frmMainScreen.h"
+#include "shell/mdlFORM.h"
+#include "store/Startup.h"
+
+namespace {
+
+constexpr int FrameWidth = 1024;   // pixels
+constexpr int FrameHeight = 740;
+
+QString& TheProgramDirectory() {
+    static QString dir;
+    return dir;
+}
+
+}  // namespace
+
+MDIMainForm::MDIMainForm() {
+    setCaption(QStringLiteral("Cartomar - Unlock the Door to Future Possibilities"));
+    area_ = new QMdiArea(this);
+    area_->setBackground(QColor(24, 20, 48));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(area_);
+    resize(FrameWidth, FrameHeight);
+    SetFrameArea(area_);
+}
+
+void MDIMainForm::SetProgramDirectory(const QString& programDir) { TheProgramDirectory() = programDir; }
+
+QString MDIMainForm::ProgramDirectory() {
+    return TheProgramDirectory().isEmpty() ? ExecutableFolder() : TheProgramDirectory();
+}
+
+void MDIMainForm::ShowFrame() {
+    if (isVisible()) return;
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const QRect room = screen ? screen->availableGeometry() : QRect(0, 0, FrameWidth, FrameHeight);
+    if (room.width() <= FrameWidth || room.height() <= FrameHeight) {
+        showMaximized();
+    } else {
+        move(room.center() - rect().center());
+        show();
+    }
+}
+
+void MDIMainForm::Form_Load() {
+    // An error here stops the start-up where it stands: its box shows, and
+    // the frame stays for the exit question.
+    Guarded([] { RunStartup(ProgramDirectory()); });
+}
+
+void MDIMainForm::Form_QueryUnload(bool& cancel, int unloadMode) {
+    // The close box only asks; Yes ends the process from within the question.
+    if (unloadMode == vbFormControlMenu) {
+        ExitQuestion();
+        cancel = true;
+    }
+}
+
+void MDIMainForm::Form_Unload(bool&) {
+    Guarded([] { ClearTemp(); });
+}
+
+void MDIMainForm::resizeEvent(QResizeEvent* e) {
+    Form::resizeEvent(e);
+    // The hub keeps to the middle of the frame when the frame changes size.
+    if (IsLoaded<frmMainScreen>()) CentreInFrame(Get<frmMainScreen>());
+}
+
+void ExitQuestion() {
+    const int answer = MsgBox(QStringLiteral("Are you sure you want to EXIT Cartomar?"),
+                              vbYesNo | vbQuestion | vbDefaultButton2, QStringLiteral("Cartomar"));
+    if (answer != vbYes) return;
+    if (IsLoaded<MDIMainForm>()) Get<MDIMainForm>().Unload();
+    EndProcess(0);
+}
+
+void ShowMainScreen() {
+    if (IsLoaded<MDIMainForm>()) Get<MDIMainForm>().ShowFrame();
+    Get<frmMainScreen>().Show();
+}

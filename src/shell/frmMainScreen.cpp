@@ -1,0 +1,287 @@
+#include "shell/frmMainScreen.h"
+
+#include <QFont>
+#include <QLabel>
+#include <QLinearGradient>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRadialGradient>
+
+#include "platform/FileSys.h"
+#include "platform/MsgBox.h"
+#include "platform/Palette.h"
+#include "platform/Twips.h"
+#include "shell/ClickLabel.h"
+#include "shell/ImageBox.h"
+#include "shell/MDIMainForm.h"
+#include "shell/frmHelpViewer.h"
+#include "shell/mdlFORM.h"
+#include "store/Startup.h"
+#include "store/mdlVariables.h"
+
+namespace {
+
+constexpr int ScreenWidth = 640;    // pixels
+constexpr int ScreenHeight = 480;
+
+const QColor Gold(222, 184, 92);
+const QColor PaleGold(240, 222, 170);
+
+struct ButtonDesign {
+    int Index;
+    int Column;   // 0 Readings, 1 Diary, 2 Design, 3 Package, 4 File Menu
+    int Row;
+    const char* Caption;
+    const char* ToolTip;
+};
+
+// The diary buttons carry the tooltips of the reading buttons; their group
+// heading tells what they work on.
+constexpr ButtonDesign Buttons[] = {
+    {1, 0, 0, "New", "Make a New Reading"},
+    {2, 0, 1, "Past", "Open a Saved Reading"},
+    {3, 1, 0, "New", "Make a New Reading"},
+    {4, 1, 1, "Past", "Open a Saved Reading"},
+    {5, 2, 0, "Decks", "Create, Edit or View Decks"},
+    {6, 2, 1, "Spreads", "Create, Edit, View or Manage Spreads"},
+    {7, 3, 0, "Install", "Install a Package"},
+    {8, 3, 1, "Create", "Create a New Package"},
+    {9, 4, 0, "Help", "Display Help"},
+    {11, 4, 1, "Exit", "Exit Cartomar"},
+};
+
+constexpr int ColumnWidth = 112;
+constexpr int ColumnGap = 12;
+constexpr int FirstColumnLeft = (ScreenWidth - 5 * ColumnWidth - 4 * ColumnGap) / 2;
+constexpr int HeadingTop = 256;
+constexpr int FirstButtonTop = 290;
+constexpr int ButtonHeight = 28;
+constexpr int ButtonPitch = 38;
+
+int ColumnLeft(int column) { return FirstColumnLeft + column * (ColumnWidth + ColumnGap); }
+
+QLabel* MakeCaption(QWidget* parent, const QString& text, const QRect& where, int pointSize, bool bold,
+                    const QColor& colour) {
+    auto* label = new QLabel(text, parent);
+    QFont font(QStringLiteral("DejaVu Serif"));
+    font.setPointSize(pointSize);
+    font.setBold(bold);
+    label->setFont(font);
+    QPalette p = label->palette();
+    p.setColor(QPalette::WindowText, colour);
+    label->setPalette(p);
+    label->setAlignment(Qt::AlignCenter);
+    label->setGeometry(where);
+    return label;
+}
+
+// The program directory as the user knows it: without the closing '/'.
+QString ProgramDirectoryShown() {
+    QString dir = AppPath;
+    if (dir.size() > 1 && dir.endsWith(QLatin1Char('/'))) dir.chop(1);
+    return dir;
+}
+
+}  // namespace
+
+QImage MainScreenPicture(int width, int height) {
+    QImage image(width, height, QImage::Format_RGB32);
+    QPainter p(&image);
+    p.setRenderHint(QPainter::Antialiasing);
+
+    QLinearGradient sky(0, 0, 0, height);
+    sky.setColorAt(0.0, QColor(14, 12, 40));
+    sky.setColorAt(0.55, QColor(44, 34, 92));
+    sky.setColorAt(1.0, QColor(22, 18, 52));
+    p.fillRect(image.rect(), sky);
+
+    // A soft glow behind the name.
+    QRadialGradient glow(QPointF(width / 2.0, height * 0.2), width * 0.45);
+    glow.setColorAt(0.0, QColor(120, 90, 170, 90));
+    glow.setColorAt(1.0, QColor(120, 90, 170, 0));
+    p.fillRect(image.rect(), glow);
+
+    // Stars at fixed places, so that the picture is the same at every start.
+    quint32 seed = 20240611u;
+    auto next = [&seed] {
+        seed = seed * 1664525u + 1013904223u;
+        return seed >> 8;
+    };
+    p.setPen(Qt::NoPen);
+    for (int i = 0; i < 140; ++i) {
+        const double x = next() % width;
+        const double y = next() % (height * 3 / 5);
+        const double r = 0.4 + (next() % 100) / 100.0;
+        p.setBrush(QColor(255, 250, 230, 90 + int(next() % 150)));
+        p.drawEllipse(QPointF(x, y), r, r);
+    }
+
+    // A crescent moon in the upper right.
+    QPainterPath moon, bite;
+    const QPointF moonCentre(width * 0.86, height * 0.13);
+    moon.addEllipse(moonCentre, 24, 24);
+    bite.addEllipse(moonCentre + QPointF(10, -6), 21, 21);
+    p.setBrush(PaleGold);
+    p.drawPath(moon.subtracted(bite));
+
+    // A gold frame and a rule under the name.
+    p.setBrush(Qt::NoBrush);
+    p.setPen(QPen(Gold, 2));
+    p.drawRect(QRectF(8, 8, width - 16, height - 16));
+    p.setPen(QPen(QColor(Gold.red(), Gold.green(), Gold.blue(), 160), 1));
+    p.drawRect(QRectF(14, 14, width - 28, height - 28));
+    p.drawLine(QPointF(width * 0.25, 152), QPointF(width * 0.75, 152));
+
+    QFont tagline(QStringLiteral("DejaVu Serif"));
+    tagline.setItalic(true);
+    tagline.setPointSize(12);
+    p.setFont(tagline);
+    p.setPen(PaleGold);
+    p.drawText(QRect(0, 160, width, 30), Qt::AlignCenter,
+               QStringLiteral("Unlock the Door to Future Possibilities"));
+    p.end();
+    return image;
+}
+
+frmMainScreen::frmMainScreen() {
+    setCaption(QStringLiteral("Cartomar"));
+    setFixedSize(ScreenWidth, ScreenHeight);
+
+    imgMainScreen = new ImageBox(this);
+    imgMainScreen->Move(0, 0, PixelsToTwips(ScreenWidth), PixelsToTwips(ScreenHeight));
+    imgMainScreen->setPicture(MainScreenPicture(ScreenWidth, ScreenHeight));
+
+    lblProductName = MakeCaption(this, QString(), QRect(0, 70, ScreenWidth, 72), 40, true, Gold);
+
+    const QStringList headings = {QStringLiteral("Readings"), QStringLiteral("Diary"), QStringLiteral("Design"),
+                                  QStringLiteral("Package"), QStringLiteral("File Menu")};
+    QLabel** headingLabels[] = {&lblReadings, &lblDiary, &lblTools, &lblPackage, &lblFileMenu};
+    for (int column = 0; column < 5; ++column)
+        *headingLabels[column] = MakeCaption(this, headings[column],
+                                             QRect(ColumnLeft(column), HeadingTop, ColumnWidth, 26), 13, true, PaleGold);
+
+    for (const ButtonDesign& b : Buttons) {
+        auto* label = new ClickLabel(this);
+        label->setText(QString::fromLatin1(b.Caption));
+        label->setToolTip(QString::fromLatin1(b.ToolTip));
+        label->setAlignment(Qt::AlignCenter);
+        QFont font(QStringLiteral("DejaVu Sans"));
+        font.setPointSize(11);
+        font.setBold(true);
+        label->setFont(font);
+        label->setBackColor(QBColor(0));
+        label->setForeColor(Gold);
+        label->setCursor(Qt::PointingHandCursor);
+        label->setGeometry(ColumnLeft(b.Column), FirstButtonTop + b.Row * ButtonPitch, ColumnWidth, ButtonHeight);
+        const int i = b.Index;
+        lblButton_[i] = label;
+        connect(label, &ClickLabel::MouseDown, this, [this, i] { lblButton_MouseDown(i); });
+        connect(label, &ClickLabel::MouseMove, this,
+                [this, i](Qt::MouseButtons buttons, Qt::KeyboardModifiers, int x, int y) {
+                    lblButton_MouseMove(i, buttons, x, y);
+                });
+        connect(label, &ClickLabel::MouseUp, this, [this, i] { lblButton_MouseUp(i); });
+        connect(label, &ClickLabel::Click, this, Handler([this, i] { lblButton_Click(i); }));
+    }
+
+    Label2 = MakeCaption(this, MakerWebAddress, QRect(0, 404, ScreenWidth, 20), 9, false, PaleGold);
+    Label1 = MakeCaption(this, SupportAddress, QRect(0, 424, ScreenWidth, 20), 9, false, PaleGold);
+}
+
+void frmMainScreen::Form_Load() {
+    CentreInFrame(*this);
+    ButtonDownColour_ = QBColor(15);
+    lblProductName->setText(QStringLiteral("Cartomar"));
+    lblTools->setText(QStringLiteral("Design"));
+    lblButton(5)->setToolTip(QStringLiteral("Create, Edit or View Decks"));
+    lblButton(6)->setToolTip(QStringLiteral("Create, Edit, View or Manage Spreads"));
+    lblButton(8)->setVisible(true);
+    lblButton(7)->setEnabled(true);
+    ClearTemp();
+}
+
+void frmMainScreen::Show(bool modal) {
+    Form::Show(modal);
+    auto* sub = qobject_cast<QMdiSubWindow*>(parentWidget());
+    if (!sub || (sub->windowFlags() & Qt::FramelessWindowHint)) return;
+    sub->setWindowFlags(Qt::SubWindow | Qt::FramelessWindowHint);
+    sub->adjustSize();
+    Move(Left(), Top());
+    sub->show();
+    if (QMdiArea* area = FrameArea()) area->setActiveSubWindow(sub);
+}
+
+ClickLabel* frmMainScreen::lblButton(int Index) const {
+    const auto found = lblButton_.find(Index);
+    return found == lblButton_.end() ? nullptr : found->second;
+}
+
+void frmMainScreen::Form_QueryUnload(bool& cancel, int unloadMode) {
+    // The hub stays for the whole run; only the exit question ends it.
+    if (unloadMode == vbFormControlMenu) cancel = true;
+}
+
+void frmMainScreen::Form_KeyUp(int key, Qt::KeyboardModifiers, bool& handled) {
+    // Esc closes every other screen; here it only flashes the hourglass.
+    if (key == Qt::Key_Escape) {
+        lblButton_Click(12);
+        handled = true;
+    }
+}
+
+void frmMainScreen::lblButton_Click(int Index) {
+    setMousePointer(MousePointer::Hourglass);
+    if (Index >= 1 && Index <= 8) OpenFirstLevelScreen(Index);
+    else if (Index == 9) LaunchHelp();
+    else if (Index == 11) ExitQuestion();
+    setMousePointer(MousePointer::Arrow);
+}
+
+// The first screen of each subsystem. The main screen hides before it opens
+// and is shown again by that screen's Close. A subsystem that this build of
+// the program does not carry answers with a notice, and the main screen stays
+// (or comes back) up.
+void frmMainScreen::OpenFirstLevelScreen(int Index) {
+    switch (Index) {
+    case 1:   // a new reading: frmNewReading, with frmSelectSpread over it
+    case 2:   // a saved reading: frmNewReading, with frmOpenReading over it
+    case 3:   // a new diary entry: frmNewDiary, with frmSelectSpreadforDiary over it
+    case 4:   // a saved diary entry: frmNewDiary, with frmOpenDiary over it
+    case 5:   // frmDecks
+    case 6:   // frmSpreads
+    case 7:   // frmInstallPackage
+    case 8:   // frmCreatePackage
+    default:
+        MsgBox(QStringLiteral("This screen is not available yet."), vbInformation);
+        Show();
+        break;
+    }
+}
+
+void frmMainScreen::LaunchHelp() {
+    const QString helpFile = AppPath + QStringLiteral("Cartomar.hlp");
+    if (FileExists(helpFile)) {
+        ShowHelpFile(helpFile);
+        return;
+    }
+    MsgBox(QStringLiteral("Unable to locate help file. The file is longer in the '") + ProgramDirectoryShown() +
+               QStringLiteral("' directory. Recopy the help file or reinstall Cartomar."),
+           vbCritical);
+}
+
+void frmMainScreen::lblButton_MouseDown(int Index) {
+    lblButton(Index)->setBackColor(ButtonDownColour_);
+}
+
+void frmMainScreen::lblButton_MouseMove(int Index, Qt::MouseButtons buttons, int x, int y) {
+    if (buttons != Qt::LeftButton) return;
+    ClickLabel* label = lblButton(Index);
+    const bool inside = x >= 0 && x < PixelsToTwips(label->width()) && y >= 0 && y < PixelsToTwips(label->height());
+    label->setBackColor(inside ? ButtonDownColour_ : QBColor(0));
+}
+
+void frmMainScreen::lblButton_MouseUp(int Index) {
+    lblButton(Index)->setBackColor(QBColor(0));
+}

@@ -1,0 +1,153 @@
+#include "store/Startup.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "platform/FileSys.h"
+#include "platform/MsgBox.h"
+#include "platform/Picture.h"
+#include "shell/MDIMainForm.h"
+#include "shell/frmMainScreen.h"
+#include "store/frmConvert.h"
+#include "store/mdlSubRoutines.h"
+#include "store/mdlVariables.h"
+
+namespace {
+
+EndProcessHook& TheEndProcessHook() {
+    static EndProcessHook hook;
+    return hook;
+}
+
+ConversionScreenHook& TheConversionScreenHook() {
+    static ConversionScreenHook hook;
+    return hook;
+}
+
+void ShowConversionScreen() {
+    if (const ConversionScreenHook& hook = TheConversionScreenHook()) hook();
+    else RunConversionScreen();
+}
+
+// A record file that cannot be opened for reading is taken as missing and
+// made empty; if even that fails, the error stops the start-up.
+void MakeRecordFileIfMissing(const QString& path) {
+    if (!FileExists(path)) WriteWholeFile(path, QByteArray());
+}
+
+}  // namespace
+
+void FormPaths(const QString& programDir) {
+    AppPath = programDir.endsWith(QLatin1Char('/')) ? programDir : programDir + QLatin1Char('/');
+    SettingsPath = AppPath + QStringLiteral("Settings.dat");
+    SpreadsPath = AppPath + QStringLiteral("Spreads.spr");
+    LocationsPath = AppPath + QStringLiteral("Location.loc");
+    DecksPath = AppPath + QStringLiteral("Decks.dck");
+    CardsDir = AppPath + QStringLiteral("Cards/");
+    PackagesDir = AppPath + QStringLiteral("Packages/");
+    AttachmentsDir = PackagesDir + QStringLiteral("Attachments/");
+    CardsPath = AppPath + QStringLiteral("Cards.crd");
+    ReadingsPath = AppPath + QStringLiteral("Readings.red");
+    DiaryPath = AppPath + QStringLiteral("Diary.dry");
+    DefaultPicturePath = CardsDir + DefaultPictureName;
+    // Formed before TempDir has its value, so it holds the bare file name.
+    // Nothing reads it.
+    TempFilePath = QStringLiteral("temp.tmp");
+    TempDir = AppPath + QStringLiteral("Temp/");
+    TempCardsPath = TempDir + QStringLiteral("Cards.crd");
+}
+
+void InitDatabase() {
+    MkDirIgnoringErrors(TempDir);
+    ClearTemp();
+    // The attachment folder lives inside Packages/, which is made only
+    // below: on the very first start this fails quietly and the folder comes
+    // at the next start.
+    MkDirIgnoringErrors(AttachmentsDir);
+    // Location.loc is left out on purpose: its absence is what marks a
+    // database of the old format.
+    for (const QString* path : {&ReadingsPath, &DiaryPath, &SpreadsPath, &DecksPath, &CardsPath})
+        MakeRecordFileIfMissing(*path);
+    MkDirIgnoringErrors(CardsDir);
+    MkDirIgnoringErrors(PackagesDir);
+    SavePictureAsBmp(DefaultCardPicture(), DefaultPicturePath);
+}
+
+void ClearTemp() {
+    // Without a formed TempDir the pattern would reach the working folder.
+    if (TempDir.isEmpty()) return;
+    KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
+}
+
+void FatalError() {
+    MsgBox(QStringLiteral("Cartomar Error. If this problem persists, please contact Ondine Software Inc."),
+           vbCritical);
+    EndProcess(1);
+}
+
+QImage DefaultCardPicture() {
+    // The picture sits in the program's static library, whose resources are
+    // registered only when asked for by name.
+    Q_INIT_RESOURCE(cartomar);
+    return QImage(QStringLiteral(":/cartomar/C000000.bmp"));
+}
+
+bool RunStartup(const QString& programDir) {
+    FormPaths(programDir);
+    CurrentLocationColour = 4;
+    OtherLocationColour = 14;
+    SpreadLocations.Redim(1, 1);
+    DesignExistsChoice = 0;
+    InitDatabase();
+    ClearTemp();
+
+    if (!FileExists(LocationsPath)) {
+        if (FileExists(DecksPath + QStringLiteral(".bkp"))) {
+            // A conversion was begun here before; doing it again would
+            // overwrite the only copies of the old data.
+            MsgBox(QStringLiteral("Unable to convert to new database format as existing backups exist.  "
+                                  "Please reinstall in a new directory or contact ") +
+                   SupportAddress + QLatin1Char('.'));
+            EndProcess(1);
+            return false;
+        }
+        ShowConversionScreen();
+    }
+
+    const int spreadCount = CountSpreads();
+    const int deckCount = CountDecks();
+    ShowMainScreen();
+    if (spreadCount == 0 && deckCount == 0) {
+        const int answer = MsgBox(QStringLiteral("You don't have any designs installed. Do you want install any now?"),
+                                  vbYesNo | vbInformation);
+        if (answer == vbYes) {
+            frmMainScreen& mainScreen = Get<frmMainScreen>();
+            mainScreen.Hide();
+            mainScreen.lblButton_Click(7);
+        }
+    }
+    return true;
+}
+
+void EndProcess(int exitCode) {
+    if (const EndProcessHook& hook = TheEndProcessHook()) {
+        hook(exitCode);
+        return;
+    }
+    // The toolkit's End: no further event runs and no screen gets to object.
+    // Every file is closed after each operation, so nothing is left unwritten.
+    std::fflush(nullptr);
+    std::_Exit(exitCode);
+}
+
+EndProcessHook SetEndProcessHook(EndProcessHook hook) {
+    EndProcessHook previous = std::move(TheEndProcessHook());
+    TheEndProcessHook() = std::move(hook);
+    return previous;
+}
+
+ConversionScreenHook SetConversionScreenHook(ConversionScreenHook hook) {
+    ConversionScreenHook previous = std::move(TheConversionScreenHook());
+    TheConversionScreenHook() = std::move(hook);
+    return previous;
+}

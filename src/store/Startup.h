@@ -1,0 +1,51 @@
+#pragma once
+// What happens between the start of the process and the moment the main
+// screen stands, and the housekeeping of Temp/: the path table, the record
+// files and folders made when missing, the default card picture, the test for
+// an old database, and the ways the process ends.
+#include <QImage>
+#include <QString>
+#include <functional>
+
+// The maker's addresses, shown on the main screen and in the message that
+// sends a user with a half-converted database to support.
+inline const QString MakerWebAddress = QStringLiteral("www.ondinesoftware.com");
+inline const QString SupportAddress = QStringLiteral("support@ondinesoftware.com");
+
+// Forms every run-wide path from the program directory, in the fixed order.
+void FormPaths(const QString& programDir);
+
+// Makes Temp/ (and empties it), the attachment folder, every missing record
+// file except Location.loc, Cards/ and Packages/, and writes the default card
+// picture afresh.
+void InitDatabase();
+
+// Deletes every file in Temp/, ignoring every error; the folder stays.
+void ClearTemp();
+
+// For a state the program holds impossible: the critical message, then the
+// end of the process.
+void FatalError();
+
+// The default card picture carried inside the program.
+QImage DefaultCardPicture();
+
+// Runs the whole start-up for a program directory: paths, colours, the
+// record files, Temp/, the old-database test with its conversion screen, then
+// the main screen and, with no designs at all, the offer to install some.
+// Returns false when the process was ended on the way (only a test's
+// end-of-process hook lets control come back here).
+bool RunStartup(const QString& programDir);
+
+// Ends the process at once. Everything that ends the program goes through
+// here; a test may put its own hook in place to see the end without dying,
+// and the caller then simply returns. Both setters return the hook they
+// replace.
+void EndProcess(int exitCode = 0);
+using EndProcessHook = std::function<void(int exitCode)>;
+EndProcessHook SetEndProcessHook(EndProcessHook hook);
+
+// The screen that offers to convert a database of the old format, shown
+// modally. A test may put its own in place to see that it is asked for.
+using ConversionScreenHook = std::function<void()>;
+ConversionScreenHook SetConversionScreenHook(ConversionScreenHook hook);

@@ -1,0 +1,227 @@
+// The frame and the main screen: the start-up run from the frame's load, the
+// buttons with their captions and tooltips, Esc doing nothing, the pressed
+// look, help, the quick help panels, and the exit question as the only way
+// out.
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTextBrowser>
+#include <QtTest>
+
+#include "platform/MsgBox.h"
+#include "platform/Palette.h"
+#include "shell/ClickLabel.h"
+#include "shell/MDIMainForm.h"
+#include "shell/frmDiaryHelp.h"
+#include "shell/frmHelpViewer.h"
+#include "shell/frmMainScreen.h"
+#include "shell/frmQuickHelp.h"
+#include "store/Startup.h"
+#include "store/mdlTypes.h"
+#include "store/mdlVariables.h"
+
+namespace {
+
+QList<int> gEnds;
+
+void WriteFile(const QString& path, const QByteArray& bytes) {
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(bytes);
+}
+
+void SendMouse(QWidget* w, QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
+    QMouseEvent e(type, QPointF(at), w->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
+    QApplication::sendEvent(w, &e);
+}
+
+}  // namespace
+
+class TestMainScreen : public QObject {
+    Q_OBJECT
+    QTemporaryDir dir_;
+    frmMainScreen* main_ = nullptr;
+
+private slots:
+    void initTestCase() {
+        MsgBoxScript::Enable();
+        SetEndProcessHook([](int code) { gEnds.append(code); });
+        // A present-format database with one deck: no conversion, no offer.
+        WriteFile(dir_.path() + QStringLiteral("/Location.loc"), QByteArray());
+        WriteFile(dir_.path() + QStringLiteral("/Decks.dck"), QByteArray(DeckRecord::Length, '\0'));
+        MDIMainForm::SetProgramDirectory(dir_.path());
+        Get<MDIMainForm>();
+        main_ = &Get<frmMainScreen>();
+    }
+
+    void init() { MsgBoxScript::Clear(); }
+    void cleanup() { QCOMPARE(MsgBoxScript::Unanswered(), 0); }
+
+    void theFrameLoadRunsTheStartup() {
+        MDIMainForm& frame = Get<MDIMainForm>();
+        QCOMPARE(frame.Caption(), QStringLiteral("Cartomar - Unlock the Door to Future Possibilities"));
+        QVERIFY(frame.isVisible());
+        QCOMPARE(AppPath, dir_.path() + QLatin1Char('/'));
+        QVERIFY(QFileInfo(dir_.path() + QStringLiteral("/Temp")).isDir());
+        QVERIFY(main_->Visible());
+        QVERIFY(!FrameArea()->subWindowList().isEmpty());
+        QCOMPARE(FrameArea()->subWindowList().first()->widget(), main_);
+        // Centred in the frame, to the pixel.
+        QVERIFY(qAbs(main_->Left() - (FrameInnerWidth() - main_->Width()) / 2) < 15);
+        QVERIFY(qAbs(main_->Top() - (FrameInnerHeight() - main_->Height()) / 2) < 15);
+    }
+
+    void buttonsCarryTheirCaptionsAndTooltips() {
+        const QList<std::tuple<int, QString, QString>> table = {
+            {1, "New", "Make a New Reading"},          {2, "Past", "Open a Saved Reading"},
+            {3, "New", "Make a New Reading"},          {4, "Past", "Open a Saved Reading"},
+            {5, "Decks", "Create, Edit or View Decks"}, {6, "Spreads", "Create, Edit, View or Manage Spreads"},
+            {7, "Install", "Install a Package"},       {8, "Create", "Create a New Package"},
+            {9, "Help", "Display Help"},               {11, "Exit", "Exit Cartomar"},
+        };
+        for (const auto& [index, caption, tip] : table) {
+            QVERIFY(main_->lblButton(index));
+            QCOMPARE(main_->lblButton(index)->text(), caption);
+            QCOMPARE(main_->lblButton(index)->toolTip(), tip);
+            QCOMPARE(main_->lblButton(index)->BackColor(), QBColor(0));
+        }
+        QVERIFY(!main_->lblButton(10));
+        QCOMPARE(main_->lblProductName->text(), QStringLiteral("Cartomar"));
+        QCOMPARE(main_->lblReadings->text(), QStringLiteral("Readings"));
+        QCOMPARE(main_->lblDiary->text(), QStringLiteral("Diary"));
+        QCOMPARE(main_->lblTools->text(), QStringLiteral("Design"));
+        QCOMPARE(main_->lblPackage->text(), QStringLiteral("Package"));
+        QCOMPARE(main_->lblFileMenu->text(), QStringLiteral("File Menu"));
+        QCOMPARE(main_->ButtonDownColour(), QBColor(15));
+    }
+
+    void escapeAndStrayIndexesChangeNothing() {
+        const int left = main_->Left(), top = main_->Top();
+        QTest::keyClick(main_, Qt::Key_Escape);
+        main_->lblButton_Click(10);
+        main_->lblButton_Click(12);
+        QVERIFY(main_->Visible());
+        QVERIFY(IsLoaded<frmMainScreen>());
+        QCOMPARE(main_->Left(), left);
+        QCOMPARE(main_->Top(), top);
+        QVERIFY(MsgBoxScript::History().isEmpty());
+        QVERIFY(gEnds.isEmpty());
+        QVERIFY(main_->cursor().shape() != Qt::WaitCursor);
+    }
+
+    void pressedLookFollowsTheHeldButton() {
+        ClickLabel* label = main_->lblButton(9);
+        const QColor down = QBColor(15), up = QBColor(0);
+        const QPoint inside(5, 5), outside(label->width() + 5, 5);
+        SendMouse(label, QEvent::MouseButtonPress, inside, Qt::LeftButton, Qt::LeftButton);
+        QCOMPARE(label->BackColor(), down);
+        SendMouse(label, QEvent::MouseMove, outside, Qt::NoButton, Qt::LeftButton);
+        QCOMPARE(label->BackColor(), up);
+        SendMouse(label, QEvent::MouseMove, inside, Qt::NoButton, Qt::LeftButton);
+        QCOMPARE(label->BackColor(), down);
+        SendMouse(label, QEvent::MouseMove, QPoint(-1, 5), Qt::NoButton, Qt::LeftButton);
+        QCOMPARE(label->BackColor(), up);
+        // Released outside: black, and no action.
+        SendMouse(label, QEvent::MouseButtonRelease, outside, Qt::LeftButton, Qt::NoButton);
+        QCOMPARE(label->BackColor(), up);
+        QVERIFY(MsgBoxScript::History().isEmpty());
+        // A hover without a button changes nothing.
+        SendMouse(label, QEvent::MouseMove, inside, Qt::NoButton, Qt::NoButton);
+        QCOMPARE(label->BackColor(), up);
+        // Pressed and released inside: the button acts (here: help, which is
+        // missing from the folder).
+        SendMouse(label, QEvent::MouseButtonPress, inside, Qt::LeftButton, Qt::LeftButton);
+        SendMouse(label, QEvent::MouseButtonRelease, inside, Qt::LeftButton, Qt::NoButton);
+        QCOMPARE(label->BackColor(), up);
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+    }
+
+    void helpMissingShowsTheMessage() {
+        QFile::remove(dir_.path() + QStringLiteral("/Cartomar.hlp"));
+        main_->lblButton_Click(9);
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History()[0].prompt,
+                 QStringLiteral("Unable to locate help file. The file is longer in the '") + dir_.path() +
+                     QStringLiteral("' directory. Recopy the help file or reinstall Cartomar."));
+        QCOMPARE(MsgBoxScript::History()[0].style, int(vbCritical));
+        QVERIFY(main_->Visible());
+        QVERIFY(!IsLoaded<frmHelpViewer>());
+    }
+
+    void helpPresentOpensTheViewer() {
+        WriteFile(dir_.path() + QStringLiteral("/Cartomar.hlp"), "<html><body><h1>Readings</h1></body></html>");
+        main_->lblButton_Click(9);
+        QVERIFY(MsgBoxScript::History().isEmpty());
+        QVERIFY(IsLoaded<frmHelpViewer>());
+        frmHelpViewer& viewer = Get<frmHelpViewer>();
+        QVERIFY(viewer.Visible());
+        QCOMPARE(viewer.txtHelp->document()->toPlainText().trimmed(), QStringLiteral("Readings"));
+        QTest::keyClick(viewer.txtHelp, Qt::Key_Escape);
+        QVERIFY(!IsLoaded<frmHelpViewer>());
+        QVERIFY(main_->Visible());
+    }
+
+    void quickHelpPanelsGoOnEscAndOnLosingTheFocus() {
+        frmQuickHelp& quick = Get<frmQuickHelp>();
+        QVERIFY(quick.lblHelp->text().startsWith(
+            QStringLiteral("The Tarot Spread is meant to aid you in your everyday life.  Examine")));
+        QVERIFY(quick.lblHelp->text().endsWith(QStringLiteral(
+            "if it has been opened. Furthermore, you can enlarge the card's picture for a closer view.")));
+        QCOMPARE(quick.Left(), 50);
+        QCOMPARE(quick.Top(), 50);
+        QCOMPARE(quick.cmdEndHelp->text(), QStringLiteral("&Close"));
+        quick.Show();
+        QTest::keyClick(&quick, Qt::Key_Escape);
+        QVERIFY(!IsLoaded<frmQuickHelp>());
+
+        frmDiaryHelp& diary = Get<frmDiaryHelp>();
+        QVERIFY(diary.lblHelp->text().contains(QStringLiteral("By double clicking on a card")));
+        QVERIFY(diary.lblHelp->text().endsWith(
+            QStringLiteral("The card is selected from the cards list and its state is specified by the check box.")));
+        diary.Show();
+        diary.NotifyActivated(true);
+        diary.NotifyActivated(false);
+        QVERIFY(!IsLoaded<frmDiaryHelp>());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    void exitQuestionIsTheOnlyWayOut() {
+        MDIMainForm& frame = Get<MDIMainForm>();
+        const QString question = QStringLiteral("Are you sure you want to EXIT Cartomar?");
+
+        MsgBoxScript::Answer(vbNo);
+        main_->lblButton_Click(11);
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History()[0].prompt, question);
+        QCOMPARE(MsgBoxScript::History()[0].title, QStringLiteral("Cartomar"));
+        QCOMPARE(MsgBoxScript::History()[0].style, vbYesNo | vbQuestion | vbDefaultButton2);
+        QVERIFY(gEnds.isEmpty());
+
+        // The close box asks too, and is refused whatever the answer.
+        MsgBoxScript::Answer(vbNo);
+        frame.close();
+        QCOMPARE(MsgBoxScript::History().size(), 2);
+        QCOMPARE(MsgBoxScript::History()[1].prompt, question);
+        QVERIFY(IsLoaded<MDIMainForm>());
+        QVERIFY(frame.isVisible());
+        QVERIFY(gEnds.isEmpty());
+
+        // Yes ends the run; the frame's unload leaves Temp/ empty but there.
+        WriteFile(TempDir + QStringLiteral("work.tmp"), "x");
+        MsgBoxScript::Answer(vbYes);
+        frame.close();
+        QCOMPARE(gEnds, QList<int>{0});
+        QVERIFY(!IsLoaded<MDIMainForm>());
+        QVERIFY(QFileInfo(TempDir).isDir());
+        QVERIFY(QDir(TempDir).entryList(QDir::Files).isEmpty());
+    }
+};
+
+QTEST_MAIN(TestMainScreen)
+#include "tst_mainscreen.moc"

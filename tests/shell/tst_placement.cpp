@@ -1,0 +1,199 @@
+// Placing screens in the frame (the centring rule and its variants, at and
+// around their thresholds) and fitting pictures into image boxes (each case,
+// centring, the default picture for a missing or broken file).
+#include <QFile>
+#include <QMdiArea>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "platform/Form.h"
+#include "platform/MsgBox.h"
+#include "platform/Picture.h"
+#include "platform/Twips.h"
+#include "shell/FitPicture.h"
+#include "shell/ImageBox.h"
+#include "shell/mdlFORM.h"
+#include "store/Startup.h"
+#include "store/mdlVariables.h"
+#include "support/Fixtures.h"
+
+namespace {
+
+class frmProbe : public Form {};
+
+// A probe screen of a size given in twips (whole pixels), not shown, so that
+// its position reads back exactly as placed.
+frmProbe& Probe(int widthTwips, int heightTwips) {
+    frmProbe& f = Get<frmProbe>();
+    f.resize(TwipsToPixels(widthTwips), TwipsToPixels(heightTwips));
+    return f;
+}
+
+}  // namespace
+
+class TestPlacement : public QObject {
+    Q_OBJECT
+    QMdiArea area_;
+    QTemporaryDir dir_;
+    int W = 0, H = 0;
+
+private slots:
+    void initTestCase() {
+        MsgBoxScript::Enable();
+        area_.resize(800, 600);
+        area_.move(120, 90);
+        area_.show();
+        SetFrameArea(&area_);
+        W = FrameInnerWidth();
+        H = FrameInnerHeight();
+        QVERIFY(W > 6000 && H > 4500);
+        Fixtures::UseProgramDir(dir_.path());
+    }
+
+    void init() { MsgBoxScript::Clear(); }
+
+    void centreInFrameAndItsMargin() {
+        frmProbe& f = Probe(3000, 1500);
+        CentreInFrame(f);
+        QCOMPARE(f.Left(), (W - 3000) / 2);
+        QCOMPARE(f.Top(), (H - 1500) / 2);
+        // Up to 50 twips of room left: still centred; less: 50 from the edge.
+        Probe(W - 60, H - 60);
+        CentreInFrame(f);
+        QCOMPARE(f.Left(), 30);
+        QCOMPARE(f.Top(), 30);
+        Probe(W - 45, H + 300);
+        CentreInFrame(f);
+        QCOMPARE(f.Left(), 50);
+        QCOMPARE(f.Top(), 50);
+    }
+
+    void variantsUseTheirOwnMargins() {
+        frmProbe& f = Probe(3000, 1500);
+        PlaceInFrameRight(f, false);
+        QCOMPARE(f.Top(), 50);
+        QCOMPARE(f.Left(), (W - 3000) / 2);
+        PlaceInFrameRight(f, true);
+        QCOMPARE(f.Top(), FrameOwnTop() + 150);
+        QCOMPARE(FrameOwnTop(), PixelsToTwips(area_.y()));
+
+        PlaceBesideFrame(f, false);
+        QCOMPARE(f.Left(), (W - 3000 - 200) / 2);
+        QCOMPARE(f.Top(), 50);
+        PlaceBesideFrame(f, true);
+        QCOMPARE(f.Top(), FrameOwnTop() + 150);
+        Probe(W - 210, 1500);
+        PlaceBesideFrame(f, false);
+        QCOMPARE(f.Left(), 5);
+        Probe(W - 195, 1500);
+        PlaceBesideFrame(f, false);
+        QCOMPARE(f.Left(), 50);
+
+        // Low in the frame: centred downwards once 150 twips are left over,
+        // with integer halves.
+        Probe(3000, H - 165);
+        CentreLowInFrame(f);
+        QCOMPARE(f.Top(), 82);
+        QCOMPARE(f.Left(), (W - 3000 - 200) / 2);
+        Probe(3000, H - 135);
+        CentreLowInFrame(f);
+        QCOMPARE(f.Top(), 50);
+
+        PlaceTopLeft(f, false);
+        QCOMPARE(f.Left(), 50);
+        QCOMPARE(f.Top(), 50);
+        PlaceTopLeft(f, true);
+        QCOMPARE(f.Left(), FrameOwnLeft() + 150);
+        QCOMPARE(f.Top(), FrameOwnTop() + 150);
+        UnloadScreen<frmProbe>();
+    }
+
+    void fitCases() {
+        // 1000 high, 2000 wide in a box 1500 square: case 2, height 750,
+        // centred 375 lower; the top stays with KeepTop.
+        BoxGeometry box{100, 200, 1500, 1500};
+        QCOMPARE(FitBoxToPicture(1000, 2000, box, true, false), 2);
+        QCOMPARE(box.Height, 750);
+        QCOMPARE(box.Width, 1500);
+        QCOMPARE(box.Top, 475);
+        QCOMPARE(box.Left, 200);
+        box = {100, 200, 1500, 1500};
+        FitBoxToPicture(1000, 2000, box, true, true);
+        QCOMPARE(box.Top, 100);
+
+        // Exactly the box's size: case 2, the height recomputed from the
+        // width (and not cut short by the division).
+        box = {0, 0, 1050, 450};
+        QCOMPARE(FitBoxToPicture(450, 1050, box, false, false), 2);
+        QCOMPARE(box.Height, 450);
+        QCOMPARE(box.Width, 1050);
+
+        // Larger both ways, taller than the box's shape: the width shrinks.
+        box = {0, 0, 1500, 1500};
+        QCOMPARE(FitBoxToPicture(3000, 2000, box, true, false), 1);
+        QCOMPARE(box.Width, 1000);
+        QCOMPARE(box.Height, 1500);
+        QCOMPARE(box.Left, 250);
+        // Larger both ways, wider than the box's shape: the height shrinks.
+        box = {0, 0, 1500, 1500};
+        QCOMPARE(FitBoxToPicture(2000, 4000, box, false, false), 1);
+        QCOMPARE(box.Height, 750);
+        QCOMPARE(box.Width, 1500);
+
+        box = {0, 0, 1500, 1500};
+        QCOMPARE(FitBoxToPicture(3000, 1000, box, true, false), 3);
+        QCOMPARE(box.Width, 500);
+        QCOMPARE(box.Left, 500);
+
+        box = {10, 20, 1500, 1500};
+        QCOMPARE(FitBoxToPicture(600, 400, box, true, false), 4);
+        QCOMPARE(box.Height, 600);
+        QCOMPARE(box.Width, 400);
+        QCOMPARE(box.Top, 460);
+        QCOMPARE(box.Left, 570);
+    }
+
+    void fitPictureLoadsAndFallsBack() {
+        QWidget host;
+        ImageBox box(&host);
+        const QImage defaultPicture = LoadPicture(DefaultPicturePath).Image;
+
+        // A picture 40 pixels wide and 20 high is smaller than the box: the
+        // box takes its size, centred.
+        QImage image(40, 20, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        SavePictureAsBmp(image, CardsDir + QStringLiteral("CU00001.bmp"));
+        box.Move(0, 0, 1500, 1500);
+        FitPicture(box, CardsDir + QStringLiteral("CU00001.bmp"), true, false);
+        QVERIFY(box.Stretch());
+        QCOMPARE(box.Height(), 300);
+        QCOMPARE(box.Width(), 600);
+        QCOMPARE(box.Top(), 600);
+        QCOMPARE(box.Left(), 450);
+        QCOMPARE(box.Image().pixelColor(0, 0), QColor(Qt::red));
+        QVERIFY(MsgBoxScript::History().isEmpty());
+
+        // A missing file: the default picture, without a word.
+        box.Move(0, 0, 1500, 1500);
+        FitPicture(box, CardsDir + QStringLiteral("CU00099.bmp"), false, false);
+        QCOMPARE(box.Image(), defaultPicture);
+        QVERIFY(MsgBoxScript::History().isEmpty());
+
+        // A file that is no picture: the message, then the default picture.
+        QFile notPicture(CardsDir + QStringLiteral("CU00002.bmp"));
+        QVERIFY(notPicture.open(QIODevice::WriteOnly));
+        notPicture.write("this is not a bitmap");
+        notPicture.close();
+        box.Move(0, 0, 1500, 1500);
+        FitPicture(box, notPicture.fileName(), false, false);
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History()[0].prompt,
+                 QStringLiteral("Error while loading the picture. A default picture is selected instead.\n"
+                                "Please save all your work, exit Cartomar, and then run it again"));
+        QCOMPARE(MsgBoxScript::History()[0].style, int(vbCritical));
+        QCOMPARE(box.Image(), defaultPicture);
+    }
+};
+
+QTEST_MAIN(TestPlacement)
+#include "tst_placement.moc"

@@ -1,0 +1,195 @@
+// Start-up on a program folder: the path table, the files and folders a first
+// and a second start make, Temp/ emptied, the default picture rewritten, the
+// old-database test with its two outcomes, the offer to install designs, and
+// the ways the process ends.
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "platform/FileSys.h"
+#include "platform/MsgBox.h"
+#include "platform/Picture.h"
+#include "shell/frmMainScreen.h"
+#include "store/Startup.h"
+#include "store/mdlTypes.h"
+#include "store/mdlVariables.h"
+
+namespace {
+
+int gConversions = 0;
+QList<int> gEnds;
+
+void WriteFile(const QString& path, const QByteArray& bytes) {
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(bytes);
+}
+
+}  // namespace
+
+class TestStartup : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() {
+        MsgBoxScript::Enable();
+        SetConversionScreenHook([] { ++gConversions; });
+        SetEndProcessHook([](int code) { gEnds.append(code); });
+    }
+
+    void init() {
+        ResetRunState();
+        MsgBoxScript::Clear();
+        gConversions = 0;
+        gEnds.clear();
+    }
+
+    void cleanup() {
+        QCOMPARE(MsgBoxScript::Unanswered(), 0);
+        UnloadScreen<frmMainScreen>();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    void pathTableFollowsTheProgramFolder() {
+        for (const QString& dir : {QStringLiteral("/opt/cartomar"), QStringLiteral("/opt/cartomar/")}) {
+            FormPaths(dir);
+            QCOMPARE(AppPath, QStringLiteral("/opt/cartomar/"));
+            QCOMPARE(SettingsPath, QStringLiteral("/opt/cartomar/Settings.dat"));
+            QCOMPARE(SpreadsPath, QStringLiteral("/opt/cartomar/Spreads.spr"));
+            QCOMPARE(LocationsPath, QStringLiteral("/opt/cartomar/Location.loc"));
+            QCOMPARE(DecksPath, QStringLiteral("/opt/cartomar/Decks.dck"));
+            QCOMPARE(CardsDir, QStringLiteral("/opt/cartomar/Cards/"));
+            QCOMPARE(PackagesDir, QStringLiteral("/opt/cartomar/Packages/"));
+            QCOMPARE(AttachmentsDir, QStringLiteral("/opt/cartomar/Packages/Attachments/"));
+            QCOMPARE(CardsPath, QStringLiteral("/opt/cartomar/Cards.crd"));
+            QCOMPARE(ReadingsPath, QStringLiteral("/opt/cartomar/Readings.red"));
+            QCOMPARE(DiaryPath, QStringLiteral("/opt/cartomar/Diary.dry"));
+            QCOMPARE(DefaultPicturePath, QStringLiteral("/opt/cartomar/Cards/C000000.bmp "));
+            QCOMPARE(TempFilePath, QStringLiteral("temp.tmp"));
+            QCOMPARE(TempDir, QStringLiteral("/opt/cartomar/Temp/"));
+            QCOMPARE(TempCardsPath, QStringLiteral("/opt/cartomar/Temp/Cards.crd"));
+        }
+    }
+
+    void firstAndSecondStartInAnEmptyFolder() {
+        QTemporaryDir dir;
+        const QString root = dir.path() + QLatin1Char('/');
+        DesignExistsChoice = 3;
+        CurrentLocationColour = OtherLocationColour = 0;
+        MsgBoxScript::Answer(vbNo);
+        QVERIFY(RunStartup(dir.path()));
+
+        for (const char* name : {"Readings.red", "Diary.dry", "Spreads.spr", "Decks.dck", "Cards.crd"}) {
+            QVERIFY2(QFileInfo(root + QLatin1String(name)).isFile(), name);
+            QCOMPARE(QFileInfo(root + QLatin1String(name)).size(), 0);
+        }
+        for (const char* name : {"Cards", "Packages", "Temp"}) QVERIFY2(QFileInfo(root + QLatin1String(name)).isDir(), name);
+        QVERIFY(!QFileInfo::exists(root + QStringLiteral("Packages/Attachments")));
+        QVERIFY(!QFileInfo::exists(root + QStringLiteral("Location.loc")));
+        QVERIFY(!QFileInfo::exists(root + QStringLiteral("Settings.dat")));
+        QCOMPARE(gConversions, 1);
+        QVERIFY(gEnds.isEmpty());
+
+        const Picture picture = LoadPicture(root + QStringLiteral("Cards/C000000.bmp"));
+        QCOMPARE(picture.Image.convertToFormat(QImage::Format_RGB32),
+                 DefaultCardPicture().convertToFormat(QImage::Format_RGB32));
+        QCOMPARE(CurrentLocationColour, 4);
+        QCOMPARE(OtherLocationColour, 14);
+        QCOMPARE(SpreadLocations.LBound(), 1);
+        QCOMPARE(SpreadLocations.UBound(), 1);
+        QCOMPARE(DesignExistsChoice, 0);
+
+        // No designs: the main screen stands and the offer to install comes.
+        QVERIFY(IsLoaded<frmMainScreen>() && Get<frmMainScreen>().Visible());
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History()[0].prompt,
+                 QStringLiteral("You don't have any designs installed. Do you want install any now?"));
+        QCOMPARE(MsgBoxScript::History()[0].style, vbYesNo | vbInformation);
+
+        // The second start makes the attachment folder, now that Packages/
+        // exists, and still asks for the conversion.
+        MsgBoxScript::Answer(vbNo);
+        QVERIFY(RunStartup(dir.path()));
+        QVERIFY(QFileInfo(root + QStringLiteral("Packages/Attachments")).isDir());
+        QCOMPARE(gConversions, 2);
+    }
+
+    void staleTempFilesAndABrokenDefaultPictureDoNotSurvive() {
+        QTemporaryDir dir;
+        const QString root = dir.path() + QLatin1Char('/');
+        QDir().mkpath(root + QStringLiteral("Temp"));
+        QDir().mkpath(root + QStringLiteral("Cards"));
+        WriteFile(root + QStringLiteral("Temp/TempUp.bmp"), "stale");
+        WriteFile(root + QStringLiteral("Temp/Cards.crd"), "stale");
+        WriteFile(root + QStringLiteral("Cards/C000000.bmp"), "not a picture");
+        WriteFile(root + QStringLiteral("Location.loc"), QByteArray());
+        WriteFile(root + QStringLiteral("Decks.dck"), QByteArray(DeckRecord::Length, '\0'));
+        WriteFile(root + QStringLiteral("Readings.red"), "kept");
+
+        QVERIFY(RunStartup(dir.path()));
+        QVERIFY(QFileInfo(root + QStringLiteral("Temp")).isDir());
+        QVERIFY(QDir(root + QStringLiteral("Temp")).entryList(QDir::Files).isEmpty());
+        QVERIFY(!LoadPicture(root + QStringLiteral("Cards/C000000.bmp")).IsNull());
+        // Existing record files are left as they were.
+        QCOMPARE(QFileInfo(root + QStringLiteral("Readings.red")).size(), 4);
+        // A new-format database with a deck: no conversion, no question.
+        QCOMPARE(gConversions, 0);
+        QVERIFY(MsgBoxScript::History().isEmpty());
+        QVERIFY(Get<frmMainScreen>().Visible());
+    }
+
+    void noDesignsAskToInstall_AnswerNoKeepsTheMainScreen() {
+        QTemporaryDir dir;
+        WriteFile(dir.path() + QStringLiteral("/Location.loc"), QByteArray());
+        MsgBoxScript::Answer(vbNo);
+        QVERIFY(RunStartup(dir.path()));
+        QCOMPARE(gConversions, 0);
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History()[0].answer, int(vbNo));
+        QVERIFY(Get<frmMainScreen>().Visible());
+    }
+
+    void oldDatabaseWithBackupsEndsAtOnce() {
+        QTemporaryDir dir;
+        WriteFile(dir.path() + QStringLiteral("/Decks.dck.bkp"), "old");
+        QVERIFY(!RunStartup(dir.path()));
+        QCOMPARE(gEnds.size(), 1);
+        QCOMPARE(gConversions, 0);
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History()[0].prompt,
+                 QStringLiteral("Unable to convert to new database format as existing backups exist.  Please "
+                                "reinstall in a new directory or contact ") + SupportAddress + QLatin1Char('.'));
+        QCOMPARE(MsgBoxScript::History()[0].style, int(vbOKOnly));
+        QVERIFY(!IsLoaded<frmMainScreen>());
+    }
+
+    void fatalErrorShowsTheMessageAndEnds() {
+        FatalError();
+        QCOMPARE(gEnds.size(), 1);
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History()[0].prompt,
+                 QStringLiteral("Cartomar Error. If this problem persists, please contact Ondine Software Inc."));
+        QCOMPARE(MsgBoxScript::History()[0].style, int(vbCritical));
+    }
+
+    void clearTempKeepsTheFolderAndNeverStrays() {
+        QTemporaryDir dir;
+        FormPaths(dir.path());
+        QDir().mkpath(TempDir);
+        WriteFile(TempDir + QStringLiteral("a.tmp"), "x");
+        ClearTemp();
+        QVERIFY(QFileInfo(TempDir).isDir());
+        QVERIFY(QDir(TempDir).entryList(QDir::Files).isEmpty());
+        // With no paths formed, nothing at all is deleted.
+        const QString here = QDir::currentPath();
+        QDir::setCurrent(dir.path());
+        WriteFile(dir.path() + QStringLiteral("/keep.txt"), "x");
+        TempDir.clear();
+        ClearTemp();
+        QDir::setCurrent(here);
+        QVERIFY(QFileInfo::exists(dir.path() + QStringLiteral("/keep.txt")));
+    }
+};
+
+QTEST_MAIN(TestStartup)
+#include "tst_startup.moc"
