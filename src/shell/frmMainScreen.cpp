@@ -13,6 +13,7 @@
 #include "platform/MsgBox.h"
 #include "platform/Palette.h"
 #include "platform/Twips.h"
+#include "decks/frmDecks.h"
 #include "shell/ClickLabel.h"
 #include "shell/ImageBox.h"
 #include "shell/MDIMainForm.h"
@@ -245,11 +246,14 @@ void frmMainScreen::lblButton_Click(int Index) {
 // (or comes back) up.
 void frmMainScreen::OpenFirstLevelScreen(int Index) {
     switch (Index) {
+    case 5:
+        Hide();
+        Get<frmDecks>().Show();
+        break;
     case 1:   // a new reading: frmNewReading, with frmSelectSpread over it
     case 2:   // a saved reading: frmNewReading, with frmOpenReading over it
     case 3:   // a new diary entry: frmNewDiary, with frmSelectSpreadforDiary over it
     case 4:   // a saved diary entry: frmNewDiary, with frmOpenDiary over it
-    case 5:   // frmDecks
     case 6:   // frmSpreads
     case 7:   // frmInstallPackage
     case 8:   // frmCreatePackage
