@@ -23,11 +23,20 @@ frmDesignDeck::frmDesignDeck() : DeckScreen(QStringLiteral("Deck Design"), true)
     cmdSave = MakeButton(this, "cmdSave", QStringLiteral("&Save"), At(5700, 5580, 1500, 420));
 
     connect(txtDeckTitle, &QLineEdit::textChanged, this, Handler([this] { txtDeckTitle_Change(); }));
-    for (QLineEdit* box : {txtDeckDesigner, txtDesignerEmail, txtDesignerWebPage})
-        connect(box, &QLineEdit::textChanged, this, Handler([this] { StoreDeckFields(); }));
+    // Each of the other boxes stores its own field and marks the deck changed.
+    auto& designer = CurrentDeck.DeckDesigner;
+    const std::pair<QLineEdit*, FixedText<40>*> narrow[] = {{txtDeckDesigner, &designer.DesignerName},
+                                                            {txtDesignerEmail, &designer.DesignerEmail}};
+    for (const auto& [box, field] : narrow)
+        connect(box, &QLineEdit::textChanged, this, Handler([this, box = box, field = field] {
+                    StoreDeckField(*field, box->text());
+                }));
+    connect(txtDesignerWebPage, &QLineEdit::textChanged, this, Handler([this] {
+                StoreDeckField(CurrentDeck.DeckDesigner.DesignerWebPage, txtDesignerWebPage->text());
+            }));
     connect(txtDeckDescription, &QPlainTextEdit::textChanged, this, Handler([this] {
                 ClipText(txtDeckDescription, 500);
-                StoreDeckFields();
+                StoreDeckField(CurrentDeck.DeckDescription, txtDeckDescription->toPlainText());
             }));
     connect(lstCards, &QListWidget::itemDoubleClicked, this, Handler([this] { cmdEditCard_Click(); }));
     connect(cmdAddCard, &QPushButton::clicked, this, Handler([this] { cmdAddCard_Click(); }));
@@ -63,11 +72,9 @@ void frmDesignDeck::txtDeckTitle_Change() {
     CurrentDeck.DeckTitle = text;
 }
 
-void frmDesignDeck::StoreDeckFields() {
-    CurrentDeck.DeckDesigner.DesignerName = TrimField(txtDeckDesigner->text());
-    CurrentDeck.DeckDesigner.DesignerEmail = TrimField(txtDesignerEmail->text());
-    CurrentDeck.DeckDesigner.DesignerWebPage = TrimField(txtDesignerWebPage->text());
-    CurrentDeck.DeckDescription = TrimField(txtDeckDescription->toPlainText());
+template <int N>
+void frmDesignDeck::StoreDeckField(FixedText<N>& field, const QString& text) {
+    field = TrimField(text);
     DesignModified = true;
 }
 

@@ -3,6 +3,7 @@
 // with its pictures and sounds as working copies in Temp/. Nothing reaches
 // the record files until the deck is saved through frmSaveDeck.
 #include "decks/DeckScreen.h"
+#include "store/mdlTypes.h"
 
 class frmDesignDeck : public DeckScreen {
     Q_OBJECT
@@ -36,5 +37,6 @@ protected:
 private:
     void txtDeckTitle_Change();
     // The boxes other than the title mark the deck changed at every change.
-    void StoreDeckFields();
+    template <int N>
+    void StoreDeckField(FixedText<N>& field, const QString& text);
 };
