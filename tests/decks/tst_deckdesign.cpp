@@ -244,7 +244,21 @@ private slots:
         QVERIFY(newMage.startsWith(QLatin1String("CU")) && newMage != oldMage);
         QVERIFY(FileExists(TempDir + oldMage) && FileExists(TempDir + newMage));
 
-        // ---- Saved over itself: the overwrite question, still one deck.
+        // ---- Saved over itself: the overwrite question, still one deck. A
+        // No keeps the save screen open and the deck unsaved.
+        MsgBoxScript::Answer(vbNo);
+        {
+            OnEachShowing<frmSaveDeck> refused({[](frmSaveDeck& s) {
+                QCOMPARE(s.txtSaveAs->text(), QStringLiteral("Sea Tarot"));
+                QCOMPARE(SelectedLine(s.lstDeckNames).trimmed(), QStringLiteral("Sea Tarot"));
+                s.cmdSave_Click();
+                QVERIFY(IsLoaded<frmSaveDeck>());
+                s.cmdCancel_Click();
+            }});
+            again.cmdSave_Click();
+            QCOMPARE(refused.Remaining(), 0);
+        }
+        QVERIFY(again.DesignModified);
         MsgBoxScript::Clear();
         MsgBoxScript::Answer(vbYes);
         SaveAs(QStringLiteral("Sea Tarot"));

@@ -16,6 +16,7 @@
 #include "decks/frmDesignDeck.h"
 #include "decks/mdlDeckDesign.h"
 #include "platform/MsgBox.h"
+#include "shell/frmMainScreen.h"
 #include "store/frmGetPassword.h"
 #include "store/mdlSubRoutines.h"
 #include "support/Fixtures.h"
@@ -155,6 +156,18 @@ private slots:
         QCOMPARE(chosen.size(), 1);
         QCOMPARE(chosen[0].trimmed(), QStringLiteral("Gamma"));
         QVERIFY(!IsLoaded<frmBrowseDeck>());
+    }
+
+    void theMainScreenOpensTheListAndTakesItBack() {
+        UnloadScreen<frmDecks>();
+        frmMainScreen& main = Get<frmMainScreen>();
+        main.Show();
+        main.lblButton_Click(5);
+        QVERIFY(!main.Visible());
+        QVERIFY(IsLoaded<frmDecks>() && Get<frmDecks>().Visible());
+        Get<frmDecks>().cmdClose_Click();
+        QVERIFY(!IsLoaded<frmDecks>());
+        QVERIFY(main.Visible());
     }
 
     void deletingEveryDeckEmptiesTheInfo() {
