@@ -63,7 +63,7 @@ void DeckScreen::OpenDeck(bool existingDeck, bool skipDefaultReversed) {
     if (existingDeck) CopyDeckIn(skipDefaultReversed);
     FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
     FillDeckFields();
-    UpdateCardButtons();
+    RefreshCardList();
 }
 
 void DeckScreen::CopyDeckIn(bool skipDefaultReversed) {
@@ -73,7 +73,6 @@ void DeckScreen::CopyDeckIn(bool skipDefaultReversed) {
     while (seen < CurrentDeck.CardCount && reader.Next(card)) {
         if (card.CardDeckId != CurrentDeck.DeckId) continue;
         ++seen;
-        lstCards->addItem(card.CardTitle.Value());
         FileCopy(CardsDir + card.CardPicture[0].Value(), TempDir + card.CardPicture[0].Value());
         if (!skipDefaultReversed || card.CardPicture[1].Value() != DefaultPictureName)
             FileCopy(CardsDir + card.CardPicture[1].Value(), TempDir + card.CardPicture[1].Value());

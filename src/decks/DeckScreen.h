@@ -46,7 +46,9 @@ protected:
 
     // The opening common to both: note the deck list's line, centre, empty
     // Temp/, copy the deck's files in (for an existing deck), put the default
-    // picture beside them and fill the fields.
+    // picture beside them, fill the fields and list the cards in memory. The
+    // list comes from DeckCards even when nothing was copied in, so a deck
+    // viewed without its files still lists its cards, on default pictures.
     void OpenDeck(bool existingDeck, bool skipDefaultReversed);
     void Form_Unload(bool& cancel) override;
     // Enables or disables the card commands by the list's selection.
@@ -54,7 +56,7 @@ protected:
 
 private:
     // The working copies of an existing deck's files: every card of the deck
-    // in Cards.crd gives its line in the list and its files in Temp/. The
+    // in Cards.crd gives its files in Temp/. The
     // designer leaves a reversed side on the default picture where it is;
     // the viewer copies it like any other.
     void CopyDeckIn(bool skipDefaultReversed);
