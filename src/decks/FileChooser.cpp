@@ -38,10 +38,15 @@ FileChooser::FileChooser(const QString& kindWord, const QString& pattern, Choose
     connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
 }
 
+void FileChooser::ShowFor(int code) {
+    GetPictureCode = code;
+    setCaption(QStringLiteral("Select ") + (code == 2 ? QStringLiteral("Reversed") : QStringLiteral("Upright")) +
+               QStringLiteral(" ") + kindWord_);
+    Show(true);
+}
+
 void FileChooser::Form_Load() {
     CentreInFrame(*this);
-    setCaption(QStringLiteral("Select ") + (GetPictureCode == 2 ? QStringLiteral("Reversed") : QStringLiteral("Upright")) +
-               QStringLiteral(" ") + kindWord_);
     // A first use in the run starts in the user's home folder.
     const QString folder = memory_.Folder.isEmpty() ? QDir::homePath() : memory_.Folder;
     try {

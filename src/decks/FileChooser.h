@@ -18,8 +18,10 @@ struct ChooserMemory;
 class FileChooser : public Form {
     Q_OBJECT
 public:
-    // 1: the upright side, 2: the reversed side. Set before showing.
+    // 1: the upright side, 2: the reversed side.
     int GetPictureCode = 1;
+    // Sets the side and shows the chooser modally, captioned for that side.
+    void ShowFor(int code);
 
     DriveListBox* drvSelection;
     DirListBox* dirSelection;

@@ -112,14 +112,12 @@ void frmAddCard::lstCardType_Click() {
 void frmAddCard::imgCard_Click() { cmdEditImage_Click(); }
 
 void frmAddCard::cmdEditImage_Click() {
-    Get<frmGetImageFile>().GetPictureCode = optUpright->isChecked() ? 1 : 2;
-    Get<frmGetImageFile>().Show(true);
+    Get<frmGetImageFile>().ShowFor(optUpright->isChecked() ? 1 : 2);
 }
 
 void frmAddCard::cmdGetSound_Click() {
-    Get<frmGetSoundFile>().GetPictureCode = optUpright->isChecked() ? 1 : 2;
     MediaPlayer1->Close();
-    Get<frmGetSoundFile>().Show(true);
+    Get<frmGetSoundFile>().ShowFor(optUpright->isChecked() ? 1 : 2);
     UpdateSound();
 }
 

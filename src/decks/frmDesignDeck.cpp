@@ -109,8 +109,7 @@ void frmDesignDeck::cmdAddCard_Click() {
     ResetCard(CurrentCard);
     Get<frmAddCard>().Show();
     // The upright picture is asked at once, over the card editor.
-    Get<frmGetImageFile>().GetPictureCode = 1;
-    Get<frmGetImageFile>().Show(true);
+    Get<frmGetImageFile>().ShowFor(1);
     bool picked = ImageSelected;
     if (picked) {
         if (!CurrentDeck.IncludesReversed) {
@@ -118,8 +117,7 @@ void frmDesignDeck::cmdAddCard_Click() {
             CurrentCard.CardPicture[1] = DefaultPictureName;
             FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
         } else {
-            Get<frmGetImageFile>().GetPictureCode = 2;
-            Get<frmGetImageFile>().Show(true);
+            Get<frmGetImageFile>().ShowFor(2);
             picked = ImageSelected;
         }
     }

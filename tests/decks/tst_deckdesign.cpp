@@ -136,7 +136,10 @@ private slots:
         {
             OnEachShowing<frmGetImageFile> pictures({
                 Pick<frmGetImageFile>(src_, QStringLiteral("fool_up.bmp")),
-                Pick<frmGetImageFile>(src_, QStringLiteral("fool_rev.bmp")),
+                [this](frmGetImageFile& c) {
+                    QCOMPARE(c.Caption(), QStringLiteral("Select Reversed Image"));
+                    PickFile(c, src_, QStringLiteral("fool_rev.bmp"));
+                },
                 Pick<frmGetImageFile>(src_, QStringLiteral("mage_up.jpg")),
                 Pick<frmGetImageFile>(src_, QStringLiteral("mage_rev.bmp")),
                 Pick<frmGetImageFile>(src_, QStringLiteral("cups_up.gif")),
