@@ -42,6 +42,7 @@ CardScreen::CardScreen(const QString& captionStem, bool editing) : captionStem_(
         auto* box = new QPlainTextEdit(this);
         box->setObjectName(QLatin1String(name));
         box->setReadOnly(!editing);
+        box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         box->setGeometry(At(240, top + 300, 5520, height));
         return box;
     };

@@ -36,12 +36,14 @@ DeckScreen::DeckScreen(const QString& captionStem, bool designing) : captionStem
     txtDeckDescription = new QPlainTextEdit(this);
     txtDeckDescription->setObjectName(QStringLiteral("txtDeckDescription"));
     txtDeckDescription->setReadOnly(!designing);
+    txtDeckDescription->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     txtDeckDescription->setGeometry(At(240, 2940, 5160, 2400));
 
     MakeLabel(this, QStringLiteral("Cards:"), At(5640, 240, 3240, 285));
     lstCards = new QListWidget(this);
     lstCards->setObjectName(QStringLiteral("lstCards"));
     lstCards->setSortingEnabled(true);
+    lstCards->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstCards->setGeometry(At(5640, 540, 3240, 3960));
 
     cmdEditCard = MakeButton(this, "cmdEditCard", designing ? QStringLiteral("&Edit") : QStringLiteral("&View"),

@@ -15,6 +15,7 @@ frmBrowseDeck::frmBrowseDeck() {
     lstDecks = new QListWidget(this);
     lstDecks->setObjectName(QStringLiteral("lstDecks"));
     lstDecks->setSortingEnabled(true);
+    lstDecks->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstDecks->setGeometry(At(240, 420, 4080, 2940));
     cmdSelect = MakeButton(this, "cmdSelect", QStringLiteral("&Select"), At(1200, 3540, 1500, 420));
     cmdCancel = MakeButton(this, "cmdCancel", QStringLiteral("&Cancel"), At(2820, 3540, 1500, 420));

@@ -31,6 +31,7 @@ frmDecks::frmDecks() {
     lstDecks = new QListWidget(this);
     lstDecks->setObjectName(QStringLiteral("lstDecks"));
     lstDecks->setSortingEnabled(true);
+    lstDecks->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstDecks->setGeometry(At(240, 420, 3600, 3600));
 
     fraQuickInfo = new QGroupBox(QStringLiteral(" Brief Info "), this);

@@ -26,6 +26,7 @@ frmSaveDeck::frmSaveDeck() {
     lstDeckNames = new QListWidget(this);
     lstDeckNames->setObjectName(QStringLiteral("lstDeckNames"));
     lstDeckNames->setSortingEnabled(true);
+    lstDeckNames->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstDeckNames->setGeometry(At(240, 900, 4680, 2820));
     cmdSave = MakeButton(this, "cmdSave", QStringLiteral("&Save"), At(1800, 3900, 1500, 420));
     cmdCancel = MakeButton(this, "cmdCancel", QStringLiteral("&Cancel"), At(3420, 3900, 1500, 420));
