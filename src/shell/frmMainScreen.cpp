@@ -16,6 +16,7 @@
 #include "readings/frmNewReading.h"
 #include "readings/frmOpenReading.h"
 #include "readings/frmSelectSpread.h"
+#include "decks/frmDecks.h"
 #include "shell/ClickLabel.h"
 #include "shell/ImageBox.h"
 #include "shell/MDIMainForm.h"
@@ -263,9 +264,12 @@ void frmMainScreen::OpenFirstLevelScreen(int Index) {
         Get<frmNewReading>().Show();
         Get<frmOpenReading>().Show(true);
         break;
+    case 5:   // frmDecks
+        Hide();
+        Get<frmDecks>().Show();
+        break;
     case 3:   // a new diary entry: frmNewDiary, with frmSelectSpreadforDiary over it
     case 4:   // a saved diary entry: frmNewDiary, with frmOpenDiary over it
-    case 5:   // frmDecks
     case 6:   // frmSpreads
     case 7:   // frmInstallPackage
     case 8:   // frmCreatePackage

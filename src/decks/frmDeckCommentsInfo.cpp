@@ -1,0 +1,5 @@
+#include "decks/frmDeckCommentsInfo.h"
+
+frmDeckCommentsInfo::frmDeckCommentsInfo() : DeckNotesPanel(false) {
+    setObjectName(QStringLiteral("frmDeckCommentsInfo"));
+}

@@ -1,0 +1,62 @@
+#include "decks/frmGetImageFile.h"
+
+#include <QCheckBox>
+
+#include "decks/frmAddCard.h"
+#include "decks/mdlDeckDesign.h"
+#include "platform/FileLists.h"
+#include "platform/FileSys.h"
+#include "shell/FitPicture.h"
+#include "shell/ImageBox.h"
+#include "store/mdlVariables.h"
+
+frmGetImageFile::frmGetImageFile()
+    : FileChooser(QStringLiteral("Image"), QStringLiteral("*.bmp;*.jpg;*.gif"), RememberedPictureFolder()) {
+    setObjectName(QStringLiteral("frmGetImageFile"));
+    chkPreview = new QCheckBox(QStringLiteral("&Preview"), this);
+    chkPreview->setObjectName(QStringLiteral("chkPreview"));
+    chkPreview->setChecked(true);
+    chkPreview->setGeometry(At(6000, 120, 2160, 300));
+    imgCard = new ImageBox(this);
+    imgCard->setObjectName(QStringLiteral("imgCard"));
+    imgCard->Move(6000, 480, 2160, 3000);
+    connect(chkPreview, &QCheckBox::clicked, this, Handler([this] { chkPreview_Click(); }));
+}
+
+void frmGetImageFile::Form_Load() {
+    IMGTop = imgCard->Top();
+    IMGLeft = imgCard->Left();
+    IMGHeight = imgCard->Height();
+    IMGWidth = imgCard->Width();
+    FileChooser::Form_Load();
+}
+
+void frmGetImageFile::ClearSelectedFile() { imgCard->ClearPicture(); }
+
+void frmGetImageFile::ShowSelectedFile(const QString& path) {
+    if (!chkPreview->isChecked()) return;
+    imgCard->ClearPicture();
+    imgCard->Move(IMGLeft, IMGTop, IMGWidth, IMGHeight);
+    FitPicture(*imgCard, path, true, false);
+}
+
+void frmGetImageFile::chkPreview_Click() {
+    if (!chkPreview->isChecked()) {
+        ClearSelectedFile();
+        return;
+    }
+    if (!filSelection->FileName().isEmpty()) ShowSelectedFile(SelectedFile(GetPictureCode == 2 ? 1 : 0));
+}
+
+void frmGetImageFile::TakeFile(int side, const QString& source) {
+    QString& working = side == 0 ? UprightPictureFile : ReversedPictureFile;
+    working = (side == 0 ? UprightPictureStem : ReversedPictureStem) + source.right(4);
+    FileCopy(source, TempDir + working);
+    if (IsLoaded<frmAddCard>()) {
+        frmAddCard& editor = Get<frmAddCard>();
+        editor.DesignModified = true;
+        editor.UpdatePictures();
+    }
+}
+
+void frmGetImageFile::ReportSelected(bool selected) { ImageSelected = selected; }

@@ -1,0 +1,30 @@
+#include "decks/frmGetSoundFile.h"
+
+#include "decks/frmAddCard.h"
+#include "decks/mdlDeckDesign.h"
+#include "platform/FileSys.h"
+#include "platform/MediaPlayer.h"
+#include "store/mdlVariables.h"
+
+frmGetSoundFile::frmGetSoundFile()
+    : FileChooser(QStringLiteral("Sound"), QStringLiteral("*.mp3;*.wav"), RememberedSoundFolder()) {
+    setObjectName(QStringLiteral("frmGetSoundFile"));
+    MakeLabel(this, QStringLiteral("Play Sound"), At(6000, 120, 2160, 255));
+    MediaPlayer1 = new MediaPlayer(this);
+    MediaPlayer1->setObjectName(QStringLiteral("MediaPlayer1"));
+    MediaPlayer1->setGeometry(At(6000, 420, 2160, 480));
+}
+
+void frmGetSoundFile::ShowSelectedFile(const QString& path) { MediaPlayer1->Open(path, false); }
+
+void frmGetSoundFile::ClearSelectedFile() { MediaPlayer1->Close(); }
+
+void frmGetSoundFile::TakeFile(int side, const QString& source) {
+    MediaPlayer1->Close();
+    QString& working = side == 0 ? UprightSoundFile : ReversedSoundFile;
+    working = (side == 0 ? UprightSoundStem : ReversedSoundStem) + source.right(4);
+    FileCopy(source, TempDir + working);
+    if (IsLoaded<frmAddCard>()) Get<frmAddCard>().TakeWorkingSound(side, working);
+}
+
+void frmGetSoundFile::ReportSelected(bool selected) { SoundSelected = selected; }

@@ -1,0 +1,20 @@
+#pragma once
+// "View Card": the read-only twin of the card editor. Shows both sides of
+// CurrentCard with their pictures and sounds from Temp/.
+#include "decks/CardScreen.h"
+
+class frmViewCard : public CardScreen {
+    Q_OBJECT
+public:
+    frmViewCard();
+
+    QLineEdit* txtCardType;
+
+    void cmdBack_Click();
+
+protected:
+    void Form_Load() override;
+    void Form_QueryUnload(bool& cancel, int unloadMode) override;
+    void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
+    void ShowCardType() override;
+};

@@ -1,0 +1,134 @@
+#include "decks/mdlDeckDesign.h"
+
+#include <QFocusEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+#include "platform/FileSys.h"
+#include "store/mdlSubRoutines.h"
+
+QString UprightPictureFile;
+QString ReversedPictureFile;
+QString UprightSoundFile;
+QString ReversedSoundFile;
+bool ImageSelected = false;
+bool SoundSelected = false;
+
+ChooserMemory& RememberedPictureFolder() {
+    static ChooserMemory memory;
+    return memory;
+}
+
+ChooserMemory& RememberedSoundFolder() {
+    static ChooserMemory memory;
+    return memory;
+}
+
+QString CardPictureStem(int side, int number) {
+    return side == 0 ? CardUprightName(number) : CardReversedName(number);
+}
+
+namespace {
+
+// Whether a file name carries the stem: "stem", "stem.ext", or the stem with
+// a four-character extension that lost its dot.
+bool CarriesStem(const QString& name, const QString& stem) {
+    if (!name.startsWith(stem, Qt::CaseInsensitive)) return false;
+    const qsizetype rest = name.size() - stem.size();
+    return rest == 0 || name.at(stem.size()) == QLatin1Char('.') || rest == 4;
+}
+
+}  // namespace
+
+int FreeCardNumber(int side, const QStringList& folders, int from) {
+    // One listing per folder answers every candidate.
+    QStringList names;
+    const QString prefix = side == 0 ? QStringLiteral("CU") : QStringLiteral("CR");
+    for (const QString& folder : folders)
+        for (const QString& name : Dir(AddTrailingBackslash(folder) + QStringLiteral("*")))
+            if (name.startsWith(prefix, Qt::CaseInsensitive)) names.append(name);
+    for (int n = from;; ++n) {
+        const QString stem = CardPictureStem(side, n);
+        bool taken = false;
+        for (const QString& name : names) {
+            if (CarriesStem(name, stem)) {
+                taken = true;
+                break;
+            }
+        }
+        if (!taken) return n;
+    }
+}
+
+void ResetDeckDesignState() {
+    UprightPictureFile.clear();
+    ReversedPictureFile.clear();
+    UprightSoundFile.clear();
+    ReversedSoundFile.clear();
+    ImageSelected = false;
+    SoundSelected = false;
+    RememberedPictureFolder() = ChooserMemory{};
+    RememberedSoundFolder() = ChooserMemory{};
+}
+
+QPushButton* MakeButton(QWidget* parent, const char* name, const QString& caption, const QRect& where) {
+    auto* button = new QPushButton(caption, parent);
+    button->setObjectName(QLatin1String(name));
+    button->setGeometry(where);
+    button->setAutoDefault(false);
+    return button;
+}
+
+QLabel* MakeLabel(QWidget* parent, const QString& caption, const QRect& where, const char* name) {
+    auto* label = new QLabel(caption, parent);
+    if (name) label->setObjectName(QLatin1String(name));
+    label->setGeometry(where);
+    return label;
+}
+
+int ListIndex(const QListWidget* list) {
+    const int row = list->currentRow();
+    if (row < 0) return -1;
+    const QListWidgetItem* item = list->item(row);
+    return item && item->isSelected() ? row : -1;
+}
+
+QString SelectedLine(const QListWidget* list) {
+    const int row = ListIndex(list);
+    return row < 0 ? QString() : list->item(row)->text();
+}
+
+void SetListIndex(QListWidget* list, int index) {
+    const QSignalBlocker quiet(list);
+    if (index < 0 || index >= list->count()) {
+        list->setCurrentRow(-1);
+        list->clearSelection();
+        return;
+    }
+    list->setCurrentRow(index);
+    list->item(index)->setSelected(true);
+}
+
+int FindLine(const QListWidget* list, const QString& name) {
+    const QString wanted = TrimField(name);
+    for (int i = 0; i < list->count(); ++i)
+        if (TrimField(list->item(i)->text()) == wanted) return i;
+    return -1;
+}
+
+bool ClipText(QPlainTextEdit* box, int limit) {
+    const QString text = box->toPlainText();
+    if (text.size() <= limit) return false;
+    const QSignalBlocker quiet(box);
+    box->setPlainText(text.left(limit));
+    box->moveCursor(QTextCursor::End);
+    return true;
+}
+
+void FocusComboBox::focusInEvent(QFocusEvent* e) {
+    QComboBox::focusInEvent(e);
+    emit GotFocus();
+}

@@ -1,0 +1,266 @@
+// The rules of the designer and the card editor, and what bad input meets:
+// the card limit, blank and duplicate titles, cancelled picks, a file that is
+// no picture, a source with a four-letter extension, a deck without reversed
+// cards, the properties fixed once configured, and the questions on leaving.
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "DeckDriver.h"
+#include "decks/frmAddCard.h"
+#include "decks/frmDeckCardProperties.h"
+#include "decks/frmDeckCardPropertiesInfo.h"
+#include "decks/frmDeckInfo.h"
+#include "decks/frmDecks.h"
+#include "decks/frmDesignDeck.h"
+#include "decks/frmGetImageFile.h"
+#include "decks/mdlDeckDesign.h"
+#include "platform/MediaPlayer.h"
+#include "platform/MsgBox.h"
+#include "store/Startup.h"
+#include "store/mdlSubRoutines.h"
+#include "support/Fixtures.h"
+
+class TestCardRules : public QObject {
+    Q_OBJECT
+    QTemporaryDir program_;
+    QTemporaryDir sources_;
+    QString src_;
+
+    // Opens a saved deck in the designer as the deck list does.
+    static frmDesignDeck& Design(const QString& name) {
+        GetRecord(DecksPath, FindDeckByName(name), ListDeck);
+        bool removed = false;
+        if (!LoadDeck(removed)) qFatal("deck did not load");
+        DesignMode = 0;
+        return Get<frmDesignDeck>();
+    }
+
+    static void Leave() {
+        if (IsLoaded<frmDesignDeck>()) {
+            MsgBoxScript::Answer(vbNo);
+            Get<frmDesignDeck>().cmdBack_Click();
+        }
+        UnloadScreen<frmDecks>();
+        MsgBoxScript::Clear();
+    }
+
+    static QString LastPrompt() {
+        return MsgBoxScript::History().isEmpty() ? QString() : MsgBoxScript::History().last().prompt;
+    }
+
+private slots:
+    void initTestCase() {
+        MsgBoxScript::Enable();
+        MediaPlayerScript::Enable();
+        SetEndProcessHook([](int code) { QFAIL(qPrintable(QStringLiteral("process ended with %1").arg(code))); });
+        Fixtures::UseProgramDir(program_.path());
+        ResetDeckDesignState();
+        src_ = sources_.path();
+        Fixtures::WritePicture(src_ + QStringLiteral("/good.bmp"), Qt::green);
+        WriteWholeFile(src_ + QStringLiteral("/broken.bmp"), QByteArray("this is no picture"));
+        Fixtures::MakeDeck(QStringLiteral("Full"), MaxDeckCards, false);
+        Fixtures::MakeDeck(QStringLiteral("Plain"), 2, false);
+    }
+
+    void cleanup() { Leave(); }
+
+    void theHundredAndFirstCardIsRefused() {
+        frmDesignDeck& designer = Design(QStringLiteral("Full"));
+        OnEachShowing<frmGetImageFile> none({});
+        designer.cmdAddCard_Click();
+        QCOMPARE(LastPrompt(), QStringLiteral("The number of cards in a deck cannot exceed 100."));
+        QCOMPARE(MsgBoxScript::History().last().style, int(vbCritical));
+        QVERIFY(!IsLoaded<frmAddCard>());
+        QCOMPARE(none.Unexpected(), 0);
+        QCOMPARE(CurrentDeck.CardCount, MaxDeckCards);
+    }
+
+    void titlesMustBeFilledAndUnique() {
+        frmDesignDeck& designer = Design(QStringLiteral("Plain"));
+        OnEachShowing<frmGetImageFile> pick({Pick<frmGetImageFile>(src_, QStringLiteral("good.bmp"))});
+        designer.cmdAddCard_Click();
+        frmAddCard& editor = Get<frmAddCard>();
+        // A deck without reversed cards: only the upright picture is asked.
+        QVERIFY(!editor.optReversed->isEnabled());
+        QCOMPARE(CurrentCard.CardPicture[1].Value(), DefaultPictureName);
+        QCOMPARE(pick.Remaining(), 0);
+
+        editor.txtCardTitle->setText(QStringLiteral("   "));
+        editor.cmdSaveClose_Click();
+        QCOMPARE(LastPrompt(), QStringLiteral("Please enter a title for this card."));
+        QVERIFY(!editor.SaveSuccessful);
+        editor.txtCardTitle->setText(QStringLiteral(" Card 1  "));
+        editor.cmdSaveClose_Click();
+        QCOMPARE(LastPrompt(), QStringLiteral("You already have a card with the same title. Please change the title."));
+        QVERIFY(IsLoaded<frmAddCard>());
+        QCOMPARE(CurrentDeck.CardCount, 2);
+
+        editor.txtCardTitle->setText(QStringLiteral("Card 3"));
+        editor.cmdSaveClose_Click();
+        QCOMPARE(CurrentDeck.CardCount, 3);
+        QCOMPARE(CurrentDeck.DeckCards(3).CardPicture[1].Value(), DefaultPictureName);
+
+        // Deleting a card moves the later ones up by one.
+        ClickLine(designer.lstCards, QStringLiteral("Card 1"));
+        MsgBoxScript::Answer(vbYes);
+        designer.cmdDeleteCard_Click();
+        QCOMPARE(CurrentDeck.CardCount, 2);
+        QCOMPARE(CurrentDeck.DeckCards(1).CardTitle.Trimmed(), QStringLiteral("Card 2"));
+        QCOMPARE(CurrentDeck.DeckCards(2).CardTitle.Trimmed(), QStringLiteral("Card 3"));
+        QVERIFY(!designer.cmdDeleteCard->isEnabled());
+    }
+
+    void cancelledPicksLeaveNothingBehind() {
+        // A new deck: reversed cards, so both pictures are asked.
+        OnEachShowing<frmDeckCardProperties> properties({[](frmDeckCardProperties& p) { p.cmdClose_Click(); }});
+        Get<frmDecks>().cmdDesign_Click();
+        frmDesignDeck& designer = Get<frmDesignDeck>();
+        {
+            OnEachShowing<frmGetImageFile> cancel({Pick<frmGetImageFile>(src_, QString())});
+            designer.cmdAddCard_Click();
+        }
+        QVERIFY(!IsLoaded<frmAddCard>());
+        {
+            OnEachShowing<frmGetImageFile> half({Pick<frmGetImageFile>(src_, QStringLiteral("good.bmp")),
+                                                 Pick<frmGetImageFile>(src_, QString())});
+            designer.cmdAddCard_Click();
+            QCOMPARE(half.Remaining(), 0);
+        }
+        QVERIFY(!IsLoaded<frmAddCard>());
+        QCOMPARE(CurrentDeck.CardCount, 0);
+        QVERIFY(!designer.DesignModified);
+    }
+
+    void aFileThatIsNoPictureShowsTheDefault() {
+        frmDesignDeck& designer = Design(QStringLiteral("Plain"));
+        MsgBoxScript::Clear();
+        {
+            OnEachShowing<frmGetImageFile> pick({Pick<frmGetImageFile>(src_, QStringLiteral("broken.bmp"))});
+            designer.cmdAddCard_Click();
+        }
+        QVERIFY(LastPrompt().startsWith(QLatin1String("Error while loading the picture. A default picture is selected instead.")));
+        Get<frmAddCard>().txtCardTitle->setText(QStringLiteral("Broken"));
+        Get<frmAddCard>().cmdSaveClose_Click();
+        // The deck's own pictures are CU00101 and CU00102: the first free
+        // number in Temp/ is 1.
+        QCOMPARE(CurrentDeck.DeckCards(3).CardPicture[0].Trimmed(), QStringLiteral("CU00001.bmp"));
+        QVERIFY(FileExists(TempDir + QStringLiteral("CU00001.bmp")));
+    }
+
+    void aFourLetterExtensionLosesItsDotButKeepsItsOwnNumber() {
+        frmDesignDeck& designer = Design(QStringLiteral("Plain"));
+        for (const QString& title : {QStringLiteral("Wide 1"), QStringLiteral("Wide 2")}) {
+            // What the chooser leaves for a source named "photo.jpeg".
+            DesignMode = 1;
+            ResetCard(CurrentCard);
+            frmAddCard& editor = Get<frmAddCard>();
+            UprightPictureFile = UprightPictureStem + QStringLiteral("jpeg");
+            Fixtures::WritePicture(TempDir + UprightPictureFile);
+            editor.txtCardTitle->setText(title);
+            editor.cmdSaveClose_Click();
+        }
+        QCOMPARE(CurrentDeck.DeckCards(3).CardPicture[0].Value(), QStringLiteral("CU00001jpeg "));
+        QCOMPARE(CurrentDeck.DeckCards(4).CardPicture[0].Value(), QStringLiteral("CU00002jpeg "));
+        QVERIFY(FileExists(TempDir + QStringLiteral("CU00001jpeg")));
+        QCOMPARE(designer.lstCards->count(), 4);
+    }
+
+    void propertiesAreFixedOnceConfigured() {
+        // A new deck: open until the first close.
+        {
+            OnEachShowing<frmDeckCardProperties> first({[](frmDeckCardProperties& p) {
+                p.txtCardTypeName[0]->setText(QStringLiteral("Major"));
+                p.txtCardTypeName[1]->setText(QStringLiteral("Major "));
+                p.txtCardTypeName[2]->setText(QStringLiteral(""));
+                QVERIFY(!p.chkType[2]->isChecked());
+                p.chkType[3]->click();   // a type without a name can't be used
+                QVERIFY(!p.chkType[3]->isChecked());
+                p.cmdClose_Click();
+                QCOMPARE(LastPrompt(), QStringLiteral("The names you chose for the types are not unique. Please change duplicate names."));
+                QVERIFY(IsLoaded<frmDeckCardProperties>());
+                p.txtCardTypeName[1]->setText(QStringLiteral("Minor"));
+                p.chkUseReversed->click();
+                p.cmdClose_Click();
+            }});
+            Get<frmDecks>().cmdDesign_Click();
+            QCOMPARE(first.Remaining(), 0);
+            QVERIFY(!IsLoaded<frmDeckCardProperties>());
+            QCOMPARE(CurrentDeck.CardTypeName[1].Trimmed(), QStringLiteral("Minor"));
+            QCOMPARE(CurrentDeck.IncludesReversed, False16);
+            QVERIFY(Get<frmDesignDeck>().DesignModified);
+        }
+        Leave();
+
+        // An existing deck: only the display of titles changes.
+        Design(QStringLiteral("Plain"));
+        {
+            OnEachShowing<frmDeckCardProperties> fixed({[](frmDeckCardProperties& p) {
+                QVERIFY(p.txtCardTypeName[0]->isReadOnly());
+                p.chkUseReversed->click();
+                p.chkType[0]->click();
+                p.chkDisplay->click();
+                QVERIFY(!p.chkUseReversed->isChecked());
+                QVERIFY(p.chkType[0]->isChecked());
+                p.cmdClose_Click();
+            }});
+            Get<frmDesignDeck>().cmdProperties_Click();
+            QCOMPARE(fixed.Remaining(), 0);
+            QCOMPARE(CurrentDeck.DisplayCardTitles, False16);
+            QCOMPARE(CurrentDeck.IncludesReversed, False16);
+        }
+        Leave();
+
+        // The viewer's twin puts every check back.
+        GetRecord(DecksPath, FindDeckByName(QStringLiteral("Plain")), ListDeck);
+        bool removed = false;
+        QVERIFY(LoadDeck(removed));
+        OnEachShowing<frmDeckCardPropertiesInfo> info({[](frmDeckCardPropertiesInfo& p) {
+            p.chkDisplay->click();
+            p.chkType[1]->click();
+            QVERIFY(p.chkDisplay->isChecked());
+            QVERIFY(p.chkType[1]->isChecked());
+            p.cmdClose_Click();
+        }});
+        Get<frmDeckInfo>().cmdProperties_Click();
+        QCOMPARE(info.Remaining(), 0);
+        Get<frmDeckInfo>().cmdBack_Click();
+    }
+
+    void leavingAsksAboutUnsavedWork() {
+        frmDesignDeck& designer = Design(QStringLiteral("Plain"));
+        ClickLine(designer.lstCards, QStringLiteral("Card 2"));
+        designer.cmdEditCard_Click();
+        frmAddCard& editor = Get<frmAddCard>();
+        QVERIFY(!editor.DesignModified);
+        editor.txtKeywords->setPlainText(QStringLiteral("changed"));
+        MsgBoxScript::Answer(vbCancel);
+        editor.cmdBack_Click();
+        QCOMPARE(LastPrompt(), QStringLiteral("Save changes to the card?"));
+        QVERIFY(IsLoaded<frmAddCard>());
+        MsgBoxScript::Answer(vbNo);
+        editor.cmdBack_Click();
+        QVERIFY(!IsLoaded<frmAddCard>());
+        QCOMPARE(CurrentDeck.DeckCards(2).CardKeywords[0].Trimmed(), QStringLiteral("upright keywords 2"));
+
+        designer.txtDeckTitle->setText(QStringLiteral("Plain, retitled"));
+        MsgBoxScript::Answer(vbCancel);
+        designer.cmdBack_Click();
+        QCOMPARE(LastPrompt(), QStringLiteral("Save changes to the deck?"));
+        QVERIFY(IsLoaded<frmDesignDeck>());
+        MsgBoxScript::Answer(vbNo);
+        designer.cmdBack_Click();
+        QVERIFY(!IsLoaded<frmDesignDeck>());
+        QVERIFY(FilesIn(TempDir).isEmpty());
+        GetRecord(DecksPath, FindDeckByName(QStringLiteral("Plain")), ListDeck);
+        QCOMPARE(ListDeck.DeckTitle.Trimmed(), QStringLiteral("Plain"));
+    }
+};
+
+QTEST_MAIN(TestCardRules)
+#include "tst_cardrules.moc"

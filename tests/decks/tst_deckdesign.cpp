@@ -1,0 +1,334 @@
+// A deck designed through the screens from start to end: three cards with
+// reversed sides and one sound, pictures picked from files on the disk,
+// saved, listed, reopened with every field intact, edited, saved over itself
+// and under a second name, viewed, and dealt from.
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "DeckDriver.h"
+#include "decks/frmAddCard.h"
+#include "decks/frmDeckCardProperties.h"
+#include "decks/frmDeckInfo.h"
+#include "decks/frmDecks.h"
+#include "decks/frmDesignDeck.h"
+#include "decks/frmGetImageFile.h"
+#include "decks/frmGetSoundFile.h"
+#include "decks/frmSaveDeck.h"
+#include "decks/frmViewCard.h"
+#include "decks/mdlDeckDesign.h"
+#include "platform/MediaPlayer.h"
+#include "platform/MsgBox.h"
+#include "shell/ImageBox.h"
+#include "store/Startup.h"
+#include "store/mdlSubRoutines.h"
+#include "support/Fixtures.h"
+
+namespace {
+
+const QColor FoolUp(200, 0, 0), FoolRev(0, 0, 200), MageRev(0, 160, 0), CupsRev(120, 0, 120), NewMage(250, 250, 0);
+
+// A 1 x 1 red GIF, as Qt writes no GIF.
+QByteArray RedGif() {
+    return QByteArray::fromHex("4749463839610100010080000" "0ff000000000021f9040100000000"
+                               "2c00000000010001000002024401003b");
+}
+
+QSet<QString> Snapshot(const QString& folder) {
+    QSet<QString> entries;
+    for (const QFileInfo& f : QDir(folder).entryInfoList(QDir::Files))
+        entries.insert(f.fileName() + QLatin1Char('|') + QString::number(f.size()) + QLatin1Char('|') +
+                       f.lastModified().toString(Qt::ISODateWithMs));
+    return entries;
+}
+
+}  // namespace
+
+class TestDeckDesign : public QObject {
+    Q_OBJECT
+    QTemporaryDir program_;
+    QTemporaryDir sources_;
+    QString src_;
+
+    void VerifyCardsFolder() {
+        QCOMPARE(FilesIn(CardsDir), FilesNamedByCards());
+        for (const QString& name : FilesNamedByCards()) QVERIFY2(FileExists(CardsDir + name), qPrintable(name));
+    }
+
+    // Fills the open card editor: title, type, both sides' texts.
+    static void FillCard(frmAddCard& editor, const QString& title, const QString& type, const QString& up,
+                         const QString& rev) {
+        editor.txtCardTitle->setText(title);
+        ClickLine(editor.lstCardType, type);
+        editor.txtDescription->setPlainText(up + QStringLiteral(" meaning"));
+        editor.txtKeywords->setPlainText(up + QStringLiteral(" words"));
+        editor.optReversed->click();
+        editor.txtDescription->setPlainText(rev + QStringLiteral(" meaning"));
+        editor.txtKeywords->setPlainText(rev + QStringLiteral(" words"));
+        editor.optUpright->click();
+    }
+
+    static void SaveAs(const QString& name) {
+        OnEachShowing<frmSaveDeck> save({[name](frmSaveDeck& s) {
+            s.txtSaveAs->setText(name);
+            s.cmdSave_Click();
+        }});
+        Get<frmDesignDeck>().cmdSave_Click();
+        QCOMPARE(save.Remaining(), 0);
+        QVERIFY(!IsLoaded<frmSaveDeck>());
+    }
+
+private slots:
+    void initTestCase() {
+        MsgBoxScript::Enable();
+        MediaPlayerScript::Enable();
+        SetEndProcessHook([](int code) { QFAIL(qPrintable(QStringLiteral("process ended with %1").arg(code))); });
+        Fixtures::UseProgramDir(program_.path());
+        ResetDeckDesignState();
+        src_ = sources_.path();
+        Fixtures::WritePicture(src_ + QStringLiteral("/fool_up.bmp"), FoolUp);
+        Fixtures::WritePicture(src_ + QStringLiteral("/fool_rev.bmp"), FoolRev);
+        QImage green(8, 8, QImage::Format_RGB32);
+        green.fill(QColor(0, 200, 0));
+        QVERIFY(green.save(src_ + QStringLiteral("/mage_up.jpg"), "JPG"));
+        Fixtures::WritePicture(src_ + QStringLiteral("/mage_rev.bmp"), MageRev);
+        WriteWholeFile(src_ + QStringLiteral("/cups_up.gif"), RedGif());
+        Fixtures::WritePicture(src_ + QStringLiteral("/cups_rev.bmp"), CupsRev);
+        Fixtures::WritePicture(src_ + QStringLiteral("/mage_new.bmp"), NewMage);
+        WriteWholeFile(src_ + QStringLiteral("/bell.wav"), QByteArray("RIFF....WAVEfmt "));
+        WriteWholeFile(src_ + QStringLiteral("/notes.txt"), QByteArray("not listed"));
+    }
+
+    void designSaveReopenEditSaveTwiceViewAndDeal() {
+        const QSet<QString> sourcesBefore = Snapshot(src_);
+
+        // ---- A new deck: the properties come first.
+        OnEachShowing<frmDeckCardProperties> properties({[](frmDeckCardProperties& p) {
+            QVERIFY(p.chkUseReversed->isChecked());   // a new deck has reversed cards
+            QVERIFY(!p.txtCardTypeName[0]->isReadOnly());
+            p.txtCardTypeName[2]->setText(QStringLiteral("Court"));
+            QVERIFY(p.chkType[2]->isChecked());
+            p.cmdClose_Click();
+        }});
+        Get<frmDecks>().cmdDesign_Click();
+        QCOMPARE(properties.Remaining(), 0);
+        QVERIFY(!IsLoaded<frmDecks>());
+        frmDesignDeck& designer = Get<frmDesignDeck>();
+        QCOMPARE(designer.Caption(), QStringLiteral("Deck Design"));
+        QVERIFY(designer.DeckCardProperties_Configured);
+        QCOMPARE(CurrentDeck.CardTypeName[2].Trimmed(), QStringLiteral("Court"));
+        designer.txtDeckTitle->setText(QStringLiteral("Sea Tarot"));
+        designer.txtDeckDesigner->setText(QStringLiteral("Ann Reader"));
+        designer.txtDesignerEmail->setText(QStringLiteral("ann@example.org"));
+        designer.txtDesignerWebPage->setText(QStringLiteral("example.org/ann"));
+        designer.txtDeckDescription->setPlainText(QStringLiteral("Cards of the sea."));
+        QVERIFY(designer.DesignModified);
+
+        // ---- Three cards, each with both pictures asked at once; Save-New
+        // goes straight on to the next card.
+        frmAddCard* editor = nullptr;
+        {
+            OnEachShowing<frmGetImageFile> pictures({
+                Pick<frmGetImageFile>(src_, QStringLiteral("fool_up.bmp")),
+                [this](frmGetImageFile& c) {
+                    QCOMPARE(c.Caption(), QStringLiteral("Select Reversed Image"));
+                    PickFile(c, src_, QStringLiteral("fool_rev.bmp"));
+                },
+                Pick<frmGetImageFile>(src_, QStringLiteral("mage_up.jpg")),
+                Pick<frmGetImageFile>(src_, QStringLiteral("mage_rev.bmp")),
+                Pick<frmGetImageFile>(src_, QStringLiteral("cups_up.gif")),
+                Pick<frmGetImageFile>(src_, QStringLiteral("cups_rev.bmp")),
+            });
+            OnEachShowing<frmGetSoundFile> sounds({[this](frmGetSoundFile& s) {
+                QCOMPARE(s.Caption(), QStringLiteral("Select Upright Sound"));
+                s.dirSelection->setPath(src_);
+                QCOMPARE(s.filSelection->ListCount(), 1);   // only the patterns' files
+                PickFile(s, src_, QStringLiteral("bell.wav"));
+            }});
+            designer.cmdAddCard_Click();
+            editor = &Get<frmAddCard>();
+            QCOMPARE(UprightPictureFile, QStringLiteral("TempUp.bmp"));
+            QVERIFY(FileExists(TempDir + QStringLiteral("TempRev.bmp")));
+            FillCard(*editor, QStringLiteral("The Fool"), QStringLiteral("Major Arcana"), QStringLiteral("fool"),
+                     QStringLiteral("fool reversed"));
+            editor->cmdGetSound_Click();
+            QVERIFY(editor->MediaPlayer1->FileName().endsWith(QLatin1String("TsndUp.wav")));
+            QVERIFY(!editor->MediaPlayer1->IsPlaying());
+            editor->cmdSaveNew_Click();
+            QCOMPARE(CurrentDeck.CardCount, 1);
+            QCOMPARE(CurrentDeck.DeckCards(1).CardPicture[0].Value(), QStringLiteral("CU00001.bmp "));
+            QCOMPARE(CurrentDeck.DeckCards(1).CardSound[0].Trimmed(), QStringLiteral("MCU00001.wav"));
+            QVERIFY(!FileExists(TempDir + QStringLiteral("TsndUp.wav")));
+
+            editor = &Get<frmAddCard>();
+            FillCard(*editor, QStringLiteral("The Magician"), QStringLiteral("Major Arcana"), QStringLiteral("mage"),
+                     QStringLiteral("mage reversed"));
+            editor->cmdSaveNew_Click();
+            editor = &Get<frmAddCard>();
+            FillCard(*editor, QStringLiteral("Ace of Cups"), QStringLiteral("Court"), QStringLiteral("cups"),
+                     QStringLiteral("cups reversed"));
+            editor->cmdSaveClose_Click();
+            QCOMPARE(pictures.Remaining(), 0);
+            QCOMPARE(sounds.Remaining(), 0);
+        }
+        QVERIFY(!IsLoaded<frmAddCard>());
+        QCOMPARE(CurrentDeck.CardCount, 3);
+        QCOMPARE(designer.lstCards->count(), 3);
+        QCOMPARE(CurrentDeck.DeckCards(3).CardType, 2);
+        QCOMPARE(CurrentDeck.DeckCards(2).CardPicture[0].Value(), QStringLiteral("CU00002.jpg "));
+        QCOMPARE(CurrentDeck.DeckCards(3).CardPicture[1].Value(), QStringLiteral("CR00003.bmp "));
+
+        // ---- Saved, then listed.
+        SaveAs(QStringLiteral("Sea Tarot"));
+        QCOMPARE(CountDecks(), 1);
+        QCOMPARE(CountCards(), 3);
+        QVERIFY(!designer.DesignModified);
+        VerifyCardsFolder();
+        designer.cmdBack_Click();
+        QVERIFY(!IsLoaded<frmDesignDeck>());
+        frmDecks& decks = Get<frmDecks>();
+        QCOMPARE(SelectedLine(decks.lstDecks).trimmed(), QStringLiteral("Sea Tarot"));
+        QCOMPARE(decks.lblCardsField->text(), QStringLiteral("3"));
+        QCOMPARE(decks.lblDesignerNameField->text(), QStringLiteral("Ann Reader"));
+        QCOMPARE(decks.lblTitleField->text(), QStringLiteral("Sea Tarot"));
+        decks.cboCards_GotFocus();
+        QCOMPARE(decks.cboCards->count(), 3);
+        QCOMPARE(decks.cboCards->currentText(), QStringLiteral("Cards List"));
+
+        // ---- Reopened in the designer with every field intact.
+        decks.cmdEdit_Click();
+        frmDesignDeck& again = Get<frmDesignDeck>();
+        QCOMPARE(again.Caption(), QStringLiteral("Deck Design - Sea Tarot"));
+        QCOMPARE(again.txtDeckTitle->text(), QStringLiteral("Sea Tarot"));
+        QCOMPARE(again.txtDesignerEmail->text(), QStringLiteral("ann@example.org"));
+        QCOMPARE(again.txtDesignerWebPage->text(), QStringLiteral("example.org/ann"));
+        QCOMPARE(again.txtDeckDescription->toPlainText(), QStringLiteral("Cards of the sea."));
+        QCOMPARE(again.lstCards->count(), 3);
+        QVERIFY(!again.DesignModified);
+        // Saving drew names free in both Cards/ and Temp/.
+        QCOMPARE(CurrentDeck.DeckCards(1).CardSound[0].Trimmed(), QStringLiteral("MCU00004.wav"));
+        QVERIFY(FileExists(TempDir + QStringLiteral("MCU00004.wav")));
+        ClickLine(again.lstCards, QStringLiteral("The Fool"));
+        again.cmdEditCard_Click();
+        editor = &Get<frmAddCard>();
+        QCOMPARE(editor->Caption(), QStringLiteral("Add Card - The Fool"));
+        QCOMPARE(SelectedLine(editor->lstCardType), QStringLiteral("Major Arcana"));
+        QCOMPARE(editor->txtKeywords->toPlainText(), QStringLiteral("fool words"));
+        QVERIFY(editor->MediaPlayer1->FileName().endsWith(QLatin1String("MCU00004.wav")));
+        QCOMPARE(editor->imgCard->Image().pixelColor(0, 0), FoolUp);
+        editor->optReversed->click();
+        QVERIFY(!editor->DesignModified);   // looking at the other side changes nothing
+        QCOMPARE(editor->txtDescription->toPlainText(), QStringLiteral("fool reversed meaning"));
+        QCOMPARE(editor->imgCard->Image().pixelColor(0, 0), FoolRev);
+        QVERIFY(editor->MediaPlayer1->FileName().isEmpty());
+        editor->txtKeywords->setPlainText(QStringLiteral("fool reversed, edited"));
+        editor->cmdSaveClose_Click();
+        QCOMPARE(CurrentDeck.DeckCards(1).CardKeywords[1].Trimmed(), QStringLiteral("fool reversed, edited"));
+
+        // A new upright picture for the magician takes a fresh CU name; the
+        // old working file stays until the designer closes.
+        const QString oldMage = CurrentDeck.DeckCards(2).CardPicture[0].Trimmed();
+        ClickLine(again.lstCards, QStringLiteral("The Magician"));
+        again.cmdEditCard_Click();
+        {
+            OnEachShowing<frmGetImageFile> replace({Pick<frmGetImageFile>(src_, QStringLiteral("mage_new.bmp"))});
+            Get<frmAddCard>().cmdEditImage_Click();
+            QCOMPARE(replace.Remaining(), 0);
+        }
+        QCOMPARE(Get<frmAddCard>().imgCard->Image().pixelColor(0, 0), NewMage);
+        Get<frmAddCard>().cmdSaveClose_Click();
+        const QString newMage = CurrentDeck.DeckCards(2).CardPicture[0].Trimmed();
+        QVERIFY(newMage.startsWith(QLatin1String("CU")) && newMage != oldMage);
+        QVERIFY(FileExists(TempDir + oldMage) && FileExists(TempDir + newMage));
+
+        // ---- Saved over itself: the overwrite question, still one deck. A
+        // No keeps the save screen open and the deck unsaved.
+        MsgBoxScript::Answer(vbNo);
+        {
+            OnEachShowing<frmSaveDeck> refused({[](frmSaveDeck& s) {
+                QCOMPARE(s.txtSaveAs->text(), QStringLiteral("Sea Tarot"));
+                QCOMPARE(SelectedLine(s.lstDeckNames).trimmed(), QStringLiteral("Sea Tarot"));
+                s.cmdSave_Click();
+                QVERIFY(IsLoaded<frmSaveDeck>());
+                s.cmdCancel_Click();
+            }});
+            again.cmdSave_Click();
+            QCOMPARE(refused.Remaining(), 0);
+        }
+        QVERIFY(again.DesignModified);
+        MsgBoxScript::Clear();
+        MsgBoxScript::Answer(vbYes);
+        SaveAs(QStringLiteral("Sea Tarot"));
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History()[0].prompt, QStringLiteral("Deck already exists. Overwrite?"));
+        QCOMPARE(CountDecks(), 1);
+        QCOMPARE(CountCards(), 3);
+        VerifyCardsFolder();
+        const Integer firstId = FindDeckIdByName(QStringLiteral("Sea Tarot"));
+
+        // ---- And under a new name: two decks with separate files.
+        SaveAs(QStringLiteral("Sea Tarot Copy"));
+        QCOMPARE(CountDecks(), 2);
+        QCOMPARE(CountCards(), 6);
+        VerifyCardsFolder();
+        QSet<QString> filesOf[2];
+        for (const CardRecord& card : ReadAllRecords<CardRecord>(CardsPath))
+            for (const auto& picture : card.CardPicture)
+                filesOf[card.CardDeckId == firstId ? 0 : 1].insert(picture.Trimmed());
+        QCOMPARE(filesOf[0].size(), 6);
+        QCOMPARE(filesOf[1].size(), 6);
+        QVERIFY(!filesOf[0].intersects(filesOf[1]));
+        QCOMPARE(again.Caption(), QStringLiteral("Deck Design - Sea Tarot"));
+        again.cmdBack_Click();
+        QCOMPARE(SelectedLine(Get<frmDecks>().lstDecks).trimmed(), QStringLiteral("Sea Tarot Copy"));
+
+        // ---- Viewed: the first card shows its picture; once a card is
+        // closed the working files are gone and the next shows the default.
+        Get<frmDecks>().cmdInfo_Click();
+        frmDeckInfo& info = Get<frmDeckInfo>();
+        QCOMPARE(info.Caption(), QStringLiteral("Deck View - Sea Tarot Copy"));
+        QVERIFY(info.txtDeckTitle->isReadOnly());
+        ClickLine(info.lstCards, QStringLiteral("The Fool"));
+        info.cmdEditCard_Click();
+        frmViewCard* view = &Get<frmViewCard>();
+        QCOMPARE(view->txtCardType->text(), QStringLiteral("Major Arcana"));
+        QCOMPARE(view->imgCard->Image().pixelColor(0, 0), FoolUp);
+        view->optReversed->click();
+        QCOMPARE(view->txtKeywords->toPlainText(), QStringLiteral("fool reversed, edited"));
+        view->cmdBack_Click();
+        ClickLine(info.lstCards, QStringLiteral("Ace of Cups"));
+        info.cmdEditCard_Click();
+        view = &Get<frmViewCard>();
+        QCOMPARE(view->txtCardType->text(), QStringLiteral("Court"));
+        QCOMPARE(view->imgCard->Image().pixelColor(0, 0), QColor(Qt::white));   // the default picture
+        view->cmdBack_Click();
+        info.cmdBack_Click();
+
+        // ---- Dealt from: both decks qualify and load whole.
+        for (const QString& name : {QStringLiteral("Sea Tarot"), QStringLiteral("Sea Tarot Copy")}) {
+            const int record = FindDeckByName(name);
+            QVERIFY(GetRecord(DecksPath, record, ListDeck));
+            QVERIFY(IsDeckUsable(ListDeck.DeckId, 3));
+            bool removed = true;
+            QVERIFY(LoadDeck(removed));
+            QCOMPARE(CurrentDeck.DeckCards.Count(), 3);
+            QCOMPARE(CurrentDeck.DeckCards(1).CardTitle.Trimmed(), QStringLiteral("The Fool"));
+            QCOMPARE(CurrentDeck.DeckCards(1).CardSound[0].Trimmed().left(3), QStringLiteral("MCU"));
+            QCOMPARE(CurrentDeck.DeckCards(1).CardDescription[0].Trimmed(), QStringLiteral("fool meaning"));
+        }
+
+        // Nothing outside Temp/ and Cards/ was touched.
+        QCOMPARE(Snapshot(src_), sourcesBefore);
+        QCOMPARE(MsgBoxScript::Unanswered(), 0);
+        Get<frmDecks>().Unload();
+    }
+};
+
+QTEST_MAIN(TestDeckDesign)
+#include "tst_deckdesign.moc"

@@ -1,0 +1,191 @@
+// The deck list: brief info, deleting a deck with its cards and files and
+// untying it from spreads, the password of a locked deck for editing but not
+// for viewing, coming back to the deck left, and the deck chooser of the
+// spread designer.
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "DeckDriver.h"
+#include "decks/frmBrowseDeck.h"
+#include "decks/frmDeckInfo.h"
+#include "decks/frmDecks.h"
+#include "decks/frmDesignDeck.h"
+#include "decks/mdlDeckDesign.h"
+#include "platform/MsgBox.h"
+#include "shell/frmMainScreen.h"
+#include "store/frmGetPassword.h"
+#include "store/mdlSubRoutines.h"
+#include "support/Fixtures.h"
+
+class TestDeckList : public QObject {
+    Q_OBJECT
+    QTemporaryDir program_;
+    Integer alpha_ = 0, beta_ = 0, gamma_ = 0;
+
+    static SpreadRecord Spread(const QString& name) {
+        SpreadRecord spread;
+        GetRecord(SpreadsPath, FindSpreadByName(name), spread);
+        return spread;
+    }
+
+    static bool Buttons(const frmDecks& decks) {
+        return decks.cmdEdit->isEnabled() && decks.cmdInfo->isEnabled() && decks.cmdDelete->isEnabled();
+    }
+
+private slots:
+    void initTestCase() {
+        MsgBoxScript::Enable();
+        Fixtures::UseProgramDir(program_.path());
+        ResetDeckDesignState();
+        alpha_ = Fixtures::MakeDeck(QStringLiteral("Alpha"), 3, true);
+        beta_ = Fixtures::MakeDeck(QStringLiteral("Beta"), 2, false);
+        gamma_ = Fixtures::MakeDeck(QStringLiteral("Gamma"), 2, false);
+        // Beta carries a design password.
+        DeckRecord deck;
+        GetRecord(DecksPath, 2, deck);
+        deck.DeckLocked = True16;
+        deck.DeckPassword = QStringLiteral("secret");
+        PutRecord(DecksPath, 2, deck);
+        Fixtures::MakeSpread(QStringLiteral("Solo"), 2, {alpha_});
+        Fixtures::MakeSpread(QStringLiteral("Mixed"), 2, {beta_, alpha_, gamma_});
+    }
+
+    void deleteAsksTwiceAndUntiesSpreads() {
+        frmDecks& decks = Get<frmDecks>();
+        QCOMPARE(decks.Caption(), QStringLiteral("Decks' Menu"));
+        QCOMPARE(decks.lstDecks->count(), 3);
+        QCOMPARE(SelectedLine(decks.lstDecks).trimmed(), QStringLiteral("Alpha"));
+        QCOMPARE(decks.lblCardsField->text(), QStringLiteral("3"));
+        QVERIFY(Buttons(decks));
+        const QSet<QString> alphaFiles{QStringLiteral("CU00001.bmp"), QStringLiteral("CR00003.bmp")};
+
+        MsgBoxScript::Clear();
+        MsgBoxScript::Answer(vbNo);
+        decks.cmdDelete_Click();
+        QCOMPARE(CountDecks(), 3);
+        QCOMPARE(MsgBoxScript::History()[0].prompt,
+                 QStringLiteral("Are you sure you want to delete deck '") + SelectedLine(decks.lstDecks) +
+                     QStringLiteral("' ?\nBe aware that this deck will be removed from all spreads that use it."));
+        QCOMPARE(MsgBoxScript::History()[0].style, vbYesNo | vbQuestion | vbDefaultButton2);
+
+        MsgBoxScript::Clear();
+        MsgBoxScript::Answer(vbYes);
+        MsgBoxScript::Answer(vbYes);
+        decks.cmdDelete_Click();
+        QCOMPARE(MsgBoxScript::History().size(), 2);
+        QVERIFY(MsgBoxScript::History()[1].prompt.startsWith(QLatin1String("At least one spread uses solely this deck.")));
+        QCOMPARE(CountDecks(), 2);
+        QCOMPARE(CountCards(), 4);
+        QCOMPARE(FilesIn(CardsDir), FilesNamedByCards());
+        for (const QString& name : alphaFiles) QVERIFY(!FileExists(CardsDir + name));
+        QVERIFY(FileExists(DefaultPicturePath));
+        const SpreadRecord solo = Spread(QStringLiteral("Solo"));
+        QCOMPARE(solo.AllowedDeckCount, 0);
+        QCOMPARE(solo.AllowedDeckId[0], -1);
+        const SpreadRecord mixed = Spread(QStringLiteral("Mixed"));
+        QCOMPARE(mixed.AllowedDeckCount, 2);
+        QCOMPARE(mixed.AllowedDeckId[0], beta_);
+        QCOMPARE(mixed.AllowedDeckId[1], gamma_);
+        QCOMPARE(mixed.AllowedDeckId[2], -1);
+        // The line went; the first line is selected in its place.
+        QCOMPARE(decks.lstDecks->count(), 2);
+        QCOMPARE(SelectedLine(decks.lstDecks).trimmed(), QStringLiteral("Beta"));
+        QCOMPARE(decks.lblTitleField->text(), QStringLiteral("Beta"));
+
+        // Gamma is tied with Beta, never alone: the milder second question.
+        ClickLine(decks.lstDecks, QStringLiteral("Gamma"));
+        MsgBoxScript::Clear();
+        MsgBoxScript::Answer(vbYes);
+        MsgBoxScript::Answer(vbNo);
+        decks.cmdDelete_Click();
+        QCOMPARE(MsgBoxScript::History()[1].prompt,
+                 QStringLiteral("Any readings or diaries using this deck will not be able to be opened.\nProceed anyway?"));
+        QCOMPARE(CountDecks(), 2);
+    }
+
+    void lockedDeckAsksPasswordToEditOnly() {
+        frmDecks& decks = Get<frmDecks>();
+        ClickLine(decks.lstDecks, QStringLiteral("Beta"));
+        MsgBoxScript::Clear();
+        {
+            OnEachShowing<frmGetPassword> password({[](frmGetPassword& p) {
+                p.txtPassword->setText(QStringLiteral("Secret"));
+                p.cmdOK_Click();
+            }});
+            decks.cmdEdit_Click();
+            QCOMPARE(password.Remaining(), 0);
+        }
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History()[0].prompt, QStringLiteral("Incorrect password. Access Denied."));
+        QVERIFY(!IsLoaded<frmDesignDeck>());
+        QVERIFY(IsLoaded<frmDecks>());
+
+        // Viewing asks nothing.
+        decks.cmdInfo_Click();
+        QVERIFY(IsLoaded<frmDeckInfo>());
+        QCOMPARE(Get<frmDeckInfo>().lstCards->count(), 2);
+        Get<frmDeckInfo>().cmdBack_Click();
+        QCOMPARE(SelectedLine(Get<frmDecks>().lstDecks).trimmed(), QStringLiteral("Beta"));
+
+        {
+            OnEachShowing<frmGetPassword> password({[](frmGetPassword& p) {
+                p.txtPassword->setText(QStringLiteral("secret"));
+                p.cmdOK_Click();
+            }});
+            Get<frmDecks>().cmdEdit_Click();
+        }
+        QVERIFY(IsLoaded<frmDesignDeck>());
+        QVERIFY(!IsLoaded<frmDecks>());
+        QCOMPARE(Get<frmDesignDeck>().Caption(), QStringLiteral("Deck Design - Beta"));
+        QCOMPARE(DesignMode, 0);
+        Get<frmDesignDeck>().cmdBack_Click();
+        QCOMPARE(SelectedLine(Get<frmDecks>().lstDecks).trimmed(), QStringLiteral("Beta"));
+    }
+
+    void browseHandsTheChosenDeckToTheSpreadDesigner() {
+        QStringList chosen;
+        frmBrowseDeck& browse = Get<frmBrowseDeck>();
+        browse.DeckChosen = [&chosen](const QString& name) { chosen.append(name); };
+        QCOMPARE(browse.lstDecks->count(), 2);
+        ClickLine(browse.lstDecks, QStringLiteral("Gamma"));
+        browse.cmdSelect_Click();
+        QCOMPARE(chosen.size(), 1);
+        QCOMPARE(chosen[0].trimmed(), QStringLiteral("Gamma"));
+        QVERIFY(!IsLoaded<frmBrowseDeck>());
+    }
+
+    void theMainScreenOpensTheListAndTakesItBack() {
+        UnloadScreen<frmDecks>();
+        frmMainScreen& main = Get<frmMainScreen>();
+        main.Show();
+        main.lblButton_Click(5);
+        QVERIFY(!main.Visible());
+        QVERIFY(IsLoaded<frmDecks>() && Get<frmDecks>().Visible());
+        Get<frmDecks>().cmdClose_Click();
+        QVERIFY(!IsLoaded<frmDecks>());
+        QVERIFY(main.Visible());
+    }
+
+    void deletingEveryDeckEmptiesTheInfo() {
+        frmDecks& decks = Get<frmDecks>();
+        while (decks.lstDecks->count() > 0) {
+            MsgBoxScript::Answer(vbYes);
+            MsgBoxScript::Answer(vbYes);
+            decks.cmdDelete_Click();
+        }
+        QCOMPARE(CountDecks(), 0);
+        QCOMPARE(CountCards(), 0);
+        QCOMPARE(FilesIn(CardsDir), QSet<QString>{QStringLiteral("C000000.bmp")});
+        QVERIFY(!decks.cmdEdit->isEnabled() && !decks.cmdInfo->isEnabled() && !decks.cmdDelete->isEnabled());
+        QVERIFY(decks.lblTitleField->text().isEmpty() && decks.lblCardsField->text().isEmpty());
+        QCOMPARE(Spread(QStringLiteral("Mixed")).AllowedDeckCount, 0);
+        QCOMPARE(MsgBoxScript::Unanswered(), 0);
+    }
+};
+
+QTEST_MAIN(TestDeckList)
+#include "tst_decklist.moc"
