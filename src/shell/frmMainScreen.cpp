@@ -18,6 +18,7 @@
 #include "shell/MDIMainForm.h"
 #include "shell/frmHelpViewer.h"
 #include "shell/mdlFORM.h"
+#include "spreads/frmSpreads.h"
 #include "store/Startup.h"
 #include "store/mdlVariables.h"
 
@@ -249,8 +250,11 @@ void frmMainScreen::OpenFirstLevelScreen(int Index) {
     case 2:   // a saved reading: frmNewReading, with frmOpenReading over it
     case 3:   // a new diary entry: frmNewDiary, with frmSelectSpreadforDiary over it
     case 4:   // a saved diary entry: frmNewDiary, with frmOpenDiary over it
+    case 6:
+        Hide();
+        Get<frmSpreads>().Show();
+        break;
     case 5:   // frmDecks
-    case 6:   // frmSpreads
     case 7:   // frmInstallPackage
     case 8:   // frmCreatePackage
     default:
