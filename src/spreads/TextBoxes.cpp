@@ -3,32 +3,28 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QTextCursor>
-#include <QValidator>
-
-namespace {
-// Refuses an edit that would lengthen the text past the limit; shortening
-// and replacing within it are always allowed, whatever the text held before.
-class TypingLimit : public QValidator {
-public:
-    explicit TypingLimit(TextBox* box) : QValidator(box), box_(box) {}
-    State validate(QString& input, int&) const override {
-        const int limit = box_->MaxLength();
-        if (limit > 0 && input.size() > limit && input.size() > box_->text().size()) return Invalid;
-        return Acceptable;
-    }
-
-private:
-    TextBox* box_;
-};
-}  // namespace
+#include <QApplication>
+#include <QClipboard>
 
 TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
-    setValidator(new TypingLimit(this));
     connect(this, &QLineEdit::textChanged, this, [this] { emit Change(); });
 }
 
-void TextBox::Type(const QString& value) {
-    QLineEdit::setText(maxLength_ > 0 ? value.left(maxLength_) : value);
+void TextBox::keyPressEvent(QKeyEvent* e) {
+    if (maxLength_ > 0 && !isReadOnly()) {
+        const int room = maxLength_ - (static_cast<int>(text().size()) - static_cast<int>(selectedText().size()));
+        if (e->matches(QKeySequence::Paste)) {
+            // Pasted text is cut to the room left, as typing would be.
+            if (room > 0) insert(QApplication::clipboard()->text().left(room));
+            e->accept();
+            return;
+        }
+        if (!e->text().isEmpty() && e->text().at(0).isPrint() && room < 1) {
+            e->accept();
+            return;
+        }
+    }
+    QLineEdit::keyPressEvent(e);
 }
 
 MultiLineTextBox::MultiLineTextBox(QWidget* parent) : QPlainTextEdit(parent) {

@@ -15,11 +15,12 @@ public:
     void setMaxLength(int length) { maxLength_ = length; }
     QString Text() const { return text(); }
     void setText(const QString& value) { QLineEdit::setText(value); }
-    // Replaces the text as typing would (held to the limit).
-    void Type(const QString& value);
 
 signals:
     void Change();
+
+protected:
+    void keyPressEvent(QKeyEvent* e) override;
 
 private:
     int maxLength_ = 0;   // 0: no limit
