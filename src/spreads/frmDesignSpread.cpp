@@ -133,8 +133,8 @@ frmDesignSpread::frmDesignSpread() {
     cmdDesignInfo = Button(this, QStringLiteral("cmdDesignInfo"), QStringLiteral("&Details"), next());
     cmdSpread = Button(this, QStringLiteral("cmdSpread"), QStringLiteral("Sp&read"), next());
     cmdDecks = Button(this, QStringLiteral("cmdDecks"), QStringLiteral("Dec&ks"), next(600));
-    cmdAddCard = Button(this, QStringLiteral("cmdAddCard"), QStringLiteral("&Add Location"), next());
-    cmdRemoveCard = Button(this, QStringLiteral("cmdRemoveCard"), QStringLiteral("Re&move Location"), next());
+    cmdAddCard = Button(this, QStringLiteral("cmdAddCard"), QStringLiteral("&Add"), next());
+    cmdRemoveCard = Button(this, QStringLiteral("cmdRemoveCard"), QStringLiteral("Re&move"), next());
     cmdGrid = Button(this, QStringLiteral("cmdGrid"), QStringLiteral("Show &Grid"), next());
     cmdSnap = Button(this, QStringLiteral("cmdSnap"), QStringLiteral("S&nap"), next(600));
     cmdPicture = Button(this, QStringLiteral("cmdPicture"), QStringLiteral("&Picture"), next());
