@@ -64,14 +64,6 @@ bool Quietly(const std::function<void()>& operation) {
         return false;
     }
 }
-
-// The deck browser of the deck screens, which hands its choice back through
-// AddBrowsedDeck.
-void ShowBrowseDeck() {
-#if __has_include("decks/frmBrowseDeck.h")
-    Get<frmBrowseDeck>().Show(true);
-#endif
-}
 }  // namespace
 
 frmDesignSpread::frmDesignSpread() {
@@ -485,6 +477,17 @@ void frmDesignSpread::cmdBrowseDeck_Click() {
         return;
     }
     ShowBrowseDeck();
+}
+
+void frmDesignSpread::ShowBrowseDeck() {
+    // The deck browser belongs to the deck screens; it hands its choice back
+    // through AddBrowsedDeck. A build without the deck screens has no browser
+    // to show, and the button that leads here is hidden in any case.
+#if __has_include("decks/frmBrowseDeck.h")
+    auto& browse = Get<frmBrowseDeck>();
+    browse.DeckChosen = [this](const QString& deckName) { AddBrowsedDeck(deckName); };
+    browse.Show(true);
+#endif
 }
 
 void frmDesignSpread::AddBrowsedDeck(const QString& deckName) {

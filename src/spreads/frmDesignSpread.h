@@ -129,6 +129,7 @@ protected:
 
 private:
     void ShowPage(SpreadPages::Page page);
+    void ShowBrowseDeck();
     void SetFocusTo(QWidget* control, int Index);
     void txtSpreadTitle_Change();
 
