@@ -85,7 +85,11 @@ void ExitQuestion() {
     EndProcess(0);
 }
 
-void ShowMainScreen() {
+void ShowFrameIfLoaded() {
     if (IsLoaded<MDIMainForm>()) Get<MDIMainForm>().ShowFrame();
+}
+
+void ShowMainScreen() {
+    ShowFrameIfLoaded();
     Get<frmMainScreen>().Show();
 }

@@ -36,5 +36,8 @@ private:
 // process ends; on No nothing changes.
 void ExitQuestion();
 
+// Brings the frame up if it is loaded and not up yet.
+void ShowFrameIfLoaded();
+
 // Shows the frame if it is not up yet, then the main screen in it.
 void ShowMainScreen();

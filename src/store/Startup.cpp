@@ -111,6 +111,8 @@ bool RunStartup(const QString& programDir) {
             EndProcess(1);
             return false;
         }
+        // The converter stands over the frame, so the frame comes up first.
+        ShowFrameIfLoaded();
         ShowConversionScreen();
     }
 

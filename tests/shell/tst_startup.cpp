@@ -172,19 +172,11 @@ private slots:
         QCOMPARE(MsgBoxScript::History()[0].style, int(vbCritical));
     }
 
-    void clearTempKeepsTheFolderAndNeverStrays() {
+    void clearTempBeforeThePathsAreFormedDeletesNothing() {
         QTemporaryDir dir;
-        FormPaths(dir.path());
-        QDir().mkpath(TempDir);
-        WriteFile(TempDir + QStringLiteral("a.tmp"), "x");
-        ClearTemp();
-        QVERIFY(QFileInfo(TempDir).isDir());
-        QVERIFY(QDir(TempDir).entryList(QDir::Files).isEmpty());
-        // With no paths formed, nothing at all is deleted.
         const QString here = QDir::currentPath();
         QDir::setCurrent(dir.path());
         WriteFile(dir.path() + QStringLiteral("/keep.txt"), "x");
-        TempDir.clear();
         ClearTemp();
         QDir::setCurrent(here);
         QVERIFY(QFileInfo::exists(dir.path() + QStringLiteral("/keep.txt")));
