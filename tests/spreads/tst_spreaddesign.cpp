@@ -20,6 +20,7 @@
 #include "spreads/frmGetSpreadBackground.h"
 #include "spreads/frmLocationAttributes.h"
 #include "spreads/frmSaveSpread.h"
+#include "spreads/frmSpreadComments.h"
 #include "spreads/frmSpreads.h"
 #include "store/RecordFile.h"
 #include "store/mdlSubRoutines.h"
@@ -290,6 +291,16 @@ private slots:
         QCOMPARE(CurrentSpread.AskQuestion, True16);
         QTest::keyClicks(d.txtDesignerEmail(), QStringLiteral("ann@example.org"));
         QCOMPARE(CurrentSpread.SpreadDesigner.DesignerEmail.Trimmed(), QStringLiteral("ann@example.org"));
+        // Notes write through at every keystroke; losing the focus closes them.
+        d.SpreadDirty = false;
+        d.cmdComments_Click();
+        QCOMPARE(Get<frmSpreadComments>().Caption(), QStringLiteral("Spread Notes"));
+        QTest::keyClicks(Get<frmSpreadComments>().txtComments, QStringLiteral("Lay slowly"));
+        QCOMPARE(CurrentSpread.SpreadComments.Trimmed(), QStringLiteral("Lay slowly"));
+        QVERIFY(d.SpreadDirty);
+        Get<frmSpreadComments>().NotifyActivated(true);
+        Get<frmSpreadComments>().NotifyActivated(false);
+        QVERIFY(!IsLoaded<frmSpreadComments>());
         // The title box takes 50 characters from the keyboard.
         d.txtSpreadTitle()->clear();
         QTest::keyClicks(d.txtSpreadTitle(), QString(60, QLatin1Char('x')));

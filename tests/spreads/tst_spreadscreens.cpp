@@ -9,6 +9,7 @@
 
 #include "platform/MsgBox.h"
 #include "platform/OleDate.h"
+#include "shell/frmMainScreen.h"
 #include "spreads/SortedListBox.h"
 #include "spreads/SpreadCanvas.h"
 #include "spreads/SpreadDetailsPage.h"
@@ -69,14 +70,22 @@ private slots:
     }
 
     void anEmptyListOffersOnlyNewAndClose() {
+        // Reached from the main screen, which hides meanwhile.
+        frmMainScreen& main = Get<frmMainScreen>();
+        main.Show();
+        main.lblButton_Click(6);
+        QVERIFY(!main.Visible());
+        QVERIFY(IsLoaded<frmSpreads>());
         frmSpreads& list = Get<frmSpreads>();
-        list.Show();
         QCOMPARE(list.Caption(), QStringLiteral("Spreads' Menu"));
         QCOMPARE(list.GetIndexOf(QStringLiteral("anything")), -1);
         QVERIFY(list.lblTitleField->text().isEmpty() && list.lblCardsField->text().isEmpty());
         QVERIFY(list.cmdDesign->isEnabled() && list.cmdClose->isEnabled());
         QVERIFY(!list.cmdEdit->isEnabled() && !list.cmdInfo->isEnabled() && !list.cmdDelete->isEnabled() &&
                 !list.cmdManager->isEnabled());
+        QTest::keyClick(list.lstSpreads, Qt::Key_Escape);
+        QVERIFY(!IsLoaded<frmSpreads>());
+        QVERIFY(main.Visible());
     }
 
     void theListSummarisesAndDeletes() {
