@@ -22,6 +22,7 @@
 #include "shell/MDIMainForm.h"
 #include "shell/frmHelpViewer.h"
 #include "shell/mdlFORM.h"
+#include "spreads/frmSpreads.h"
 #include "store/Startup.h"
 #include "store/mdlSubRoutines.h"
 #include "store/mdlVariables.h"
@@ -268,9 +269,12 @@ void frmMainScreen::OpenFirstLevelScreen(int Index) {
         Hide();
         Get<frmDecks>().Show();
         break;
+    case 6:   // frmSpreads
+        Hide();
+        Get<frmSpreads>().Show();
+        break;
     case 3:   // a new diary entry: frmNewDiary, with frmSelectSpreadforDiary over it
     case 4:   // a saved diary entry: frmNewDiary, with frmOpenDiary over it
-    case 6:   // frmSpreads
     case 7:   // frmInstallPackage
     case 8:   // frmCreatePackage
     default:

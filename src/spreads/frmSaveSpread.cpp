@@ -1,0 +1,130 @@
+#include "spreads/frmSaveSpread.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+#include "platform/FileSys.h"
+#include "platform/MsgBox.h"
+#include "platform/OleDate.h"
+#include "platform/Twips.h"
+#include "shell/mdlFORM.h"
+#include "spreads/SortedListBox.h"
+#include "spreads/TextBoxes.h"
+#include "spreads/frmDesignSpread.h"
+#include "store/RecordFile.h"
+#include "store/mdlSubRoutines.h"
+
+namespace {
+QRect At(int left, int top, int width, int height) {
+    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
+}
+}  // namespace
+
+frmSaveSpread::frmSaveSpread() {
+    setObjectName(QStringLiteral("frmSaveSpread"));
+    setCaption(QStringLiteral("Save Spread"));
+    resize(TwipsToPixels(5400), TwipsToPixels(4200));
+
+    auto* lblSaveAs = new QLabel(QStringLiteral("Save spread as:"), this);
+    lblSaveAs->setGeometry(At(120, 120, 3600, 300));
+    txtSaveAs = new TextBox(this);
+    txtSaveAs->setObjectName(QStringLiteral("txtSaveAs"));
+    txtSaveAs->setMaxLength(30);
+    txtSaveAs->setGeometry(At(120, 420, 3600, 330));
+    auto* lblNames = new QLabel(QStringLiteral("Saved spreads:"), this);
+    lblNames->setGeometry(At(120, 870, 3600, 300));
+    lstSpreadNames = new SortedListBox(this);
+    lstSpreadNames->setObjectName(QStringLiteral("lstSpreadNames"));
+    lstSpreadNames->setGeometry(At(120, 1170, 3600, 2820));
+
+    cmdSave = new QPushButton(QStringLiteral("&Save"), this);
+    cmdSave->setObjectName(QStringLiteral("cmdSave"));
+    cmdSave->setGeometry(At(3900, 420, 1320, 420));
+    cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    cmdCancel->setGeometry(At(3900, 960, 1320, 420));
+
+    connect(txtSaveAs, &TextBox::Change, this, Handler([this] { txtSaveAs_Change(); }));
+    connect(lstSpreadNames, &SortedListBox::Click, this, Handler([this] { lstSpreadNames_Click(); }));
+    connect(cmdSave, &QPushButton::clicked, this, Handler([this] { cmdSave_Click(); }));
+    connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
+}
+
+void frmSaveSpread::Form_Load() {
+    CentreInFrame(*this);
+    txtSaveAs->setText(CurrentSpread.SpreadName.Trimmed());
+    // Read into a scratch record, so that the spread in hand stays intact.
+    RecordReader<SpreadRecord> reader(SpreadsPath);
+    while (reader.Next(ScratchSpread)) lstSpreadNames->AddItem(ScratchSpread.SpreadName.Trimmed());
+    cmdSave->setEnabled(false);
+}
+
+void frmSaveSpread::txtSaveAs_Change() {
+    if (!txtSaveAs->Text().isEmpty()) cmdSave->setEnabled(true);
+}
+
+void frmSaveSpread::lstSpreadNames_Click() {
+    cmdSave->setEnabled(true);
+    txtSaveAs->setText(lstSpreadNames->Text());
+}
+
+void frmSaveSpread::cmdCancel_Click() { Unload(); }
+
+void frmSaveSpread::StoreBackground() {
+    const QString old = CurrentSpread.BackgroundFile.Value();
+    if (!TrimField(old).isEmpty() && FileExists(TempDir + TrimField(old))) {
+        CurrentSpread.BackgroundFile = NewBackgroundName(old);
+        FileCopy(TempDir + old, CardsDir + CurrentSpread.BackgroundFile.Value());
+    } else {
+        CurrentSpread.BackgroundFile = QString();
+    }
+}
+
+void frmSaveSpread::cmdSave_Click() {
+    const QString name = TrimField(txtSaveAs->Text());
+    if (name.isEmpty()) {
+        MsgBox(QStringLiteral("Please select a name to save the spread as."), vbExclamation);
+        return;
+    }
+    int n = FindSpreadByName(name);
+    if (n < 0) {
+        // A new name is a new design: saving a known spread under it makes
+        // an independent copy and leaves the old record as it was.
+        n = CountSpreads() + 1;
+        CurrentSpread.SpreadId = NextSpreadId();
+    } else {
+        if (MsgBox(QStringLiteral("Spread already exists. Overwrite?"), vbYesNo | vbQuestion | vbDefaultButton2) ==
+            vbNo)
+            return;
+        DeleteSpreadBackground(n);
+    }
+    StoreBackground();
+    CurrentSpread.SpreadName = name;
+    CurrentSpread.ModifiedOn = OleToday();
+    CurrentSpread.SpreadRevision = static_cast<Integer>(CurrentSpread.SpreadRevision + 1);
+    PutRecord(SpreadsPath, n, CurrentSpread);
+    ReplaceSpreadLocations(CurrentSpread.SpreadId, CurrentSpread.LocationCount);
+
+    if (IsLoaded<frmDesignSpread>()) {
+        frmDesignSpread& designer = Get<frmDesignSpread>();
+        designer.lblModifiedOnDate()->setText(FormatLongDate(CurrentSpread.ModifiedOn));
+        designer.SpreadDirty = false;
+        designer.RememberedSpreadName = CurrentSpread.SpreadName.Value();
+    }
+    Unload();
+}
+
+void frmSaveSpread::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) {
+    if ((key == Qt::Key_Return || key == Qt::Key_Enter) &&
+        (focusWidget() == txtSaveAs || focusWidget() == lstSpreadNames)) {
+        handled = true;
+        cmdSave_Click();
+    }
+}
+
+void frmSaveSpread::Form_KeyUp(int key, Qt::KeyboardModifiers, bool& handled) {
+    if (key == Qt::Key_Escape) {
+        handled = true;
+        cmdCancel_Click();
+    }
+}

@@ -1,0 +1,222 @@
+// The designer's canvas: the grid and snapping arithmetic to the twip, the
+// limits of adding and removing locations, the keys of a rectangle, the
+// grid's 82 lines, and the stacking of rectangles above grid and picture.
+#include <QLabel>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "platform/MsgBox.h"
+#include "shell/ImageBox.h"
+#include "spreads/SpreadCanvas.h"
+#include "spreads/TextBoxes.h"
+#include "spreads/frmDesignSpread.h"
+#include "spreads/frmLocationAttributes.h"
+#include "spreads/frmSpreads.h"
+#include "store/mdlSubRoutines.h"
+#include "support/Fixtures.h"
+#include "SpreadTestKit.h"
+
+using namespace SpreadTestKit;
+
+class TestSpreadCanvas : public QObject {
+    Q_OBJECT
+    QTemporaryDir dir_;
+    frmDesignSpread* d_ = nullptr;
+
+    // A fresh designer on a new spread with `count` locations.
+    frmDesignSpread& Designer(int count) {
+        UnloadScreen<frmLocationAttributes>();
+        UnloadScreen<frmDesignSpread>();
+        Settle();
+        DesignMode = 1;
+        ResetSpread(CurrentSpread);
+        d_ = &Get<frmDesignSpread>();
+        d_->Show();
+        d_->cmdSpread_Click();
+        for (int i = 0; i < count; ++i) d_->cmdAddCard_Click();
+        return *d_;
+    }
+
+private slots:
+    void initTestCase() {
+        MsgBoxScript::Enable();
+        Fixtures::UseProgramDir(dir_.path());
+    }
+    void init() { MsgBoxScript::Clear(); }
+    void cleanup() { QCOMPARE(MsgBoxScript::Unanswered(), 0); }
+    void cleanupTestCase() {
+        UnloadScreen<frmDesignSpread>();
+        UnloadScreen<frmSpreads>();
+    }
+
+    void gridStepsAndSnappingToTheTwip() {
+        QCOMPARE(GridStep(9495, 39), Integer(243));
+        QCOMPARE(GridStep(5895, 29), Integer(203));
+        QCOMPARE(GridStep(9615, 39), Integer(247));
+        QCOMPARE(GridStep(5, 2), Integer(2));   // halves go to even
+        QCOMPARE(GridStep(7, 2), Integer(4));
+
+        struct Case {
+            int from;
+            int to;
+            bool set;
+        };
+        // Down to the line at or before; below the first line (even 0)
+        // counts as set, on a line does not, past the last stays.
+        for (const Case& c : {Case{0, 0, true}, Case{242, 0, true}, Case{243, 243, false}, Case{300, 243, true},
+                              Case{486, 486, false}, Case{4920, 4860, true}, Case{8019, 8019, false},
+                              Case{9000, 9000, false}}) {
+            Integer position = static_cast<Integer>(c.from);
+            QCOMPARE(SnapDown(position, 243, 33), c.set);
+            QCOMPARE(int(position), c.to);
+        }
+        Integer left = 7800;
+        QVERIFY(SnapDown(left, 203, 47));
+        QCOMPARE(left, Integer(7714));
+
+        Integer l = -5, t = -20;
+        KeepInside(l, t, 9495, 5895);
+        QCOMPARE(QPoint(l, t), QPoint(0, 0));
+        l = 9000;
+        t = 5000;
+        KeepInside(l, t, 9495, 5895);
+        QCOMPARE(QPoint(l, t), QPoint(7800, 4920));
+    }
+
+    void addingAndRemovingKeepTheirLimits() {
+        frmDesignSpread& d = Designer(32);
+        QCOMPARE(CurrentSpread.LocationCount, Integer(32));
+        QVERIFY(d.picLocation(32)->isVisible());
+        d.SpreadDirty = false;
+        d.cmdAddCard_Click();
+        QCOMPARE(MsgBoxScript::History().last().prompt,
+                 QStringLiteral("The number of locations in a spread cannot exceed 32."));
+        QCOMPARE(MsgBoxScript::History().last().style & vbCritical, int(vbCritical));
+        QCOMPARE(CurrentSpread.LocationCount, Integer(32));
+        QVERIFY(!d.SpreadDirty);
+        QVERIFY(d.picLocation(0)->isHidden());
+
+        // A new location is every byte zero; its attributes show blanks and
+        // leave it so until a box changes.
+        Designer(1);
+        const QByteArray zeros(50, '\0');
+        QCOMPARE(SpreadLocations(1).LocationTitle.Raw(), zeros);
+        d_->cmdCardAttributes_Click(1);
+        frmLocationAttributes& attributes = Get<frmLocationAttributes>();
+        QCOMPARE(attributes.Caption(), QStringLiteral("Location Attriubtes - Location number 1"));
+        QVERIFY(attributes.txtTitle->text().isEmpty());
+        QCOMPARE(SpreadLocations(1).LocationTitle.Raw(), zeros);
+        QCOMPARE(SpreadLocations(1).LocationQuestion[0].Raw(), QByteArray(125, '\0'));
+        QTest::keyClicks(attributes.txtTitle, QStringLiteral("A"));
+        QTest::keyClick(attributes.txtTitle, Qt::Key_Backspace);
+        QVERIFY(SpreadLocations(1).LocationTitle.Raw() == QByteArray(50, ' '));
+        QVERIFY(d_->lblCardTitle(1)->text().isEmpty());
+        attributes.cmdClose_Click();
+
+        // The only location goes: nothing gets the focus, the selection
+        // keeps its number, and Remove then has nothing to remove.
+        MsgBoxScript::Answer(vbYes);
+        QTest::keyClick(d_->picLocation(1), Qt::Key_Delete);   // key up removes
+        QCOMPARE(CurrentSpread.LocationCount, Integer(0));
+        QCOMPARE(SelectedLocation, 1);
+        QCOMPARE(SpreadLocations(1).LocationLeft, Integer(6480));
+        QCOMPARE(SpreadLocations(1).LocationTop, Integer(240));
+        d_->cmdRemoveCard_Click();
+        QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("There are no locations to be removed."));
+
+        // No answers No: nothing goes.
+        Designer(2);
+        MsgBoxScript::Answer(vbNo);
+        d_->cmdRemoveCard_Click();
+        QCOMPARE(CurrentSpread.LocationCount, Integer(2));
+    }
+
+    void keysMoveOnlyWithShiftAlone() {
+        frmDesignSpread& d = Designer(2);
+        d.picLocation(1)->Move(0, 100);
+        Nudge(d, Qt::Key_Left, Qt::ShiftModifier);
+        Nudge(d, Qt::Key_Up, Qt::ShiftModifier);
+        QCOMPARE(QPoint(d.picLocation(1)->Left(), d.picLocation(1)->Top()), QPoint(0, 0));
+        Nudge(d, Qt::Key_Right, Qt::ShiftModifier | Qt::AltModifier);
+        Nudge(d, Qt::Key_Right, Qt::NoModifier);
+        QCOMPARE(d.picLocation(1)->Left(), Integer(0));
+        Nudge(d, Qt::Key_Right, Qt::ShiftModifier);
+        QCOMPARE(d.picLocation(1)->Left(), Integer(120));
+        // At the bottom right corner the keys cannot push it off.
+        d.picLocation(1)->Move(7790, 4900);
+        Nudge(d, Qt::Key_Right, Qt::ShiftModifier);
+        Nudge(d, Qt::Key_Down, Qt::ShiftModifier);
+        QCOMPARE(QPoint(d.picLocation(1)->Left(), d.picLocation(1)->Top()), QPoint(7800, 4920));
+
+        // The same keys reach the rectangle from its Attributes button.
+        QTest::keyClick(d.cmdCardAttributes(1), Qt::Key_Left, Qt::ShiftModifier);
+        QCOMPARE(d.picLocation(1)->Left(), Integer(7680));
+        // Enter opens the attributes of that location.
+        QTest::keyClick(d.cmdCardAttributes(1), Qt::Key_Return);
+        QVERIFY(IsLoaded<frmLocationAttributes>());
+        QCOMPARE(SelectedLocation, 1);
+        UnloadScreen<frmLocationAttributes>();
+
+        // A mouse move without a press moves nothing and marks nothing.
+        d.SpreadDirty = false;
+        SendMouse(d.picLocation(2), QEvent::MouseMove, QPoint(30, 30), Qt::NoButton, Qt::NoButton);
+        QCOMPARE(d.picLocation(2)->Left(), Integer(7570));
+        QVERIFY(!d.SpreadDirty);
+        // With snapping, the whole layout goes down to the grid; a second
+        // press leaves it snapped.
+        d.cmdSnap_Click();
+        d.cmdSnap_Click();
+        QCOMPARE(d.cmdSnap->text(), QStringLiteral("S&nap"));
+        QCOMPARE(d.picLocation(2)->Left(), Integer(7511));
+        QCOMPARE(d.picLocation(2)->Top(), Integer(0));
+    }
+
+    void theGridShowsAndHidesItsLines() {
+        frmDesignSpread& d = Designer(1);
+        SpreadCanvas* canvas = d.picDesignLocations;
+        QVERIFY(!canvas->GridShown());
+        d.cmdGrid_Click();
+        QCOMPARE(d.cmdGrid->text(), QStringLiteral("Hide &Grid"));
+        int shown = 0;
+        for (int i = 0; i < HorizontalGridLines; ++i) shown += canvas->linHorizontalGrid(i)->isVisible();
+        for (int i = 0; i < VerticalGridLines; ++i) shown += canvas->linVerticalGrid(i)->isVisible();
+        QCOMPARE(shown, 82);
+        QCOMPARE(canvas->linHorizontalGrid(24)->Y1, 24 * 243);
+        QCOMPARE(canvas->linHorizontalGrid(33)->X2, 11655);
+        QCOMPARE(canvas->linVerticalGrid(47)->X1, 47 * 203);
+        QCOMPARE(canvas->linVerticalGrid(47)->Y2, 6015);
+
+        // A rectangle stands above the grid and the picture.
+        d.picLocation(1)->Move(0, 0);
+        canvas->SetBackground(QImage(20, 20, QImage::Format_RGB32), true);
+        QWidget* top = canvas->childAt(QPoint(0, 0));
+        QVERIFY(top == d.picLocation(1) || d.picLocation(1)->isAncestorOf(top));
+
+        d.cmdGrid_Click();
+        QCOMPARE(d.cmdGrid->text(), QStringLiteral("Show &Grid"));
+        QVERIFY(canvas->linVerticalGrid(0)->isHidden());
+        QVERIFY(canvas->linHorizontalGrid(33)->isHidden());
+    }
+
+    void escLeavesTheDesignerLikeClose() {
+        Designer(1);
+        // Dirty from the add: the question comes, Cancel keeps the screen.
+        MsgBoxScript::Answer(vbCancel);
+        QTest::keyClick(d_->txtSpreadTitle(), Qt::Key_Escape);
+        QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Save changes to the spread?"));
+        QVERIFY(IsLoaded<frmDesignSpread>());
+        MsgBoxScript::Answer(vbNo);
+        QTest::keyClick(d_->txtSpreadTitle(), Qt::Key_Escape);
+        QVERIFY(!IsLoaded<frmDesignSpread>());
+        QVERIFY(IsLoaded<frmSpreads>());
+    }
+
+private:
+    void Nudge(frmDesignSpread& d, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+        QTest::keyClick(d.picLocation(1), key, modifiers);
+    }
+};
+
+QTEST_MAIN(TestSpreadCanvas)
+#include "tst_spreadcanvas.moc"

@@ -1,0 +1,408 @@
+// A spread laid out on the designer from start to end: locations added,
+// dragged, nudged, snapped, given attributes and removed, a background set,
+// saved, opened again unchanged to the byte, tied to decks and found ready for
+// a reading. Then the details' dirty rules, the background checks, the save
+// dialogue's two ways and the closing question.
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "platform/MsgBox.h"
+#include "platform/Picture.h"
+#include "shell/ImageBox.h"
+#include "spreads/SortedListBox.h"
+#include "spreads/SpreadCanvas.h"
+#include "spreads/TextBoxes.h"
+#include "spreads/frmDeckChooser.h"
+#include "spreads/frmDesignSpread.h"
+#include "spreads/frmGetSpreadBackground.h"
+#include "spreads/frmLocationAttributes.h"
+#include "spreads/frmSaveSpread.h"
+#include "spreads/frmSpreadComments.h"
+#include "spreads/frmSpreads.h"
+#include "store/RecordFile.h"
+#include "store/mdlSubRoutines.h"
+#include "support/Fixtures.h"
+#include "SpreadTestKit.h"
+
+using namespace SpreadTestKit;
+
+namespace {
+// Saves the design in the designer under a name, answering the overwrite
+// question with `overwrite` when it comes.
+void SaveAs(frmDesignSpread& designer, const QString& name, int overwrite = 0) {
+    if (overwrite) MsgBoxScript::Answer(overwrite);
+    WhenShown<frmSaveSpread>([name](frmSaveSpread& save) {
+        save.txtSaveAs->setText(name);
+        save.cmdSave_Click();
+    });
+    designer.cmdSave_Click();
+}
+
+void SetBackground(const QString& file) {
+    WhenShown<frmGetSpreadBackground>([file](frmGetSpreadBackground& screen) {
+        screen.txtFilename->setText(file);
+        screen.cmdOK_Click();
+    });
+    Get<frmDesignSpread>().cmdPicture_Click();
+}
+
+void Nudge(frmDesignSpread& designer, int index, Qt::Key key, int times = 1) {
+    for (int i = 0; i < times; ++i) QTest::keyClick(designer.picLocation(index), key, Qt::ShiftModifier);
+}
+
+QPoint Place(frmDesignSpread& designer, int index) {
+    return QPoint(designer.picLocation(index)->Left(), designer.picLocation(index)->Top());
+}
+
+// Opens the attributes of a location and types its title.
+void TypeTitle(frmDesignSpread& designer, int index, const QString& title) {
+    designer.cmdCardAttributes_Click(index);
+    frmLocationAttributes& attributes = Get<frmLocationAttributes>();
+    QTest::keyClicks(attributes.txtTitle, title);
+}
+}  // namespace
+
+class TestSpreadDesign : public QObject {
+    Q_OBJECT
+    QTemporaryDir dir_;
+    Integer alpha_ = 0, beta_ = 0;
+
+private slots:
+    void initTestCase() {
+        MsgBoxScript::Enable();
+        Fixtures::UseProgramDir(dir_.path());
+        alpha_ = Fixtures::MakeDeck(QStringLiteral("Alpha Deck"), 12, false);
+        beta_ = Fixtures::MakeDeck(QStringLiteral("Beta Deck"), 12, false);
+        Fixtures::MakeDeck(QStringLiteral("Gamma Deck"), 12, false);
+    }
+    void init() { MsgBoxScript::Clear(); }
+    void cleanup() {
+        QCOMPARE(MsgBoxScript::Unanswered(), 0);
+        for (auto unload : {UnloadScreen<frmLocationAttributes>, UnloadScreen<frmDesignSpread>,
+                            UnloadScreen<frmDeckChooser>, UnloadScreen<frmSpreads>})
+            unload();
+        Settle();
+    }
+
+    void aSpreadLaidOutOnTheScreensIsReadyForAReading() {
+        Get<frmSpreads>().Show();
+        Get<frmSpreads>().cmdDesign_Click();
+        QVERIFY(!IsLoaded<frmSpreads>());
+        frmDesignSpread& d = Get<frmDesignSpread>();
+        QCOMPARE(d.Caption(), QStringLiteral("Spread Design"));
+        QVERIFY(!d.SpreadDirty);
+        QCOMPARE(d.GridStepX, Integer(203));
+        QCOMPARE(d.GridStepY, Integer(243));
+        QTest::keyClicks(d.txtSpreadTitle(), QStringLiteral("Five Paths Title"));
+        d.cmdSpread_Click();
+        QVERIFY(d.picDesignLocations->isVisible() && d.cmdAddCard->isEnabled());
+
+        // 1: dragged left and down, released on the canvas.
+        d.cmdAddCard_Click();
+        QCOMPARE(Place(d, 1), QPoint(7570, 120));
+        QCOMPARE(SelectedLocation, 1);
+        QCOMPARE(d.picLocation(1)->BackColor(), LocationNavy());
+        Drag(d.picLocation(1), QPoint(10, 10), QPoint(-440, 90));
+        QCOMPARE(Place(d, 1), QPoint(7570 - 450 * 15, 120 + 80 * 15));
+
+        // 2: released far outside the canvas, it ends at the corner.
+        d.cmdAddCard_Click();
+        QCOMPARE(d.picLocation(1)->BackColor(), LocationGrey());
+        Drag(d.picLocation(2), QPoint(10, 10), QPoint(400, 500));
+        QCOMPARE(Place(d, 2), QPoint(7800, 4920));
+
+        // 3: nudged by the keyboard, which does not mark the design.
+        d.cmdAddCard_Click();
+        d.SpreadDirty = false;
+        Nudge(d, 3, Qt::Key_Left, 3);
+        Nudge(d, 3, Qt::Key_Down, 2);
+        QTest::keyClick(d.picLocation(3), Qt::Key_Left, Qt::ShiftModifier | Qt::ControlModifier);
+        QTest::keyClick(d.picLocation(3), Qt::Key_Left);
+        QCOMPARE(Place(d, 3), QPoint(7570 - 360, 120 + 240));
+        QVERIFY(!d.SpreadDirty);
+
+        // Snapping on moves the whole layout down to the grid.
+        d.cmdSnap_Click();
+        QCOMPARE(d.cmdSnap->text(), QStringLiteral("Don't S&nap"));
+        QCOMPARE(Place(d, 1), QPoint(203 * 4, 243 * 5));
+        QCOMPARE(Place(d, 2), QPoint(7714, 4860));
+        QCOMPARE(Place(d, 3), QPoint(203 * 35, 243));
+
+        // 4: comes in off the grid; with snapping, Left and Up go one cell
+        // back while Right and Down change nothing.
+        d.cmdAddCard_Click();
+        QCOMPARE(Place(d, 4), QPoint(7570, 120));
+        Nudge(d, 4, Qt::Key_Right);
+        QCOMPARE(Place(d, 4), QPoint(7511, 0));
+        Nudge(d, 4, Qt::Key_Left);
+        QCOMPARE(Place(d, 4), QPoint(7308, 0));
+        Nudge(d, 4, Qt::Key_Right);
+        Nudge(d, 4, Qt::Key_Down);
+        QCOMPARE(Place(d, 4), QPoint(7308, 0));
+
+        // 5 and 6: dragged with snapping on.
+        d.cmdAddCard_Click();
+        Drag(d.picLocation(5), QPoint(10, 10), QPoint(-200, 100));
+        QCOMPARE(Place(d, 5), QPoint(203 * 21, 243 * 6));
+        d.cmdAddCard_Click();
+        Drag(d.picLocation(6), QPoint(5, 5), QPoint(-100, 200));
+        QCOMPARE(Place(d, 6), QPoint(203 * 29, 243 * 12));
+
+        // Attributes: the title shows on the rectangle as it is typed.
+        const QStringList titles = {QStringLiteral("Past"), QStringLiteral("Present"), QStringLiteral("Gone"),
+                                    QStringLiteral("Future"), QStringLiteral("Hope"), QStringLiteral("Outcome")};
+        for (int i = 1; i <= 6; ++i) {
+            TypeTitle(d, i, titles[i - 1].left(2));
+            QCOMPARE(d.lblCardTitle(i)->text(), titles[i - 1].left(2));
+            QTest::keyClicks(Get<frmLocationAttributes>().txtTitle, titles[i - 1].mid(2));
+            QCOMPARE(d.lblCardTitle(i)->text(), titles[i - 1]);
+            if (i == 2) {
+                QTest::keyClicks(Get<frmLocationAttributes>().txtDescription, QStringLiteral("Where you stand"));
+                QTest::keyClicks(Get<frmLocationAttributes>().txtQuestion(3), QStringLiteral("Why now?"));
+            }
+            // Losing the focus closes the attributes.
+            Get<frmLocationAttributes>().NotifyActivated(true);
+            Get<frmLocationAttributes>().NotifyActivated(false);
+            QVERIFY(!IsLoaded<frmLocationAttributes>());
+        }
+        QCOMPARE(SpreadLocations(2).LocationQuestion[2].Trimmed(), QStringLiteral("Why now?"));
+
+        // Location 3 goes: 4 to 6 move down one number with all they carry.
+        const QPoint fourWas = Place(d, 4);
+        d.picLocation_GotFocus(3);
+        MsgBoxScript::Answer(vbYes);
+        d.cmdRemoveCard_Click();
+        QCOMPARE(MsgBoxScript::History().last().prompt,
+                 QStringLiteral("Are you sure you want to completely remove location number 3 ?"));
+        QCOMPARE(CurrentSpread.LocationCount, Integer(5));
+        QCOMPARE(SelectedLocation, 5);
+        QCOMPARE(Place(d, 3), fourWas);
+        QCOMPARE(d.lblCardTitle(3)->text(), QStringLiteral("Future"));
+        QCOMPARE(SpreadLocations(5).LocationTitle.Trimmed(), QStringLiteral("Outcome"));
+        QVERIFY(d.picLocation(6)->isHidden());
+        QCOMPARE(d.lblCardNumber(3)->text(), QStringLiteral("3"));
+
+        // The background: a bitmap whose type is typed in capitals.
+        Fixtures::WritePicture(dir_.path() + QStringLiteral("/PHOTO.BMP"), Qt::darkGreen);
+        SetBackground(dir_.path() + QStringLiteral("/PHOTO.BMP"));
+        QCOMPARE(CurrentSpread.BackgroundFile.Trimmed(), QStringLiteral("sprpic.BMP"));
+        QVERIFY(FileExists(TempDir + QStringLiteral("sprpic.BMP")));
+        QVERIFY(d.picDesignLocations->imgBackground->HasPicture());
+
+        SaveAs(d, QStringLiteral("Five Paths"));
+        QVERIFY(!IsLoaded<frmSaveSpread>());
+        QVERIFY(!d.SpreadDirty);
+        QCOMPARE(CountSpreads(), 1);
+        SpreadRecord saved;
+        QVERIFY(GetRecord(SpreadsPath, 1, saved));
+        QCOMPARE(saved.SpreadId, Integer(1));
+        QCOMPARE(saved.SpreadRevision, Integer(1));
+        QCOMPARE(saved.LocationCount, Integer(5));
+        QCOMPARE(saved.AllowedDeckCount, Integer(0));
+        QCOMPARE(saved.SpreadTitle.Trimmed(), QStringLiteral("Five Paths Title"));
+        QCOMPARE(saved.BackgroundFile.Trimmed(), QStringLiteral("S000001.BMP"));
+        QVERIFY(FileExists(CardsDir + QStringLiteral("S000001.BMP")));
+        const QList<QByteArray> savedLocations = RawRecords(LocationsPath, LocationRecord::Length);
+        QCOMPARE(savedLocations.size(), 5);
+        QList<QPoint> places;
+        for (int i = 1; i <= 5; ++i) places.append(Place(d, i));
+
+        // Close, back on the list with the spread selected; open it again.
+        d.cmdBack_Click();
+        Settle();
+        QVERIFY(!IsLoaded<frmDesignSpread>());
+        frmSpreads& list = Get<frmSpreads>();
+        QCOMPARE(list.lstSpreads->Text().trimmed(), QStringLiteral("Five Paths"));
+        QCOMPARE(list.lblCardsField->text(), QStringLiteral("5"));
+        list.cmdEdit_Click();
+        frmDesignSpread& again = Get<frmDesignSpread>();
+        QCOMPARE(again.Caption(), QStringLiteral("Spread Design - Five Paths"));
+        QVERIFY(again.picDesignLocations->imgBackground->HasPicture());
+        for (int i = 1; i <= 5; ++i) {
+            QCOMPARE(EncodeRecord(SpreadLocations(i)), savedLocations[i - 1]);
+            QCOMPARE(Place(again, i), places[i - 1]);
+            QCOMPARE(again.lblCardNumber(i)->text(), QString::number(i));
+        }
+        QVERIFY(again.picLocation(6)->isHidden());
+        // Saved again over itself: the same locations to the byte, a fresh
+        // picture name, the next revision.
+        SaveAs(again, QStringLiteral("Five Paths"), vbYes);
+        QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Spread already exists. Overwrite?"));
+        QCOMPARE(RawRecords(LocationsPath, LocationRecord::Length), savedLocations);
+        QVERIFY(GetRecord(SpreadsPath, 1, saved));
+        QCOMPARE(saved.SpreadRevision, Integer(2));
+        QCOMPARE(saved.BackgroundFile.Trimmed(), QStringLiteral("S000001.BMP"));
+        again.cmdBack_Click();
+        Settle();
+
+        // Tied to two decks on the chooser, without a new revision.
+        Get<frmSpreads>().cmdManager_Click();
+        frmDeckChooser& chooser = Get<frmDeckChooser>();
+        QCOMPARE(chooser.lstAvailableDecks->ListCount(), 3);
+        chooser.lstAvailableDecks->setListIndex(0);
+        chooser.cmdAddDeck_Click();
+        chooser.lstAvailableDecks->setListIndex(0);
+        chooser.cmdAddDeck_Click();
+        QCOMPARE(chooser.lstDecks->List(0), QStringLiteral("Alpha Deck"));
+        QCOMPARE(chooser.lstDecks->List(1), QStringLiteral("Beta Deck"));
+        chooser.cmdLink_Click();
+        chooser.cmdClose_Click();
+        Settle();
+        QVERIFY(GetRecord(SpreadsPath, 1, saved));
+        QCOMPARE(saved.AllowedDeckCount, Integer(2));
+        QCOMPARE(saved.AllowedDeckId[0], alpha_);
+        QCOMPARE(saved.AllowedDeckId[1], beta_);
+        QCOMPARE(saved.AllowedDeckId[2], Integer(-1));
+        QCOMPARE(saved.SpreadRevision, Integer(2));
+
+        // Ready for a reading, its locations where the designer put them.
+        QVERIFY(IsSpreadUsable(QStringLiteral("Five Paths")));
+        LoadSpreadLocations(saved.SpreadId, saved.LocationCount);
+        for (int i = 1; i <= 5; ++i) {
+            QCOMPARE(QPoint(SpreadLocations(i).LocationLeft, SpreadLocations(i).LocationTop), places[i - 1]);
+            QCOMPARE(SpreadLocations(i).LocationNumber, Integer(i));
+        }
+        QCOMPARE(SpreadLocations(5).LocationTitle.Trimmed(), QStringLiteral("Outcome"));
+    }
+
+    void detailsWriteThroughWithTheirDirtyRules() {
+        Get<frmSpreads>().cmdDesign_Click();
+        frmDesignSpread& d = Get<frmDesignSpread>();
+        d.txtSpreadTitle()->setText(QStringLiteral("Same"));
+        d.txtSpreadDesigner()->setText(QStringLiteral("Ann"));
+        d.SpreadDirty = false;
+        // The same title again leaves the design clean; the same designer
+        // name marks it.
+        d.txtSpreadTitle()->setText(QString());
+        d.SpreadDirty = false;
+        d.txtSpreadTitle()->setText(QStringLiteral("Same"));
+        QVERIFY(d.SpreadDirty);
+        d.SpreadDirty = false;
+        CurrentSpread.SpreadTitle = QStringLiteral("Same");
+        d.txtSpreadTitle()->Change();
+        QVERIFY(!d.SpreadDirty);
+        d.txtSpreadDesigner()->Change();
+        QVERIFY(d.SpreadDirty);
+        QCOMPARE(CurrentSpread.SpreadDesigner.DesignerName.Trimmed(), QStringLiteral("Ann"));
+        d.chkQuestion()->setChecked(true);
+        QCOMPARE(CurrentSpread.AskQuestion, True16);
+        QTest::keyClicks(d.txtDesignerEmail(), QStringLiteral("ann@example.org"));
+        QCOMPARE(CurrentSpread.SpreadDesigner.DesignerEmail.Trimmed(), QStringLiteral("ann@example.org"));
+        // Notes write through at every keystroke; losing the focus closes them.
+        d.SpreadDirty = false;
+        d.cmdComments_Click();
+        QCOMPARE(Get<frmSpreadComments>().Caption(), QStringLiteral("Spread Notes"));
+        QTest::keyClicks(Get<frmSpreadComments>().txtComments, QStringLiteral("Lay slowly"));
+        QCOMPARE(CurrentSpread.SpreadComments.Trimmed(), QStringLiteral("Lay slowly"));
+        QVERIFY(d.SpreadDirty);
+        Get<frmSpreadComments>().NotifyActivated(true);
+        Get<frmSpreadComments>().NotifyActivated(false);
+        QVERIFY(!IsLoaded<frmSpreadComments>());
+        // The title box takes 50 characters from the keyboard.
+        d.txtSpreadTitle()->clear();
+        QTest::keyClicks(d.txtSpreadTitle(), QString(60, QLatin1Char('x')));
+        QCOMPARE(d.txtSpreadTitle()->text().size(), 50);
+
+        // Yes, then a cancelled save: the designer closes and the changes go.
+        MsgBoxScript::Answer(vbYes);
+        WhenShown<frmSaveSpread>([](frmSaveSpread& save) { save.cmdCancel_Click(); });
+        d.cmdBack_Click();
+        Settle();
+        QVERIFY(!IsLoaded<frmDesignSpread>());
+        QCOMPARE(CountSpreads(), 1);
+        QCOMPARE(TrimField(Get<frmSpreads>().lstSpreads->Text()), QStringLiteral("Five Paths"));
+        QCOMPARE(CurrentSpread.SpreadTitle.Trimmed(), QStringLiteral("Five Paths Title"));
+    }
+
+    void theBackgroundIsCheckedInOrder() {
+        Get<frmSpreads>().cmdDesign_Click();
+        frmDesignSpread& d = Get<frmDesignSpread>();
+        const QString jpeg = dir_.path() + QStringLiteral("/photo.jpeg");
+        const QString fake = dir_.path() + QStringLiteral("/fake.gif");
+        Fixtures::WritePicture(jpeg);
+        WriteWholeFile(fake, QByteArray("not a picture"));
+        for (const QString& file : {dir_.path() + QStringLiteral("/none.bmp"), jpeg, fake}) {
+            WhenShown<frmGetSpreadBackground>([file](frmGetSpreadBackground& screen) {
+                screen.txtFilename->setText(file);
+                screen.cmdOK_Click();
+                QVERIFY(IsLoaded<frmGetSpreadBackground>());   // stays open
+                screen.cmdCancel_Click();
+            });
+            d.cmdPicture_Click();
+        }
+        QStringList prompts;
+        for (const auto& shown : MsgBoxScript::History()) {
+            QCOMPARE(shown.style & vbCritical, int(vbCritical));
+            prompts.append(shown.prompt);
+        }
+        QCOMPARE(prompts, (QStringList{
+                              QStringLiteral("There is no file with the name you provided!"),
+                              QStringLiteral("Unsupported file type. Only files of type BMP, JPG and GIF are "
+                                             "currently supported."),
+                              QStringLiteral("Unable to open the file you selected. Please make sure it is of a "
+                                             "valid type.")}));
+        QVERIFY(!d.SpreadDirty);
+
+        // A gif keeps its small letters; an empty name then takes it away.
+        QImage image(3, 3, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QVERIFY(image.save(dir_.path() + QStringLiteral("/a.png"), "PNG"));
+        QFile::copy(dir_.path() + QStringLiteral("/a.png"), dir_.path() + QStringLiteral("/a.gif"));
+        SetBackground(dir_.path() + QStringLiteral("/a.gif"));
+        QCOMPARE(CurrentSpread.BackgroundFile.Trimmed(), QStringLiteral("sprpic.gif"));
+        QVERIFY(d.SpreadDirty);
+        MsgBoxScript::Answer(vbYes);
+        SetBackground(QStringLiteral("  "));
+        QCOMPARE(MsgBoxScript::History().last().prompt,
+                 QStringLiteral("Are you sure you want to remove the currently selected background picture?"));
+        QVERIFY(CurrentSpread.BackgroundFile.IsBlank());
+        QVERIFY(!d.picDesignLocations->imgBackground->HasPicture());
+        MsgBoxScript::Answer(vbNo);
+        d.cmdBack_Click();
+    }
+
+    void saveDialogueNamesAndCopies() {
+        frmSpreads& list = Get<frmSpreads>();
+        list.lstSpreads->setListIndex(list.GetIndexOf(QStringLiteral("Five Paths")));
+        list.cmdEdit_Click();
+        frmDesignSpread& d = Get<frmDesignSpread>();
+        // A name of blanks cannot be saved, though the button is enabled.
+        QString proposed, refused;
+        int selected = 0, typedLength = 0;
+        bool enabled = false;
+        WhenShown<frmSaveSpread>([&](frmSaveSpread& save) {
+            proposed = save.txtSaveAs->text();
+            selected = save.lstSpreadNames->ListIndex();
+            save.txtSaveAs->setText(QStringLiteral("   "));
+            enabled = save.cmdSave->isEnabled();
+            save.cmdSave_Click();
+            refused = MsgBoxScript::History().value(0).prompt;
+            save.txtSaveAs->clear();
+            QTest::keyClicks(save.txtSaveAs, QString(35, QLatin1Char('c')));
+            typedLength = static_cast<int>(save.txtSaveAs->text().size());
+            save.txtSaveAs->setText(QStringLiteral("Copy of Paths"));
+            save.cmdSave_Click();
+        });
+        d.cmdSave_Click();
+        QCOMPARE(proposed, QStringLiteral("Five Paths"));
+        QCOMPARE(selected, -1);
+        QVERIFY(enabled);
+        QCOMPARE(refused, QStringLiteral("Please select a name to save the spread as."));
+        QCOMPARE(typedLength, 30);
+        // A new name: a new id, its own locations and its own picture.
+        QCOMPARE(CountSpreads(), 2);
+        SpreadRecord copy;
+        QVERIFY(GetRecord(SpreadsPath, 2, copy));
+        QCOMPARE(copy.SpreadId, Integer(2));
+        QCOMPARE(copy.BackgroundFile.Trimmed(), QStringLiteral("S000002.BMP"));
+        QCOMPARE(RawRecords(LocationsPath, LocationRecord::Length).size(), 10);
+        QCOMPARE(copy.AllowedDeckCount, Integer(2));
+        d.cmdBack_Click();
+    }
+};
+
+QTEST_MAIN(TestSpreadDesign)
+#include "tst_spreaddesign.moc"

@@ -1,0 +1,330 @@
+// The spread list, the viewer and the deck chooser, and spreads whose
+// location file holds what does not belong to them.
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "platform/MsgBox.h"
+#include "platform/OleDate.h"
+#include "shell/frmMainScreen.h"
+#include "spreads/SortedListBox.h"
+#include "spreads/SpreadCanvas.h"
+#include "spreads/SpreadDetailsPage.h"
+#include "spreads/TextBoxes.h"
+#include "spreads/frmDeckChooser.h"
+#include "spreads/frmDesignSpread.h"
+#include "spreads/frmSpreadInfo.h"
+#include "spreads/frmSpreadInfo_LocationAttributes.h"
+#include "spreads/frmSpreads.h"
+#include "store/RecordFile.h"
+#include "store/frmGetPassword.h"
+#include "store/mdlSubRoutines.h"
+#include "support/Fixtures.h"
+#include "SpreadTestKit.h"
+
+using namespace SpreadTestKit;
+
+namespace {
+SpreadRecord SpreadNamed(const QString& name) {
+    SpreadRecord spread;
+    GetRecord(SpreadsPath, FindSpreadByName(name), spread);
+    return spread;
+}
+
+void Rewrite(const QString& name, const std::function<void(SpreadRecord&)>& change) {
+    SpreadRecord spread = SpreadNamed(name);
+    change(spread);
+    PutRecord(SpreadsPath, FindSpreadByName(name), spread);
+}
+
+frmSpreads& ListOn(const QString& name) {
+    UnloadScreen<frmSpreads>();
+    Settle();
+    frmSpreads& list = Get<frmSpreads>();
+    list.Show();
+    list.lstSpreads->setListIndex(list.GetIndexOf(name));
+    return list;
+}
+}  // namespace
+
+class TestSpreadScreens : public QObject {
+    Q_OBJECT
+    QTemporaryDir dir_;
+    QList<Integer> decks_;
+
+private slots:
+    void initTestCase() {
+        MsgBoxScript::Enable();
+        Fixtures::UseProgramDir(dir_.path());
+    }
+    void init() { MsgBoxScript::Clear(); }
+    void cleanup() {
+        QCOMPARE(MsgBoxScript::Unanswered(), 0);
+        for (auto unload : {UnloadScreen<frmSpreadInfo_LocationAttributes>, UnloadScreen<frmSpreadInfo>,
+                            UnloadScreen<frmDeckChooser>, UnloadScreen<frmDesignSpread>, UnloadScreen<frmSpreads>})
+            unload();
+        Settle();
+    }
+
+    void anEmptyListOffersOnlyNewAndClose() {
+        // Reached from the main screen, which hides meanwhile.
+        frmMainScreen& main = Get<frmMainScreen>();
+        main.Show();
+        main.lblButton_Click(6);
+        QVERIFY(!main.Visible());
+        QVERIFY(IsLoaded<frmSpreads>());
+        frmSpreads& list = Get<frmSpreads>();
+        QCOMPARE(list.Caption(), QStringLiteral("Spreads' Menu"));
+        QCOMPARE(list.GetIndexOf(QStringLiteral("anything")), -1);
+        QVERIFY(list.lblTitleField->text().isEmpty() && list.lblCardsField->text().isEmpty());
+        QVERIFY(list.cmdDesign->isEnabled() && list.cmdClose->isEnabled());
+        QVERIFY(!list.cmdEdit->isEnabled() && !list.cmdInfo->isEnabled() && !list.cmdDelete->isEnabled() &&
+                !list.cmdManager->isEnabled());
+        QTest::keyClick(list.lstSpreads, Qt::Key_Escape);
+        QVERIFY(!IsLoaded<frmSpreads>());
+        QVERIFY(main.Visible());
+    }
+
+    void theListSummarisesAndDeletes() {
+        for (int i = 1; i <= 6; ++i) decks_.append(Fixtures::MakeDeck(QStringLiteral("Deck %1").arg(i), 8, false));
+        Fixtures::MakeSpread(QStringLiteral("celtic"), 3, {decks_[0]});
+        Fixtures::MakeSpread(QStringLiteral("Alpha"), 2, {}, true);
+        Fixtures::MakeSpread(QStringLiteral("Beta"), 4, {decks_[0], decks_[1]});
+        Rewrite(QStringLiteral("Beta"), [](SpreadRecord& s) {
+            s.AskQuestion = True16;
+            s.SpreadDesigner.DesignerName = QStringLiteral("Mira");
+            s.ModifiedOn = ToOleDate(QDate(2024, 3, 5));
+        });
+        frmSpreads& list = ListOn(QStringLiteral("Beta"));
+        QCOMPARE(TrimField(list.lstSpreads->List(0)), QStringLiteral("Alpha"));
+        QCOMPARE(TrimField(list.lstSpreads->List(2)), QStringLiteral("celtic"));
+        QCOMPARE(list.lstSpreads->List(0).size(), 50);   // as stored, with its blanks
+        QCOMPARE(list.GetIndexOf(QStringLiteral(" Beta ")), 1);
+        QCOMPARE(list.GetIndexOf(QStringLiteral("Gone")), 0);
+        QCOMPARE(list.lblQueryField->text(), QStringLiteral("Y"));
+        QCOMPARE(list.lblCardsField->text(), QStringLiteral("4"));
+        QCOMPARE(list.lblDecksField->text(), QStringLiteral("2"));
+        QCOMPARE(list.lblDesignDateField->text(), QStringLiteral("05-Mar-2024"));
+        QCOMPARE(list.lblDesignerNameField->text().trimmed(), QStringLiteral("Mira"));
+        QCOMPARE(SpreadLocations.UBound(), 4);
+        list.lstSpreads->setListIndex(0);
+        QCOMPARE(list.lblDecksField->text(), QStringLiteral("All"));
+
+        // No keeps it; Yes deletes it and the next one moves up.
+        const Integer alphaId = SpreadNamed(QStringLiteral("Alpha")).SpreadId;
+        MsgBoxScript::Answer(vbNo);
+        list.cmdDelete_Click();
+        QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Are you sure you want to delete spread 'Alpha' ?"));
+        QCOMPARE(MsgBoxScript::History().last().style, vbYesNo | vbQuestion | vbDefaultButton2);
+        QCOMPARE(CountSpreads(), 3);
+        MsgBoxScript::Answer(vbYes);
+        list.cmdDelete_Click();
+        QCOMPARE(CountSpreads(), 2);
+        QCOMPARE(list.lstSpreads->ListIndex(), 0);
+        QCOMPARE(TrimField(list.lstSpreads->Text()), QStringLiteral("Beta"));
+        QCOMPARE(CurrentSpread.SpreadName.Trimmed(), QStringLiteral("Beta"));
+        RecordReader<LocationRecord> reader(LocationsPath);
+        LocationRecord location;
+        while (reader.Next(location)) QVERIFY(location.LocationSpreadId != alphaId);
+    }
+
+    void aLockedSpreadAsksForItsPassword() {
+        Rewrite(QStringLiteral("celtic"), [](SpreadRecord& s) {
+            s.SpreadLocked = True16;
+            s.SpreadPassword = QStringLiteral("Moon");
+        });
+        frmSpreads& list = ListOn(QStringLiteral("celtic"));
+        WhenShown<frmGetPassword>([](frmGetPassword& screen) {
+            screen.txtPassword->setText(QStringLiteral("moon"));
+            screen.cmdOK_Click();
+        });
+        list.cmdEdit_Click();
+        QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Incorrect password. Access Denied."));
+        QVERIFY(!IsLoaded<frmDesignSpread>());
+        WhenShown<frmGetPassword>([](frmGetPassword& screen) {
+            screen.txtPassword->setText(QStringLiteral("Moon"));
+            screen.cmdOK_Click();
+        });
+        list.cmdEdit_Click();
+        QVERIFY(IsLoaded<frmDesignSpread>());
+        QVERIFY(!IsLoaded<frmSpreads>());
+        QCOMPARE(Get<frmDesignSpread>().RememberedSpreadName.trimmed(), QStringLiteral("celtic"));
+    }
+
+    void theViewerShowsAndChangesNothing() {
+        // Five decks of which one is gone since.
+        Fixtures::MakeSpread(QStringLiteral("Five Decks"), 2, {decks_[0], decks_[1], decks_[2], decks_[3], decks_[4]});
+        Rewrite(QStringLiteral("Five Decks"), [](SpreadRecord& s) {
+            s.AskQuestion = True16;
+            s.SpreadComments = QStringLiteral("Read slowly");
+        });
+        DeleteDeck(FindDeckByName(QStringLiteral("Deck 3")));
+        frmSpreads& list = ListOn(QStringLiteral("Five Decks"));
+        list.cmdInfo_Click();
+        QVERIFY(!IsLoaded<frmSpreads>());
+        frmSpreadInfo& viewer = Get<frmSpreadInfo>();
+        QCOMPARE(viewer.Caption(), QStringLiteral("Spread View - Five Decks"));
+        QCOMPARE(viewer.lstDecks->ListCount(), 5);
+        QCOMPARE(viewer.lstDecks->List(0), QStringLiteral("     [ MISSING DECK ] "));
+        QCOMPARE(TrimField(viewer.lstDecks->List(1)), QStringLiteral("Deck 1"));
+        QCOMPARE(viewer.picDesignInfo->txtComments->Text(), QStringLiteral("Read slowly"));
+        QVERIFY(viewer.picDesignInfo->txtSpreadTitle->isReadOnly());
+        viewer.chkQuestion()->click();
+        QVERIFY(viewer.chkQuestion()->isChecked());
+        QVERIFY(viewer.cmdDecks->isHidden());
+        QCOMPARE(viewer.picDesignLocations->Width(), 9615);
+        viewer.cmdSpread_Click();
+        viewer.cmdGrid_Click();
+        QCOMPARE(viewer.GridStepY, Integer(247));
+        QCOMPARE(viewer.picDesignLocations->linHorizontalGrid(2)->Y1, 494);
+        QCOMPARE(viewer.lblCardTitle(2)->text(), QStringLiteral("Position 2"));
+        // Only the Attributes button answers; its screen is read-only.
+        SendMouse(viewer.picLocation(2), QEvent::MouseButtonPress, QPoint(5, 5), Qt::LeftButton, Qt::LeftButton);
+        SendMouse(viewer.picLocation(2), QEvent::MouseMove, QPoint(90, 90), Qt::NoButton, Qt::LeftButton);
+        QCOMPARE(viewer.picLocation(2)->Left(), Integer(1440));
+        viewer.cmdCardAttributes(2)->click();
+        frmSpreadInfo_LocationAttributes& attributes = Get<frmSpreadInfo_LocationAttributes>();
+        QCOMPARE(attributes.txtTitle->text(), QStringLiteral("Position 2"));
+        QVERIFY(attributes.txtTitle->isReadOnly() && attributes.txtDescription->isReadOnly());
+        attributes.NotifyActivated(true);
+        attributes.NotifyActivated(false);
+        QVERIFY(!IsLoaded<frmSpreadInfo_LocationAttributes>());
+
+        viewer.cmdClose_Click();
+        Settle();
+        QVERIFY(!IsLoaded<frmSpreadInfo>());
+        QCOMPARE(TrimField(Get<frmSpreads>().lstSpreads->Text()), QStringLiteral("Five Decks"));
+
+        // An any-deck spread says so on the fourth line.
+        Fixtures::MakeSpread(QStringLiteral("Any"), 1, {}, true);
+        ListOn(QStringLiteral("Any")).cmdInfo_Click();
+        QCOMPARE(Get<frmSpreadInfo>().lstDecks->ListCount(), 4);
+        QCOMPARE(Get<frmSpreadInfo>().lstDecks->List(3), QStringLiteral("                          [ ALL DECKS ] "));
+        QVERIFY(Get<frmSpreadInfo>().lstDecks->List(0).isEmpty());
+    }
+
+    void theChooserTiesDecksWithoutANewRevision() {
+        const SpreadRecord before = SpreadNamed(QStringLiteral("Five Decks"));
+        frmSpreads& list = ListOn(QStringLiteral("Five Decks"));
+        list.cmdManager_Click();
+        frmDeckChooser& chooser = Get<frmDeckChooser>();
+        QCOMPARE(chooser.Caption(), QStringLiteral("Choose decks to work with spread: Five Decks"));
+        QVERIFY(!chooser.cmdLink->isHidden() && chooser.chkInstallAll->isHidden());
+        QCOMPARE(chooser.lstDecks->ListCount(), 4);   // the deleted deck is passed over
+        QCOMPARE(chooser.lstAvailableDecks->ListCount(), 1);
+        QVERIFY(!chooser.ChooserDirty);
+
+        chooser.lstDecks->setListIndex(3);
+        chooser.cmdDeleteDeck_Click();
+        QVERIFY(chooser.ChooserDirty);
+        QCOMPARE(chooser.lstDecks->ListIndex(), 2);   // the noted position, one up
+        QCOMPARE(chooser.lstAvailableDecks->ListCount(), 2);
+        chooser.cmdLink_Click();
+        QVERIFY(!chooser.ChooserDirty);
+        SpreadRecord after = SpreadNamed(QStringLiteral("Five Decks"));
+        QCOMPARE(after.AllowedDeckCount, Integer(3));
+        QCOMPARE(after.AllowedDeckId[3], Integer(-1));
+        QCOMPARE(after.SpreadRevision, before.SpreadRevision);
+        QCOMPARE(after.ModifiedOn, before.ModifiedOn);
+
+        // Any deck with names still listed: -1 and the ids all the same,
+        // and a later load shows only the box.
+        chooser.chkAnyDeck->setChecked(true);
+        QVERIFY(!chooser.cmdAddDeck->isEnabled() && !chooser.lstDecks->isEnabled());
+        MsgBoxScript::Answer(vbYes);
+        chooser.cmdClose_Click();
+        Settle();
+        after = SpreadNamed(QStringLiteral("Five Decks"));
+        QCOMPARE(after.AllowedDeckCount, Integer(-1));
+        QCOMPARE(after.AllowedDeckId[0], FindDeckIdByName(QStringLiteral("Deck 1")));
+        QVERIFY(IsLoaded<frmSpreads>());
+        QCOMPARE(Get<frmSpreads>().lblDecksField->text(), QStringLiteral("All"));
+        Get<frmSpreads>().cmdManager_Click();
+        QVERIFY(Get<frmDeckChooser>().chkAnyDeck->isChecked());
+        QCOMPARE(Get<frmDeckChooser>().lstDecks->ListCount(), 0);
+    }
+
+    void theChooserKeepsToTenDecksAndAsksAboutNone() {
+        for (int i = 7; i <= 12; ++i) Fixtures::MakeDeck(QStringLiteral("Deck %1").arg(i, 2, 10, QLatin1Char('0')), 8, false);
+        Fixtures::MakeSpread(QStringLiteral("Bare"), 1);
+        ListOn(QStringLiteral("Bare")).cmdManager_Click();
+        frmDeckChooser& chooser = Get<frmDeckChooser>();
+        QCOMPARE(chooser.lstAvailableDecks->ListCount(), 11);
+        for (int i = 0; i < 11; ++i) chooser.cmdAddDeck_Click();
+        QCOMPARE(chooser.lstDecks->ListCount(), 10);
+        QCOMPARE(chooser.lstAvailableDecks->ListCount(), 1);
+        QCOMPARE(MsgBoxScript::History().last().prompt,
+                 QStringLiteral("The maximum number of decks allowed cannot exceed 10."));
+        while (chooser.lstDecks->ListCount() > 0) chooser.cmdDeleteDeck_Click();
+        // Not saved, then no decks: No stays, Yes goes.
+        MsgBoxScript::Answer(vbNo);
+        MsgBoxScript::Answer(vbNo);
+        chooser.cmdClose_Click();
+        QCOMPARE(MsgBoxScript::History().last().prompt,
+                 QStringLiteral("No decks have been selected.  Are you sure you want to continue?"));
+        QVERIFY(IsLoaded<frmDeckChooser>());
+        UnloadScreen<frmDeckChooser>();
+        UnloadScreen<frmSpreads>();
+        Settle();
+
+        // Installation: the chooser starts empty and writes nothing.
+        ChooserManageMode = false;
+        InstallAllSpreads = true;
+        CurrentSpread = SpreadNamed(QStringLiteral("Beta"));
+        const QByteArray onDisk = ReadWholeFile(SpreadsPath);
+        frmDeckChooser& installing = Get<frmDeckChooser>();
+        QCOMPARE(installing.cmdClose->text(), QStringLiteral("&Continue"));
+        QVERIFY(installing.cmdLink->isHidden() && installing.chkInstallAll->isChecked());
+        QCOMPARE(installing.lstDecks->ListCount(), 0);
+        installing.chkInstallAll->setChecked(false);
+        QVERIFY(!InstallAllSpreads);
+        installing.lstAvailableDecks->setListIndex(0);
+        const QString chosen = installing.lstAvailableDecks->Text();
+        installing.cmdAddDeck_Click();
+        installing.cmdClose_Click();
+        QVERIFY(!IsLoaded<frmDeckChooser>());
+        QVERIFY(!IsLoaded<frmSpreads>());
+        QCOMPARE(CurrentSpread.AllowedDeckCount, Integer(1));
+        QCOMPARE(CurrentSpread.AllowedDeckId[0], FindDeckIdByName(chosen));
+        QVERIFY(CurrentSpread.AllowedDeckId[0] > 0);
+        QCOMPARE(ReadWholeFile(SpreadsPath), onDisk);
+        ChooserManageMode = true;
+    }
+
+    void strayLocationsAreIgnoredAndZeroTextShowsBlank() {
+        const Integer id = Fixtures::MakeSpread(QStringLiteral("Stray"), 2);
+        LocationRecord stray = ZeroRecord<LocationRecord>();
+        stray.LocationSpreadId = 77;   // a spread deleted long ago
+        stray.LocationNumber = 1;
+        stray.LocationTitle = QStringLiteral("Not mine");
+        AppendRecord(LocationsPath, stray);
+        stray.LocationSpreadId = id;   // above the count
+        stray.LocationNumber = 9;
+        AppendRecord(LocationsPath, stray);
+        LocationRecord blank = ZeroRecord<LocationRecord>();   // replaces number 2, text all zero bytes
+        blank.LocationSpreadId = id;
+        blank.LocationNumber = 2;
+        blank.LocationLeft = 600;
+        AppendRecord(LocationsPath, blank);
+
+        frmSpreads& list = ListOn(QStringLiteral("Stray"));
+        QCOMPARE(SpreadLocations.UBound(), 2);
+        QCOMPARE(SpreadLocations(1).LocationTitle.Trimmed(), QStringLiteral("Position 1"));
+        QVERIFY(SpreadLocations(2).LocationTitle.Trimmed().isEmpty());
+        list.cmdInfo_Click();
+        frmSpreadInfo& viewer = Get<frmSpreadInfo>();
+        QVERIFY(viewer.lblCardTitle(2)->text().isEmpty());
+        QCOMPARE(viewer.picLocation(2)->Left(), Integer(600));
+        QVERIFY(viewer.picLocation(3)->isHidden());
+        viewer.cmdCardAttributes(2)->click();
+        QVERIFY(Get<frmSpreadInfo_LocationAttributes>().txtDescription->Text().isEmpty());
+        QVERIFY(Get<frmSpreadInfo_LocationAttributes>().txtQuestion(1)->text().isEmpty());
+        QVERIFY(IsSpreadUsable(QStringLiteral("Stray")) == false);   // tied to no deck
+    }
+};
+
+QTEST_MAIN(TestSpreadScreens)
+#include "tst_spreadscreens.moc"
