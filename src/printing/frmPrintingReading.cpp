@@ -34,7 +34,7 @@ QString CopyrightLine(const QString& what, const Designer& designer) {
 }
 
 constexpr int CaptionLeft = 1680, ValueLeft = 3000, CaptionWidth = 1320, ValueWidth = 7000, LineHeight = 375;
-constexpr int LabelPoints = 10, LocationPoints = 7;
+constexpr int LabelPoints = 9, LocationPoints = 7;
 
 }  // namespace
 
@@ -65,16 +65,16 @@ frmPrintingReading::frmPrintingReading()
     imgBackground->Move(0, 0, 10095, 5895);
 
     Label100 = MakeLabel(this, QStringLiteral("Label100"), QStringLiteral("Spread:"), CaptionLeft, 10560, CaptionWidth,
-                         LineHeight, LabelPoints, true);
+                         LineHeight, LabelPoints);
     Label2 = MakeLabel(this, QStringLiteral("Label2"), QString(), ValueLeft, 10560, ValueWidth, LineHeight, LabelPoints);
     Label101 = MakeLabel(this, QStringLiteral("Label101"), QStringLiteral("Deck:"), CaptionLeft, 11040, CaptionWidth,
-                         LineHeight, LabelPoints, true);
+                         LineHeight, LabelPoints);
     Label3 = MakeLabel(this, QStringLiteral("Label3"), QString(), ValueLeft, 11040, ValueWidth, LineHeight, LabelPoints);
     Label102 = MakeLabel(this, QStringLiteral("Label102"), QStringLiteral("Date & Time:"), CaptionLeft, 11520,
-                         CaptionWidth, LineHeight, LabelPoints, true);
+                         CaptionWidth, LineHeight, LabelPoints);
     lblNow = MakeLabel(this, QStringLiteral("lblNow"), QString(), ValueLeft, 11520, ValueWidth, LineHeight, LabelPoints);
     Label5 = MakeLabel(this, QStringLiteral("Label5"), QStringLiteral("Title:"), CaptionLeft, 12000, CaptionWidth,
-                       LineHeight, LabelPoints, true);
+                       LineHeight, LabelPoints);
     lblTitle = MakeLabel(this, QStringLiteral("lblTitle"), QString(), ValueLeft, 12000, ValueWidth, 975, LabelPoints);
     // A caption stays on its line.
     for (QLabel* caption : {Label100, Label101, Label102, Label5}) caption->setWordWrap(false);

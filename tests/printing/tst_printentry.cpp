@@ -3,6 +3,7 @@
 // printer, and through Qt's printer into PDF files read back with poppler.
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -10,6 +11,7 @@
 #include <QtTest>
 
 #include "platform/OleDate.h"
+#include "platform/Picture.h"
 #include "platform/RecordingPrinter.h"
 #include "printing/PrintEntry.h"
 #include "printing/frmPrintingReading.h"
@@ -98,6 +100,21 @@ class TestPrintEntry : public QObject {
             l.LocationQuestion[0] = QStringLiteral(" Who? ");
             l.LocationQuestion[2] = QStringLiteral("Why?");
         });
+        // Card-sized pictures (120 by 180 pixels), so that the pictures are fitted
+        // into the printed box as real ones are.
+        for (int n = 1; n <= 30; ++n) {
+            CardRecord card;
+            GetRecord(CardsPath, n, card);
+            for (int side = 0; side < 2; ++side) {
+                QImage picture(120, 180, QImage::Format_RGB32);
+                picture.fill(QColor::fromHsv((n * 37) % 360, 160, side == 0 ? 220 : 120));
+                QPainter painter(&picture);
+                painter.drawRect(4, 4, 111, 171);
+                painter.drawText(picture.rect(), Qt::AlignCenter, QString::number(n));
+                painter.end();
+                SavePictureAsBmp(picture, CardsDir + card.CardPicture[static_cast<std::size_t>(side)].Trimmed());
+            }
+        }
         ChangeRecord<CardRecord>(CardsPath, 1, [](CardRecord& c) {
             c.CardDescription[0] = QStringLiteral("First line\nSecond line");
             c.CardDescription[1] = QStringLiteral("First line\nSecond line");
