@@ -9,6 +9,7 @@
 
 #include "platform/MsgBox.h"
 #include "platform/Palette.h"
+#include "printing/PrintEntry.h"
 #include "readings/frmReadingCards.h"
 #include "readings/frmReadingInterpretLocation.h"
 #include "readings/frmReadingNotes.h"
@@ -271,9 +272,7 @@ void frmNewReading::ShowInterpretation() {
 
 void frmNewReading::cmdNotes_Click() { Get<frmReadingNotes>().Show(); }
 
-void frmNewReading::cmdPrint_Click() {
-    MsgBox(QStringLiteral("This screen is not available yet."), vbInformation);
-}
+void frmNewReading::cmdPrint_Click() { PrintEntry(*this, ReadingPrintout(ThisLocationNumber)); }
 
 void frmNewReading::cmdQuickHelp_Click() { Get<frmQuickHelp>().Show(); }
 
