@@ -13,6 +13,9 @@
 #include "platform/MsgBox.h"
 #include "platform/Palette.h"
 #include "platform/Twips.h"
+#include "diary/frmNewDiary.h"
+#include "diary/frmOpenDiary.h"
+#include "diary/frmSelectSpreadforDiary.h"
 #include "readings/frmNewReading.h"
 #include "readings/frmOpenReading.h"
 #include "readings/frmSelectSpread.h"
@@ -265,6 +268,20 @@ void frmMainScreen::OpenFirstLevelScreen(int Index) {
         Get<frmNewReading>().Show();
         Get<frmOpenReading>().Show(true);
         break;
+    case 3:   // a new diary entry: frmNewDiary, with frmSelectSpreadforDiary over it
+        ResetSpread(CurrentSpread);
+        ResetDiary(CurrentDiary);
+        Hide();
+        Get<frmNewDiary>().Show();
+        Get<frmSelectSpreadforDiary>().Show(true);
+        break;
+    case 4:   // a saved diary entry: frmNewDiary, with frmOpenDiary over it
+        ResetSpread(CurrentSpread);
+        ResetDiary(CurrentDiary);
+        Hide();
+        Get<frmNewDiary>().Show();
+        Get<frmOpenDiary>().Show(true);
+        break;
     case 5:   // frmDecks
         Hide();
         Get<frmDecks>().Show();
@@ -273,8 +290,6 @@ void frmMainScreen::OpenFirstLevelScreen(int Index) {
         Hide();
         Get<frmSpreads>().Show();
         break;
-    case 3:   // a new diary entry: frmNewDiary, with frmSelectSpreadforDiary over it
-    case 4:   // a saved diary entry: frmNewDiary, with frmOpenDiary over it
     case 7:   // frmInstallPackage
     case 8:   // frmCreatePackage
     default:
