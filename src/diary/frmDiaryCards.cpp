@@ -19,18 +19,11 @@ namespace {
 
 frmNewDiary& Diary() { return Get<frmNewDiary>(); }
 
-QLabel* MakeCaption(QWidget* parent, const QString& name, const QString& caption, int left, int top, int width) {
-    auto* label = new QLabel(caption, parent);
+QLabel* MakeNamedCaption(QWidget* parent, const QString& name, const QString& caption, int left, int top,
+                         int width) {
+    QLabel* label = MakeCaption(parent, caption, left, top, width);
     label->setObjectName(name);
-    PlaceControl(label, left, top, width, 255);
     return label;
-}
-
-QListWidget* MakeList(QWidget* parent, const QString& name, int left, int top, int width, int height) {
-    auto* list = new QListWidget(parent);
-    list->setObjectName(name);
-    PlaceControl(list, left, top, width, height);
-    return list;
 }
 
 int RowCard(const QListWidgetItem* item) { return item->data(Qt::UserRole).toInt(); }
@@ -50,13 +43,13 @@ frmDiaryCards::frmDiaryCards() {
     setObjectName(QStringLiteral("frmDiaryCards"));
     setCaption(QStringLiteral("Diary Cards"));
     resize(TwipsToPixels(7455), TwipsToPixels(5295));
-    lblCardTypes = MakeCaption(this, QStringLiteral("lblCardTypes"), QStringLiteral("Card Types:"), 120, 120, 2655);
+    lblCardTypes = MakeNamedCaption(this, QStringLiteral("lblCardTypes"), QStringLiteral("Card Types:"), 120, 120, 2655);
     lstCardTypes = MakeList(this, QStringLiteral("lstCardTypes"), 120, 420, 2655, 1215);
     lstCardTypes->setSelectionMode(QAbstractItemView::MultiSelection);
-    lblCards = MakeCaption(this, QStringLiteral("lblCards"), QStringLiteral("Cards:"), 120, 1755, 2655);
+    lblCards = MakeNamedCaption(this, QStringLiteral("lblCards"), QStringLiteral("Cards:"), 120, 1755, 2655);
     lstCards = MakeList(this, QStringLiteral("lstCards"), 120, 2055, 2655, 3015);
     lblCardImage =
-        MakeCaption(this, QStringLiteral("lblCardImage"), QStringLiteral("Card Image:"), 2955, 120, 2655);
+        MakeNamedCaption(this, QStringLiteral("lblCardImage"), QStringLiteral("Card Image:"), 2955, 120, 2655);
     imgCard = new ImageBox(this);
     imgCard->setObjectName(QStringLiteral("imgCard"));
     imgCard->Move(2955, 420, 2655, 4215);

@@ -343,12 +343,7 @@ void frmNewDiary::cmdSave_Click() {
 }
 
 void frmNewDiary::cmdClose_Click() {
-    if (DiaryChanged) {
-        const int answer = MsgBox(QStringLiteral("Save changes to diary before exit?"), vbYesNoCancel | vbQuestion);
-        if (answer == vbCancel) return;
-        // A cancelled save screen still closes the entry.
-        if (answer == vbYes) cmdSave_Click();
-    }
+    if (!ConfirmClose(DiaryChanged, QStringLiteral("Save changes to diary before exit?"))) return;
     Unload();
     Get<frmMainScreen>().Show();
 }
@@ -389,13 +384,6 @@ void frmNewDiary::ShowRowOfLocation(int i) {
 
 void frmNewDiary::Form_Activate() { UnloadScreen<frmDiaryInterpretLocation>(); }
 
-void frmNewDiary::Form_QueryUnload(bool& cancel, int unloadMode) {
-    // The close box asks what Close asks.
-    if (unloadMode != vbFormControlMenu) return;
-    cancel = true;
-    cmdClose_Click();
-}
-
 void frmNewDiary::Form_Unload(bool& cancel) {
     (void)cancel;
     UnloadScreen<frmDiaryInterpretLocation>();
@@ -404,12 +392,8 @@ void frmNewDiary::Form_Unload(bool& cancel) {
 }
 
 void frmNewDiary::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) {
-    (void)shift;
-    if (key == Qt::Key_Escape) {
-        handled = true;
-        cmdClose_Click();
-        return;
-    }
+    EntryScreen::Form_KeyDown(key, shift, handled);
+    if (handled) return;
     // Delete on a location's button empties it, as Delete in its list does.
     if (key == Qt::Key_Delete) {
         for (int i = 1; i <= CurrentSpread.LocationCount; ++i) {

@@ -44,9 +44,9 @@ public:
     void cmdInterpret_Click();
     void cmdNotes_Click();
     void cmdPrint_Click();
-    void cmdSave_Click();
+    void cmdSave_Click() override;
     void cmdQuickHelp_Click();
-    void cmdClose_Click();
+    void cmdClose_Click() override;
     void cmdCardTitle_Click(int Index);
     void cboCardName_DropDown(int Index);
     void cboCardName_Click(int Index);
@@ -60,7 +60,6 @@ public:
 protected:
     void Form_Load() override;
     void Form_Activate() override;
-    void Form_QueryUnload(bool& cancel, int unloadMode) override;
     void Form_Unload(bool& cancel) override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 
