@@ -1,7 +1,7 @@
 // Saved diary entries that can no longer be shown as they were refuse with
 // one message and write nothing; one whose cards point past a smaller deck
-// beyond the checked locations opens with those locations empty; the list by
-// date, deleting, and overwriting under a name.
+// beyond the checked locations opens with those locations empty; saving under
+// another entry's name overwrites it in place.
 #include <QLabel>
 #include <QLineEdit>
 #include <QTemporaryDir>
@@ -153,30 +153,6 @@ private slots:
         // With duplicates off the cards of the entry have left the other lists.
         QVERIFY(!Offered(diary, 16).contains(CardText(15)));
         QCOMPARE(diary.cboCardName(16)->count(), 1 + 21 - 19);
-    }
-
-    void theListIsByDateAndDeletesAfterTheQuestion() {
-        SavedDiary(QStringLiteral("Later"), 46010);
-        SavedDiary(QStringLiteral("Earlier"), 46000);
-        Get<frmNewDiary>();
-        frmOpenDiary& open = Get<frmOpenDiary>();
-        QCOMPARE(open.lstEntries->count(), 2);
-        QVERIFY(open.lstEntries->item(0)->text().endsWith(QStringLiteral("Earlier") +
-                                                          QString(50 - 7, QLatin1Char(' '))));
-        QCOMPARE(open.SelectedName().trimmed(), QStringLiteral("Earlier"));
-        MsgBoxScript::Answer(vbNo);
-        open.cmdDelete_Click();
-        QCOMPARE(CountDiaries(), 2);
-        MsgBoxScript::Answer(vbYes);
-        open.cmdDelete_Click();
-        QVERIFY(MsgBoxScript::History().last().prompt.startsWith(
-            QStringLiteral("Are you sure you want to delete diary '")));
-        QCOMPARE(CountDiaries(), 1);
-        MsgBoxScript::Answer(vbYes);
-        open.cmdDelete_Click();
-        QCOMPARE(CountDiaries(), 0);
-        QCOMPARE(open.lstEntries->count(), 0);
-        QVERIFY(!open.cmdOpen->isEnabled() && !open.cmdDelete->isEnabled());
     }
 
     void savingUnderAnotherEntrysNameOverwritesItInPlace() {
