@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -16,6 +17,7 @@
 #include "printing/PrintEntry.h"
 #include "printing/frmPrintingReading.h"
 #include "printing/mdlPrinting.h"
+#include "diary/DiaryFixtures.h"
 #include "readings/ReadingFixtures.h"
 #include "shell/ClickLabel.h"
 #include "shell/ImageBox.h"
@@ -324,16 +326,16 @@ private slots:
         QDir(dir_->path()).mkpath(QStringLiteral("diary"));
         FreshRun(dir_->path() + QStringLiteral("/diary"));
         MakeDesigns(5);
-        frmNewReading& screen = Reading(0);
-        ResetDiary(CurrentDiary);
-        CurrentDiary.DiaryNotes = QStringLiteral("Cards laid on the kitchen table.");
-        for (int i = 1; i <= 5; ++i) {
-            CurrentDiary.DealtCard[i - 1] = static_cast<Integer>(i * 3);
-            CurrentDiary.DealtUpright[i - 1] = Flag(i % 2 == 1);
-            screen.ShowCardInLocation(i, i * 3, i % 2 == 1);
-        }
+        // Kept through the diary's own screens: the cards chosen location by
+        // location, the notes typed, Print pressed.
+        frmNewDiary& diary = DiaryFixtures::NewDiary();
+        diary.cmdContinue->click();
+        for (int i = 1; i <= 5; ++i) DiaryFixtures::Choose(diary, i, DiaryFixtures::CardText(i * 3), i % 2 == 0);
+        diary.cmdNotes->click();
+        Get<frmDiaryNotes>().txtComments->setPlainText(QStringLiteral("Cards laid on the kitchen table."));
+        Get<frmDiaryNotes>().cmdClose->click();
         PrinterDialogScript::PrintToPdf(diaryPdf);
-        PrintEntry(screen, DiaryPrintout());
+        diary.cmdPrint->click();
         QVERIFY(MsgBoxScript::History().isEmpty());
         QCOMPARE(PdfPages(diaryPdf), 4);
         const QString diaryText = Run(Tool(QStringLiteral("pdftotext")), {QStringLiteral("-layout"), diaryPdf, QStringLiteral("-")});
@@ -347,6 +349,8 @@ private slots:
 
 private:
     void CloseAll() {
+        UnloadScreen<frmDiaryCards>();
+        UnloadScreen<frmNewDiary>();
         UnloadScreen<frmReadingCards>();
         if (frmNewReading* open = ScreenSlot<frmNewReading>()) open->CloseReading();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
