@@ -278,6 +278,14 @@ int main(int argc, char** argv) {
         GetRecord(DecksPath, 160, middle);
         const double del = Time([&] { DeleteDeckCards(middle.DeckId); }, [&] { CopyOnce(keep, CardsPath); });
         Row("DeleteDeckCards on 32,000 cards", del, "copy of Cards.crd", copyCards, 2.0);
+        // A deck save writes its cards in one replacement of the whole file.
+        const double save = Time([] {
+            RecordEdit<CardRecord> cards(CardsPath);
+            const CardRecord card = ZeroRecord<CardRecord>();
+            for (int c = 0; c < 100; ++c) cards.Append(card);
+            cards.Commit();
+        }, [&] { CopyOnce(keep, CardsPath); });
+        Row("100 cards saved after 32,000 cards (deck save)", save, "copy of Cards.crd", copyCards, 2.0);
         Kill(keep);
         Kill(copyPath);
     }
@@ -324,6 +332,11 @@ int main(int argc, char** argv) {
             UnloadScreen<frmOpenReading>();
         });
         RowAbsolute("frmOpenReading listing 5,000 saved readings", list, "ms", 300, true);
+        const QString copyPath = dir.filePath(QStringLiteral("copy.bin"));
+        const double copyReadings = Time([&] { CopyOnce(ReadingsPath, copyPath); });
+        const ReadingRecord reading = ZeroRecord<ReadingRecord>();
+        Row("a reading saved over one of 5,000", Time([&] { PutRecord(ReadingsPath, 2500, reading); }),
+            "copy of Readings.red", copyReadings, 2.0);
     }
     if (Want("lists")) {
         QTemporaryDir dir;

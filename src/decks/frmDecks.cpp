@@ -232,22 +232,26 @@ bool frmDecks::AskDeleteQuestions(const QString& deckName, Integer deckId) {
 namespace {
 
 // Unties the deck from every spread: the entries behind it move up, the
-// freed place is -1, and each changed spread is written back in place.
+// freed place is -1, and the changed spreads are written back together.
 void RemoveDeckFromSpreads(Integer deckId) {
-    const int count = CountSpreads();
-    for (int n = 1; n <= count; ++n) {
-        if (!GetRecord(SpreadsPath, n, ScratchSpread)) break;
-        auto& ids = ScratchSpread.AllowedDeckId;
-        const int used = ScratchSpread.AllowedDeckCount > 0 ? std::min<int>(ScratchSpread.AllowedDeckCount, 10) : 0;
-        int at = -1;
-        for (int i = 0; i < used && at < 0; ++i)
-            if (ids[static_cast<std::size_t>(i)] == deckId) at = i;
-        if (at < 0) continue;
-        for (int i = at; i < 9; ++i) ids[static_cast<std::size_t>(i)] = ids[static_cast<std::size_t>(i + 1)];
-        ids[9] = -1;
-        ScratchSpread.AllowedDeckCount = static_cast<Integer>(ScratchSpread.AllowedDeckCount - 1);
-        PutRecord(SpreadsPath, n, ScratchSpread);
+    RecordEdit<SpreadRecord> changed(SpreadsPath);
+    {
+        RecordReader<SpreadRecord> reader(SpreadsPath);
+        while (reader.Next(ScratchSpread)) {
+            auto& ids = ScratchSpread.AllowedDeckId;
+            const int allowed = ScratchSpread.AllowedDeckCount;
+            const int used = allowed > 0 ? std::min<int>(allowed, 10) : 0;
+            int at = -1;
+            for (int i = 0; i < used && at < 0; ++i)
+                if (ids[static_cast<std::size_t>(i)] == deckId) at = i;
+            if (at < 0) continue;
+            for (int i = at; i < 9; ++i) ids[static_cast<std::size_t>(i)] = ids[static_cast<std::size_t>(i + 1)];
+            ids[9] = -1;
+            ScratchSpread.AllowedDeckCount = static_cast<Integer>(ScratchSpread.AllowedDeckCount - 1);
+            changed.Put(reader.Current(), ScratchSpread);
+        }
     }
+    changed.Commit();
 }
 
 }  // namespace

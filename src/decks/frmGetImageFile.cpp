@@ -49,9 +49,12 @@ void frmGetImageFile::chkPreview_Click() {
 }
 
 void frmGetImageFile::TakeFile(int side, const QString& source) {
+    // The working name changes only once the copy is there: a file that
+    // vanished since it was listed leaves the card as it was.
+    const QString name = (side == 0 ? UprightPictureStem : ReversedPictureStem) + source.right(4);
+    FileCopy(source, TempDir + name);
     QString& working = side == 0 ? UprightPictureFile : ReversedPictureFile;
-    working = (side == 0 ? UprightPictureStem : ReversedPictureStem) + source.right(4);
-    FileCopy(source, TempDir + working);
+    working = name;
     if (IsLoaded<frmAddCard>()) {
         frmAddCard& editor = Get<frmAddCard>();
         editor.DesignModified = true;

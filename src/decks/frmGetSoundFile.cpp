@@ -21,9 +21,12 @@ void frmGetSoundFile::ClearSelectedFile() { MediaPlayer1->Close(); }
 
 void frmGetSoundFile::TakeFile(int side, const QString& source) {
     MediaPlayer1->Close();
+    // The working name changes only once the copy is there: a file that
+    // vanished since it was listed leaves the card as it was.
+    const QString name = (side == 0 ? UprightSoundStem : ReversedSoundStem) + source.right(4);
+    FileCopy(source, TempDir + name);
     QString& working = side == 0 ? UprightSoundFile : ReversedSoundFile;
-    working = (side == 0 ? UprightSoundStem : ReversedSoundStem) + source.right(4);
-    FileCopy(source, TempDir + working);
+    working = name;
     if (IsLoaded<frmAddCard>()) Get<frmAddCard>().TakeWorkingSound(side, working);
 }
 

@@ -151,7 +151,8 @@ void ReportAndGoOn(const std::function<void()>& step) {
 }  // namespace
 
 void frmSaveDeck::WriteCards() {
-    int recordNumber = CountCards() + 1;
+    // The cards go into Cards.crd together, in one replacement of the file.
+    RecordEdit<CardRecord> cards(CardsPath);
     const int sides = CurrentDeck.IncludesReversed ? 2 : 1;
     for (CardRecord& card : CurrentDeck.DeckCards) {
         for (int side = 0; side < sides; ++side) {
@@ -176,7 +177,7 @@ void frmSaveDeck::WriteCards() {
                 ReportAndGoOn([&] { Name(TempDir + oldSound, TempDir + newSound); });
             });
         }
-        ReportAndGoOn([&] { PutRecord(CardsPath, recordNumber, card); });
-        ++recordNumber;
+        cards.Append(card);
     }
+    ReportAndGoOn([&] { cards.Commit(); });
 }

@@ -461,7 +461,19 @@ Integer frmInstallPackage::MapDeckId(Integer oldId) {
 }
 
 void frmInstallPackage::InstallCards() {
-    int position = CountCards() + 1;
+    // The cards go into Cards.crd in one replacement of the file; those
+    // taken before a failure are written all the same.
+    RecordEdit<CardRecord> cards(CardsPath);
+    try {
+        TakeCards(cards);
+    } catch (...) {
+        cards.Commit();
+        throw;
+    }
+    cards.Commit();
+}
+
+void frmInstallPackage::TakeCards(RecordEdit<CardRecord>& cards) {
     RecordReader<CardRecord> reader(TempFile("Temp.crd"));
     CardRecord card;
     // Every card file is copied under a fresh name, so the files of
@@ -481,7 +493,7 @@ void frmInstallPackage::InstallCards() {
             takeFile(card.CardSound[0], TrimField(NewUprightNames(i)) + QStringLiteral("M.WAV"));
         if (!card.CardSound[1].IsBlank() && !TrimField(NewReversedSoundNames(i)).isEmpty())
             takeFile(card.CardSound[1], TrimField(NewReversedNames(i)) + QStringLiteral("M.WAV"));
-        PutRecord(CardsPath, position++, card);
+        cards.Append(card);
     }
 }
 

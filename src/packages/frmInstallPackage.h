@@ -12,6 +12,7 @@
 #include "platform/Arrays.h"
 #include "platform/CommonDialog.h"
 #include "platform/Form.h"
+#include "store/RecordFile.h"
 #include "store/mdlTypes.h"
 
 class DirListBox;
@@ -85,6 +86,7 @@ private:
     void LoadInstalledSpreads();
     void InstallDecks();
     void InstallCards();
+    void TakeCards(RecordEdit<CardRecord>& cards);
     void InstallSpreads();
     void InstallSpread(SpreadRecord spread, int i, int& position);
     void RemapSpread(int i);

@@ -9,6 +9,7 @@
 #include "platform/Errors.h"
 #include "platform/FileSys.h"
 #include "platform/MsgBox.h"
+#include "platform/WriteFaults.h"
 #include "store/mdlSubRoutines.h"
 #include "store/mdlVariables.h"
 
@@ -30,7 +31,7 @@ void OpenBinary(QFile& file, const QString& path, QIODevice::OpenMode mode) {
 }
 
 void WriteAll(QFile& file, const char* bytes, qint64 length) {
-    if (file.write(bytes, length) != length) RaiseError(errDiskFull);
+    if (WriteStep(file, bytes, length) != length) RaiseError(errDiskFull);
 }
 
 // A buffer indexed from 1 to size: none can be made for a size below 1.

@@ -7,6 +7,7 @@
 
 #include "platform/Errors.h"
 #include "platform/FileSys.h"
+#include "platform/WriteFaults.h"
 
 namespace {
 constexpr qint64 kBlockBytes = 1 << 20;
@@ -16,13 +17,17 @@ void OpenOrRaise(QFile& file, QIODevice::OpenMode mode) {
 }
 
 void WriteOrRaise(QFile& file, const char* bytes, qint64 length) {
-    if (file.write(bytes, length) != length) RaiseError(errDiskFull);
+    if (WriteStep(file, bytes, length) != length) RaiseError(errDiskFull);
 }
 
+// A new file that did not reach the disk must not replace the old one: a
+// failed sync stops the rename.
 void FlushOrRaise(QFile& file) {
-    if (!file.flush()) RaiseError(errDiskFull);
-    ::fsync(file.handle());
+    if (!file.flush() || !SyncStep(file.handle())) RaiseError(errDiskFull);
 }
+
+// Where a record file's replacement is built before it is renamed over it.
+QString NewFileBeside(const QString& path) { return NativePath(path) + QStringLiteral(".new"); }
 }  // namespace
 
 RecordFileReader::RecordFileReader(const QString& path, int recordLength)
@@ -118,21 +123,51 @@ bool ReadRecordBytes(const QString& path, int recordLength, int recordNumber, ch
     return file.read(out, recordLength) == recordLength;
 }
 
-void WriteRecordBytes(const QString& path, int recordLength, int recordNumber, const char* bytes) {
+RecordFileEdit::RecordFileEdit(const QString& path, int recordLength)
+    : path_(path), length_(recordLength), count_(RecordCountOf(path, recordLength)) {}
+
+int RecordFileEdit::RecordCount() const {
+    return changes_.empty() ? count_ : std::max(count_, changes_.rbegin()->first);
+}
+
+void RecordFileEdit::Put(int recordNumber, const char* bytes) {
     if (recordNumber < 1) RaiseError(errBadFileName, QStringLiteral("Bad record number"));
-    QFile file(NativePath(path));
-    OpenOrRaise(file, QIODevice::ReadWrite);
-    if (!file.seek(static_cast<qint64>(recordNumber - 1) * recordLength)) RaiseError(errPathFileAccess);
-    WriteOrRaise(file, bytes, recordLength);
-    FlushOrRaise(file);
+    changes_[recordNumber] = QByteArray(bytes, length_);
+}
+
+void RecordFileEdit::Commit() {
+    if (changes_.empty()) return;
+    AtomicFileWriter writer(NewFileBeside(path_), path_);
+    {
+        RecordFileReader reader(path_, length_);
+        const int last = std::max(reader.RecordCount(), changes_.rbegin()->first);
+        const QByteArray gap(length_, '\0');
+        auto change = changes_.cbegin();
+        for (int n = 1; n <= last; ++n) {
+            // The reader stays in step with n over the records the file has.
+            const char* old = n <= reader.RecordCount() ? reader.Next() : nullptr;
+            if (change != changes_.cend() && change->first == n) {
+                writer.Write((change++)->second);
+            } else {
+                writer.Write(old ? old : gap.constData(), length_);
+            }
+        }
+    }
+    writer.Commit();
+    changes_.clear();
+    count_ = RecordCountOf(path_, length_);
+}
+
+void WriteRecordBytes(const QString& path, int recordLength, int recordNumber, const char* bytes) {
+    RecordFileEdit edit(path, recordLength);
+    edit.Put(recordNumber, bytes);
+    edit.Commit();
 }
 
 void AppendRecordBytes(const QString& path, int recordLength, const QByteArray& records) {
-    QFile file(NativePath(path));
-    OpenOrRaise(file, QIODevice::ReadWrite);
-    const qint64 whole = (file.size() / recordLength) * recordLength;
-    if (!file.seek(whole)) RaiseError(errPathFileAccess);
-    WriteOrRaise(file, records.constData(), records.size());
-    if (file.size() > whole + records.size()) file.resize(whole + records.size());
-    FlushOrRaise(file);
+    RecordFileEdit edit(path, recordLength);
+    const int first = edit.RecordCount() + 1;
+    for (qsizetype at = 0; at + recordLength <= records.size(); at += recordLength)
+        edit.Put(first + static_cast<int>(at / recordLength), records.constData() + at);
+    edit.Commit();
 }

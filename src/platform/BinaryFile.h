@@ -5,6 +5,7 @@
 // instant the real file is either the old or the new one, whole.
 #include <QByteArray>
 #include <QString>
+#include <map>
 #include <memory>
 
 class QFile;
@@ -63,14 +64,37 @@ private:
     bool committed_ = false;
 };
 
-// Random access to one record: read record n, or write it in place (the file
-// grows when n is one past the end). Raises on failure.
+// Changes to the records of one file, made in one step. Records put by
+// number are held in memory; Commit writes the whole file anew beside the old
+// one (unchanged records copied, the changed ones in their places, records
+// past the end added, a partial last record left out) and renames it over, so
+// that a reader finds every change or none, and never a torn record.
+class RecordFileEdit {
+public:
+    RecordFileEdit(const QString& path, int recordLength);
+    // Whole records of the file as it will be after Commit.
+    int RecordCount() const;
+    // recordLength bytes for record n (from 1); a record far past the end
+    // leaves the records between all zero.
+    void Put(int recordNumber, const char* bytes);
+    bool Pending() const { return !changes_.empty(); }
+    // Writes the changes, if any; the edit is then empty and may go on.
+    void Commit();
+
+private:
+    QString path_;
+    int length_;
+    int count_;
+    std::map<int, QByteArray> changes_;
+};
+
+// Random access to one record: read record n, or write it (the file grows
+// when n is past the end). A write is a RecordFileEdit of one record. Raises
+// on failure.
 bool ReadRecordBytes(const QString& path, int recordLength, int recordNumber, char* out);
 void WriteRecordBytes(const QString& path, int recordLength, int recordNumber, const char* bytes);
-// Appends records after the last whole record of a file (made if missing;
-// a partial last record is written over) and flushes them. A write cut short
-// leaves at most a partial last record, which readers ignore, so the records
-// before it stay whole.
+// Appends whole records after the last whole record of a file (made if
+// missing; a partial last record is dropped), in one step as above.
 void AppendRecordBytes(const QString& path, int recordLength, const QByteArray& records);
 // The whole records in a file (its length divided by the record length);
 // 0 for a missing file.

@@ -10,6 +10,7 @@
 #include <fcntl.h>
 
 #include "platform/Errors.h"
+#include "platform/WriteFaults.h"
 
 namespace {
 
@@ -49,6 +50,7 @@ bool HasWildcards(const QString& s) {
 }
 
 void SyncFile(const QString& path) {
+    if (!WriteFaults::Syncs()) return;
     const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY);
     if (fd >= 0) {
         ::fsync(fd);
@@ -114,9 +116,9 @@ void FileCopy(const QString& source, const QString& destination) {
         const qint64 n = in.read(buffer, sizeof buffer);
         if (n < 0) RaiseError(errPathFileAccess);
         if (n == 0) break;
-        if (out.write(buffer, n) != n) RaiseError(errDiskFull);
+        if (WriteStep(out, buffer, n) != n) RaiseError(errDiskFull);
     }
-    if (!out.commit()) RaiseError(errPathFileAccess);
+    if (!OtherStep() || !out.commit()) RaiseError(errPathFileAccess);
 }
 
 void Name(const QString& oldPath, const QString& newPath) {
@@ -132,8 +134,7 @@ void ReplaceFile(const QString& newFile, const QString& realFile) {
     const QString to = NativePath(realFile);
     if (!QFileInfo::exists(from)) RaiseError(errFileNotFound);
     SyncFile(from);
-    if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
-        RaiseError(errPathFileAccess);
+    if (!RenameStep(from, to)) RaiseError(errPathFileAccess);
     SyncFile(FolderOf(to));
 }
 
@@ -175,8 +176,8 @@ QByteArray ReadWholeFile(const QString& path) {
 void WriteWholeFile(const QString& path, const QByteArray& bytes) {
     QSaveFile f(NativePath(path));
     if (!f.open(QIODevice::WriteOnly)) RaiseError(errPathNotFound);
-    if (f.write(bytes) != bytes.size()) RaiseError(errDiskFull);
-    if (!f.commit()) RaiseError(errPathFileAccess);
+    if (WriteStep(f, bytes.constData(), bytes.size()) != bytes.size()) RaiseError(errDiskFull);
+    if (!OtherStep() || !f.commit()) RaiseError(errPathFileAccess);
 }
 
 QString FolderOf(const QString& path) {

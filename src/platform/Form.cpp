@@ -3,10 +3,17 @@
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QPlainTextEdit>
 #include <QPointer>
+#include <QScrollBar>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <algorithm>
 
+#include "platform/CodePage.h"
 #include "platform/Errors.h"
 #include "platform/Twips.h"
 
@@ -15,6 +22,46 @@ QPointer<QMdiArea> gArea;
 QPointer<QMdiSubWindow> gActiveSub;
 
 Form* FormOf(QMdiSubWindow* sub) { return sub ? qobject_cast<Form*>(sub->widget()) : nullptr; }
+
+// Text boxes hold only what a record can: a character typed or pasted that
+// the code page cannot hold turns into '?' at once, so what the user sees is
+// what is saved, looked up and shown again.
+QString AsRecordText(const QString& text) { return FromAnsi(ToAnsi(text)); }
+
+void KeepToCodePage(QLineEdit* box, const QString& text) {
+    if (AnsiRepresentable(text)) return;
+    const int cursor = static_cast<int>(AsRecordText(text.left(box->cursorPosition())).size());
+    box->setText(AsRecordText(text));
+    box->setCursorPosition(cursor);
+}
+
+void KeepToCodePage(QPlainTextEdit* box) {
+    const QString text = box->toPlainText();
+    if (AnsiRepresentable(text)) return;
+    const int at = box->textCursor().position();
+    const int cursor = static_cast<int>(AsRecordText(text.left(at)).size());
+    const int scrolled = box->verticalScrollBar()->value();
+    QTextCursor all(box->document());
+    all.select(QTextCursor::Document);
+    all.insertText(AsRecordText(text));   // raises textChanged once more, representable now
+    QTextCursor back(box->document());
+    back.setPosition(std::min(cursor, static_cast<int>(box->document()->characterCount()) - 1));
+    box->setTextCursor(back);
+    box->verticalScrollBar()->setValue(scrolled);
+}
+
+void WatchTextBox(QObject* child) {
+    static const char* kept = "cartomarCodePageKept";
+    if (child->property(kept).toBool()) return;
+    if (auto* line = qobject_cast<QLineEdit*>(child)) {
+        QObject::connect(line, &QLineEdit::textEdited, line, [line](const QString& text) { KeepToCodePage(line, text); });
+    } else if (auto* plain = qobject_cast<QPlainTextEdit*>(child)) {
+        QObject::connect(plain, &QPlainTextEdit::textChanged, plain, [plain] { KeepToCodePage(plain); });
+    } else {
+        return;
+    }
+    child->setProperty(kept, true);
+}
 }  // namespace
 
 void SetFrameArea(QMdiArea* area) {
@@ -182,6 +229,7 @@ void Form::NotifyActivated(bool active) {
 void Form::watchChildren(QObject* root) {
     for (QObject* child : root->children()) {
         if (child->isWidgetType()) {
+            WatchTextBox(child);
             child->removeEventFilter(this);
             child->installEventFilter(this);
             watchChildren(child);

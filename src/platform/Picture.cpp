@@ -2,6 +2,7 @@
 
 #include <QImageReader>
 #include <QImageWriter>
+#include <QSaveFile>
 
 #include "platform/Errors.h"
 #include "platform/FileSys.h"
@@ -24,6 +25,10 @@ Picture LoadPicture(const QString& path) {
 }
 
 void SavePictureAsBmp(const QImage& image, const QString& path) {
-    QImageWriter writer(NativePath(path), "bmp");
-    if (!writer.write(image)) RaiseError(errPathFileAccess);
+    // Written beside and renamed over: the shared default picture is never
+    // seen half-written.
+    QSaveFile file(NativePath(path));
+    if (!file.open(QIODevice::WriteOnly)) RaiseError(errPathFileAccess);
+    QImageWriter writer(&file, "bmp");
+    if (!writer.write(image) || !file.commit()) RaiseError(errPathFileAccess);
 }

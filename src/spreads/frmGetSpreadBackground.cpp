@@ -115,10 +115,13 @@ void frmGetSpreadBackground::cmdOK_Click() {
     } else {
         if (!Validate(typed)) return;
         const QString fileName = TrimField(typed);
-        CurrentSpread.StretchBackground = Flag(chkStretchPicture->isChecked());
-        CurrentSpread.BackgroundFile = WorkingBackgroundName(fileName);
-        const QString copy = TempDir + CurrentSpread.BackgroundFile.Value();
+        // The spread takes the picture only once the copy is there: a file
+        // that vanished since it was listed leaves the spread as it was.
+        const QString working = WorkingBackgroundName(fileName);
+        const QString copy = TempDir + working;
         FileCopy(fileName, copy);
+        CurrentSpread.StretchBackground = Flag(chkStretchPicture->isChecked());
+        CurrentSpread.BackgroundFile = working;
         if (designer) designer->ShowBackground(copy, CurrentSpread.StretchBackground != 0);
     }
     if (designer) designer->SpreadDirty = true;

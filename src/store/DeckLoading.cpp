@@ -20,19 +20,19 @@ bool LoadDeck(bool& DeckRemoved) {
     // Records whose pictures have gone are written back blank: the element
     // of DeckCards stands all zero at that moment, so the card is lost to
     // later loads, and the load after next reports the deck as incomplete.
-    std::vector<std::pair<int, CardRecord>> blanked;
+    RecordEdit<CardRecord> blanked(CardsPath);
     int cardNumber = 1;
     {
         RecordReader<CardRecord> reader(CardsPath);
         while (cardNumber <= cardCount && reader.Next(ScratchCard)) {
             if (ScratchCard.CardDeckId != CurrentDeck.DeckId) continue;
             if (ValidateCardPictures(ScratchCard))
-                blanked.emplace_back(reader.Current(), CurrentDeck.DeckCards(cardNumber));
+                blanked.Put(reader.Current(), CurrentDeck.DeckCards(cardNumber));
             CurrentDeck.DeckCards(cardNumber) = ScratchCard;
             ++cardNumber;
         }
     }
-    for (const auto& [recordNumber, card] : blanked) PutRecord(CardsPath, recordNumber, card);
+    blanked.Commit();
 
     if (cardNumber <= cardCount) {
         const int answer = MsgBox(QStringLiteral("This deck is missing some pictures. Cannot continue loading.\n"

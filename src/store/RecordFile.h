@@ -21,7 +21,8 @@ bool GetRecord(const QString& path, int recordNumber, R& r) {
     return true;
 }
 
-// Writes record n in place; n one past the end appends.
+// Writes record n; n one past the end appends. The file is replaced in one
+// step (see RecordFileEdit): a crash leaves the old file or the new, whole.
 template <class R>
 void PutRecord(const QString& path, int recordNumber, const R& r) {
     const QByteArray bytes = EncodeRecord(r);
@@ -64,6 +65,22 @@ public:
 
 private:
     RecordFileReader reader_;
+};
+
+// Several records of one file written in one step: puts are held until
+// Commit, which replaces the file once for all of them.
+template <class R>
+class RecordEdit {
+public:
+    explicit RecordEdit(const QString& path) : edit_(path, R::Length) {}
+    int Count() const { return edit_.RecordCount(); }
+    void Put(int recordNumber, const R& r) { edit_.Put(recordNumber, EncodeRecord(r).constData()); }
+    void Append(const R& r) { Put(Count() + 1, r); }
+    bool Pending() const { return edit_.Pending(); }
+    void Commit() { edit_.Commit(); }
+
+private:
+    RecordFileEdit edit_;
 };
 
 // Builds a replacement for a record file record by record.

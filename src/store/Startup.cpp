@@ -36,6 +36,15 @@ void MakeRecordFileIfMissing(const QString& path) {
     if (!FileExists(path)) WriteWholeFile(path, QByteArray());
 }
 
+// A process that died while replacing a record file leaves the new file it
+// was building beside the real one, which stayed whole. Nothing reads it.
+void RemoveUnfinishedWrites() {
+    for (const QString* path : {&ReadingsPath, &DiaryPath, &SpreadsPath, &LocationsPath, &DecksPath, &CardsPath})
+        KillIgnoringErrors(*path + QStringLiteral(".new"));
+    for (const char* name : {"Spreads.tmp", "Location.tmp", "Readings.tmp", "Diaries.tmp", "Cards.tmp"})
+        KillIgnoringErrors(AppPath + QLatin1String(name));
+}
+
 }  // namespace
 
 void FormPaths(const QString& programDir) {
@@ -69,6 +78,7 @@ void InitDatabase() {
     // database of the old format.
     for (const QString* path : {&ReadingsPath, &DiaryPath, &SpreadsPath, &DecksPath, &CardsPath})
         MakeRecordFileIfMissing(*path);
+    RemoveUnfinishedWrites();
     MkDirIgnoringErrors(CardsDir);
     MkDirIgnoringErrors(PackagesDir);
     SavePictureAsBmp(DefaultCardPicture(), DefaultPicturePath);

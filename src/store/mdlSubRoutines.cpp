@@ -244,13 +244,20 @@ Integer NextSpreadId() { return SmallestFreeId(SpreadsPath, &SpreadRecord::Sprea
 
 // ---- Delete passes -------------------------------------------------------------
 
+// What hangs on a design goes after the design's own record is gone: a
+// failure on the way then leaves records or files that nothing names, never
+// a design that has lost part of itself.
 void DeleteSpread(int recordNumber) {
+    std::vector<SpreadRecord> gone;
     RewriteWithout<SpreadRecord>(SpreadsPath, AppPath + SpreadsTmpName, [&](const SpreadRecord& r, int number) {
         if (number != recordNumber) return false;
-        DeleteSpreadLocations(r.SpreadId);
-        KillDesignFile(r.BackgroundFile.Value());
+        gone.push_back(r);
         return true;
     });
+    for (const SpreadRecord& r : gone) {
+        DeleteSpreadLocations(r.SpreadId);
+        KillDesignFile(r.BackgroundFile.Value());
+    }
 }
 
 void DeleteSpreadLocations(Integer spreadId) {
@@ -288,25 +295,30 @@ void DeleteDiary(const QString& name) {
 }
 
 void DeleteDeck(int recordNumber) {
+    std::vector<Integer> gone;
     RewriteWithout<DeckRecord>(DecksPath, TempDir + DecksTmpName, [&](const DeckRecord& r, int number) {
         if (number != recordNumber) return false;
-        DeleteDeckCards(r.DeckId);
+        gone.push_back(r.DeckId);
         return true;
     });
+    for (Integer deckId : gone) DeleteDeckCards(deckId);
 }
 
 void DeleteDeckCards(Integer deckId) {
     const int idAt = OffsetOf(&CardRecord::CardDeckId);
+    // The files go once the records that name them are gone.
+    QStringList files;
     RewriteWithout<CardRecord>(CardsPath, AppPath + CardsTmpName, [&](const char* raw) {
         return RawInteger(raw, idAt) == deckId;
-    }, [](const CardRecord& r) {
+    }, [&](const CardRecord& r) {
         for (const auto& picture : r.CardPicture) {
             // The shared default picture is recognised by the exact field
             // value; every other picture belongs to this card alone.
-            if (picture.Value() != DefaultPictureName) KillDesignFile(picture.Value());
+            if (picture.Value() != DefaultPictureName) files << picture.Value();
         }
-        for (const auto& sound : r.CardSound) KillDesignFile(sound.Value());
+        for (const auto& sound : r.CardSound) files << sound.Value();
     });
+    for (const QString& file : files) KillDesignFile(file);
 }
 
 void DeleteSpreadBackground(int recordNumber) {

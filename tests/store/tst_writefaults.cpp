@@ -1,0 +1,270 @@
+// Every operation that writes record files, with a fault at each of its write
+// steps in turn: a failing write, a disk that fills in the middle of a write,
+// and (in a child process) a kill at that step. Afterwards every record file
+// is a whole number of records, holds every record that both the file before
+// and the file after a clean run hold, holds nothing that is in neither, every
+// deck that the operation keeps still loads, and the program starts.
+#include <QFile>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <functional>
+#include <map>
+#include <memory>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QLineEdit>
+
+#include "decks/frmSaveDeck.h"
+#include "packages/frmInstallPackage.h"
+#include "platform/Errors.h"
+#include "platform/FileSys.h"
+#include "platform/MsgBox.h"
+#include "platform/ProgramLock.h"
+#include "platform/WriteFaults.h"
+#include "store/RecordFile.h"
+#include "store/Startup.h"
+#include "store/mdlSubRoutines.h"
+#include "store/mdlVariables.h"
+#include "support/Fixtures.h"
+
+using WriteFaults::Fault;
+
+namespace {
+
+struct RecordFileKind {
+    const QString* path;
+    int length;
+};
+
+const RecordFileKind kFiles[] = {{&DecksPath, DeckRecord::Length},       {&CardsPath, CardRecord::Length},
+                                 {&SpreadsPath, SpreadRecord::Length},   {&LocationsPath, LocationRecord::Length},
+                                 {&ReadingsPath, ReadingRecord::Length}, {&DiaryPath, DiaryRecord::Length}};
+
+using Snapshot = std::map<QString, QByteArray>;   // file name -> bytes
+
+Snapshot Snap() {
+    Snapshot s;
+    for (const RecordFileKind& f : kFiles)
+        s[FileNameOf(*f.path)] = FileExists(*f.path) ? ReadWholeFile(*f.path) : QByteArray();
+    return s;
+}
+
+QSet<QByteArray> Records(const QByteArray& bytes, int length) {
+    QSet<QByteArray> set;
+    for (qsizetype at = 0; at + length <= bytes.size(); at += length) set.insert(bytes.mid(at, length));
+    return set;
+}
+
+ReadingRecord Reading(const QString& name) {
+    ReadingRecord r;
+    ResetReading(r);
+    r.ReadingName = name;
+    r.SavedOn = 45000;
+    return r;
+}
+
+DiaryRecord Diary(const QString& name) {
+    DiaryRecord r;
+    ResetDiary(r);
+    r.DiaryName = name;
+    r.SavedOn = 45000;
+    return r;
+}
+
+// Two decks, two spreads, three readings, two diary entries; and a package
+// of one deck laid out in Temp/ as its extraction leaves it.
+void MakeFixture(const QString& dir) {
+    Fixtures::UseProgramDir(dir);
+    const Integer deckA = Fixtures::MakeDeck(QStringLiteral("Deck A"), 3, true);
+    Fixtures::MakeDeck(QStringLiteral("Deck B"), 2, false);
+    Fixtures::MakeSpread(QStringLiteral("Spread A"), 3, {deckA});
+    Fixtures::MakeSpread(QStringLiteral("Spread B"), 2, {}, true);
+    for (const char* name : {"First", "Second", "Third"}) AppendRecord(ReadingsPath, Reading(QLatin1String(name)));
+    for (const char* name : {"Monday", "Tuesday"}) AppendRecord(DiaryPath, Diary(QLatin1String(name)));
+
+    const Integer packed = Fixtures::MakeDeck(QStringLiteral("Packed"), 2, true);
+    const int at = FindDeckByName(QStringLiteral("Packed"));
+    DeckRecord deck;
+    GetRecord(DecksPath, at, deck);
+    QByteArray cards;
+    for (const CardRecord& card : ReadAllRecords<CardRecord>(CardsPath)) {
+        if (card.CardDeckId != packed) continue;
+        cards += EncodeRecord(card);
+        for (const auto& picture : card.CardPicture)
+            if (picture.Value() != DefaultPictureName) FileCopy(CardsDir + picture.Value(), TempDir + picture.Value());
+    }
+    WriteWholeFile(TempDir + QStringLiteral("Temp.dck"), EncodeRecord(deck));
+    WriteWholeFile(TempDir + QStringLiteral("Temp.crd"), cards);
+    DeleteDeck(at);
+}
+
+// Puts the first deck in the designer's place, pictures in Temp/, as the
+// save screen finds it.
+void OpenDeckForSaving() {
+    GetRecord(DecksPath, 1, ListDeck);
+    bool removed = false;
+    LoadDeck(removed);
+    for (const CardRecord& card : CurrentDeck.DeckCards)
+        for (const auto& picture : card.CardPicture)
+            if (!FileExists(TempDir + picture.Value())) FileCopy(CardsDir + picture.Value(), TempDir + picture.Value());
+}
+
+struct Operation {
+    const char* name;
+    std::function<void()> prepare;   // untouched by faults
+    std::function<void()> run;
+};
+
+const QList<Operation>& Operations() {
+    static const QList<Operation> all = {
+        {"reading saved anew", {}, [] { PutRecord(ReadingsPath, CountReadings() + 1, Reading(QStringLiteral("New"))); }},
+        {"reading saved over", {}, [] { PutRecord(ReadingsPath, 2, Reading(QStringLiteral("Second"))); }},
+        {"diary entry saved over", {}, [] { PutRecord(DiaryPath, 1, Diary(QStringLiteral("Moonday"))); }},
+        {"reading deleted", {}, [] { DeleteReading(QStringLiteral("Second")); }},
+        {"diary entry deleted", {}, [] { DeleteDiary(QStringLiteral("Tuesday")); }},
+        {"spread deleted", {}, [] { DeleteSpread(1); }},
+        {"spread saved over",
+         [] {
+             GetRecord(SpreadsPath, 1, CurrentSpread);
+             LoadSpreadLocations(CurrentSpread.SpreadId, 3);
+             SpreadLocations(2).LocationTitle = QStringLiteral("Moved");
+             CurrentSpread.SpreadRevision = 7;
+         },
+         [] {
+             ReplaceSpreadLocations(CurrentSpread.SpreadId, 3);
+             PutRecord(SpreadsPath, 1, CurrentSpread);
+         }},
+        {"deck deleted", {}, [] { DeleteDeck(1); }},
+        {"deck saved as new", OpenDeckForSaving,
+         [] {
+             frmSaveDeck& save = Get<frmSaveDeck>();
+             save.txtSaveAs->setText(QStringLiteral("Deck C"));
+             save.cmdSave_Click();
+         }},
+        {"package installed", {}, [] { Get<frmInstallPackage>().Install(); }},
+    };
+    return all;
+}
+
+}  // namespace
+
+class TestWriteFaults : public QObject {
+    Q_OBJECT
+    int injected_ = 0;
+
+    // Runs an operation on the fixture; a fault reaches here as an error.
+    void Run(const Operation& op, Fault fault, int step) {
+        if (op.prepare) op.prepare();
+        WriteFaults::Arm(fault, step);
+        try {
+            op.run();
+        } catch (const RuntimeError&) {
+        }
+        WriteFaults::Disarm();
+        UnloadScreen<frmSaveDeck>();
+        UnloadScreen<frmInstallPackage>();
+    }
+
+    // The number of write steps of an operation, leaving its result in place.
+    int CleanRun(const Operation& op) {
+        clean_ = std::make_unique<QTemporaryDir>();
+        MakeFixture(clean_->path());
+        Run(op, Fault::None, 0);
+        return WriteFaults::Steps();
+    }
+    std::unique_ptr<QTemporaryDir> clean_;
+
+    // The state after a fault, against the files before and after a clean run.
+    void Check(const QString& dir, const Snapshot& before, const Snapshot& after, const QString& what) {
+        const Snapshot now = Snap();
+        for (const RecordFileKind& f : kFiles) {
+            const QString name = FileNameOf(*f.path);
+            const QByteArray& bytes = now.at(name);
+            QVERIFY2(bytes.size() % f.length == 0, qPrintable(what + QStringLiteral(": torn ") + name));
+            const QSet<QByteArray> old = Records(before.at(name), f.length);
+            const QSet<QByteArray> done = Records(after.at(name), f.length);
+            const QSet<QByteArray> found = Records(bytes, f.length);
+            QVERIFY2((QSet<QByteArray>(old).intersect(done) - found).isEmpty(),
+                     qPrintable(what + QStringLiteral(": lost a record of ") + name));
+            QVERIFY2((found - old - done).isEmpty(), qPrintable(what + QStringLiteral(": stray record in ") + name));
+        }
+        // A deck that both sides keep still loads whole, pictures and all.
+        const QSet<QByteArray> decksNow = Records(now.at(QStringLiteral("Decks.dck")), DeckRecord::Length);
+        for (const QByteArray& bytes : Records(before.at(QStringLiteral("Decks.dck")), DeckRecord::Length)) {
+            if (!decksNow.contains(bytes)) continue;
+            DecodeRecord(bytes.constData(), ListDeck);
+            bool removed = false;
+            QVERIFY2(LoadDeck(removed), qPrintable(what + QStringLiteral(": deck no longer loads")));
+        }
+        MsgBoxScript::Clear();
+        QVERIFY2(RunStartup(dir), qPrintable(what));
+        QVERIFY2(!AnyFileMatches(AppPath + QStringLiteral("*.new")), qPrintable(what));
+        QCOMPARE(MsgBoxScript::Unanswered(), 0);
+        ++injected_;
+    }
+
+private slots:
+    void initTestCase() {
+        MsgBoxScript::Enable();
+        WriteFaults::SetSyncs(false);   // throwaway folders; a kill loses no unsynced write
+    }
+
+    void cleanupTestCase() {
+        qInfo("write faults injected and survived: %d", injected_);
+        ReleaseProgramLock();
+    }
+
+    void everyStepFailingOrFillingTheDiskLeavesWholeFiles() {
+        for (const Operation& op : Operations()) {
+            const int steps = CleanRun(op);
+            const Snapshot after = Snap();
+            QVERIFY2(steps >= 3, op.name);
+            for (Fault fault : {Fault::Fail, Fault::DiskFull}) {
+                for (int step = 1; step <= steps; ++step) {
+                    QTemporaryDir dir;
+                    MakeFixture(dir.path());
+                    const Snapshot before = Snap();
+                    Run(op, fault, step);
+                    Check(dir.path(), before, after,
+                          QStringLiteral("%1, fault %2 at step %3").arg(QLatin1String(op.name)).arg(int(fault)).arg(step));
+                    if (QTest::currentTestFailed()) return;
+                }
+            }
+        }
+    }
+
+    // The process killed at each step, half-way through a write where the
+    // step is one.
+    void aProcessKilledAtAnyStepLeavesWholeFiles() {
+        for (const Operation& op : Operations()) {
+            const int steps = CleanRun(op);
+            const Snapshot after = Snap();
+            for (int step = 1; step <= steps; ++step) {
+                QTemporaryDir dir;
+                MakeFixture(dir.path());
+                const Snapshot before = Snap();
+                if (op.prepare) op.prepare();
+                const pid_t child = ::fork();
+                if (child == 0) {
+                    WriteFaults::Arm(Fault::Kill, step);
+                    try {
+                        op.run();
+                    } catch (...) {
+                    }
+                    ::_exit(0);
+                }
+                int status = 0;
+                ::waitpid(child, &status, 0);
+                const QString what = QStringLiteral("%1, killed at step %2").arg(QLatin1String(op.name)).arg(step);
+                QVERIFY2(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL, qPrintable(what));
+                Check(dir.path(), before, after, what);
+                if (QTest::currentTestFailed()) return;
+            }
+        }
+    }
+};
+
+QTEST_MAIN(TestWriteFaults)
+#include "tst_writefaults.moc"
