@@ -157,17 +157,19 @@ QImage MainScreenPicture(int width, int height) {
     StarSequence seq(20240611u);
     Starfield(p, seq, QRectF(0, 0, w, h * 0.5), 150);
 
-    // A faint wheel of the twelve houses behind the name.
+    // A faint wheel of the twelve houses around the name, wide enough that
+    // its rim passes clear of the name and the tagline.
     const QPointF hub(w / 2, h * 0.24);
+    const double rim = w * 0.3, inner = w * 0.27;
     p.setBrush(Qt::NoBrush);
     p.setPen(QPen(Faded(Gold, 50), 1));
-    p.drawEllipse(hub, w * 0.26, w * 0.26);
-    p.drawEllipse(hub, w * 0.22, w * 0.22);
+    p.drawEllipse(hub, rim, rim);
+    p.drawEllipse(hub, inner, inner);
     for (int i = 0; i < 12; ++i) {
         const double a = i * M_PI / 6;
         const QPointF dir(std::cos(a), std::sin(a));
-        p.drawLine(hub + dir * (w * 0.22), hub + dir * (w * 0.26));
-        p.drawPolygon(Star(hub + dir * (w * 0.24), 2.2, 0.8, 4));
+        p.drawLine(hub + dir * inner, hub + dir * rim);
+        p.drawPolygon(Star(hub + dir * ((rim + inner) / 2), 2.2, 0.8, 4));
     }
 
     // The moon's phases across the top, the full moon above the name.
@@ -189,14 +191,15 @@ QImage MainScreenPicture(int width, int height) {
                              QPointF(w * 0.7, h * 0.06)})
         BrightStar(p, at, 5);
 
-    // The table the buttons stand on.
-    const QRectF table(w * 0.035, h * 0.515, w * 0.93, h * 0.325);
-    QLinearGradient cloth(0, table.top(), 0, table.bottom());
-    cloth.setColorAt(0.0, QColor(10, 8, 30, 200));
-    cloth.setColorAt(1.0, QColor(24, 18, 60, 200));
-    p.setBrush(cloth);
+    // The band the buttons stand on, from one side of the frame to the other.
+    const QRectF band(15, h * 0.515, w - 30, h * 0.26);
+    QLinearGradient cloth(0, band.top(), 0, band.bottom());
+    cloth.setColorAt(0.0, QColor(10, 8, 30, 210));
+    cloth.setColorAt(1.0, QColor(24, 18, 60, 210));
+    p.fillRect(band, cloth);
     p.setPen(QPen(Faded(Gold, 140), 1));
-    p.drawRoundedRect(table, 10, 10);
+    p.drawLine(band.topLeft(), band.topRight());
+    p.drawLine(band.bottomLeft(), band.bottomRight());
 
     GoldFrame(p, QRectF(8, 8, w - 16, h - 16), 6);
     // The rule under the name.

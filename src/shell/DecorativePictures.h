@@ -7,8 +7,8 @@
 #include <QImage>
 
 // The picture behind the main screen's buttons, drawn for a size in pixels.
-// Its layout follows the main screen's: the name in the upper third, a
-// table for the buttons in the lower half.
+// Its layout follows the main screen's: the name in the upper third, a band
+// for the buttons below the middle.
 QImage MainScreenPicture(int width, int height);
 
 // The tall strip beside a spread's introduction: the moon's phases between
