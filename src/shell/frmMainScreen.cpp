@@ -17,6 +17,8 @@
 #include "readings/frmOpenReading.h"
 #include "readings/frmSelectSpread.h"
 #include "decks/frmDecks.h"
+#include "packages/frmCreatePackage.h"
+#include "packages/frmInstallPackage.h"
 #include "shell/ClickLabel.h"
 #include "shell/ImageBox.h"
 #include "shell/MDIMainForm.h"
@@ -273,10 +275,16 @@ void frmMainScreen::OpenFirstLevelScreen(int Index) {
         Hide();
         Get<frmSpreads>().Show();
         break;
+    case 7:   // frmInstallPackage
+        Hide();
+        Get<frmInstallPackage>().Show();
+        break;
+    case 8:   // frmCreatePackage
+        Hide();
+        Get<frmCreatePackage>().Show();
+        break;
     case 3:   // a new diary entry: frmNewDiary, with frmSelectSpreadforDiary over it
     case 4:   // a saved diary entry: frmNewDiary, with frmOpenDiary over it
-    case 7:   // frmInstallPackage
-    case 8:   // frmCreatePackage
     default:
         MsgBox(QStringLiteral("This screen is not available yet."), vbInformation);
         Show();

@@ -1,0 +1,484 @@
+#include "packages/frmCreatePackage.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+
+#include "packages/PackageSummary.h"
+#include "packages/mdlPackages.h"
+#include "platform/Errors.h"
+#include "platform/FileLists.h"
+#include "platform/FileSys.h"
+#include "platform/MsgBox.h"
+#include "platform/Twips.h"
+#include "shell/frmMainScreen.h"
+#include "shell/mdlFORM.h"
+#include "store/Passwords.h"
+#include "store/RecordFile.h"
+#include "store/Startup.h"
+#include "store/mdlSubRoutines.h"
+#include "store/mdlVariables.h"
+
+namespace {
+
+QRect At(int left, int top, int width, int height) {
+    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
+}
+
+template <class W>
+W* Named(W* widget, const char* name, const QRect& where) {
+    widget->setObjectName(QLatin1String(name));
+    widget->setGeometry(where);
+    return widget;
+}
+
+QListWidget* CheckList(QWidget* parent, const char* name, const QRect& where) {
+    auto* list = Named(new QListWidget(parent), name, where);
+    list->setSelectionMode(QAbstractItemView::NoSelection);
+    return list;
+}
+
+void AddCheckRow(QListWidget* list, const QString& text) {
+    auto* item = new QListWidgetItem(text, list);
+    item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
+    item->setCheckState(Qt::Unchecked);
+}
+
+bool IsChecked(const QListWidget* list, int row) { return list->item(row)->checkState() == Qt::Checked; }
+
+const QString AttachmentFilter = QStringLiteral(
+    "All Files (*.*)|*.*|HTML Files (*.htm)|*.htm|Document Files (*.doc)|*.doc|Text Files (*.txt)|*.txt");
+
+// Copies a file a record names from Cards/ into Temp/ under the same name.
+void StageFile(const QString& name) { FileCopy(CardsDir + name, TempDir + name); }
+
+}  // namespace
+
+QString AddPackageExtension(const QString& name) {
+    if (name.contains(QStringLiteral(".pck"), Qt::CaseInsensitive)) return name;
+    return name + QStringLiteral(".pck");
+}
+
+frmCreatePackage::frmCreatePackage() {
+    setObjectName(QStringLiteral("frmCreatePackage"));
+    setCaption(QStringLiteral("Create Package"));
+    resize(TwipsToPixels(9840), TwipsToPixels(7560));
+
+    (new QLabel(QStringLiteral("Decks:"), this))->setGeometry(At(240, 120, 4560, 270));
+    lstAvailableDecks = CheckList(this, "lstAvailableDecks", At(240, 390, 4560, 2400));
+    (new QLabel(QStringLiteral("Spreads:"), this))->setGeometry(At(5040, 120, 4560, 270));
+    lstAvailableSpreads = CheckList(this, "lstAvailableSpreads", At(5040, 390, 4560, 2400));
+    chkAutoSelect = Named(new QCheckBox(QStringLiteral("Automatically select the decks a spread works with"), this),
+                          "chkAutoSelect", At(5040, 2880, 4560, 300));
+    chkAutoSelect->setChecked(true);
+    chkPassword = Named(new QCheckBox(QStringLiteral("Protect all designs with a password."), this), "chkPassword",
+                        At(240, 2880, 4560, 300));
+    (new QLabel(QStringLiteral("Attachment:"), this))->setGeometry(At(240, 3300, 1200, 270));
+    txtAttachment = Named(new QLineEdit(this), "txtAttachment", At(1440, 3300, 5400, 330));
+    txtAttachment->setReadOnly(true);
+    cmdAttach = Named(new QPushButton(QStringLiteral("&Attach..."), this), "cmdAttach", At(6960, 3270, 1260, 400));
+    cmdDeAttach = Named(new QPushButton(QStringLiteral("&Remove"), this), "cmdDeAttach", At(8340, 3270, 1260, 400));
+    cmdDeAttach->setEnabled(false);
+    drvSelection = Named(new DriveListBox(this), "drvSelection", At(240, 3840, 4560, 360));
+    dirSelection = Named(new DirListBox(this), "dirSelection", At(240, 4260, 4560, 2280));
+    filSelection = Named(new FileListBox(this), "filSelection", At(5040, 3840, 4560, 2700));
+    filSelection->setPattern(QStringLiteral("*.pck"));
+    (new QLabel(QStringLiteral("File name:"), this))->setGeometry(At(240, 6660, 1200, 270));
+    txtFilename = Named(new QLineEdit(this), "txtFilename", At(1440, 6660, 4800, 330));
+    txtFilename->setMaxLength(100);
+    cmdCreate = Named(new QPushButton(QStringLiteral("C&reate"), this), "cmdCreate", At(6600, 6630, 1440, 400));
+    cmdCancel = Named(new QPushButton(QStringLiteral("&Cancel"), this), "cmdCancel", At(8160, 6630, 1440, 400));
+
+    connect(lstAvailableDecks, &QListWidget::itemChanged, this, Handler([this] { lstAvailableDecks_Click(); }));
+    connect(lstAvailableSpreads, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
+        const int row = lstAvailableSpreads->row(item);
+        Handler([this, row] { lstAvailableSpreads_ItemCheck(row); })();
+    });
+    connect(chkPassword, &QCheckBox::toggled, this, Handler([this] { chkPassword_Click(); }));
+    connect(cmdAttach, &QPushButton::clicked, this, Handler([this] { cmdAttach_Click(); }));
+    connect(cmdDeAttach, &QPushButton::clicked, this, Handler([this] { cmdDeAttach_Click(); }));
+    connect(drvSelection, &DriveListBox::Change, this, Handler([this] { drvSelection_Change(); }));
+    connect(dirSelection, &DirListBox::Change, this, Handler([this] { dirSelection_Change(); }));
+    connect(filSelection, &FileListBox::Click, this, Handler([this] { filSelection_Click(); }));
+    connect(txtFilename, &QLineEdit::textChanged, this, Handler([this] { txtFilename_Change(); }));
+    connect(txtFilename, &QLineEdit::editingFinished, this,
+            [this] { txtFilename->setText(txtFilename->text().trimmed()); });
+    connect(cmdCreate, &QPushButton::clicked, this, Handler([this] { cmdCreate_Click(); }));
+    connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
+}
+
+void frmCreatePackage::Form_Load() {
+    CentreInFrame(*this);
+    SpreadsStagePath = TempDir + QStringLiteral("Temp.spr");
+    DecksStagePath = TempDir + QStringLiteral("Temp.dck");
+    CardsStagePath = TempDir + QStringLiteral("Temp.crd");
+    LocationsStagePath = TempDir + QStringLiteral("Temp.loc");
+    ProtectedWarningShown = false;
+    MkDirIgnoringErrors(AppPath + QStringLiteral("Temp"));
+    ClearTemp();
+    SuggestFilename();
+    for (const DeckRecord& deck : ReadAllRecords<DeckRecord>(DecksPath)) {
+        AddCheckRow(lstAvailableDecks, deck.DeckName.Value());
+        DeckListNames.push_back(deck.DeckName.Value());
+        DeckListIds.push_back(deck.DeckId);
+    }
+    for (const SpreadRecord& spread : ReadAllRecords<SpreadRecord>(SpreadsPath))
+        AddCheckRow(lstAvailableSpreads, spread.SpreadName.Value());
+    cmdCreate->setEnabled(CanCreate());
+}
+
+void frmCreatePackage::SuggestFilename() {
+    drvSelection->setDrive(AppPath);
+    dirSelection->setPath(PackagesDir);
+    filSelection->setPath(dirSelection->Path());
+    const QString folder = AddTrailingBackslash(dirSelection->Path());
+    for (int n = 1; n <= 1000; ++n) {
+        const QString name = AddPackageExtension(QStringLiteral("Cartomar Package - ") + QString::number(n));
+        if (!FileExists(folder + name)) {
+            txtFilename->setText(name);
+            return;
+        }
+    }
+}
+
+bool frmCreatePackage::AnyChecked(const QListWidget* list) const {
+    for (int row = 0; row < list->count(); ++row)
+        if (IsChecked(list, row)) return true;
+    return false;
+}
+
+bool frmCreatePackage::CanCreate() const {
+    if (txtFilename->text().trimmed().isEmpty()) return false;
+    return AnyChecked(lstAvailableDecks) || AnyChecked(lstAvailableSpreads) ||
+           !txtAttachment->text().trimmed().isEmpty();
+}
+
+void frmCreatePackage::lstAvailableDecks_Click() { cmdCreate->setEnabled(CanCreate()); }
+
+void frmCreatePackage::lstAvailableSpreads_ItemCheck(int item) {
+    const int deckRow = lstAvailableDecks->currentRow();
+    // Clearing a spread clears none of its decks; decks chosen for it can be
+    // cleared by hand.
+    if (chkAutoSelect->isChecked() && IsChecked(lstAvailableSpreads, item))
+        SelectRequiredDecks(lstAvailableSpreads->item(item)->text());
+    lstAvailableDecks->setCurrentRow(deckRow);
+    cmdCreate->setEnabled(CanCreate());
+}
+
+void frmCreatePackage::SelectRequiredDecks(const QString& spreadName) {
+    const int at = FindSpreadByName(spreadName);
+    if (at < 1) return;
+    GetRecord(SpreadsPath, at, CurrentSpread);
+    const int allowed = CurrentSpread.AllowedDeckCount;
+    auto check = [this](const QString& deckName) {
+        for (int row = 0; row < lstAvailableDecks->count(); ++row)
+            if (TrimField(lstAvailableDecks->item(row)->text()) == TrimField(deckName)) {
+                lstAvailableDecks->item(row)->setCheckState(Qt::Checked);
+                return;
+            }
+    };
+    for (std::size_t r = 0; r < DeckListIds.size(); ++r) {
+        if (allowed < 0) {
+            check(DeckListNames[r]);
+            continue;
+        }
+        for (int k = 0; k < allowed && k < 10; ++k)
+            if (CurrentSpread.AllowedDeckId[static_cast<std::size_t>(k)] == DeckListIds[r]) {
+                check(DeckListNames[r]);
+                break;
+            }
+    }
+}
+
+void frmCreatePackage::chkPassword_Click() {
+    if (!chkPassword->isChecked() || InPasswordClick) return;
+    InPasswordClick = true;
+    PackagePassword = AskNewPassword(QString());
+    if (PackagePassword.trimmed().isEmpty()) {
+        chkPassword->setChecked(false);
+        PasswordSet = false;
+    } else {
+        PasswordSet = true;
+    }
+    InPasswordClick = false;
+}
+
+void frmCreatePackage::cmdAttach_Click() {
+    CommonDialog1.Filter = AttachmentFilter;
+    CommonDialog1.FilterIndex = 1;
+    CommonDialog1.DialogTitle = QStringLiteral("Select Attachment");
+    CommonDialog1.Flags = CommonDialog::cdlOFNHideReadOnly;
+    const bool chosen = CommonDialog1.ShowOpen();
+    if (!chosen && !FileExists(CommonDialog1.FileName)) {
+        MsgBox(QStringLiteral("There is no file with the name you provided!"), vbCritical);
+        return;
+    }
+    AttachmentName = CommonDialog1.FileTitle;
+    txtAttachment->setText(CommonDialog1.FileName);
+    cmdCreate->setEnabled(CanCreate());
+    cmdDeAttach->setEnabled(true);
+    cmdAttach->setEnabled(false);
+}
+
+void frmCreatePackage::cmdDeAttach_Click() {
+    KillIgnoringErrors(TempDir + AttachmentName);
+    txtAttachment->clear();
+    cmdAttach->setEnabled(true);
+    cmdDeAttach->setEnabled(false);
+}
+
+void frmCreatePackage::drvSelection_Change() {
+    try {
+        dirSelection->setPath(drvSelection->Drive());
+        filSelection->setPath(dirSelection->Path());
+    } catch (const RuntimeError&) {
+        MsgBox(QStringLiteral("This device is currently unavailable!"), vbCritical);
+        drvSelection->setDrive(dirSelection->Path());
+    }
+}
+
+void frmCreatePackage::dirSelection_Change() {
+    // Temp/ is emptied by every design operation: a package there would be
+    // lost. Its subfolders pass.
+    if (dirSelection->Path().trimmed() == AppPath + QStringLiteral("Temp")) {
+        MsgBox(QStringLiteral("This folder and its subfolders are solely for the use of Cartomar. Please select a "
+                              "different folder."),
+               vbInformation);
+        dirSelection->setPath(filSelection->Path());
+        return;
+    }
+    filSelection->setPath(dirSelection->Path());
+}
+
+void frmCreatePackage::filSelection_Click() { txtFilename->setText(filSelection->FileName()); }
+
+void frmCreatePackage::txtFilename_Change() {
+    cmdCreate->setEnabled(CanCreate());
+    const QString text = txtFilename->text();
+    int lead = 0;
+    while (lead < text.size() && text[lead] == QLatin1Char(' ')) ++lead;
+    if (lead > 0) txtFilename->setText(text.mid(lead));
+}
+
+bool frmCreatePackage::IsValidFilename() const {
+    // A name is valid when a file of it can be made: none of the characters
+    // the message lists, and no control character. Nothing is written to try.
+    const QString name = txtFilename->text();
+    if (name.isEmpty()) return false;
+    for (const QChar c : name)
+        if (c.unicode() < 32 || QStringLiteral("\\/:*?<>|\"").contains(c)) return false;
+    return name != QLatin1String(".") && name != QLatin1String("..");
+}
+
+void frmCreatePackage::CheckInputs() {
+    AbortCreate = false;
+    if (!AnyChecked(lstAvailableDecks) && !AnyChecked(lstAvailableSpreads) &&
+        txtAttachment->text().trimmed().isEmpty()) {
+        SetScreenPointer(MousePointer::Default);
+        MsgBox(QStringLiteral("You have selected nothing to pack. Please select at least one design."), vbInformation);
+        AbortCreate = true;
+    } else if (!IsValidFilename()) {
+        SetScreenPointer(MousePointer::Default);
+        MsgBox(QStringLiteral("Invalid FileName!\rA valid filename cannot contain \\, /, :, *, ?, <, > or |."),
+               vbCritical);
+        AbortCreate = true;
+    } else {
+        // The name as typed: a name without ".pck" is looked for without it.
+        const QString path = AddTrailingBackslash(dirSelection->Path()) + txtFilename->text().trimmed();
+        if (!FileExists(path)) return;
+        SetScreenPointer(MousePointer::Default);
+        if (MsgBox(QStringLiteral("Package already exists. Overwrite?"), vbYesNo | vbQuestion) == vbYes)
+            KillIgnoringErrors(path);
+        else
+            AbortCreate = true;
+    }
+}
+
+void frmCreatePackage::cmdCreate_Click() {
+    SetScreenPointer(MousePointer::Hourglass);
+    CreateFailed = false;
+    CheckInputs();
+    if (AbortCreate) {
+        SetScreenPointer(MousePointer::Default);
+        return;
+    }
+    try {
+        StageDesigns();
+    } catch (const RuntimeError& error) {
+        // A card file or a deck attachment that cannot be copied stops the
+        // creation before anything is packed; the screen stays for another go.
+        ClearTemp();
+        SetScreenPointer(MousePointer::Default);
+        ReportError(error);
+        return;
+    }
+    const QString path = AddTrailingBackslash(PackageFolder.trimmed()) + PackageFileName.trimmed();
+    if (!CreatePackageFile(TempDir, path)) CreateFailed = true;
+    ClearTemp();
+    if (!CreateFailed) ShowSummary();
+    SetScreenPointer(MousePointer::Default);
+    Get<frmMainScreen>().Show();
+    Unload();
+}
+
+void frmCreatePackage::StageDesigns() {
+    PackageFolder = dirSelection->Path();
+    PackageFileName = AddPackageExtension(txtFilename->text());
+    if (AnyChecked(lstAvailableDecks)) {
+        StageDecks();
+        StageCards();
+    }
+    if (AnyChecked(lstAvailableSpreads)) StageSpreads();
+    if (!txtAttachment->text().trimmed().isEmpty()) StageAttachment();
+}
+
+void frmCreatePackage::WarnProtectedDesign() {
+    if (ProtectedWarningShown) return;
+    ProtectedWarningShown = true;
+    SetScreenPointer(MousePointer::Default);
+    MsgBox(QStringLiteral("Some designs were intially protected. Their passwords cannot be replaced.\r"
+                          "However, they will still be added to the package."),
+           vbInformation);
+    SetScreenPointer(MousePointer::Hourglass);
+}
+
+void frmCreatePackage::ApplyPassword(Integer& locked, FixedText<25>& password) {
+    if (!chkPassword->isChecked()) return;
+    if (locked != 0) {
+        WarnProtectedDesign();
+        return;
+    }
+    locked = True16;
+    password = PackagePassword;
+}
+
+void frmCreatePackage::StageDecks() {
+    DecksPacked = 0;
+    PackedDeckIds.clear();
+    LastPackedDeckId = 0;
+    QByteArray staged;
+    for (int row = 0; row < lstAvailableDecks->count(); ++row) {
+        if (!IsChecked(lstAvailableDecks, row)) continue;
+        DeckRecord deck;
+        if (!GetRecord(DecksPath, FindDeckByName(lstAvailableDecks->item(row)->text()), deck)) continue;
+        ApplyPassword(deck.DeckLocked, deck.DeckPassword);
+        PackedDeckIds.push_back(deck.DeckId);
+        if (!deck.DeckAttachment.IsBlank()) StageFile(deck.DeckAttachment.Trimmed());
+        staged += EncodeRecord(deck);
+        ++DecksPacked;
+    }
+    WriteWholeFile(DecksStagePath, staged);
+}
+
+bool frmCreatePackage::IsCardOfPackedDeck(Integer id) {
+    if (id == 0) return false;
+    if (id == LastPackedDeckId) return true;
+    for (std::size_t k = 0; k < PackedDeckIds.size(); ++k) {
+        if (PackedDeckIds[k] == id) {
+            LastPackedDeckId = id;
+            return true;
+        }
+        if (k + 1 >= PackedDeckIds.size() || PackedDeckIds[k + 1] == 0) return false;
+    }
+    return false;
+}
+
+void frmCreatePackage::StageCards() {
+    QByteArray staged;
+    RecordReader<CardRecord> reader(CardsPath);
+    CardRecord card;
+    while (reader.Next(card)) {
+        if (!IsCardOfPackedDeck(card.CardDeckId)) continue;
+        staged += EncodeRecord(card);
+        // The upright picture goes always, the default picture included; the
+        // reversed one unless it is the shared default.
+        StageFile(card.CardPicture[0].Trimmed());
+        if (card.CardPicture[1].Value() != DefaultPictureName) StageFile(card.CardPicture[1].Trimmed());
+        for (const FixedText<12>& sound : card.CardSound)
+            if (!sound.IsBlank()) StageFile(sound.Trimmed());
+    }
+    WriteWholeFile(CardsStagePath, staged);
+}
+
+void frmCreatePackage::StageSpreads() {
+    SpreadsPacked = 0;
+    QByteArray spreads;
+    QByteArray locations;
+    // A spread's files that cannot be copied are left out with their fields
+    // blanked; without its background or attachment it also goes without
+    // its locations.
+    auto stageOrBlank = [](auto& field) {
+        if (field.IsBlank()) return true;
+        try {
+            StageFile(field.Trimmed());
+            return true;
+        } catch (const RuntimeError&) {
+            field = QString();
+            return false;
+        }
+    };
+    for (int row = 0; row < lstAvailableSpreads->count(); ++row) {
+        if (!IsChecked(lstAvailableSpreads, row)) continue;
+        SpreadRecord spread;
+        if (!GetRecord(SpreadsPath, FindSpreadByName(lstAvailableSpreads->item(row)->text()), spread)) continue;
+        ApplyPassword(spread.SpreadLocked, spread.SpreadPassword);
+        if (stageOrBlank(spread.BackgroundFile) && stageOrBlank(spread.SpreadAttachment)) {
+            LoadSpreadLocations(spread.SpreadId, spread.LocationCount);
+            for (int n = 1; n <= spread.LocationCount; ++n) {
+                LocationRecord& location = SpreadLocations(n);
+                location.LocationSpreadId = spread.SpreadId;
+                locations += EncodeRecord(location);
+                stageOrBlank(location.LocationAttachment);
+            }
+        }
+        spreads += EncodeRecord(spread);
+        ++SpreadsPacked;
+    }
+    WriteWholeFile(SpreadsStagePath, spreads);
+    WriteWholeFile(LocationsStagePath, locations);
+}
+
+void frmCreatePackage::StageAttachment() {
+    try {
+        FileCopy(txtAttachment->text(), TempDir + QStringLiteral("ATT - ") + AttachmentName.trimmed());
+        AttachmentStaged = true;
+    } catch (const RuntimeError&) {
+        AttachmentStaged = false;
+        SetScreenPointer(MousePointer::Default);
+        MsgBox(QStringLiteral("The selected attachment could not be copied because either it is in use or it has "
+                              "been removed from disk."),
+               vbInformation);
+        SetScreenPointer(MousePointer::Hourglass);
+    }
+}
+
+void frmCreatePackage::ShowSummary() {
+    frmCreatePackageSummary& summary = Get<frmCreatePackageSummary>();
+    summary.txtFilename->setText(PackageFileName.trimmed());
+    summary.txtLocation->setText(PackageFolder.trimmed());
+    summary.txtDecksCount->setText(QString::number(DecksPacked));
+    summary.txtSpreadsCount->setText(QString::number(SpreadsPacked));
+    summary.setCaption(QStringLiteral("Package Summary - ") + PackageFileName.trimmed());
+    summary.SetAttachment(AttachmentStaged, AttachmentName.trimmed());
+    SetScreenPointer(MousePointer::Default);
+    summary.Show(true);
+}
+
+void frmCreatePackage::cmdCancel_Click() {
+    if (AnyChecked(lstAvailableDecks) || AnyChecked(lstAvailableSpreads) ||
+        !txtAttachment->text().trimmed().isEmpty()) {
+        if (MsgBox(QStringLiteral("Are you sure you want to cancel creating this package?"),
+                   vbYesNo | vbQuestion | vbDefaultButton2) == vbNo)
+            return;
+    }
+    Get<frmMainScreen>().Show();
+    Unload();
+}
+
+void frmCreatePackage::Form_KeyUp(int key, Qt::KeyboardModifiers, bool& handled) {
+    if (key != Qt::Key_Escape) return;
+    handled = true;
+    cmdCancel_Click();
+}

@@ -1,0 +1,208 @@
+// The package file: its bytes, what the reader makes of cut-short and odd
+// packages, and packages built to do harm.
+#include <QDir>
+#include <QDirIterator>
+#include <QTemporaryDir>
+#include <QtEndian>
+#include <QtTest>
+
+#include "packages/mdlPackages.h"
+#include "platform/Errors.h"
+#include "platform/FileSys.h"
+#include "platform/MsgBox.h"
+#include "store/Startup.h"
+#include "store/mdlVariables.h"
+#include "support/Fixtures.h"
+
+namespace {
+
+QByteArray Member(const QByteArray& name, const QByteArray& data, qint32 size) {
+    QByteArray bytes(2, '\0');
+    qToLittleEndian<qint16>(static_cast<qint16>(name.size()), bytes.data());
+    bytes += name;
+    char sizeBytes[4];
+    qToLittleEndian<qint32>(size, sizeBytes);
+    bytes.append(sizeBytes, 4);
+    return bytes + data;
+}
+
+QByteArray Member(const QByteArray& name, const QByteArray& data) {
+    return Member(name, data, static_cast<qint32>(data.size()));
+}
+
+// Every file under a folder, as relative path -> bytes.
+QMap<QString, QByteArray> Tree(const QString& root) {
+    QMap<QString, QByteArray> files;
+    QDirIterator it(root, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString path = it.next();
+        files.insert(QDir(root).relativeFilePath(path), ReadWholeFile(path));
+    }
+    return files;
+}
+
+QStringList TempNames() { return Dir(TempDir + QStringLiteral("*.*")); }
+
+}  // namespace
+
+class TestPackageFile : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> outer_;   // holds the program directory and what lies beside it
+    QString program_;
+
+    QString WritePackage(const QByteArray& bytes) {
+        const QString path = outer_->path() + QStringLiteral("/p.pck");
+        WriteWholeFile(path, bytes);
+        return path;
+    }
+
+private slots:
+    void initTestCase() { MsgBoxScript::Enable(); }
+
+    void init() {
+        outer_ = std::make_unique<QTemporaryDir>();
+        program_ = outer_->path() + QStringLiteral("/Cartomar");
+        QDir().mkpath(program_);
+        Fixtures::UseProgramDir(program_);
+        MsgBoxScript::Clear();
+    }
+
+    void cleanup() { QCOMPARE(MsgBoxScript::Unanswered(), 0); }
+
+    void packsEachFileAsNameSizeAndBytesAndUnpacksThemAnywhere() {
+        const QString source = outer_->path() + QStringLiteral("/stage/");
+        QDir().mkpath(source + QStringLiteral("sub"));
+        WriteWholeFile(source + QStringLiteral("Temp.dck"), QByteArray("deck\0bytes", 10));
+        WriteWholeFile(source + QStringLiteral("CU00001.bmp"), QByteArray(70000, 'x'));
+        WriteWholeFile(source + QStringLiteral("sub/inner.txt"), "not packed");
+        WriteWholeFile(source + QStringLiteral(".hidden"), "not packed");
+        const QString package = outer_->path() + QStringLiteral("/out.pck");
+
+        QVERIFY(CreatePackageFile(outer_->path() + QStringLiteral("/stage"), package));
+        const QByteArray prefix = QString(source).replace('/', '\\').toLatin1();
+        const QByteArray expected = Member(prefix + "CU00001.bmp", QByteArray(70000, 'x')) +
+                                    Member(prefix + "Temp.dck", QByteArray("deck\0bytes", 10));
+        QCOMPARE(ReadWholeFile(package), expected);
+        QVERIFY(MsgBoxScript::History().isEmpty());
+
+        // The reader keeps only the names: they land in this Temp/.
+        QVERIFY(ExtractPackageFile(package, TempDir));
+        QCOMPARE(TempNames(), (QStringList{QStringLiteral("CU00001.bmp"), QStringLiteral("Temp.dck")}));
+        QCOMPARE(ReadWholeFile(TempDir + QStringLiteral("Temp.dck")), QByteArray("deck\0bytes", 10));
+
+        // A package of that name that is longer is written over, not cut short.
+        WriteWholeFile(package, expected + "TAIL");
+        QVERIFY(CreatePackageFile(source, package));
+        QCOMPARE(ReadWholeFile(package), expected + "TAIL");
+    }
+
+    void anEmptyFileCannotBePackedAndTheMessageSaysWhy() {
+        const QString source = outer_->path() + QStringLiteral("/stage/");
+        QDir().mkpath(source);
+        WriteWholeFile(source + QStringLiteral("Temp.crd"), QByteArray());
+        QVERIFY(!CreatePackageFile(source, outer_->path() + QStringLiteral("/out.pck")));
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History()[0].prompt,
+                 QStringLiteral("Unable to create package.  Error9: ") + ErrorDescription(9));
+        QCOMPARE(MsgBoxScript::History()[0].style, int(vbCritical));
+        // The head written before the failure stays.
+        QCOMPARE(FileLen(outer_->path() + QStringLiteral("/out.pck")), 2 + source.size() + 8 + 4);
+
+        MsgBoxScript::Clear();
+        QVERIFY(!CreatePackageFile(source, outer_->path() + QStringLiteral("/no such folder/out.pck")));
+        QVERIFY(MsgBoxScript::History()[0].prompt.startsWith(QStringLiteral("Unable to create package.  Error76: ")));
+    }
+
+    void cutShortAndOddPackagesYieldWhatIsWhole() {
+        // Nothing at all.
+        QVERIFY(ExtractPackageFile(WritePackage(QByteArray()), TempDir));
+        QVERIFY(TempNames().isEmpty());
+
+        const QByteArray first = Member("C:\\Cartomar\\Temp\\a.txt", "first");
+        const QByteArray second = Member("b.txt", "second member");   // no backslash: the whole name
+        // Cut inside the second member's data, then inside its head.
+        for (int cut : {int(first.size() + second.size() - 3), int(first.size() + 5), int(first.size() + 1)}) {
+            ClearTemp();
+            QVERIFY(ExtractPackageFile(WritePackage((first + second).left(cut)), TempDir));
+            QCOMPARE(TempNames(), QStringList{QStringLiteral("a.txt")});
+        }
+        ClearTemp();
+        QVERIFY(ExtractPackageFile(WritePackage(first + second), TempDir));
+        QCOMPARE(ReadWholeFile(TempDir + QStringLiteral("b.txt")), QByteArray("second member"));
+
+        // The same name twice: the later one goes over the earlier in place.
+        ClearTemp();
+        QVERIFY(ExtractPackageFile(WritePackage(Member("x\\same", "LONGER TEXT") + Member("y\\same", "short")),
+                                   TempDir));
+        QCOMPARE(ReadWholeFile(TempDir + QStringLiteral("same")), QByteArray("shortR TEXT"));
+
+        // A member of no bytes has no buffer: the package cannot be opened.
+        ClearTemp();
+        QVERIFY(!ExtractPackageFile(WritePackage(first + Member("empty", QByteArray())), TempDir));
+        QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Unable to open package"));
+        QCOMPARE(MsgBoxScript::History().last().style, int(vbCritical));
+        QVERIFY(!ExtractPackageFile(outer_->path() + QStringLiteral("/missing.pck"), TempDir));
+        QCOMPARE(MsgBoxScript::History().size(), 2);
+    }
+
+    void hostilePackagesNeverWriteOutsideTempNorAllocateWhatTheyClaim() {
+        const QMap<QString, QByteArray> before = Tree(outer_->path());
+        const QByteArray good = Member("ok.txt", "fine");
+
+        // Separators of both kinds and absolute paths: only the last name counts.
+        QVERIFY(ExtractPackageFile(
+            WritePackage(good + Member("..\\..\\..\\evil1.txt", "1") + Member("../../evil2.txt", "2") +
+                         Member("/etc/evil3.txt", "3") + Member("C:\\Windows\\evil4.txt", "4") +
+                         Member("a\\b/..\\../evil5.txt  ", "5")),
+            TempDir));
+        QCOMPARE(TempNames(), (QStringList{QStringLiteral("evil1.txt"), QStringLiteral("evil2.txt"),
+                                           QStringLiteral("evil3.txt"), QStringLiteral("evil4.txt"),
+                                           QStringLiteral("evil5.txt"), QStringLiteral("ok.txt")}));
+
+        // Names that are no file name end the unpacking with the message.
+        for (const QByteArray& name : {QByteArray(), QByteArray("."), QByteArray(".."), QByteArray("x\\.."),
+                                       QByteArray("x/.. "), QByteArray("x/"), QByteArray("bad\0name", 8)}) {
+            MsgBoxScript::Clear();
+            QVERIFY2(!ExtractPackageFile(WritePackage(good + Member(name, "payload")), TempDir), name.constData());
+            QCOMPARE(MsgBoxScript::History().size(), 1);
+        }
+
+        // Sizes and lengths past the end, or below 0, end the reading quietly
+        // with what came before, as a cut-short member does.
+        MsgBoxScript::Clear();
+        for (const QByteArray& tail :
+             {Member("huge", "abc", 0x7fffffff), Member("negative", "abc", -5), Member("past", "abc", 4),
+              QByteArray("\x10\x00short", 7), QByteArray("\xff\xff", 2) + QByteArray(20, 'n')}) {
+            ClearTemp();
+            QVERIFY(ExtractPackageFile(WritePackage(good + tail), TempDir));
+            QCOMPARE(TempNames(), QStringList{QStringLiteral("ok.txt")});
+        }
+        QVERIFY(MsgBoxScript::History().isEmpty());
+
+        // Thousands of members.
+        ClearTemp();
+        QByteArray many;
+        for (int i = 0; i < 3000; ++i) many += Member("C:\\T\\m" + QByteArray::number(i), QByteArray::number(i * 7));
+        QVERIFY(ExtractPackageFile(WritePackage(many), TempDir));
+        QCOMPARE(TempNames().size(), 3000);
+        QCOMPARE(ReadWholeFile(TempDir + QStringLiteral("m2999")), QByteArray::number(2999 * 7));
+
+        // Beside Temp/ nothing changed but the package itself.
+        ClearTemp();
+        QMap<QString, QByteArray> after = Tree(outer_->path());
+        after.remove(QStringLiteral("p.pck"));
+        QCOMPARE(after, before);
+    }
+
+    void memberFileNamesKeepOnlyThePlainName() {
+        QCOMPARE(MemberFileName(QStringLiteral("C:\\Program Files\\Cartomar\\Temp\\Temp.dck")),
+                 QStringLiteral("Temp.dck"));
+        QCOMPARE(MemberFileName(QStringLiteral("/home/me/Temp/CU00001.bmp")), QStringLiteral("CU00001.bmp"));
+        QCOMPARE(MemberFileName(QStringLiteral("ATT - notes.txt")), QStringLiteral("ATT - notes.txt"));
+        QCOMPARE(MemberFileName(QStringLiteral("x\\..")), QString());
+        QCOMPARE(MemberNameOf(QStringLiteral("/a/Temp/b.bmp")), QStringLiteral("\\a\\Temp\\b.bmp"));
+    }
+};
+
+QTEST_MAIN(TestPackageFile)
+#include "tst_packagefile.moc"
