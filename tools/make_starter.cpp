@@ -16,6 +16,7 @@
 #include <QFileInfo>
 #include <cstdio>
 
+#include "StarterPackage.h"
 #include "StarterPictures.h"
 #include "StarterSource.h"
 #include "platform/Errors.h"
@@ -26,7 +27,6 @@
 #include "store/Startup.h"
 #include "store/mdlSubRoutines.h"
 #include "store/mdlVariables.h"
-#include "StarterPackage.h"
 
 namespace {
 
@@ -81,10 +81,7 @@ CardRecord SaveCard(const StarterCard& card, const StarterDeck& deck, Integer de
         WriteWholeFile(CardsDir + reversedName, FaceFileBytes(ReversedFace(upright)));
         record.CardPicture[1] = reversedName;
     }
-    record.CardSound[0] = QString();
-    record.CardSound[1] = QString();
     record.CardDeckId = deckId;
-    record.CardReserved = 0;
     return record;
 }
 
