@@ -29,7 +29,9 @@ RecordFileReader::RecordFileReader(const QString& path, int recordLength)
     : file_(std::make_unique<QFile>(NativePath(path))), length_(recordLength) {
     // A record file that is not there holds no records, as an empty one.
     if (!file_->exists()) return;
-    OpenOrRaise(*file_, QIODevice::ReadOnly);
+    // The reader keeps its own blocks; the device's buffer would only copy
+    // every byte once more.
+    OpenOrRaise(*file_, QIODevice::ReadOnly | QIODevice::Unbuffered);
     count_ = static_cast<int>(std::min<qint64>(file_->size() / length_, 0x7FFFFFFF));
 }
 
@@ -69,7 +71,9 @@ AtomicFileWriter::AtomicFileWriter(const QString& newPath, const QString& realPa
     : file_(std::make_unique<QFile>(NativePath(newPath))),
       newPath_(NativePath(newPath)),
       realPath_(NativePath(realPath)) {
-    if (!file_->open(QIODevice::WriteOnly | QIODevice::Truncate)) RaiseError(errPathNotFound);
+    if (!file_->open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
+        RaiseError(errPathNotFound);
+    pending_.reserve(kBlockBytes * 2);
 }
 
 AtomicFileWriter::~AtomicFileWriter() {
@@ -86,7 +90,7 @@ void AtomicFileWriter::Write(const char* bytes, qint64 length) {
 
 void AtomicFileWriter::Flush() {
     WriteOrRaise(*file_, pending_.constData(), pending_.size());
-    pending_.clear();
+    pending_.resize(0);   // keeps the block's memory for the next one
 }
 
 void AtomicFileWriter::Commit() {

@@ -2,9 +2,11 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMdiSubWindow>
 #include <QPushButton>
 
+#include "platform/MsgBox.h"
 #include "platform/Palette.h"
 #include "platform/Picture.h"
 #include "platform/Twips.h"
@@ -20,6 +22,19 @@ int ControlTop(const QWidget* control) { return PixelsToTwips(control->y()); }
 int ControlLeft(const QWidget* control) { return PixelsToTwips(control->x()); }
 int ControlWidth(const QWidget* control) { return PixelsToTwips(control->width()); }
 int ControlHeight(const QWidget* control) { return PixelsToTwips(control->height()); }
+
+QLabel* MakeCaption(QWidget* parent, const QString& caption, int left, int top, int width) {
+    auto* label = new QLabel(caption, parent);
+    PlaceControl(label, left, top, width, 255);
+    return label;
+}
+
+QListWidget* MakeList(QWidget* parent, const QString& name, int left, int top, int width, int height) {
+    auto* list = new QListWidget(parent);
+    list->setObjectName(name);
+    PlaceControl(list, left, top, width, height);
+    return list;
+}
 
 QString CardPicturePath(const CardRecord& card, bool upright) {
     return CardsDir + card.CardPicture[upright ? 0 : 1].Trimmed();
@@ -202,6 +217,27 @@ void EntryScreen::HideLocations() {
 
 QString EntryScreen::IssueForSaving(const QString& issue) {
     return QStringLiteral("  ") + issue.trimmed() + QStringLiteral("  ");
+}
+
+bool EntryScreen::ConfirmClose(bool changed, const QString& question) {
+    if (!changed) return true;
+    const int answer = MsgBox(question, vbYesNoCancel | vbQuestion);
+    if (answer == vbCancel) return false;
+    if (answer == vbYes) cmdSave_Click();
+    return true;
+}
+
+void EntryScreen::Form_QueryUnload(bool& cancel, int unloadMode) {
+    if (unloadMode != vbFormControlMenu) return;
+    cancel = true;
+    cmdClose_Click();
+}
+
+void EntryScreen::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) {
+    (void)shift;
+    if (key != Qt::Key_Escape) return;
+    handled = true;
+    cmdClose_Click();
 }
 
 void EntryScreen::ShowCardInLocation(int location, int cardNumber, bool upright) {

@@ -15,6 +15,7 @@ class ClickLabel;
 class ImageBox;
 class QLabel;
 class QLineEdit;
+class QListWidget;
 class QPushButton;
 
 // Places a plain control in its container, twips.
@@ -23,6 +24,10 @@ int ControlTop(const QWidget* control);
 int ControlLeft(const QWidget* control);
 int ControlWidth(const QWidget* control);
 int ControlHeight(const QWidget* control);
+// A one-line caption and a list, placed in twips, as the selection screens
+// of an entry lay them out.
+QLabel* MakeCaption(QWidget* parent, const QString& caption, int left, int top, int width);
+QListWidget* MakeList(QWidget* parent, const QString& name, int left, int top, int width, int height);
 
 // Element i (from 1) of a record's array of locations or table positions; an
 // index outside it is a subscript error.
@@ -84,6 +89,10 @@ public:
 
     // Places the locations of the spread in memory and shows its texts.
     virtual void Initialize() = 0;
+    // Gathers the entry and shows its save screen.
+    virtual void cmdSave_Click() = 0;
+    // Asks about unsaved changes and ends the entry.
+    virtual void cmdClose_Click() = 0;
 
     bool IntroductionShown() const;
     // The screen's height with its title bar, twips: where a screen that
@@ -111,6 +120,14 @@ protected:
     // Hides every location and empties its title, as a closed screen leaves them.
     void HideLocations();
     static QString IssueForSaving(const QString& issue);
+    // The question about unsaved changes before the entry closes: false if
+    // the user cancels. Yes saves first, and the closing goes on whatever the
+    // save screen did.
+    bool ConfirmClose(bool changed, const QString& question);
+
+    // The close box asks what Close asks; Esc is Close.
+    void Form_QueryUnload(bool& cancel, int unloadMode) override;
+    void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 
     // A click on a location's rectangle, and on its picture or labels.
     virtual void picLocation_Click(int Index) = 0;

@@ -21,19 +21,6 @@ namespace {
 const QString IssueAsked = QStringLiteral("Spread Includes Question/Issue");
 const QString IssueNotAsked = QStringLiteral("Spread Does NOT Includes Question/Issue");
 
-QLabel* MakeCaption(QWidget* parent, const QString& caption, int left, int top, int width) {
-    auto* label = new QLabel(caption, parent);
-    PlaceControl(label, left, top, width, 255);
-    return label;
-}
-
-QListWidget* MakeList(QWidget* parent, const QString& name, int left, int top, int width, int height) {
-    auto* list = new QListWidget(parent);
-    list->setObjectName(name);
-    PlaceControl(list, left, top, width, height);
-    return list;
-}
-
 QCheckBox* MakeCheck(QWidget* parent, const QString& name, const QString& caption, int left, int top) {
     auto* box = new QCheckBox(caption, parent);
     box->setObjectName(name);

@@ -9,6 +9,7 @@
 
 #include "platform/MsgBox.h"
 #include "platform/Palette.h"
+#include "printing/PrintEntry.h"
 #include "readings/frmReadingCards.h"
 #include "readings/frmReadingInterpretLocation.h"
 #include "readings/frmReadingNotes.h"
@@ -271,9 +272,7 @@ void frmNewReading::ShowInterpretation() {
 
 void frmNewReading::cmdNotes_Click() { Get<frmReadingNotes>().Show(); }
 
-void frmNewReading::cmdPrint_Click() {
-    MsgBox(QStringLiteral("This screen is not available yet."), vbInformation);
-}
+void frmNewReading::cmdPrint_Click() { PrintEntry(*this, ReadingPrintout(ThisLocationNumber)); }
 
 void frmNewReading::cmdQuickHelp_Click() { Get<frmQuickHelp>().Show(); }
 
@@ -298,12 +297,7 @@ void frmNewReading::cmdSave_Click() {
 }
 
 void frmNewReading::cmdClose_Click() {
-    if (ReadingChanged) {
-        const int answer = MsgBox(QStringLiteral("Save changes to the reading?"), vbYesNoCancel | vbQuestion);
-        if (answer == vbCancel) return;
-        // A cancelled save screen still closes the reading.
-        if (answer == vbYes) cmdSave_Click();
-    }
+    if (!ConfirmClose(ReadingChanged, QStringLiteral("Save changes to the reading?"))) return;
     CloseReading();
 }
 
@@ -327,13 +321,6 @@ void frmNewReading::Form_Activate() {
 
 void frmNewReading::Form_Deactivate() { Timer1->stop(); }
 
-void frmNewReading::Form_QueryUnload(bool& cancel, int unloadMode) {
-    // The close box asks what Close asks.
-    if (unloadMode != vbFormControlMenu) return;
-    cancel = true;
-    cmdClose_Click();
-}
-
 void frmNewReading::Form_Unload(bool& cancel) {
     (void)cancel;
     Timer1->stop();
@@ -341,13 +328,6 @@ void frmNewReading::Form_Unload(bool& cancel) {
     UnloadScreen<frmReadingNotes>();
     HideLocations();
     for (int i = 1; i <= MaxLocations; ++i) lblCardName(i)->clear();
-}
-
-void frmNewReading::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) {
-    (void)shift;
-    if (key != Qt::Key_Escape) return;
-    handled = true;
-    cmdClose_Click();
 }
 
 bool frmNewReading::OpenSavedReading() {

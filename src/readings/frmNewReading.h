@@ -63,9 +63,9 @@ public:
     void cmdInterpret_Click();
     void cmdNotes_Click();
     void cmdPrint_Click();
-    void cmdSave_Click();
+    void cmdSave_Click() override;
     void cmdQuickHelp_Click();
-    void cmdClose_Click();
+    void cmdClose_Click() override;
     void txtIssue_LostFocus();
     void Timer1_Timer();
     void picLocation_Click(int Index) override;
@@ -79,9 +79,7 @@ protected:
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Deactivate() override;
-    void Form_QueryUnload(bool& cancel, int unloadMode) override;
     void Form_Unload(bool& cancel) override;
-    void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 
 private:
     void ShowInterpretation();

@@ -13,6 +13,9 @@
 #include "platform/MsgBox.h"
 #include "platform/Palette.h"
 #include "platform/Twips.h"
+#include "diary/frmNewDiary.h"
+#include "diary/frmOpenDiary.h"
+#include "diary/frmSelectSpreadforDiary.h"
 #include "readings/frmNewReading.h"
 #include "readings/frmOpenReading.h"
 #include "readings/frmSelectSpread.h"
@@ -248,9 +251,7 @@ void frmMainScreen::lblButton_Click(int Index) {
 }
 
 // The first screen of each subsystem. The main screen hides before it opens
-// and is shown again by that screen's Close. A subsystem that this build of
-// the program does not carry answers with a notice, and the main screen stays
-// (or comes back) up.
+// and is shown again by that screen's Close.
 void frmMainScreen::OpenFirstLevelScreen(int Index) {
     switch (Index) {
     case 1:   // a new reading: frmNewReading, with frmSelectSpread over it
@@ -266,6 +267,20 @@ void frmMainScreen::OpenFirstLevelScreen(int Index) {
         Hide();
         Get<frmNewReading>().Show();
         Get<frmOpenReading>().Show(true);
+        break;
+    case 3:   // a new diary entry: frmNewDiary, with frmSelectSpreadforDiary over it
+        ResetSpread(CurrentSpread);
+        ResetDiary(CurrentDiary);
+        Hide();
+        Get<frmNewDiary>().Show();
+        Get<frmSelectSpreadforDiary>().Show(true);
+        break;
+    case 4:   // a saved diary entry: frmNewDiary, with frmOpenDiary over it
+        ResetSpread(CurrentSpread);
+        ResetDiary(CurrentDiary);
+        Hide();
+        Get<frmNewDiary>().Show();
+        Get<frmOpenDiary>().Show(true);
         break;
     case 5:   // frmDecks
         Hide();
@@ -283,11 +298,7 @@ void frmMainScreen::OpenFirstLevelScreen(int Index) {
         Hide();
         Get<frmCreatePackage>().Show();
         break;
-    case 3:   // a new diary entry: frmNewDiary, with frmSelectSpreadforDiary over it
-    case 4:   // a saved diary entry: frmNewDiary, with frmOpenDiary over it
     default:
-        MsgBox(QStringLiteral("This screen is not available yet."), vbInformation);
-        Show();
         break;
     }
 }

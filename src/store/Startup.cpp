@@ -5,6 +5,7 @@
 
 #include "platform/FileSys.h"
 #include "platform/MsgBox.h"
+#include "platform/ProgramLock.h"
 #include "platform/Picture.h"
 #include "shell/MDIMainForm.h"
 #include "shell/frmMainScreen.h"
@@ -94,6 +95,15 @@ QImage DefaultCardPicture() {
 
 bool RunStartup(const QString& programDir) {
     FormPaths(programDir);
+    // Before anything is touched: a second copy on the same folder would
+    // empty the first one's Temp/ under its feet.
+    if (!TakeProgramLock(programDir)) {
+        MsgBox(QStringLiteral("Cartomar is already running from the folder '") + programDir +
+                   QStringLiteral("'. Only one copy can work on the same designs at a time."),
+               vbExclamation);
+        EndProcess(1);
+        return false;
+    }
     CurrentLocationColour = 4;
     OtherLocationColour = 14;
     SpreadLocations.Redim(1, 1);

@@ -2,8 +2,10 @@
 // new-design values and the tests whether a spread or deck can be dealt.
 #include "store/mdlSubRoutines.h"
 
+#include <cstring>
 #include <vector>
 
+#include "platform/CodePage.h"
 #include "platform/FileSys.h"
 #include "platform/OleDate.h"
 #include "store/RecordFile.h"
@@ -20,6 +22,55 @@ const QString DecksTmpName = QStringLiteral("Decks.tmp");
 template <int N>
 bool SameName(const FixedText<N>& field, const QString& trimmedName) {
     return field.Trimmed() == trimmedName;
+}
+
+// Lookups over whole files look at one field of each record straight in its
+// bytes instead of decoding every record: the answers are the same, the time
+// is that of reading the file.
+Integer RawInteger(const char* raw, int offset) {
+    const auto lo = static_cast<unsigned char>(raw[offset]);
+    const auto hi = static_cast<unsigned char>(raw[offset + 1]);
+    return static_cast<Integer>(static_cast<std::uint16_t>(lo | (hi << 8)));
+}
+
+// A name compared, both sides trimmed, with a name field in a record's
+// bytes. The code page gives each byte one character of its own, so the
+// bytes match exactly when the decoded texts do; a name the code page cannot
+// hold matches no record.
+class NameField {
+public:
+    template <class R, int N>
+    NameField(FixedText<N> R::*field, const QString& name)
+        : offset_(OffsetOf(field)), width_(N), wanted_(TrimField(name)),
+          possible_(AnsiRepresentable(wanted_)), bytes_(ToAnsi(wanted_)) {}
+
+    bool operator()(const char* raw) const {
+        if (!possible_) return false;
+        const char* text = raw + offset_;
+        int first = 0;
+        int last = width_ - 1;
+        while (first <= last && IsBlankByte(text[first])) ++first;
+        while (last >= first && IsBlankByte(text[last])) --last;
+        const int length = last - first + 1;
+        return length == bytes_.size() && std::memcmp(text + first, bytes_.constData(), length) == 0;
+    }
+
+private:
+    static bool IsBlankByte(char c) { return c == ' ' || c == '\0'; }
+    int offset_;
+    int width_;
+    QString wanted_;
+    bool possible_;
+    QByteArray bytes_;
+};
+
+// The number of the first record whose bytes pass the test, or -1.
+template <class R, class Test>
+int FindRaw(const QString& path, Test matches) {
+    RecordReader<R> reader(path);
+    while (const char* raw = reader.NextRaw())
+        if (matches(raw)) return reader.Current();
+    return -1;
 }
 
 // The number of the first record that satisfies the test, or -1.
@@ -50,14 +101,34 @@ void RewriteWithout(const QString& realPath, const QString& newPath, Drop drop) 
     writer.Commit();
 }
 
+// The same, with the test made on the record's bytes; only a record that goes
+// is decoded, for what has to go with it.
+template <class R, class DropRaw, class OnDrop>
+void RewriteWithout(const QString& realPath, const QString& newPath, DropRaw drop, OnDrop onDrop) {
+    RecordRewriter<R> writer(newPath, realPath);
+    {
+        RecordReader<R> reader(realPath);
+        R r;
+        while (const char* raw = reader.NextRaw()) {
+            if (!drop(raw)) {
+                writer.AddRaw(raw);
+                continue;
+            }
+            DecodeRecord(raw, r);
+            onDrop(r);
+        }
+    }
+    writer.Commit();
+}
+
 // The smallest positive id that no record of the file carries.
-template <class R, class IdOf>
-Integer SmallestFreeId(const QString& path, IdOf idOf) {
+template <class R>
+Integer SmallestFreeId(const QString& path, Integer R::*idField) {
     std::vector<bool> used(32768, false);
+    const int offset = OffsetOf(idField);
     RecordReader<R> reader(path);
-    R r;
-    while (reader.Next(r)) {
-        const Integer id = idOf(r);
+    while (const char* raw = reader.NextRaw()) {
+        const Integer id = RawInteger(raw, offset);
         if (id > 0) used[static_cast<std::size_t>(id)] = true;
     }
     for (int candidate = 1; candidate < 32768; ++candidate) {
@@ -104,73 +175,72 @@ int CountDiaries(const QString& path) { return CountRecords<DiaryRecord>(path); 
 // ---- Lookups -----------------------------------------------------------------
 
 int FindSpreadByName(const QString& name) {
-    const QString wanted = TrimField(name);
-    return FindRecord<SpreadRecord>(SpreadsPath,
-                                    [&](const SpreadRecord& r) { return SameName(r.SpreadName, wanted); });
+    return FindRaw<SpreadRecord>(SpreadsPath, NameField(&SpreadRecord::SpreadName, name));
 }
 
 int FindDeckByName(const QString& name) {
-    const QString wanted = TrimField(name);
-    return FindRecord<DeckRecord>(DecksPath, [&](const DeckRecord& r) { return SameName(r.DeckName, wanted); });
+    return FindRaw<DeckRecord>(DecksPath, NameField(&DeckRecord::DeckName, name));
 }
 
 int FindReadingByName(const QString& name) {
-    const QString wanted = TrimField(name);
-    return FindRecord<ReadingRecord>(ReadingsPath,
-                                     [&](const ReadingRecord& r) { return SameName(r.ReadingName, wanted); });
+    return FindRaw<ReadingRecord>(ReadingsPath, NameField(&ReadingRecord::ReadingName, name));
 }
 
 int FindDiaryByName(const QString& name) {
-    const QString wanted = TrimField(name);
-    return FindRecord<DiaryRecord>(DiaryPath, [&](const DiaryRecord& r) { return SameName(r.DiaryName, wanted); });
+    return FindRaw<DiaryRecord>(DiaryPath, NameField(&DiaryRecord::DiaryName, name));
 }
 
 Integer FindDeckIdByName(const QString& name) {
-    const QString wanted = TrimField(name);
+    const NameField matches(&DeckRecord::DeckName, name);
+    const int idAt = OffsetOf(&DeckRecord::DeckId);
     Integer id = -1;
-    FindRecord<DeckRecord>(DecksPath, [&](const DeckRecord& r) {
-        if (!SameName(r.DeckName, wanted)) return false;
-        id = r.DeckId;
+    FindRaw<DeckRecord>(DecksPath, [&](const char* raw) {
+        if (!matches(raw)) return false;
+        id = RawInteger(raw, idAt);
         return true;
     });
     return id;
 }
 
 int FindDeckRecordById(Integer deckId) {
-    return FindRecord<DeckRecord>(DecksPath, [&](const DeckRecord& r) { return r.DeckId == deckId; });
+    const int idAt = OffsetOf(&DeckRecord::DeckId);
+    return FindRaw<DeckRecord>(DecksPath, [&](const char* raw) { return RawInteger(raw, idAt) == deckId; });
 }
 
 int FindSpreadRecordById(Integer spreadId) {
-    return FindRecord<SpreadRecord>(SpreadsPath, [&](const SpreadRecord& r) { return r.SpreadId == spreadId; });
+    const int idAt = OffsetOf(&SpreadRecord::SpreadId);
+    return FindRaw<SpreadRecord>(SpreadsPath, [&](const char* raw) { return RawInteger(raw, idAt) == spreadId; });
 }
 
 QString DeckNameById(Integer deckId) {
+    const int idAt = OffsetOf(&DeckRecord::DeckId);
     QString name;
-    FindRecord<DeckRecord>(DecksPath, [&](const DeckRecord& r) {
-        if (r.DeckId != deckId) return false;
-        name = r.DeckName.Value();
+    FindRaw<DeckRecord>(DecksPath, [&](const char* raw) {
+        if (RawInteger(raw, idAt) != deckId) return false;
+        DeckRecord deck;
+        DecodeRecord(raw, deck);
+        name = deck.DeckName.Value();
         return true;
     });
     return name;
 }
 
 QString SpreadNameById(Integer spreadId) {
+    const int idAt = OffsetOf(&SpreadRecord::SpreadId);
     QString name;
-    FindRecord<SpreadRecord>(SpreadsPath, [&](const SpreadRecord& r) {
-        if (r.SpreadId != spreadId) return false;
-        name = r.SpreadName.Value();
+    FindRaw<SpreadRecord>(SpreadsPath, [&](const char* raw) {
+        if (RawInteger(raw, idAt) != spreadId) return false;
+        SpreadRecord spread;
+        DecodeRecord(raw, spread);
+        name = spread.SpreadName.Value();
         return true;
     });
     return name;
 }
 
-Integer NextDeckId() {
-    return SmallestFreeId<DeckRecord>(DecksPath, [](const DeckRecord& r) { return r.DeckId; });
-}
+Integer NextDeckId() { return SmallestFreeId(DecksPath, &DeckRecord::DeckId); }
 
-Integer NextSpreadId() {
-    return SmallestFreeId<SpreadRecord>(SpreadsPath, [](const SpreadRecord& r) { return r.SpreadId; });
-}
+Integer NextSpreadId() { return SmallestFreeId(SpreadsPath, &SpreadRecord::SpreadId); }
 
 // ---- Delete passes -------------------------------------------------------------
 
@@ -184,19 +254,19 @@ void DeleteSpread(int recordNumber) {
 }
 
 void DeleteSpreadLocations(Integer spreadId) {
-    RewriteWithout<LocationRecord>(LocationsPath, AppPath + LocationTmpName,
-                                   [&](const LocationRecord& r, int) { return r.LocationSpreadId == spreadId; });
+    const int idAt = OffsetOf(&LocationRecord::LocationSpreadId);
+    RewriteWithout<LocationRecord>(LocationsPath, AppPath + LocationTmpName, [&](const char* raw) {
+        return RawInteger(raw, idAt) == spreadId;
+    }, [](const LocationRecord&) {});
 }
 
 void ReplaceSpreadLocations(Integer spreadId, int count) {
     RecordRewriter<LocationRecord> writer(AppPath + LocationTmpName, LocationsPath);
     {
+        const int idAt = OffsetOf(&LocationRecord::LocationSpreadId);
         RecordReader<LocationRecord> reader(LocationsPath);
-        LocationRecord r;
-        while (const char* raw = reader.NextRaw()) {
-            DecodeRecord(raw, r);
-            if (r.LocationSpreadId != spreadId) writer.AddRaw(raw);
-        }
+        while (const char* raw = reader.NextRaw())
+            if (RawInteger(raw, idAt) != spreadId) writer.AddRaw(raw);
     }
     for (int i = 1; i <= count; ++i) {
         LocationRecord& location = SpreadLocations(i);
@@ -208,15 +278,13 @@ void ReplaceSpreadLocations(Integer spreadId, int count) {
 }
 
 void DeleteReading(const QString& name) {
-    const QString wanted = TrimField(name);
     RewriteWithout<ReadingRecord>(ReadingsPath, AppPath + ReadingsTmpName,
-                                  [&](const ReadingRecord& r, int) { return SameName(r.ReadingName, wanted); });
+                                  NameField(&ReadingRecord::ReadingName, name), [](const ReadingRecord&) {});
 }
 
 void DeleteDiary(const QString& name) {
-    const QString wanted = TrimField(name);
-    RewriteWithout<DiaryRecord>(DiaryPath, AppPath + DiariesTmpName,
-                                [&](const DiaryRecord& r, int) { return SameName(r.DiaryName, wanted); });
+    RewriteWithout<DiaryRecord>(DiaryPath, AppPath + DiariesTmpName, NameField(&DiaryRecord::DiaryName, name),
+                                [](const DiaryRecord&) {});
 }
 
 void DeleteDeck(int recordNumber) {
@@ -228,15 +296,16 @@ void DeleteDeck(int recordNumber) {
 }
 
 void DeleteDeckCards(Integer deckId) {
-    RewriteWithout<CardRecord>(CardsPath, AppPath + CardsTmpName, [&](const CardRecord& r, int) {
-        if (r.CardDeckId != deckId) return false;
+    const int idAt = OffsetOf(&CardRecord::CardDeckId);
+    RewriteWithout<CardRecord>(CardsPath, AppPath + CardsTmpName, [&](const char* raw) {
+        return RawInteger(raw, idAt) == deckId;
+    }, [](const CardRecord& r) {
         for (const auto& picture : r.CardPicture) {
             // The shared default picture is recognised by the exact field
             // value; every other picture belongs to this card alone.
             if (picture.Value() != DefaultPictureName) KillDesignFile(picture.Value());
         }
         for (const auto& sound : r.CardSound) KillDesignFile(sound.Value());
-        return true;
     });
 }
 

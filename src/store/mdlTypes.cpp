@@ -95,6 +95,40 @@ void VisitOldLocation(V& v, L& l) {
     v(l.OldLocationTop);
 }
 
+// Walks the fields as the encoder does, counting bytes, and notes where the
+// field at a given address starts.
+class Locator {
+public:
+    explicit Locator(const void* target) : target_(target) {}
+    void operator()(const Integer& v) { Mark(&v, 2); }
+    void operator()(const double& v) { Mark(&v, 8); }
+    template <int N>
+    void operator()(const FixedText<N>& t) { Mark(&t, N); }
+    template <class T, std::size_t K>
+    void operator()(const std::array<T, K>& a) {
+        Mark(&a, 0);
+        for (const T& item : a) (*this)(item);
+    }
+    void operator()(const Designer& d) {
+        Mark(&d, 0);
+        VisitDesigner(*this, d);
+    }
+    void operator()(const OldLocation& l) {
+        Mark(&l, 0);
+        VisitOldLocation(*this, l);
+    }
+    int Found() const { return found_; }
+
+private:
+    void Mark(const void* field, int width) {
+        if (found_ < 0 && field == target_) found_ = pos_;
+        pos_ += width;
+    }
+    const void* target_;
+    int pos_ = 0;
+    int found_ = -1;
+};
+
 void Encoder::operator()(const Designer& d) { VisitDesigner(*this, d); }
 void Decoder::operator()(Designer& d) { VisitDesigner(*this, d); }
 void Encoder::operator()(const OldLocation& l) { VisitOldLocation(*this, l); }
@@ -203,3 +237,19 @@ CARTOMAR_RECORD_CODEC(DiaryRecord)
 CARTOMAR_RECORD_CODEC(OldDeckRecord)
 CARTOMAR_RECORD_CODEC(OldCardRecord)
 CARTOMAR_RECORD_CODEC(OldSpreadRecord)
+
+namespace {
+template <class R>
+int LocateField(const R& r, const void* field) {
+    Locator locator(field);
+    Visit(locator, r);
+    return locator.Found();
+}
+}  // namespace
+
+int FieldOffset(const DeckRecord& r, const void* field) { return LocateField(r, field); }
+int FieldOffset(const CardRecord& r, const void* field) { return LocateField(r, field); }
+int FieldOffset(const SpreadRecord& r, const void* field) { return LocateField(r, field); }
+int FieldOffset(const LocationRecord& r, const void* field) { return LocateField(r, field); }
+int FieldOffset(const ReadingRecord& r, const void* field) { return LocateField(r, field); }
+int FieldOffset(const DiaryRecord& r, const void* field) { return LocateField(r, field); }

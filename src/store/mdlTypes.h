@@ -254,6 +254,22 @@ void DecodeRecord(const char* in, OldDeckRecord& r);
 void DecodeRecord(const char* in, OldCardRecord& r);
 void DecodeRecord(const char* in, OldSpreadRecord& r);
 
+// Where a field starts in a record's bytes (-1 for an address that is no
+// field of r). Readers that look at one field of many records use it to skip
+// decoding the rest: OffsetOf(&DeckRecord::DeckId).
+int FieldOffset(const DeckRecord& r, const void* field);
+int FieldOffset(const CardRecord& r, const void* field);
+int FieldOffset(const SpreadRecord& r, const void* field);
+int FieldOffset(const LocationRecord& r, const void* field);
+int FieldOffset(const ReadingRecord& r, const void* field);
+int FieldOffset(const DiaryRecord& r, const void* field);
+
+template <class R, class F>
+int OffsetOf(F R::*member) {
+    static const R probe;
+    return FieldOffset(probe, &(probe.*member));
+}
+
 template <class R>
 QByteArray EncodeRecord(const R& r) {
     QByteArray bytes(R::Length, '\0');

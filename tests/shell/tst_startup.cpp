@@ -6,10 +6,14 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "platform/FileSys.h"
 #include "platform/MsgBox.h"
 #include "platform/Picture.h"
+#include "platform/ProgramLock.h"
 #include "shell/frmMainScreen.h"
 #include "store/Startup.h"
 #include "store/mdlTypes.h"
@@ -46,6 +50,7 @@ private slots:
 
     void cleanup() {
         QCOMPARE(MsgBoxScript::Unanswered(), 0);
+        ReleaseProgramLock();   // before the folder goes
         UnloadScreen<frmMainScreen>();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
@@ -180,6 +185,48 @@ private slots:
         ClearTemp();
         QDir::setCurrent(here);
         QVERIFY(QFileInfo::exists(dir.path() + QStringLiteral("/keep.txt")));
+    }
+
+    // A second copy on the same folder is refused before it touches Temp/;
+    // once the first copy has died its lock is taken over.
+    void aSecondCopyOnTheSameFolderIsRefused() {
+        QTemporaryDir dir;
+        const QString root = dir.path() + QLatin1Char('/');
+        WriteFile(root + QStringLiteral("Location.loc"), QByteArray());
+        int ready[2];
+        QVERIFY(::pipe(ready) == 0);
+        const pid_t first = ::fork();
+        if (first == 0) {
+            // The first copy: holds the folder, then waits to be killed.
+            const char taken = TakeProgramLock(dir.path()) ? 'y' : 'n';
+            (void)!::write(ready[1], &taken, 1);
+            for (;;) ::pause();
+        }
+        char taken = 0;
+        QCOMPARE(::read(ready[0], &taken, 1), ssize_t(1));
+        QCOMPARE(taken, 'y');
+        QDir().mkpath(root + QStringLiteral("Temp"));
+        WriteFile(root + QStringLiteral("Temp/working.bmp"), "in use");
+
+        QVERIFY(!RunStartup(dir.path()));
+        QCOMPARE(gEnds, QList<int>{1});
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History()[0].prompt,
+                 QStringLiteral("Cartomar is already running from the folder '") + dir.path() +
+                     QStringLiteral("'. Only one copy can work on the same designs at a time."));
+        QVERIFY(QFileInfo::exists(root + QStringLiteral("Temp/working.bmp")));
+        QVERIFY(!QFileInfo::exists(root + QStringLiteral("Decks.dck")));
+
+        ::kill(first, SIGKILL);
+        ::waitpid(first, nullptr, 0);
+        ::close(ready[0]);
+        ::close(ready[1]);
+        gEnds.clear();
+        MsgBoxScript::Clear();
+        MsgBoxScript::Answer(vbNo);   // no designs: the offer to install some
+        QVERIFY(RunStartup(dir.path()));
+        QVERIFY(gEnds.isEmpty());
+        QVERIFY(!QFileInfo::exists(root + QStringLiteral("Temp/working.bmp")));
     }
 };
 

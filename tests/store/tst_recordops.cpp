@@ -3,6 +3,7 @@
 // a spread or deck can be dealt.
 #include <QTemporaryDir>
 #include <QtTest>
+#include <cstring>
 
 #include "platform/FileSys.h"
 #include "platform/OleDate.h"
@@ -126,6 +127,22 @@ private slots:
         QCOMPARE(FindReadingByName(QStringLiteral(" Monday")), 1);
         QCOMPARE(FindDiaryByName(QStringLiteral("Tuesday ")), 1);
         QCOMPARE(FindDiaryByName(QStringLiteral("Monday")), -1);
+
+        // Names padded with zero bytes, with letters beyond ASCII, and a name
+        // the code page cannot hold (stored as '?'): the lookups read the
+        // bytes as the decoded text compares.
+        DeckRecord zeros = Deck(QString(), 20);
+        zeros.DeckName.Bytes.fill('\0');
+        const QByteArray euro = QByteArrayLiteral("\0 Caf\xe9 \x80 ");
+        std::memcpy(zeros.DeckName.Bytes.data(), euro.constData(), euro.size());
+        AppendRecord(DecksPath, zeros);
+        AppendRecord(DecksPath, Deck(QStringLiteral("\u03A9mega"), 21));
+        QCOMPARE(FindDeckByName(QStringLiteral("Caf\u00e9 \u20AC")), 4);
+        QCOMPARE(FindDeckIdByName(QStringLiteral(" Caf\u00e9 \u20AC ")), Integer(20));
+        QCOMPARE(FindDeckByName(QStringLiteral("Caf\u00e9")), -1);
+        QCOMPARE(FindDeckByName(QStringLiteral("\u03A9mega")), -1);
+        QCOMPARE(FindDeckByName(QStringLiteral("?mega")), 5);
+        QCOMPARE(TrimField(DeckNameById(20)), QStringLiteral("Caf\u00e9 \u20AC"));
     }
 
     void deleteSpreadTakesItsLocationsAndBackground() {

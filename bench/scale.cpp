@@ -1,0 +1,386 @@
+// The program at the scale of its formats: tens of thousands of records a
+// file, full decks, full spreads. Each figure is the median of several runs
+// and stands beside a baseline measured in the same run on the same files:
+// one sequential read of the file into a buffer, or one plain copy of it.
+// These are what the machine cannot beat, so the ratio says how much the
+// program adds.
+//
+//   QT_QPA_PLATFORM=offscreen build/bench/bench_scale [runs [section]]
+//
+// Sections: memory, startup, cards, ids, locations, lists, shuffle.
+//
+// The data is made in a temporary program folder and removed afterwards.
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <algorithm>
+#include <cstdio>
+#include <fcntl.h>
+#include <functional>
+#include <sys/resource.h>
+#include <unistd.h>
+#include <vector>
+
+#include "platform/BinaryFile.h"
+#include "platform/FileSys.h"
+#include "platform/MsgBox.h"
+#include "platform/ProgramLock.h"
+#include "platform/Rnd.h"
+#include "readings/frmNewReading.h"
+#include "readings/frmOpenReading.h"
+#include "readings/frmReadingCards.h"
+#include "readings/frmSelectSpread.h"
+#include "store/RecordFile.h"
+#include "store/Startup.h"
+#include "store/mdlSubRoutines.h"
+#include "store/mdlTypes.h"
+#include "store/mdlVariables.h"
+
+namespace {
+
+int Runs = 5;
+QString Only;   // run only the sections whose name holds this
+
+bool Want(const char* section) { return Only.isEmpty() || QString::fromLatin1(section).contains(Only); }
+
+double Median(std::vector<double> v) {
+    std::sort(v.begin(), v.end());
+    return v[v.size() / 2];
+}
+
+// Milliseconds of one call, median over the runs; prepare runs untimed
+// before each call.
+double Time(const std::function<void()>& work, const std::function<void()>& prepare = {}) {
+    std::vector<double> ms;
+    for (int i = 0; i < Runs; ++i) {
+        if (prepare) prepare();
+        QElapsedTimer clock;
+        clock.start();
+        work();
+        ms.push_back(clock.nsecsElapsed() / 1e6);
+    }
+    return Median(ms);
+}
+
+// The machine's own limits: a sequential read into a buffer, a plain copy.
+void ReadOnce(const QString& path) {
+    static std::vector<char> buffer(1 << 20);
+    const int fd = ::open(path.toLocal8Bit().constData(), O_RDONLY);
+    if (fd < 0) return;
+    while (::read(fd, buffer.data(), buffer.size()) > 0) {
+    }
+    ::close(fd);
+}
+
+void CopyOnce(const QString& from, const QString& to) {
+    static std::vector<char> buffer(1 << 20);
+    const int in = ::open(from.toLocal8Bit().constData(), O_RDONLY);
+    const int out = ::open(to.toLocal8Bit().constData(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    ssize_t n;
+    while ((n = ::read(in, buffer.data(), buffer.size())) > 0)
+        if (::write(out, buffer.data(), static_cast<size_t>(n)) != n) break;
+    ::fsync(out);
+    ::close(in);
+    ::close(out);
+}
+
+void Row(const char* operation, double ms, const char* baselineName, double baselineMs, double goalRatio) {
+    const double ratio = baselineMs > 0 ? ms / baselineMs : 0;
+    std::printf("%-68s %9.2f ms | %-24s %9.2f ms | ratio %6.2f | goal %.1fx %s\n", operation, ms, baselineName,
+                baselineMs, ratio, goalRatio, ratio <= goalRatio ? "met" : "MISSED");
+}
+
+void RowAbsolute(const char* operation, double value, const char* unit, double goal, bool atMost) {
+    const bool met = atMost ? value <= goal : value >= goal;
+    std::printf("%-68s %9.2f %s | goal %s %.0f %s %s\n", operation, value, unit, atMost ? "under" : "at least", goal,
+                unit, met ? "met" : "MISSED");
+}
+
+double PeakMegabytes() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss / 1024.0;
+}
+
+// ---- Making the data ---------------------------------------------------------------------------
+
+template <class R>
+class Writer {
+public:
+    explicit Writer(const QString& path) : out_(path + QStringLiteral(".tmp"), path), bytes_(R::Length) {}
+    void Add(const R& r) {
+        EncodeRecord(r, bytes_.data());
+        out_.Write(bytes_.data(), R::Length);
+    }
+    void Done() { out_.Commit(); }
+
+private:
+    AtomicFileWriter out_;
+    std::vector<char> bytes_;
+};
+
+// decks decks of cardsEach cards with full texts and reversed sides, ids 1..decks
+// with every tenth id left out (gaps as deletions leave them).
+void MakeDecks(int decks, int cardsEach) {
+    Writer<DeckRecord> deckFile(DecksPath);
+    Writer<CardRecord> cardFile(CardsPath);
+    const QString text = QString(1400, QLatin1Char('x'));
+    Integer id = 0;
+    for (int d = 1; d <= decks; ++d) {
+        if (++id % 10 == 0) ++id;
+        DeckRecord deck = ZeroRecord<DeckRecord>();
+        deck.DeckName = QStringLiteral("Deck %1").arg(d);
+        deck.DeckId = id;
+        deck.CardCount = static_cast<Integer>(cardsEach);
+        deck.DeckRevision = 1;
+        deck.CardTypeName[0] = QStringLiteral("Major Arcana");
+        deck.CardTypeName[1] = QStringLiteral("Minor Arcana");
+        deck.CardTypeUsed = {True16, True16, False16, False16};
+        deckFile.Add(deck);
+        for (int c = 1; c <= cardsEach; ++c) {
+            CardRecord card = ZeroRecord<CardRecord>();
+            card.CardType = c <= 22 ? 0 : 1;
+            card.CardTitle = QStringLiteral("Card %1").arg(c);
+            for (int side = 0; side < 2; ++side) {
+                card.CardDescription[side] = text;
+                card.CardKeywords[side] = text.left(900);
+                card.CardPicture[side] = DefaultPictureName;
+            }
+            card.CardDeckId = id;
+            cardFile.Add(card);
+        }
+    }
+    deckFile.Done();
+    cardFile.Done();
+}
+
+// spreads spreads of locationsEach locations, every spread open to any deck
+// or tied to the deck of its own number.
+void MakeSpreads(int spreads, int locationsEach, bool anyDeck) {
+    Writer<SpreadRecord> spreadFile(SpreadsPath);
+    Writer<LocationRecord> locationFile(LocationsPath);
+    Integer id = 0;
+    for (int s = 1; s <= spreads; ++s) {
+        if (++id % 10 == 0) ++id;
+        SpreadRecord spread = ZeroRecord<SpreadRecord>();
+        spread.SpreadName = QStringLiteral("Spread %1").arg(s);
+        spread.SpreadTitle = spread.SpreadName.Trimmed();
+        spread.SpreadId = id;
+        spread.LocationCount = static_cast<Integer>(locationsEach);
+        spread.SpreadRevision = 1;
+        spread.AllowedDeckId.fill(-1);
+        if (anyDeck) {
+            spread.AllowedDeckCount = -1;
+        } else {
+            spread.AllowedDeckCount = 1;
+            spread.AllowedDeckId[0] = static_cast<Integer>(s + s / 9);
+        }
+        spreadFile.Add(spread);
+        for (int l = 1; l <= locationsEach; ++l) {
+            LocationRecord location = ZeroRecord<LocationRecord>();
+            location.LocationSpreadId = id;
+            location.LocationNumber = static_cast<Integer>(l);
+            location.LocationTitle = QStringLiteral("Position %1").arg(l);
+            location.LocationLeft = static_cast<Integer>(120 + (l % 8) * 1100);
+            location.LocationTop = static_cast<Integer>(120 + (l / 8) * 1400);
+            locationFile.Add(location);
+        }
+    }
+    spreadFile.Done();
+    locationFile.Done();
+}
+
+void MakeReadings(int readings) {
+    Writer<ReadingRecord> file(ReadingsPath);
+    for (int r = 1; r <= readings; ++r) {
+        ReadingRecord reading = ZeroRecord<ReadingRecord>();
+        reading.ReadingName = QStringLiteral("Reading %1").arg(r);
+        reading.SavedOn = 40000 + (r * 37) % 3000;
+        file.Add(reading);
+    }
+    file.Done();
+}
+
+void Fresh(QTemporaryDir& dir) {
+    ResetRunState();
+    FormPaths(dir.path());
+    InitDatabase();
+    WriteWholeFile(LocationsPath, QByteArray());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    if (argc > 1) Runs = std::max(1, atoi(argv[1]));
+    if (argc > 2) Only = QString::fromLocal8Bit(argv[2]);
+    MsgBoxScript::Enable();
+    std::printf("%d runs a figure; medians\n", Runs);
+
+    // ---- Memory: a 100-card deck loaded and the reading screen up, before
+    // anything large has passed through this process.
+    if (Want("memory")) {
+        QTemporaryDir dir;
+        Fresh(dir);
+        MakeDecks(1, 100);
+        MakeSpreads(1, 32, true);
+        GetRecord(DecksPath, 1, ListDeck);
+        bool removed = false;
+        LoadDeck(removed);
+        const double afterDeck = PeakMegabytes();
+        GetRecord(SpreadsPath, 1, CurrentSpread);
+        LoadSpreadLocations(CurrentSpread.SpreadId, CurrentSpread.LocationCount);
+        ResetReading(CurrentReading);
+        Get<frmNewReading>().Show();
+        app.processEvents();
+        RowAbsolute("peak memory, 100-card deck loaded", afterDeck, "MB", 150, true);
+        RowAbsolute("peak memory, reading screen shown", PeakMegabytes(), "MB", 150, true);
+        UnloadScreen<frmNewReading>();
+        app.processEvents();
+    }
+
+    // ---- Start-up to the main screen.
+    if (Want("startup")) {
+        QTemporaryDir empty;
+        WriteWholeFile(empty.filePath(QStringLiteral("Location.loc")), QByteArray());
+        const double ms = Time([&] {
+            MsgBoxScript::Answer(vbNo);
+            RunStartup(empty.path());
+        });
+        RowAbsolute("start-up to the main screen, empty database", ms, "ms", 500, true);
+        QTemporaryDir full;
+        Fresh(full);
+        MakeDecks(1000, 0);
+        const double msFull = Time([&] { RunStartup(full.path()); });
+        RowAbsolute("start-up to the main screen, 1,000 decks", msFull, "ms", 1000, true);
+        MsgBoxScript::Clear();
+    }
+
+    // ---- The record store at scale.
+    if (Want("cards")) {
+        QTemporaryDir dir;
+        Fresh(dir);
+        MakeDecks(320, 100);   // 32,000 cards, about 163 MB
+        const double readCards = Time([] { ReadOnce(CardsPath); });
+        GetRecord(DecksPath, CountDecks(), ListDeck);
+        const double load = Time([] {
+            bool removed = false;
+            LoadDeck(removed);
+        });
+        Row("LoadDeck, last deck of 32,000 cards", load, "read of Cards.crd", readCards, 1.5);
+
+        const QString copyPath = dir.filePath(QStringLiteral("copy.bin"));
+        const QString keep = dir.filePath(QStringLiteral("Cards.keep"));
+        CopyOnce(CardsPath, keep);
+        const double copyCards = Time([&] { CopyOnce(CardsPath, copyPath); });
+        DeckRecord middle;
+        GetRecord(DecksPath, 160, middle);
+        const double del = Time([&] { DeleteDeckCards(middle.DeckId); }, [&] { CopyOnce(keep, CardsPath); });
+        Row("DeleteDeckCards on 32,000 cards", del, "copy of Cards.crd", copyCards, 2.0);
+        Kill(keep);
+        Kill(copyPath);
+    }
+    if (Want("ids")) {
+        QTemporaryDir dir;
+        Fresh(dir);
+        MakeDecks(10000, 0);
+        MakeSpreads(10000, 0, true);
+        const double readDecks = Time([] { ReadOnce(DecksPath); });
+        const double readSpreads = Time([] { ReadOnce(SpreadsPath); });
+        const QString absent = QStringLiteral("No Such Deck");
+        Row("FindDeckByName on 10,000 decks, name absent", Time([&] { FindDeckByName(absent); }), "read of Decks.dck",
+            readDecks, 1.5);
+        Row("FindDeckIdByName on 10,000 decks, name absent", Time([&] { FindDeckIdByName(absent); }),
+            "read of Decks.dck", readDecks, 1.5);
+        Row("DeckNameById on 10,000 decks, id absent", Time([] { DeckNameById(32000); }), "read of Decks.dck",
+            readDecks, 1.5);
+        Row("NextDeckId on 10,000 decks with gaps", Time([] { NextDeckId(); }), "read of Decks.dck", readDecks, 2.0);
+        Row("NextSpreadId on 10,000 spreads with gaps", Time([] { NextSpreadId(); }), "read of Spreads.spr",
+            readSpreads, 2.0);
+    }
+    if (Want("locations")) {
+        QTemporaryDir dir;
+        Fresh(dir);
+        MakeSpreads(1000, 32, true);   // 32,000 locations
+        const QString keep = dir.filePath(QStringLiteral("Location.keep"));
+        CopyOnce(LocationsPath, keep);
+        const double copyLocations = Time([&] { CopyOnce(LocationsPath, dir.filePath(QStringLiteral("copy.bin"))); });
+        SpreadRecord middle;
+        GetRecord(SpreadsPath, 500, middle);
+        LoadSpreadLocations(middle.SpreadId, 32);
+        const double replace = Time([&] { ReplaceSpreadLocations(middle.SpreadId, 32); },
+                                    [&] { CopyOnce(keep, LocationsPath); });
+        Row("ReplaceSpreadLocations on 32,000 locations", replace, "copy of Location.loc", copyLocations, 2.0);
+    }
+
+    // ---- Screens over full files.
+    if (Want("lists")) {
+        QTemporaryDir dir;
+        Fresh(dir);
+        MakeReadings(5000);
+        const double list = Time([&] {
+            Get<frmOpenReading>();
+            UnloadScreen<frmOpenReading>();
+        });
+        RowAbsolute("frmOpenReading listing 5,000 saved readings", list, "ms", 300, true);
+    }
+    if (Want("lists")) {
+        QTemporaryDir dir;
+        Fresh(dir);
+        MakeDecks(200, 78);
+        MakeSpreads(200, 10, false);
+        const double open = Time([&] {
+            Get<frmSelectSpread>();
+            UnloadScreen<frmSelectSpread>();
+        });
+        RowAbsolute("frmSelectSpread, 200 spreads, 200 decks of 78 cards", open, "ms", 1000, true);
+    }
+
+    // ---- The shuffle animation: moves a second, and the longest wait of a
+    // timer that should fire every 10 ms while it runs.
+    if (Want("shuffle")) {
+        QTemporaryDir dir;
+        Fresh(dir);
+        CurrentDeck.CardCount = 100;
+        CurrentDeck.DeckCards.Redim(1, 100);
+        for (int c = 1; c <= 100; ++c) CurrentDeck.DeckCards(c).CardType = 0;
+        CardTypeSelected = {true, false, false, false};
+        ResetReading(CurrentReading);
+        frmNewReading& reading = Get<frmNewReading>();
+        reading.DeckCardsLeft = 100;
+        frmReadingCards& table = Get<frmReadingCards>();
+        long moves = 0;
+        struct Counter : QObject {
+            long* moves;
+            bool eventFilter(QObject* watched, QEvent* e) override {
+                if (e->type() == QEvent::Move && watched->objectName() == QLatin1String("picCard")) ++*moves;
+                return false;
+            }
+        } counter;
+        counter.moves = &moves;
+        app.installEventFilter(&counter);
+        QElapsedTimer sinceTick;
+        qint64 longestWait = 0;
+        QTimer tick;
+        tick.setInterval(10);
+        QObject::connect(&tick, &QTimer::timeout, [&] {
+            longestWait = std::max(longestWait, sinceTick.restart());
+        });
+        QTimer::singleShot(3000, [&] { table.StopShuffle(); });
+        QElapsedTimer clock;
+        clock.start();
+        sinceTick.start();
+        tick.start();
+        table.FakeShuffle();
+        const double seconds = clock.nsecsElapsed() / 1e9;
+        tick.stop();
+        app.removeEventFilter(&counter);
+        RowAbsolute("shuffle animation, card moves a second", (moves - 100) / seconds, "moves/s", 2000, false);
+        RowAbsolute("shuffle animation, longest wait of a 10 ms timer", double(longestWait), "ms", 50, true);
+        UnloadScreen<frmReadingCards>();
+        UnloadScreen<frmNewReading>();
+    }
+    ReleaseProgramLock();
+    return 0;
+}

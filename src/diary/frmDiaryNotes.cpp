@@ -1,0 +1,16 @@
+#include "diary/frmDiaryNotes.h"
+
+#include "diary/frmNewDiary.h"
+#include "store/mdlVariables.h"
+
+frmDiaryNotes::frmDiaryNotes() : EntryNotesScreen(QStringLiteral("Diary Summary and Notes")) {
+    setObjectName(QStringLiteral("frmDiaryNotes"));
+}
+
+QString frmDiaryNotes::Notes() const { return CurrentDiary.DiaryNotes.Trimmed(); }
+
+void frmDiaryNotes::SetNotes(const QString& notes) { CurrentDiary.DiaryNotes = notes; }
+
+void frmDiaryNotes::MarkEntryChanged() {
+    if (frmNewDiary* diary = ScreenSlot<frmNewDiary>()) diary->DiaryChanged = true;
+}

@@ -1,0 +1,96 @@
+#pragma once
+// What the diary tests share: the way in through the main screen's Diary
+// buttons, and the card choice driven as the keeper drives it.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QPushButton>
+
+#include "diary/frmDiaryCards.h"
+#include "diary/frmDiaryInterpretLocation.h"
+#include "diary/frmDiaryNotes.h"
+#include "diary/frmNewDiary.h"
+#include "diary/frmOpenDiary.h"
+#include "diary/frmSaveDiary.h"
+#include "diary/frmSelectSpreadforDiary.h"
+#include "readings/ReadingFixtures.h"
+
+namespace DiaryFixtures {
+
+using namespace ReadingFixtures;
+
+inline void FreshDiaryRun(const QString& dir) {
+    UnloadScreen<frmDiaryCards>();
+    UnloadScreen<frmOpenDiary>();
+    UnloadScreen<frmNewDiary>();
+    FreshRun(dir);
+    SelectSpreadScreen::LastAllowDuplicateCards = false;
+}
+
+// "New" of the Diary group with the first spread and deck, and whatever
+// adjust does to the selection screen's boxes.
+inline frmNewDiary& NewDiary(const std::function<void(frmSelectSpreadforDiary&)>& adjust = {}) {
+    WhenModal([adjust] {
+        frmSelectSpreadforDiary& select = Get<frmSelectSpreadforDiary>();
+        if (adjust) adjust(select);
+        select.cmdSelect->click();
+    });
+    Get<frmMainScreen>().lblButton_Click(3);
+    return Get<frmNewDiary>();
+}
+
+// "Past" of the Diary group, opening the entry in the given row.
+inline void OpenPastDiary(int row) {
+    WhenModal([row] {
+        frmOpenDiary& open = Get<frmOpenDiary>();
+        open.lstEntries->setCurrentRow(row);
+        open.cmdOpen->click();
+    });
+    Get<frmMainScreen>().lblButton_Click(4);
+}
+
+inline int RowOf(const QListWidget* list, const QString& text) {
+    for (int r = 0; r < list->count(); ++r)
+        if (list->item(r)->text() == text) return r;
+    return -1;
+}
+
+// The keeper presses the location's button and, on the card choice, takes
+// the row of that text (the last one of that text with last), turns the
+// box to the orientation and presses Select; act replaces all of that.
+inline void Choose(frmNewDiary& diary, int location, const QString& text, bool reversed = false,
+                   const std::function<void(frmDiaryCards&)>& act = {}) {
+    WhenModal([text, reversed, act] {
+        frmDiaryCards& cards = Get<frmDiaryCards>();
+        if (act) {
+            act(cards);
+            return;
+        }
+        cards.lstCards->setCurrentRow(RowOf(cards.lstCards, text));
+        if (cards.chkReserved->isChecked() != reversed) cards.chkReserved->click();
+        cards.cmdSelect->click();
+    });
+    diary.cmdCardTitle(location)->click();
+}
+
+// The rows of a location's list: text and card number.
+inline QStringList Rows(const frmNewDiary& diary, int location) {
+    QStringList rows;
+    const QComboBox* list = diary.cboCardName(location);
+    for (int r = 0; r < list->count(); ++r)
+        rows << list->itemText(r) + QLatin1Char('=') + list->itemData(r).toString();
+    return rows;
+}
+
+// The cards a location's list offers, in order of title.
+inline QStringList Offered(const frmNewDiary& diary, int location) {
+    QStringList texts;
+    const QComboBox* list = diary.cboCardName(location);
+    for (int r = 0; r < list->count(); ++r) texts << list->itemText(r);
+    texts.sort();
+    return texts;
+}
+
+inline QString CardText(int n) { return QStringLiteral("Card %1").arg(n); }
+
+}  // namespace DiaryFixtures

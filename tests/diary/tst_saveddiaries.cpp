@@ -1,0 +1,189 @@
+// Saved diary entries that can no longer be shown as they were refuse with
+// one message and write nothing; one whose cards point past a smaller deck
+// beyond the checked locations opens with those locations empty; saving under
+// another entry's name overwrites it in place.
+#include <QLabel>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "platform/FileSys.h"
+#include "shell/ClickLabel.h"
+#include "store/frmGetPassword.h"
+#include "DiaryFixtures.h"
+
+using namespace DiaryFixtures;
+
+namespace {
+
+constexpr int Locations = 20;
+
+const QString DeckGone = QStringLiteral(
+    "This diary cannot be opened because the deck that was used to create it is no longer installed.");
+const QString SpreadGone = QStringLiteral(
+    "This diary cannot be opened because the spread that was used to create it is no longer installed.");
+const QString TooManyRemoved = QStringLiteral(
+    "The Diary cannot be opened because the too many cards were removed from the deck that was used to create "
+    "this diary.");
+
+}  // namespace
+
+class TestSavedDiaries : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> dir_;
+    QTemporaryDir frameDir_;
+    Integer deckId_ = 0;
+    Integer spreadId_ = 0;
+
+    // An entry of the 20-location spread with card i in location i.
+    DiaryRecord SavedDiary(const QString& name, double savedOn, int highCardAt = 0, Integer highCard = 0) {
+        DiaryRecord d;
+        ResetDiary(d);
+        d.DiaryName = name;
+        d.ReadingDeckId = deckId_;
+        d.ReadingDeckRevision = 1;
+        d.ReadingSpreadId = spreadId_;
+        d.ReadingSpreadRevision = 1;
+        for (int i = 1; i <= Locations; ++i) d.DealtCard[std::size_t(i - 1)] = Integer(i);
+        if (highCardAt > 0) d.DealtCard[std::size_t(highCardAt - 1)] = highCard;
+        d.DiaryChoice = 7;
+        d.CardTypeSelected = {True16, True16, False16, False16};
+        d.SavedOn = savedOn;
+        AppendRecord(DiaryPath, d);
+        return d;
+    }
+
+    frmOpenDiary& TryOpen(int row = 0) {
+        Get<frmNewDiary>();
+        frmOpenDiary& open = Get<frmOpenDiary>();
+        open.lstEntries->setCurrentRow(row);
+        open.cmdOpen_Click();
+        return open;
+    }
+
+    void ExpectRefusal(const QString& message) {
+        const QByteArray file = ReadWholeFile(DiaryPath);
+        const DiaryRecord before = CurrentDiary;
+        frmOpenDiary& open = TryOpen();
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History().at(0).prompt, message);
+        QVERIFY(IsLoaded<frmOpenDiary>());
+        QVERIFY(open.cmdOpen->isEnabled());
+        QCOMPARE(ReadWholeFile(DiaryPath), file);
+        QCOMPARE(EncodeRecord(CurrentDiary), EncodeRecord(before));
+        QVERIFY(Get<frmNewDiary>().OpeningDiary == false);
+    }
+
+private slots:
+    void initTestCase() {
+        MsgBoxScript::Enable();
+        MediaPlayerScript::Enable();
+        StandUpFrame(frameDir_.path());
+    }
+
+    void init() {
+        dir_ = std::make_unique<QTemporaryDir>();
+        FreshDiaryRun(dir_->path());
+        deckId_ = Fixtures::MakeDeck(QStringLiteral("Tarot"), 22, false);
+        spreadId_ = Fixtures::MakeSpread(QStringLiteral("Big"), Locations, {deckId_});
+    }
+
+    void cleanup() {
+        QCOMPARE(MsgBoxScript::Unanswered(), 0);
+        UnloadScreen<frmOpenDiary>();
+        if (frmNewDiary* diary = ScreenSlot<frmNewDiary>()) {
+            diary->DiaryChanged = false;
+            diary->cmdClose_Click();
+        }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    void aDeletedDeckOrSpreadOrAWrongPasswordRefuses() {
+        SavedDiary(QStringLiteral("Saved"), 46000);
+        DeleteDeck(1);
+        ExpectRefusal(DeckGone);
+        MsgBoxScript::Clear();
+        UnloadScreen<frmOpenDiary>();
+        deckId_ = Fixtures::MakeDeck(QStringLiteral("Again"), 22, false);
+        ChangeRecord<DiaryRecord>(DiaryPath, 1, [this](DiaryRecord& d) { d.ReadingDeckId = deckId_; });
+        DeleteSpread(1);
+        ExpectRefusal(SpreadGone);
+        MsgBoxScript::Clear();
+        UnloadScreen<frmOpenDiary>();
+        ChangeRecord<DiaryRecord>(DiaryPath, 1, [](DiaryRecord& d) {
+            d.EntryLocked = True16;
+            d.EntryPassword = QStringLiteral("moon");
+        });
+        WhenModal([] {
+            frmGetPassword& ask = Get<frmGetPassword>();
+            ask.txtPassword->setText(QStringLiteral("sun"));
+            ask.cmdOK_Click();
+        });
+        ExpectRefusal(QStringLiteral("Incorrect password. Access Denied."));
+    }
+
+    void aSmallerDeckIsCheckedOnTheFirstFifteenLocationsOnly() {
+        SavedDiary(QStringLiteral("Saved"), 46000, 15, 22);
+        ChangeRecord<DeckRecord>(DecksPath, 1, [](DeckRecord& d) {
+            d.DeckRevision = 2;
+            d.CardCount = 21;
+        });
+        ExpectRefusal(TooManyRemoved);
+        MsgBoxScript::Clear();
+        UnloadScreen<frmOpenDiary>();
+
+        // The same card at location 16 passes the check; after the question
+        // the entry opens, location 16 empty with its number.
+        ChangeRecord<DiaryRecord>(DiaryPath, 1, [](DiaryRecord& d) {
+            d.DealtCard[14] = 15;
+            d.DealtCard[15] = 22;
+        });
+        MsgBoxScript::Answer(vbYes);
+        TryOpen();
+        QVERIFY(!IsLoaded<frmOpenDiary>());
+        frmNewDiary& diary = Get<frmNewDiary>();
+        QVERIFY(diary.Visible());
+        QVERIFY(!diary.IntroductionShown());
+        QCOMPARE(diary.FocusLocation, Integer(7));
+        QCOMPARE(diary.cmdCardTitle(16)->text(), QStringLiteral(" [Select]"));
+        QVERIFY(!diary.lblCardNumber(16)->isHidden());
+        QCOMPARE(diary.lblCardNumber(16)->text(), QStringLiteral("16"));
+        QCOMPARE(diary.cmdCardTitle(15)->text(), CardText(15));
+        QCOMPARE(CurrentDiary.DealtCard[15], Integer(0));
+        // With duplicates off the cards of the entry have left the other lists.
+        QVERIFY(!Offered(diary, 16).contains(CardText(15)));
+        QCOMPARE(diary.cboCardName(16)->count(), 1 + 21 - 19);
+    }
+
+    void savingUnderAnotherEntrysNameOverwritesItInPlace() {
+        SavedDiary(QStringLiteral("First"), 46000);
+        SavedDiary(QStringLiteral("Second"), 46000);
+        OpenPastDiary(0);
+        frmNewDiary& diary = Get<frmNewDiary>();
+        QVERIFY(!diary.DiaryChanged);
+        // An empty entry saves too: no card is required.
+        for (int i = 1; i <= Locations; ++i) diary.cboCardName_KeyUp(i, 46);
+        WhenModal([] {
+            frmSaveDiary& save = Get<frmSaveDiary>();
+            QCOMPARE(save.txtSaveAs->text(), QStringLiteral("First"));
+            QVERIFY(!save.cmdSave->isEnabled());
+            save.txtSaveAs->setText(QStringLiteral("Second"));
+            MsgBoxScript::Answer(vbYes);
+            save.cmdSave_Click();
+        });
+        diary.cmdSave->click();
+        QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Diary already exists. Overwrite?"));
+        QCOMPARE(CountDiaries(), 2);
+        DiaryRecord second;
+        QVERIFY(GetRecord(DiaryPath, 2, second));
+        QCOMPARE(second.DiaryName.Trimmed(), QStringLiteral("Second"));
+        QCOMPARE(second.DealtCard, (std::array<Integer, 32>{}));
+        QCOMPARE(second.SaveCount, Integer(1));
+        DiaryRecord first;
+        QVERIFY(GetRecord(DiaryPath, 1, first));
+        QCOMPARE(first.DealtCard[0], Integer(1));
+    }
+};
+
+QTEST_MAIN(TestSavedDiaries)
+#include "tst_saveddiaries.moc"

@@ -1,0 +1,364 @@
+// Printing a reading and a diary entry: the printer dialogue, page 1 with the
+// spread as it lies, then the summary and one block per card; on a recording
+// printer, and through Qt's printer into PDF files read back with poppler.
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "platform/OleDate.h"
+#include "platform/Picture.h"
+#include "platform/RecordingPrinter.h"
+#include "printing/PrintEntry.h"
+#include "printing/frmPrintingReading.h"
+#include "printing/mdlPrinting.h"
+#include "diary/DiaryFixtures.h"
+#include "readings/ReadingFixtures.h"
+#include "shell/ClickLabel.h"
+#include "shell/ImageBox.h"
+#include "store/Startup.h"
+
+using namespace ReadingFixtures;
+
+namespace {
+
+constexpr int Locations = 10;
+
+std::shared_ptr<RecordingPrinter> RecorderChosen() {
+    auto printer = std::make_shared<RecordingPrinter>();
+    PrinterDialogScript::PrintTo(printer);
+    return printer;
+}
+
+QStringList Ops(const RecordingPrinter& printer) {
+    QStringList ops;
+    for (const PrinterCall& call : printer.Calls)
+        if (call.Op != QLatin1String("Print")) ops << call.Op;
+    return ops;
+}
+
+QStringList Starting(const QStringList& texts, const QString& prefix) {
+    QStringList out;
+    for (const QString& t : texts)
+        if (t.startsWith(prefix)) out << t;
+    return out;
+}
+
+// The order of the locations' rectangles on the page, bottom first.
+QList<int> Stacking(frmPrintingReading& page) {
+    QList<int> order;
+    for (QObject* child : page.picSpread->children())
+        if (child->objectName() == QLatin1String("picLocation") && qobject_cast<QWidget*>(child)->isVisibleTo(&page))
+            order << child->property("Index").toInt();
+    return order;
+}
+
+QString Tool(const QString& name) { return QStandardPaths::findExecutable(name); }
+
+QString Run(const QString& program, const QStringList& args) {
+    QProcess process;
+    process.start(program, args);
+    process.waitForFinished(60000);
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+int PdfPages(const QString& pdf) {
+    const QString info = Run(Tool(QStringLiteral("pdfinfo")), {pdf});
+    return QRegularExpression(QStringLiteral("Pages:\\s+(\\d+)")).match(info).captured(1).toInt();
+}
+
+// Each text found after the one before it.
+bool InOrder(const QString& text, const QStringList& parts) {
+    qsizetype at = 0;
+    for (const QString& part : parts) {
+        at = text.indexOf(part, at);
+        if (at < 0) return false;
+        at += part.size();
+    }
+    return true;
+}
+
+}  // namespace
+
+class TestPrintEntry : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> dir_;
+    QTemporaryDir frameDir_;
+
+    void MakeDesigns(int locations) {
+        const Integer deckId = Fixtures::MakeDeck(QStringLiteral("Tarot"), 30, true);
+        Fixtures::MakeSpread(QStringLiteral("Cross"), locations, {deckId});
+        ChangeRecord<SpreadRecord>(SpreadsPath, 1, [](SpreadRecord& s) {
+            s.AskQuestion = True16;
+            s.SpreadDesigner.DesignerName = QStringLiteral("Iris Vane");
+        });
+        ChangeRecord<DeckRecord>(DecksPath, 1, [](DeckRecord& d) { d.DeckDesigner.DesignerName = QStringLiteral("Odo Marl"); });
+        ChangeRecord<LocationRecord>(LocationsPath, 3, [](LocationRecord& l) {
+            l.LocationQuestion[0] = QStringLiteral(" Who? ");
+            l.LocationQuestion[2] = QStringLiteral("Why?");
+        });
+        // Card-sized pictures (120 by 180 pixels), so that the pictures are fitted
+        // into the printed box as real ones are.
+        for (int n = 1; n <= 30; ++n) {
+            CardRecord card;
+            GetRecord(CardsPath, n, card);
+            for (int side = 0; side < 2; ++side) {
+                QImage picture(120, 180, QImage::Format_RGB32);
+                picture.fill(QColor::fromHsv((n * 37) % 360, 160, side == 0 ? 220 : 120));
+                QPainter painter(&picture);
+                painter.drawRect(4, 4, 111, 171);
+                painter.drawText(picture.rect(), Qt::AlignCenter, QString::number(n));
+                painter.end();
+                SavePictureAsBmp(picture, CardsDir + card.CardPicture[static_cast<std::size_t>(side)].Trimmed());
+            }
+        }
+        ChangeRecord<CardRecord>(CardsPath, 1, [](CardRecord& c) {
+            c.CardDescription[0] = QStringLiteral("First line\nSecond line");
+            c.CardDescription[1] = QStringLiteral("First line\nSecond line");
+        });
+    }
+
+    // A reading on its spread page with the issue given and the given
+    // number of cards dealt.
+    frmNewReading& Reading(int cards) {
+        frmNewReading& reading = NewReading();
+        reading.txtIssue->setText(QStringLiteral("Will it rain?"));
+        reading.cmdContinue->click();
+        if (cards >= CurrentSpread.LocationCount) reading.cmdAllCards->click();
+        else
+            for (int i = 0; i < cards; ++i) reading.cmdNextCard->click();
+        return reading;
+    }
+
+    QString OutputDir() const {
+        const QString kept = qEnvironmentVariable("CARTOMAR_PRINTOUT_DIR");
+        return kept.isEmpty() ? dir_->path() : kept;
+    }
+
+private slots:
+    void initTestCase() {
+        MsgBoxScript::Enable();
+        MediaPlayerScript::Enable();
+        PrinterDialogScript::Enable();
+        StandUpFrame(frameDir_.path());
+    }
+
+    void init() {
+        dir_ = std::make_unique<QTemporaryDir>();
+        FreshRun(dir_->path());
+        PrinterDialogScript::Clear();
+        PrintActive = false;
+        MakeDesigns(Locations);
+    }
+
+    void cancelPrintsNothingAndSaysNothing() {
+        frmNewReading& reading = Reading(Locations);
+        auto printer = std::make_shared<RecordingPrinter>();
+        SetCurrentPrinter(printer);
+        PrinterDialogScript::Cancel();
+        reading.cmdPrint->click();
+        QCOMPARE(PrinterDialogScript::Shown(), QList<int>{28});
+        QVERIFY(printer->Calls.isEmpty());
+        QVERIFY(MsgBoxScript::History().isEmpty());
+        QVERIFY(!IsLoaded<frmPrintingReading>());
+    }
+
+    void readingPrintsTheSpreadPageThenSummaryAndBlocks() {
+        frmNewReading& reading = Reading(Locations);
+        CurrentReading.ReadingNotes = QStringLiteral("Line one\nLine two");
+        auto printer = RecorderChosen();
+        bool looked = false;
+        printer->OnPrintForm = [&](QWidget& form) {
+            auto& page = static_cast<frmPrintingReading&>(form);
+            looked = true;
+            QCOMPARE(page.lblPageNumber->text(), QStringLiteral("Page 1"));
+            QCOMPARE(page.lblTheIssue->text(), MakerWebAddress);
+            QCOMPARE(page.Label2->text(), QStringLiteral("Cross"));
+            QCOMPARE(page.Label3->text(), QStringLiteral("Tarot"));
+            QCOMPARE(page.lblTitle->text(), QStringLiteral("Will it rain?"));
+            QCOMPARE(page.lblCpyS->text(), QStringLiteral("Spread \u00a9 Copyright 2001 By Iris Vane."));
+            QCOMPARE(page.lblCpyD->text(), QStringLiteral("Deck \u00a9 Copyright 2001 By Odo Marl."));
+            QVERIFY(QRegularExpression(QStringLiteral("^\\w+day, \\d{1,2} \\w{3} \\d{4} - \\d{1,2}:\\d{1,2}:\\d{1,2} [AP]M$"))
+                        .match(page.lblNow->text())
+                        .hasMatch());
+            // Positions scale from the screen's canvas (9615 by 5895) to the
+            // page's (10095 by 5895): across by 1.05, down unchanged.
+            const LocationRecord& ninth = SpreadLocations(9);
+            QVERIFY(Near(ControlLeft(page.picLocation(9)), qRound(ninth.LocationLeft * 10095.0 / 9615.0)));
+            QVERIFY(Near(ControlTop(page.picLocation(9)), ninth.LocationTop));
+            for (int i = 1; i <= Locations; ++i) {
+                QVERIFY(!page.lblCardNumber(i)->isVisibleTo(&page));
+                QCOMPARE(page.lblCardName(i)->text(), DeckCard(CurrentReading.DealtCard[i - 1]).CardTitle.Trimmed());
+                QCOMPARE(page.lblCardTitle(i)->text(), QStringLiteral("Position %1").arg(i));
+                QVERIFY(page.imgCard(i)->HasPicture());
+            }
+            QCOMPARE(Stacking(page), (QList<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
+        };
+        reading.cmdPrint->click();
+        QVERIFY(looked);
+        QVERIFY(!IsLoaded<frmPrintingReading>());
+        QVERIFY(MsgBoxScript::History().isEmpty());
+        QCOMPARE(Ops(*printer).mid(0, 3), (QStringList{QStringLiteral("EndDoc"), QStringLiteral("PrintForm"),
+                                                       QStringLiteral("KillDoc")}));
+        QCOMPARE(Ops(*printer).mid(Ops(*printer).size() - 2),
+                 (QStringList{QStringLiteral("EndDoc"), QStringLiteral("Close")}));
+
+        const QStringList texts = printer->Texts();
+        QCOMPARE(texts.mid(0, 7), (QStringList{MakerWebAddress, QStringLiteral("Page 2"), QStringLiteral("Summary"),
+                                               QString(), QString(), QStringLiteral("Line one"),
+                                               QStringLiteral("Line two")}));
+        // Four blocks to a page after the summary's page.
+        QCOMPARE(Starting(texts, QStringLiteral("Page ")),
+                 (QStringList{QStringLiteral("Page 2"), QStringLiteral("Page 3"), QStringLiteral("Page 4"),
+                              QStringLiteral("Page 5")}));
+        QStringList locations, cards;
+        for (int i = 1; i <= Locations; ++i) {
+            locations << QStringLiteral("Location: Position %1").arg(i);
+            const Integer card = CurrentReading.DealtCard[i - 1];
+            const bool upright = CurrentReading.DealtUpright[i - 1] != 0;
+            cards << QStringLiteral("Card: Card %1%2").arg(card).arg(upright ? QStringLiteral("(Upright)")
+                                                                             : QStringLiteral("(Reversed)"));
+        }
+        QCOMPARE(Starting(texts, QStringLiteral("Location: ")), locations);
+        QCOMPARE(Starting(texts, QStringLiteral("Card: ")), cards);
+        // The questions run on behind the description.
+        QVERIFY(texts.contains(QStringLiteral("What position 3 stands for  Who?  Why?")));
+        // Each card's text is its side's.
+        const Integer first = CurrentReading.DealtCard[0];
+        const QString meaning = DeckCard(first).CardDescription[CurrentReading.DealtUpright[0] != 0 ? 0 : 1].Trimmed();
+        QCOMPARE(texts[texts.indexOf(cards[0]) + 1], meaning.section(QLatin1Char('\n'), 0, 0));
+    }
+
+    void beforeTheFirstCardOnlyPageOnePrints() {
+        frmNewReading& reading = Reading(0);
+        auto printer = RecorderChosen();
+        printer->OnPrintForm = [&](QWidget& form) {
+            auto& page = static_cast<frmPrintingReading&>(form);
+            for (int i = 1; i <= Locations; ++i) {
+                QVERIFY(page.picLocation(i)->isVisibleTo(&page));
+                QVERIFY(page.lblCardNumber(i)->isVisibleTo(&page));
+                QCOMPARE(page.lblCardNumber(i)->text(), QString::number(i));
+                QVERIFY(page.lblCardName(i)->text().isEmpty());
+                QVERIFY(!page.imgCard(i)->HasPicture());
+            }
+            for (int i = Locations + 1; i <= frmPrintingReading::MaxLocations; ++i)
+                QVERIFY(!page.picLocation(i)->isVisibleTo(&page));
+        };
+        reading.cmdPrint->click();
+        QCOMPARE(Ops(*printer), (QStringList{QStringLiteral("EndDoc"), QStringLiteral("PrintForm"),
+                                             QStringLiteral("KillDoc"), QStringLiteral("Close")}));
+        QVERIFY(printer->Texts().isEmpty());
+        QVERIFY(MsgBoxScript::History().isEmpty());
+    }
+
+    void diaryPrintsItsCardsWhereverTheyLie() {
+        frmNewReading& screen = Reading(0);
+        ResetDiary(CurrentDiary);
+        CurrentDiary.DealtCard[4] = 7;     // location 5, reversed
+        CurrentDiary.DealtUpright[4] = False16;
+        CurrentDiary.DealtCard[1] = 5;     // location 2, upright
+        CurrentDiary.DealtUpright[1] = True16;
+        screen.ShowCardInLocation(5, 7, false);
+        screen.ShowCardInLocation(2, 5, true);
+        SetClockForTests(QDateTime(QDate(2026, 3, 5), QTime(9, 5, 3)));
+        auto printer = RecorderChosen();
+        printer->OnPrintForm = [&](QWidget& form) {
+            auto& page = static_cast<frmPrintingReading&>(form);
+            QCOMPARE(page.lblNow->text(), QStringLiteral("Thursday, 5 Mar 2026 - 09:05:03 AM"));
+            // The cards lie above the empty places, the higher number on top.
+            QCOMPARE(Stacking(page), (QList<int>{1, 3, 4, 6, 7, 8, 9, 10, 2, 5}));
+            QVERIFY(!page.lblCardNumber(5)->isVisibleTo(&page));
+            QVERIFY(page.lblCardNumber(4)->isVisibleTo(&page));
+        };
+        PrintEntry(screen, DiaryPrintout());
+        SetClockForTests(QDateTime());
+        const QStringList texts = printer->Texts();
+        QVERIFY(!texts.contains(QStringLiteral("Summary")));
+        QCOMPARE(Starting(texts, QStringLiteral("Location: ")),
+                 (QStringList{QStringLiteral("Location: Position 2"), QStringLiteral("Location: Position 5")}));
+        QCOMPARE(Starting(texts, QStringLiteral("Card: ")),
+                 (QStringList{QStringLiteral("Card: Card 5(Upright)"), QStringLiteral("Card: Card 7 (Reversed)")}));
+        QVERIFY(texts.contains(QStringLiteral("Reversed meaning of card 7")));
+
+        // A printer that cannot be opened: the engine says so, then the
+        // diary's own message.
+        MsgBoxScript::Clear();
+        auto broken = RecorderChosen();
+        broken->LastError = 1;
+        PrintEntry(screen, DiaryPrintout());
+        QCOMPARE(MsgBoxScript::History().size(), 2);
+        QCOMPARE(MsgBoxScript::History()[0].prompt, QStringLiteral("Unable to initialize printer."));
+        QCOMPARE(MsgBoxScript::History()[1].prompt,
+                 QStringLiteral("Could not print the diary properly. Please make sure that the selected printer is ready."));
+        QCOMPARE(MsgBoxScript::History()[1].style, int(vbCritical));
+    }
+
+    void readingAndDiaryPrintToPdfFiles() {
+        if (Tool(QStringLiteral("pdftotext")).isEmpty() || Tool(QStringLiteral("pdfinfo")).isEmpty())
+            QSKIP("poppler-utils (pdftotext, pdfinfo) is not installed");
+        const QString readingPdf = OutputDir() + QStringLiteral("/reading.pdf");
+        const QString diaryPdf = OutputDir() + QStringLiteral("/diary.pdf");
+        QFile::remove(readingPdf);
+        QFile::remove(diaryPdf);
+
+        frmNewReading& reading = Reading(Locations);
+        CurrentReading.ReadingNotes = QStringLiteral("The weather turns by the end of the week.\nTake an umbrella.");
+        PrinterDialogScript::PrintToPdf(readingPdf);
+        reading.cmdPrint->click();
+        QVERIFY(MsgBoxScript::History().isEmpty());
+        QVERIFY(QFileInfo::exists(readingPdf));
+        QCOMPARE(PdfPages(readingPdf), 5);
+        const QString readingText = Run(Tool(QStringLiteral("pdftotext")), {QStringLiteral("-layout"), readingPdf, QStringLiteral("-")});
+        QVERIFY2(InOrder(readingText, {QStringLiteral("Page 1"), QStringLiteral("Cartomar"), QStringLiteral("Iris Vane"),
+                                       QStringLiteral("Page 2"), QStringLiteral("Summary"), QStringLiteral("umbrella"),
+                                       QStringLiteral("Page 3"), QStringLiteral("Location: Position 1"),
+                                       QStringLiteral("Card: "), QStringLiteral("Location: Position 10"),
+                                       QStringLiteral("Card: ")}),
+                 qPrintable(readingText));
+
+        // A diary entry of five locations, with notes.
+        CloseAll();
+        QDir(dir_->path()).mkpath(QStringLiteral("diary"));
+        FreshRun(dir_->path() + QStringLiteral("/diary"));
+        MakeDesigns(5);
+        // Kept through the diary's own screens: the cards chosen location by
+        // location, the notes typed, Print pressed.
+        frmNewDiary& diary = DiaryFixtures::NewDiary();
+        diary.cmdContinue->click();
+        for (int i = 1; i <= 5; ++i) DiaryFixtures::Choose(diary, i, DiaryFixtures::CardText(i * 3), i % 2 == 0);
+        diary.cmdNotes->click();
+        Get<frmDiaryNotes>().txtComments->setPlainText(QStringLiteral("Cards laid on the kitchen table."));
+        Get<frmDiaryNotes>().cmdClose->click();
+        PrinterDialogScript::PrintToPdf(diaryPdf);
+        diary.cmdPrint->click();
+        QVERIFY(MsgBoxScript::History().isEmpty());
+        QCOMPARE(PdfPages(diaryPdf), 4);
+        const QString diaryText = Run(Tool(QStringLiteral("pdftotext")), {QStringLiteral("-layout"), diaryPdf, QStringLiteral("-")});
+        QVERIFY2(InOrder(diaryText, {QStringLiteral("Page 1"), QStringLiteral("Page 2"), QStringLiteral("Summary"),
+                                     QStringLiteral("Page 3"), QStringLiteral("Location: Position 1"),
+                                     QStringLiteral("Card: Card 3(Upright)"), QStringLiteral("Location: Position 2"),
+                                     QStringLiteral("Card: Card 6 (Reversed)"), QStringLiteral("Page 4"),
+                                     QStringLiteral("Location: Position 5")}),
+                 qPrintable(diaryText));
+    }
+
+private:
+    void CloseAll() {
+        UnloadScreen<frmDiaryCards>();
+        UnloadScreen<frmNewDiary>();
+        UnloadScreen<frmReadingCards>();
+        if (frmNewReading* open = ScreenSlot<frmNewReading>()) open->CloseReading();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+private slots:
+    void cleanup() { CloseAll(); }
+};
+
+QTEST_MAIN(TestPrintEntry)
+#include "tst_printentry.moc"
