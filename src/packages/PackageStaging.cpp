@@ -9,7 +9,9 @@
 namespace {
 
 // Copies a file a record names from Cards/ into Temp/ under the same name.
-void StageFile(const QString& name) { FileCopy(CardsDir + name, TempDir + name); }
+// Temp/ holds working copies only, emptied after packing and at every
+// start, so the copies are not waited for on the disk.
+void StageFile(const QString& name) { FileCopyUnsynced(CardsDir + name, TempDir + name); }
 
 }  // namespace
 

@@ -356,7 +356,7 @@ void frmCreatePackage::WarnProtectedDesign() {
 
 void frmCreatePackage::StageAttachment() {
     try {
-        FileCopy(txtAttachment->text(), TempDir + QStringLiteral("ATT - ") + AttachmentName.trimmed());
+        FileCopyUnsynced(txtAttachment->text(), TempDir + QStringLiteral("ATT - ") + AttachmentName.trimmed());
         AttachmentStaged = true;
     } catch (const RuntimeError&) {
         AttachmentStaged = false;
