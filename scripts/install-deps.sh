@@ -8,6 +8,7 @@ packages=(
   gstreamer1.0-plugins-base gstreamer1.0-plugins-good
   fonts-dejavu-core poppler-utils xvfb xauth
   clang libclang-rt-dev
+  desktop-file-utils appstream shared-mime-info
 )
 missing=()
 for p in "${packages[@]}"; do

@@ -170,6 +170,14 @@ void frmInstallPackage::ShowFolder(const QString& folder) {
     UpdateButtons();
 }
 
+void frmInstallPackage::SelectPackage(const QString& packageFile) {
+    ShowFolder(FolderOf(packageFile));
+    const QString name = FileNameOf(packageFile);
+    for (int i = 0; i < filSelection->ListCount(); ++i)
+        if (filSelection->List(i) == name) filSelection->setListIndex(i);
+    UpdateButtons();
+}
+
 void frmInstallPackage::UpdateButtons() {
     const bool selected = !filSelection->FileName().isEmpty();
     cmdDelete->setEnabled(selected);

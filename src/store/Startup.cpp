@@ -67,7 +67,7 @@ QImage DefaultCardPicture() {
     return QImage(QStringLiteral(":/cartomar/C000000.bmp"));
 }
 
-bool RunStartup(const QString& programDir) {
+bool RunStartup(const QString& programDir, bool offerInstall) {
     FormPaths(programDir);
     // Before anything is touched: a second copy on the same folder would
     // empty the first one's Temp/ under its feet.
@@ -103,7 +103,7 @@ bool RunStartup(const QString& programDir) {
     const int spreadCount = CountSpreads();
     const int deckCount = CountDecks();
     ShowMainScreen();
-    if (spreadCount == 0 && deckCount == 0) {
+    if (offerInstall && spreadCount == 0 && deckCount == 0) {
         const int answer = MsgBox(QStringLiteral("You don't have any designs installed. Do you want install any now?"),
                                   vbYesNo | vbInformation);
         if (answer == vbYes) {
