@@ -13,9 +13,12 @@ build=$(realpath -m "${1:-$root/build}")
 cmake -S "$root" -B "$build" -G Ninja >/dev/null
 cmake --build "$build" --target take_screenshots
 
-work=$(mktemp -d)
+# A fixed folder, since the package screens show its path: the pictures then
+# come out the same at every run.
+work=/tmp/cartomar-screenshots
+rm -rf "$work"
 trap 'rm -rf "$work"' EXIT
-tool=("$build/tools/take_screenshots" "$work/program" "$work/images" "$root/help")
+tool=("$build/tools/take_screenshots" "$work/Cartomar" "$work/images" "$root/help")
 export QT_LOGGING_RULES="qt.multimedia*=false"
 if command -v xvfb-run >/dev/null; then
   env -u QT_QPA_PLATFORM xvfb-run -a -s "-screen 0 1280x1024x24" "${tool[@]}"
