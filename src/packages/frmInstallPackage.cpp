@@ -27,6 +27,14 @@
 
 namespace {
 
+// A file a package's record names is one the package brought into Temp/,
+// which holds plain file names only. A name that would reach elsewhere
+// ("../x", "/etc/x") names no file the package brought: it is missing.
+QString UnpackedFileName(const QString& recorded) {
+    if (recorded.isEmpty() || MemberFileName(recorded) != recorded) RaiseError(errFileNotFound);
+    return recorded;
+}
+
 QRect At(int left, int top, int width, int height) {
     return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
 }
@@ -477,7 +485,7 @@ void frmInstallPackage::InstallCards() {
     // installed cards, those of an overwritten deck included, stay untouched.
     // The copies are made durable together, before any record names them.
     auto takeFile = [](FixedText<12>& field, const QString& newName) {
-        const QString oldName = field.Trimmed();
+        const QString oldName = UnpackedFileName(field.Trimmed());
         FileCopyUnsynced(TempDir + oldName, CardsDir + newName);
         field = newName;
     };
@@ -554,8 +562,8 @@ void frmInstallPackage::RemapSpread(int i) {
 }
 
 void frmInstallPackage::InstallSpreadBackground() {
-    const QString oldName = CurrentSpread.BackgroundFile.Trimmed();
-    if (oldName.isEmpty()) return;
+    if (CurrentSpread.BackgroundFile.Trimmed().isEmpty()) return;
+    const QString oldName = UnpackedFileName(CurrentSpread.BackgroundFile.Trimmed());
     const QString newName = NewBackgroundName(oldName);
     FileCopy(TempDir + oldName, CardsDir + newName);
     CurrentSpread.BackgroundFile = newName;
