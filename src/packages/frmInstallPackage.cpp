@@ -6,9 +6,11 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSet>
+#include <vector>
 
 #include "packages/PackageSummary.h"
 #include "packages/mdlPackages.h"
+#include "platform/BinaryFile.h"
 #include "platform/Errors.h"
 #include "platform/FileLists.h"
 #include "platform/FileSys.h"
@@ -24,6 +26,14 @@
 #include "store/mdlVariables.h"
 
 namespace {
+
+// A file a package's record names is one the package brought into Temp/,
+// which holds plain file names only. A name that would reach elsewhere
+// ("../x", "/etc/x") names no file the package brought: it is missing.
+QString UnpackedFileName(const QString& recorded) {
+    if (recorded.isEmpty() || MemberFileName(recorded) != recorded) RaiseError(errFileNotFound);
+    return recorded;
+}
 
 QRect At(int left, int top, int width, int height) {
     return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
@@ -469,16 +479,17 @@ Integer frmInstallPackage::MapDeckId(Integer oldId) {
 }
 
 void frmInstallPackage::InstallCards() {
-    int position = CountCards() + 1;
     RecordReader<CardRecord> reader(TempFile("Temp.crd"));
     CardRecord card;
     // Every card file is copied under a fresh name, so the files of
     // installed cards, those of an overwritten deck included, stay untouched.
+    // The copies are made durable together, before any record names them.
     auto takeFile = [](FixedText<12>& field, const QString& newName) {
-        const QString oldName = field.Trimmed();
-        FileCopy(TempDir + oldName, CardsDir + newName);
+        const QString oldName = UnpackedFileName(field.Trimmed());
+        FileCopyUnsynced(TempDir + oldName, CardsDir + newName);
         field = newName;
     };
+    std::vector<CardRecord> installed;
     for (int i = 1; reader.Next(card); ++i) {
         card.CardDeckId = MapDeckId(card.CardDeckId);
         if (card.CardDeckId < 1) continue;
@@ -489,8 +500,13 @@ void frmInstallPackage::InstallCards() {
             takeFile(card.CardSound[0], TrimField(NewUprightNames(i)) + QStringLiteral("M.WAV"));
         if (!card.CardSound[1].IsBlank() && !TrimField(NewReversedSoundNames(i)).isEmpty())
             takeFile(card.CardSound[1], TrimField(NewReversedNames(i)) + QStringLiteral("M.WAV"));
-        PutRecord(CardsPath, position++, card);
+        installed.push_back(card);
     }
+    SyncFileSystem(CardsDir);
+    // After the last whole card, in one write.
+    QByteArray records;
+    for (const CardRecord& done : installed) records += EncodeRecord(done);
+    AppendRecordBytes(CardsPath, CardRecord::Length, records);
 }
 
 void frmInstallPackage::InstallSpreads() {
@@ -546,8 +562,8 @@ void frmInstallPackage::RemapSpread(int i) {
 }
 
 void frmInstallPackage::InstallSpreadBackground() {
-    const QString oldName = CurrentSpread.BackgroundFile.Trimmed();
-    if (oldName.isEmpty()) return;
+    if (CurrentSpread.BackgroundFile.Trimmed().isEmpty()) return;
+    const QString oldName = UnpackedFileName(CurrentSpread.BackgroundFile.Trimmed());
     const QString newName = NewBackgroundName(oldName);
     FileCopy(TempDir + oldName, CardsDir + newName);
     CurrentSpread.BackgroundFile = newName;

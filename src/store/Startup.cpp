@@ -38,26 +38,6 @@ void MakeRecordFileIfMissing(const QString& path) {
 
 }  // namespace
 
-void FormPaths(const QString& programDir) {
-    AppPath = programDir.endsWith(QLatin1Char('/')) ? programDir : programDir + QLatin1Char('/');
-    SettingsPath = AppPath + QStringLiteral("Settings.dat");
-    SpreadsPath = AppPath + QStringLiteral("Spreads.spr");
-    LocationsPath = AppPath + QStringLiteral("Location.loc");
-    DecksPath = AppPath + QStringLiteral("Decks.dck");
-    CardsDir = AppPath + QStringLiteral("Cards/");
-    PackagesDir = AppPath + QStringLiteral("Packages/");
-    AttachmentsDir = PackagesDir + QStringLiteral("Attachments/");
-    CardsPath = AppPath + QStringLiteral("Cards.crd");
-    ReadingsPath = AppPath + QStringLiteral("Readings.red");
-    DiaryPath = AppPath + QStringLiteral("Diary.dry");
-    DefaultPicturePath = CardsDir + DefaultPictureName;
-    // Formed before TempDir has its value, so it holds the bare file name.
-    // Nothing reads it.
-    TempFilePath = QStringLiteral("temp.tmp");
-    TempDir = AppPath + QStringLiteral("Temp/");
-    TempCardsPath = TempDir + QStringLiteral("Cards.crd");
-}
-
 void InitDatabase() {
     MkDirIgnoringErrors(TempDir);
     ClearTemp();
@@ -72,12 +52,6 @@ void InitDatabase() {
     MkDirIgnoringErrors(CardsDir);
     MkDirIgnoringErrors(PackagesDir);
     SavePictureAsBmp(DefaultCardPicture(), DefaultPicturePath);
-}
-
-void ClearTemp() {
-    // Without a formed TempDir the pattern would reach the working folder.
-    if (TempDir.isEmpty()) return;
-    KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
 }
 
 void FatalError() {
