@@ -21,7 +21,8 @@ endif()
 
 run(contents dpkg-deb -c "${debs}")
 foreach(path ./usr/lib/cartomar/cartomar ./usr/lib/cartomar/Cartomar.hlp ./usr/lib/cartomar/Location.loc
-             ./usr/lib/cartomar/Packages/ ./usr/share/applications/${CARTOMAR_ID}.desktop
+             ./usr/lib/cartomar/Packages/ "./usr/lib/cartomar/Packages/Cartomar Starter.pck"
+             ./usr/lib/cartomar/Help/images/main-screen.png ./usr/share/applications/${CARTOMAR_ID}.desktop
              ./usr/share/metainfo/${CARTOMAR_ID}.metainfo.xml ./usr/share/mime/packages/cartomar.xml
              ./usr/share/icons/hicolor/256x256/apps/${CARTOMAR_ID}.png)
   string(FIND "${contents}" " ${path}\n" at)

@@ -17,7 +17,7 @@ file(REMOVE_RECURSE "${PREFIX}")
 run(${CMAKE_COMMAND} --install "${BUILD_DIR}" --prefix "${PREFIX}")
 
 set(folder "${PREFIX}/lib/cartomar")
-foreach(file cartomar Cartomar.hlp Location.loc)
+foreach(file cartomar Cartomar.hlp Location.loc "Packages/Cartomar Starter.pck" Help/images/main-screen.png)
   if(NOT EXISTS "${folder}/${file}")
     message(FATAL_ERROR "the program folder lacks ${file}")
   endif()
