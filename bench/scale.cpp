@@ -7,17 +7,23 @@
 //
 //   QT_QPA_PLATFORM=offscreen build/bench/bench_scale [runs [section]]
 //
-// Sections: memory, startup, cards, ids, locations, lists, shuffle.
+// Sections: memory, startup, cards, ids, locations, lists, shuffle, packages, printing.
 //
 // The data is made in a temporary program folder and removed afterwards.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QTemporaryDir>
+#include <QImage>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
 #include <QTimer>
+#include <deque>
 #include <algorithm>
 #include <cstdio>
 #include <fcntl.h>
 #include <functional>
+#include <memory>
 #include <sys/resource.h>
 #include <unistd.h>
 #include <vector>
@@ -27,6 +33,11 @@
 #include "platform/MsgBox.h"
 #include "platform/ProgramLock.h"
 #include "platform/Rnd.h"
+#include "packages/PackageSummary.h"
+#include "packages/frmCreatePackage.h"
+#include "packages/frmInstallPackage.h"
+#include "platform/FileLists.h"
+#include "platform/Printer.h"
 #include "readings/frmNewReading.h"
 #include "readings/frmOpenReading.h"
 #include "readings/frmReadingCards.h"
@@ -35,6 +46,7 @@
 #include "store/Startup.h"
 #include "store/mdlSubRoutines.h"
 #include "store/mdlTypes.h"
+#include "shell/frmMainScreen.h"
 #include "store/mdlVariables.h"
 
 namespace {
@@ -201,6 +213,60 @@ void MakeReadings(int readings) {
     }
     file.Done();
 }
+
+
+// Acts on modal screens as they come up, in order, the way a user answers
+// them; polls every 2 ms.
+class ModalAnswers {
+public:
+    ModalAnswers() {
+        QObject::connect(&timer_, &QTimer::timeout, [this] {
+            if (steps_.empty() || !steps_.front().first()) return;
+            auto act = std::move(steps_.front().second);
+            steps_.pop_front();
+            act();
+        });
+        timer_.start(2);
+    }
+    template <class T>
+    ModalAnswers& On(std::function<void(T&)> act) {
+        steps_.emplace_back([] { return IsLoaded<T>() && Get<T>().ShownModal(); }, [act] { act(Get<T>()); });
+        return *this;
+    }
+
+private:
+    std::deque<std::pair<std::function<bool()>, std::function<void()>>> steps_;
+    QTimer timer_;
+};
+
+// A 78-card deck whose 156 pictures are 200 KB bitmaps in Cards/.
+qint64 MakePictureDeck() {
+    MakeDecks(1, 78);
+    QImage picture(236, 283, QImage::Format_RGB888);
+    qint64 bytes = 0;
+    std::vector<CardRecord> cards = ReadAllRecords<CardRecord>(CardsPath);
+    AtomicFileWriter out(CardsPath + QStringLiteral(".tmp"), CardsPath);
+    std::vector<char> raw(CardRecord::Length);
+    for (int c = 1; c <= 78; ++c) {
+        CardRecord& card = cards[static_cast<std::size_t>(c - 1)];
+        for (int side = 0; side < 2; ++side) {
+            picture.fill(QColor((c * 37) % 256, (c * 11 + side * 90) % 256, (c * 5) % 256));
+            const QString name = (side == 0 ? CardUprightName(c) : CardReversedName(c)) + QStringLiteral(".bmp");
+            picture.save(CardsDir + name, "BMP");
+            bytes += FileLen(CardsDir + name);
+            card.CardPicture[static_cast<std::size_t>(side)] = name;
+        }
+        EncodeRecord(card, raw.data());
+        out.Write(raw.data(), CardRecord::Length);
+    }
+    out.Commit();
+    DeckRecord deck;
+    GetRecord(DecksPath, 1, deck);
+    deck.IncludesReversed = True16;
+    PutRecord(DecksPath, 1, deck);
+    return bytes;
+}
+
 
 void Fresh(QTemporaryDir& dir) {
     ResetRunState();
@@ -393,6 +459,86 @@ int main(int argc, char** argv) {
         RowAbsolute("shuffle animation, longest wait of a 10 ms timer", double(longestWait), "ms", 50, true);
         UnloadScreen<frmReadingCards>();
         UnloadScreen<frmNewReading>();
+    }
+
+    // ---- A package of a 78-card deck with 156 pictures of 200 KB: made on
+    // the creation screen, installed on the installation screen of another
+    // program folder; against one plain copy of the same bytes.
+    if (Want("packages")) {
+        QTemporaryDir from;
+        Fresh(from);
+        MsgBoxScript::Answer(vbNo);
+        RunStartup(from.path());
+        const qint64 pictureBytes = MakePictureDeck();
+        const QString sameBytes = from.filePath(QStringLiteral("same.bin"));
+        {
+            QByteArray all;
+            for (const QString& name : Dir(CardsDir + QStringLiteral("C?0*.bmp"))) all += ReadWholeFile(CardsDir + name);
+            WriteWholeFile(sameBytes, all);
+        }
+        const double copyMs = Time([&] { CopyOnce(sameBytes, from.filePath(QStringLiteral("copy.bin"))); });
+        QString package;
+        const double createMs = Time([&] {
+            ModalAnswers answers;
+            answers.On<frmCreatePackageSummary>([](frmCreatePackageSummary& s) { s.cmdCancel->click(); });
+            Get<frmMainScreen>().lblButton_Click(8);
+            frmCreatePackage& create = Get<frmCreatePackage>();
+            package = PackagesDir + create.txtFilename->text();
+            create.lstAvailableDecks->item(0)->setCheckState(Qt::Checked);
+            create.cmdCreate->click();
+        });
+        std::printf("(%lld bytes of pictures, package of %lld bytes)\n", static_cast<long long>(pictureBytes),
+                    static_cast<long long>(FileLen(package)));
+        Row("package creation, 78 cards, 156 pictures of 200 KB", createMs, "copy of the same bytes", copyMs, 3.0);
+
+        std::vector<std::unique_ptr<QTemporaryDir>> targets;
+        const double installMs = Time(
+            [&] {
+                ModalAnswers answers;
+                answers.On<frmPackageSummary>([](frmPackageSummary& s) { s.cmdCancel->click(); });
+                Get<frmMainScreen>().lblButton_Click(7);
+                frmInstallPackage& install = Get<frmInstallPackage>();
+                install.filSelection->setListIndex(0);
+                install.cmdInstall->click();
+            },
+            [&] {
+                targets.push_back(std::make_unique<QTemporaryDir>());
+                Fresh(*targets.back());
+                MsgBoxScript::Answer(vbNo);
+                RunStartup(targets.back()->path());
+                FileCopy(package, PackagesDir + QStringLiteral("Starter.pck"));
+            });
+        RowAbsolute("package installation: decks installed", CountDecks(), "", 1, false);
+        Row("package installation, 78 cards, 156 pictures of 200 KB", installMs, "copy of the same bytes", copyMs, 3.0);
+        MsgBoxScript::Clear();
+    }
+
+    // ---- Printing a full 32-location reading with full texts to a PDF file.
+    if (Want("printing")) {
+        QTemporaryDir dir;
+        Fresh(dir);
+        MakeDecks(1, 78);
+        MakeSpreads(1, 32, true);
+        MsgBoxScript::Answer(vbNo);
+        RunStartup(dir.path());
+        {
+            ModalAnswers answers;
+            answers.On<frmSelectSpread>([](frmSelectSpread& s) { s.cmdSelect->click(); });
+            Get<frmMainScreen>().lblButton_Click(1);
+        }
+        PrinterDialogScript::Enable();
+        frmNewReading& reading = Get<frmNewReading>();
+        reading.cmdContinue->click();
+        reading.cmdAllCards->click();
+        CurrentReading.ReadingNotes = QString(1500, QLatin1Char('n'));
+        const QString pdf = dir.filePath(QStringLiteral("reading.pdf"));
+        const double printMs = Time([&] {
+            PrinterDialogScript::PrintToPdf(pdf);
+            reading.cmdPrint->click();
+        });
+        std::printf("(PDF of %lld bytes)\n", static_cast<long long>(FileLen(pdf)));
+        RowAbsolute("printing a 32-location reading with full texts to PDF", printMs, "ms", 2000, true);
+        MsgBoxScript::Clear();
     }
     ReleaseProgramLock();
     return 0;

@@ -1,51 +1,41 @@
 // Feeds arbitrary bytes to the package reader as a package file. The reader
 // may refuse them, but it must never crash, never allocate more than the file
-// holds, and never write anything outside Temp/.
-//
-//   CXX=clang++ cmake -S . -B build-fuzz -G Ninja && cmake --build build-fuzz --target fuzz_package_reader
-//   build-fuzz/fuzz/fuzz_package_reader fuzz/seeds
-#include <QCoreApplication>
+// holds, and never write anything but plain files inside Temp/.
 #include <QDir>
-#include <QTemporaryDir>
-#include <cstdint>
-#include <cstdlib>
 
+#include "FuzzSupport.h"
 #include "packages/mdlPackages.h"
 #include "platform/FileSys.h"
 #include "platform/MsgBox.h"
 #include "store/Startup.h"
 #include "store/mdlVariables.h"
 
+using Fuzz::Expect;
+
 namespace {
-QTemporaryDir* Root() {
-    static QTemporaryDir root;
-    return &root;
+QStringList Entries(const QString& folder, QDir::Filters filters) {
+    return QDir(folder).entryList(filters | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
 }
 }  // namespace
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
-    static QCoreApplication app(*argc, *argv);
-    MsgBoxScript::Enable();
-    FormPaths(Root()->path() + QStringLiteral("/Cartomar"));
-    QDir().mkpath(TempDir);
+    Fuzz::Initialize(argc, argv);
     return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const QString package = Root()->path() + QStringLiteral("/p.pck");
-    WriteWholeFile(package, QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
+    // The package lies in Packages/, as the installation's file dialogue
+    // finds it.
+    const QString package = PackagesDir + QStringLiteral("p.pck");
+    WriteWholeFile(package, Fuzz::Bytes(data, size));
+    const QStringList before = Entries(AppPath, QDir::AllEntries);
     ClearTemp();
     ExtractPackageFile(package, TempDir);
     MsgBoxScript::Clear();
-    // Beside the package only the program directory, and in it only Temp/.
-    const QStringList outer = QDir(Root()->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    const QStringList inner = QDir(AppPath).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    if (outer != QStringList{QStringLiteral("Cartomar"), QStringLiteral("p.pck")} ||
-        inner != QStringList{QStringLiteral("Temp")})
-        std::abort();
-    for (const QString& name : QDir(TempDir).entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot)) {
-        (void)name;
-        std::abort();   // a member made a folder
-    }
+
+    Expect(Entries(AppPath, QDir::AllEntries) == before, "a member landed beside Temp/");
+    Expect(Entries(PackagesDir, QDir::Files) == QStringList{QStringLiteral("p.pck")}, "a member landed in Packages/");
+    Expect(Entries(TempDir, QDir::Dirs).isEmpty(), "a member made a folder");
+    Fuzz::CheckNothingOutsideTouched();
     return 0;
 }

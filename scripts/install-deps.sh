@@ -7,6 +7,8 @@ packages=(
   qt6-base-dev qt6-multimedia-dev
   gstreamer1.0-plugins-base gstreamer1.0-plugins-good
   fonts-dejavu-core poppler-utils xvfb xauth
+  clang libclang-rt-dev
+  desktop-file-utils appstream shared-mime-info
 )
 missing=()
 for p in "${packages[@]}"; do

@@ -6,6 +6,7 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include "packages/PackageStaging.h"
 #include "packages/PackageSummary.h"
 #include "packages/mdlPackages.h"
 #include "platform/Errors.h"
@@ -51,8 +52,13 @@ bool IsChecked(const QListWidget* list, int row) { return list->item(row)->check
 const QString AttachmentFilter = QStringLiteral(
     "All Files (*.*)|*.*|HTML Files (*.htm)|*.htm|Document Files (*.doc)|*.doc|Text Files (*.txt)|*.txt");
 
-// Copies a file a record names from Cards/ into Temp/ under the same name.
-void StageFile(const QString& name) { FileCopy(CardsDir + name, TempDir + name); }
+// The text of every checked row, in list order.
+QStringList CheckedNames(const QListWidget* list) {
+    QStringList names;
+    for (int row = 0; row < list->count(); ++row)
+        if (IsChecked(list, row)) names << list->item(row)->text();
+    return names;
+}
 
 }  // namespace
 
@@ -111,10 +117,6 @@ frmCreatePackage::frmCreatePackage() {
 
 void frmCreatePackage::Form_Load() {
     CentreInFrame(*this);
-    SpreadsStagePath = TempDir + QStringLiteral("Temp.spr");
-    DecksStagePath = TempDir + QStringLiteral("Temp.dck");
-    CardsStagePath = TempDir + QStringLiteral("Temp.crd");
-    LocationsStagePath = TempDir + QStringLiteral("Temp.loc");
     ProtectedWarningShown = false;
     MkDirIgnoringErrors(AppPath + QStringLiteral("Temp"));
     ClearTemp();
@@ -326,11 +328,19 @@ void frmCreatePackage::cmdCreate_Click() {
 void frmCreatePackage::StageDesigns() {
     PackageFolder = dirSelection->Path();
     PackageFileName = AddPackageExtension(txtFilename->text());
-    if (AnyChecked(lstAvailableDecks)) {
-        StageDecks();
-        StageCards();
+    PackageStaging staging;
+    staging.DeckNames = CheckedNames(lstAvailableDecks);
+    staging.SpreadNames = CheckedNames(lstAvailableSpreads);
+    staging.UsePassword = chkPassword->isChecked();
+    staging.Password = PackagePassword;
+    staging.ProtectedDesignMet = [this] { WarnProtectedDesign(); };
+    if (!staging.DeckNames.isEmpty()) {
+        staging.StageDecks();
+        staging.StageCards();
     }
-    if (AnyChecked(lstAvailableSpreads)) StageSpreads();
+    if (!staging.SpreadNames.isEmpty()) staging.StageSpreads();
+    DecksPacked = staging.DecksPacked;
+    SpreadsPacked = staging.SpreadsPacked;
     if (!txtAttachment->text().trimmed().isEmpty()) StageAttachment();
 }
 
@@ -344,105 +354,9 @@ void frmCreatePackage::WarnProtectedDesign() {
     SetScreenPointer(MousePointer::Hourglass);
 }
 
-void frmCreatePackage::ApplyPassword(Integer& locked, FixedText<25>& password) {
-    if (!chkPassword->isChecked()) return;
-    if (locked != 0) {
-        WarnProtectedDesign();
-        return;
-    }
-    locked = True16;
-    password = PackagePassword;
-}
-
-void frmCreatePackage::StageDecks() {
-    DecksPacked = 0;
-    PackedDeckIds.clear();
-    LastPackedDeckId = 0;
-    QByteArray staged;
-    for (int row = 0; row < lstAvailableDecks->count(); ++row) {
-        if (!IsChecked(lstAvailableDecks, row)) continue;
-        DeckRecord deck;
-        if (!GetRecord(DecksPath, FindDeckByName(lstAvailableDecks->item(row)->text()), deck)) continue;
-        ApplyPassword(deck.DeckLocked, deck.DeckPassword);
-        PackedDeckIds.push_back(deck.DeckId);
-        if (!deck.DeckAttachment.IsBlank()) StageFile(deck.DeckAttachment.Trimmed());
-        staged += EncodeRecord(deck);
-        ++DecksPacked;
-    }
-    WriteWholeFile(DecksStagePath, staged);
-}
-
-bool frmCreatePackage::IsCardOfPackedDeck(Integer id) {
-    if (id == 0) return false;
-    if (id == LastPackedDeckId) return true;
-    for (std::size_t k = 0; k < PackedDeckIds.size(); ++k) {
-        if (PackedDeckIds[k] == id) {
-            LastPackedDeckId = id;
-            return true;
-        }
-        if (k + 1 >= PackedDeckIds.size() || PackedDeckIds[k + 1] == 0) return false;
-    }
-    return false;
-}
-
-void frmCreatePackage::StageCards() {
-    QByteArray staged;
-    RecordReader<CardRecord> reader(CardsPath);
-    CardRecord card;
-    while (reader.Next(card)) {
-        if (!IsCardOfPackedDeck(card.CardDeckId)) continue;
-        staged += EncodeRecord(card);
-        // The upright picture goes always, the default picture included; the
-        // reversed one unless it is the shared default.
-        StageFile(card.CardPicture[0].Trimmed());
-        if (card.CardPicture[1].Value() != DefaultPictureName) StageFile(card.CardPicture[1].Trimmed());
-        for (const FixedText<12>& sound : card.CardSound)
-            if (!sound.IsBlank()) StageFile(sound.Trimmed());
-    }
-    WriteWholeFile(CardsStagePath, staged);
-}
-
-void frmCreatePackage::StageSpreads() {
-    SpreadsPacked = 0;
-    QByteArray spreads;
-    QByteArray locations;
-    // A spread's files that cannot be copied are left out with their fields
-    // blanked; without its background or attachment it also goes without
-    // its locations.
-    auto stageOrBlank = [](auto& field) {
-        if (field.IsBlank()) return true;
-        try {
-            StageFile(field.Trimmed());
-            return true;
-        } catch (const RuntimeError&) {
-            field = QString();
-            return false;
-        }
-    };
-    for (int row = 0; row < lstAvailableSpreads->count(); ++row) {
-        if (!IsChecked(lstAvailableSpreads, row)) continue;
-        SpreadRecord spread;
-        if (!GetRecord(SpreadsPath, FindSpreadByName(lstAvailableSpreads->item(row)->text()), spread)) continue;
-        ApplyPassword(spread.SpreadLocked, spread.SpreadPassword);
-        if (stageOrBlank(spread.BackgroundFile) && stageOrBlank(spread.SpreadAttachment)) {
-            LoadSpreadLocations(spread.SpreadId, spread.LocationCount);
-            for (int n = 1; n <= spread.LocationCount; ++n) {
-                LocationRecord& location = SpreadLocations(n);
-                location.LocationSpreadId = spread.SpreadId;
-                locations += EncodeRecord(location);
-                stageOrBlank(location.LocationAttachment);
-            }
-        }
-        spreads += EncodeRecord(spread);
-        ++SpreadsPacked;
-    }
-    WriteWholeFile(SpreadsStagePath, spreads);
-    WriteWholeFile(LocationsStagePath, locations);
-}
-
 void frmCreatePackage::StageAttachment() {
     try {
-        FileCopy(txtAttachment->text(), TempDir + QStringLiteral("ATT - ") + AttachmentName.trimmed());
+        FileCopyUnsynced(txtAttachment->text(), TempDir + QStringLiteral("ATT - ") + AttachmentName.trimmed());
         AttachmentStaged = true;
     } catch (const RuntimeError&) {
         AttachmentStaged = false;

@@ -75,24 +75,16 @@ protected:
 
 private:
     void CheckInputs();
+    // The chosen designs into Temp/ (PackageStaging), then the attachment.
     void StageDesigns();
-    void StageDecks();
-    void StageCards();
-    void StageSpreads();
     void StageAttachment();
-    // The password rule: a locked design keeps its own password.
-    void ApplyPassword(Integer& locked, FixedText<25>& password);
     void WarnProtectedDesign();
-    bool IsCardOfPackedDeck(Integer id);
     void ShowSummary();
     bool AnyChecked(const QListWidget* list) const;
 
     std::vector<QString> DeckListNames;
     std::vector<Integer> DeckListIds;
-    std::vector<Integer> PackedDeckIds;
-    Integer LastPackedDeckId = 0;
     bool InPasswordClick = false;
-    QString SpreadsStagePath, DecksStagePath, CardsStagePath, LocationsStagePath;
 };
 
 // The name with ".pck" added, unless ".pck" stands anywhere in it already

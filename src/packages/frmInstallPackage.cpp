@@ -6,9 +6,11 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSet>
+#include <vector>
 
 #include "packages/PackageSummary.h"
 #include "packages/mdlPackages.h"
+#include "platform/BinaryFile.h"
 #include "platform/Errors.h"
 #include "platform/FileLists.h"
 #include "platform/FileSys.h"
@@ -24,6 +26,14 @@
 #include "store/mdlVariables.h"
 
 namespace {
+
+// A file a package's record names is one the package brought into Temp/,
+// which holds plain file names only. A name that would reach elsewhere
+// ("../x", "/etc/x") names no file the package brought: it is missing.
+QString UnpackedFileName(const QString& recorded) {
+    if (recorded.isEmpty() || MemberFileName(recorded) != recorded) RaiseError(errFileNotFound);
+    return recorded;
+}
 
 QRect At(int left, int top, int width, int height) {
     return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
@@ -165,6 +175,14 @@ void frmInstallPackage::ShowFolder(const QString& folder) {
     dirSelection->setPath(folder);
     filSelection->setPath(dirSelection->Path());
     PackageExtracted = false;
+    UpdateButtons();
+}
+
+void frmInstallPackage::SelectPackage(const QString& packageFile) {
+    ShowFolder(FolderOf(packageFile));
+    const QString name = FileNameOf(packageFile);
+    for (int i = 0; i < filSelection->ListCount(); ++i)
+        if (filSelection->List(i) == name) filSelection->setListIndex(i);
     UpdateButtons();
 }
 
@@ -462,14 +480,17 @@ Integer frmInstallPackage::MapDeckId(Integer oldId) {
 
 void frmInstallPackage::InstallCards() {
     // The cards go into Cards.crd in one replacement of the file; those
-    // taken before a failure are written all the same.
+    // taken before a failure are written all the same. The copied files
+    // are made durable together, before any record names them.
     RecordEdit<CardRecord> cards(CardsPath);
     try {
         TakeCards(cards);
     } catch (...) {
+        SyncFileSystem(CardsDir);
         cards.Commit();
         throw;
     }
+    SyncFileSystem(CardsDir);
     cards.Commit();
 }
 
@@ -479,8 +500,8 @@ void frmInstallPackage::TakeCards(RecordEdit<CardRecord>& cards) {
     // Every card file is copied under a fresh name, so the files of
     // installed cards, those of an overwritten deck included, stay untouched.
     auto takeFile = [](FixedText<12>& field, const QString& newName) {
-        const QString oldName = field.Trimmed();
-        FileCopy(TempDir + oldName, CardsDir + newName);
+        const QString oldName = UnpackedFileName(field.Trimmed());
+        FileCopyUnsynced(TempDir + oldName, CardsDir + newName);
         field = newName;
     };
     for (int i = 1; reader.Next(card); ++i) {
@@ -550,8 +571,8 @@ void frmInstallPackage::RemapSpread(int i) {
 }
 
 void frmInstallPackage::InstallSpreadBackground() {
-    const QString oldName = CurrentSpread.BackgroundFile.Trimmed();
-    if (oldName.isEmpty()) return;
+    if (CurrentSpread.BackgroundFile.Trimmed().isEmpty()) return;
+    const QString oldName = UnpackedFileName(CurrentSpread.BackgroundFile.Trimmed());
     const QString newName = NewBackgroundName(oldName);
     FileCopy(TempDir + oldName, CardsDir + newName);
     CurrentSpread.BackgroundFile = newName;

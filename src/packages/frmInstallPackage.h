@@ -71,6 +71,8 @@ public:
 
     // The folder shown, so that a caller can point the screen at one.
     void ShowFolder(const QString& folder);
+    // Shows a package file's folder with that package chosen.
+    void SelectPackage(const QString& packageFile);
 
 protected:
     void Form_Load() override;

@@ -1,9 +1,17 @@
 #include "platform/Application.h"
 
+#include <QFileInfo>
+#include <QIcon>
+
 #include "platform/Errors.h"
 
 CartomarApplication::CartomarApplication(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("Cartomar"));
+    // The desktop matches the windows to the menu entry by this name, and
+    // shows the icon in the window list and the task switcher.
+    setDesktopFileName(QStringLiteral("com.ondinesoftware.Cartomar"));
+    Q_INIT_RESOURCE(cartomar);
+    setWindowIcon(QIcon(QStringLiteral(":/cartomar/cartomar-icon.png")));
 }
 
 bool CartomarApplication::notify(QObject* receiver, QEvent* event) {
@@ -18,3 +26,5 @@ QString ExecutableFolder() {
     if (!dir.endsWith(QLatin1Char('/'))) dir += QLatin1Char('/');
     return dir;
 }
+
+QString ExecutableName() { return QFileInfo(QCoreApplication::applicationFilePath()).fileName(); }

@@ -11,3 +11,5 @@ public:
 
 // The folder of the executable, with a trailing '/'.
 QString ExecutableFolder();
+// The executable's own file name, without its folder.
+QString ExecutableName();

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QPointer>
 #include <QFileInfo>
 #include <QList>
 
@@ -52,7 +53,8 @@ bool CommonDialog::ShowOpen() {
         const QString answer = s.answers.isEmpty() ? QString() : s.answers.takeFirst();
         return Finish(!answer.isEmpty(), answer);
     }
-    QFileDialog dialog(QApplication::activeWindow(), DialogTitle);
+    QPointer<QFileDialog> owned = new QFileDialog(QApplication::activeWindow(), DialogTitle);
+    QFileDialog& dialog = *owned;
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
@@ -60,8 +62,14 @@ bool CommonDialog::ShowOpen() {
     dialog.setNameFilters(filters);
     if (FilterIndex >= 1 && FilterIndex <= filters.size()) dialog.selectNameFilter(filters[FilterIndex - 1]);
     if (!FileName.isEmpty()) dialog.selectFile(FileName);
-    const bool chosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
-    return Finish(chosen, chosen ? dialog.selectedFiles().first() : QString());
+    // A screen that goes while the dialogue waits takes it along: nothing
+    // was chosen.
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    if (!owned) return Finish(false, QString());
+    const bool chosen = accepted && !dialog.selectedFiles().isEmpty();
+    const QString path = chosen ? dialog.selectedFiles().first() : QString();
+    delete owned;
+    return Finish(chosen, path);
 }
 
 bool CommonDialog::ShowSave() {
@@ -71,7 +79,8 @@ bool CommonDialog::ShowSave() {
         const QString answer = s.answers.isEmpty() ? QString() : s.answers.takeFirst();
         return Finish(!answer.isEmpty(), answer);
     }
-    QFileDialog dialog(QApplication::activeWindow(), DialogTitle);
+    QPointer<QFileDialog> owned = new QFileDialog(QApplication::activeWindow(), DialogTitle);
+    QFileDialog& dialog = *owned;
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
@@ -84,8 +93,14 @@ bool CommonDialog::ShowSave() {
         dialog.setDirectory(proposed.absolutePath());
         dialog.selectFile(proposed.fileName());
     }
-    const bool chosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
-    return Finish(chosen, chosen ? dialog.selectedFiles().first() : QString());
+    // A screen that goes while the dialogue waits takes it along: nothing
+    // was chosen.
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    if (!owned) return Finish(false, QString());
+    const bool chosen = accepted && !dialog.selectedFiles().isEmpty();
+    const QString path = chosen ? dialog.selectedFiles().first() : QString();
+    delete owned;
+    return Finish(chosen, path);
 }
 
 namespace CommonDialogScript {

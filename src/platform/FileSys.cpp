@@ -121,6 +121,41 @@ void FileCopy(const QString& source, const QString& destination) {
     if (!OtherStep() || !out.commit()) RaiseError(errPathFileAccess);
 }
 
+void FileCopyUnsynced(const QString& source, const QString& destination) {
+    const QString from = NativePath(source);
+    const QString to = NativePath(destination);
+    if (!FileExists(from)) RaiseError(errFileNotFound);
+    QFile in(from);
+    if (!in.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) RaiseError(errPermissionDenied);
+    const QString part = to + QStringLiteral(".part");
+    {
+        QFile out(part);
+        if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) RaiseError(errPathNotFound);
+        QByteArray buffer(1 << 20, Qt::Uninitialized);
+        for (;;) {
+            const qint64 n = in.read(buffer.data(), buffer.size());
+            if (n < 0 || (n > 0 && WriteStep(out, buffer.constData(), n) != n)) {
+                out.close();
+                QFile::remove(part);
+                RaiseError(n < 0 ? errPathFileAccess : errDiskFull);
+            }
+            if (n == 0) break;
+        }
+    }
+    if (!RenameStep(part, to)) {
+        QFile::remove(part);
+        RaiseError(errPathFileAccess);
+    }
+}
+
+void SyncFileSystem(const QString& folder) {
+    if (!WriteFaults::Syncs()) return;
+    const int fd = ::open(QFile::encodeName(NativePath(folder)).constData(), O_RDONLY | O_DIRECTORY);
+    if (fd < 0) return;
+    ::syncfs(fd);
+    ::close(fd);
+}
+
 void Name(const QString& oldPath, const QString& newPath) {
     const QString from = NativePath(oldPath);
     const QString to = NativePath(newPath);

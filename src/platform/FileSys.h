@@ -25,6 +25,14 @@ QStringList Dir(const QString& pattern);
 QStringList SubDirs(const QString& folder);
 
 void FileCopy(const QString& source, const QString& destination);  // overwrites
+// The same copy without waiting for the disk: for working files in Temp/,
+// which every start empties, and for a batch of copies that SyncFileSystem
+// then makes durable with one wait instead of one a file. The destination is
+// still never seen half-written.
+void FileCopyUnsynced(const QString& source, const QString& destination);
+// Waits until everything written to the file system that holds folder is
+// on the disk.
+void SyncFileSystem(const QString& folder);
 void Name(const QString& oldPath, const QString& newPath);         // rename; fails if new exists
 // Replaces a file by another in one step (rename over it): a reader finds
 // either the old or the new file, never none.

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 namespace {
@@ -79,16 +80,24 @@ int MsgBox(const QString& prompt, int style, const QString& title) {
     const QString caption = title.isEmpty() ? QStringLiteral("Cartomar") : title;
     if (TheScript().enabled) return Scripted(prompt, style, caption);
 
-    QMessageBox box(IconOf(style), caption, prompt, QMessageBox::NoButton, QApplication::activeWindow());
+    // The box lives on the heap under the active screen: should that screen
+    // go while the box waits (a screen unloaded just before), it takes the
+    // box with it and the answer is that of Esc.
+    QPointer<QMessageBox> box =
+        new QMessageBox(IconOf(style), caption, prompt, QMessageBox::NoButton, QApplication::activeWindow());
     const QList<int> buttons = ButtonsOf(style);
     QHash<QAbstractButton*, int> answerOf;
-    for (int b : buttons) answerOf.insert(box.addButton(Standard(b)), b);
-    box.setDefaultButton(Standard(DefaultOf(style)));
+    for (int b : buttons) answerOf.insert(box->addButton(Standard(b)), b);
+    box->setDefaultButton(Standard(DefaultOf(style)));
     // Esc answers Cancel where there is one, otherwise the only button.
-    if (buttons.contains(vbCancel)) box.setEscapeButton(box.button(QMessageBox::Cancel));
-    else if (buttons.size() == 1) box.setEscapeButton(box.buttons().first());
-    box.exec();
-    return answerOf.value(box.clickedButton(), buttons.contains(vbCancel) ? vbCancel : buttons.last());
+    if (buttons.contains(vbCancel)) box->setEscapeButton(box->button(QMessageBox::Cancel));
+    else if (buttons.size() == 1) box->setEscapeButton(box->buttons().first());
+    box->exec();
+    const int escAnswer = buttons.contains(vbCancel) ? vbCancel : buttons.last();
+    if (!box) return escAnswer;
+    const int answer = answerOf.value(box->clickedButton(), escAnswer);
+    delete box;
+    return answer;
 }
 
 void Beep() { QApplication::beep(); }

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPageLayout>
 #include <QPageSize>
+#include <QPointer>
 #include <QPrintDialog>
 #include <QWidget>
 #include <QtMath>
@@ -254,20 +255,24 @@ bool ShowPrinter(CommonDialog& dialog) {
             fresh = std::make_shared<QtPrinter>();
             qtPrinter = fresh.get();
         }
-        QPrintDialog box(&qtPrinter->Device(), QApplication::activeWindow());
+        // On the heap under the active screen, which takes it along should
+        // it go while the dialogue waits: nothing is printed then.
+        QPointer<QPrintDialog> owned = new QPrintDialog(&qtPrinter->Device(), QApplication::activeWindow());
+        QPrintDialog& box = *owned;
         QAbstractPrintDialog::PrintDialogOptions options = box.options();
         if (dialog.Flags & cdlPDNoPageNums) options &= ~QAbstractPrintDialog::PrintPageRange;
         if (dialog.Flags & cdlPDNoSelection) options &= ~QAbstractPrintDialog::PrintSelection;
         options |= QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies;
         box.setOptions(options);
         if (dialog.Flags & cdlPDCollate) qtPrinter->Device().setCollateCopies(true);
-        if (box.exec() == QDialog::Accepted) {
+        if (box.exec() == QDialog::Accepted && owned) {
             dialog.FromPage = box.fromPage();
             dialog.ToPage = box.toPage();
             dialog.Copies = qtPrinter->Device().copyCount();
             if (fresh) chosen = fresh;
             else chosen = ThePrinter();
         }
+        delete owned;
     }
     if (!chosen) {
         if (dialog.CancelError) RaiseError(errCancel);

@@ -11,6 +11,7 @@
 #include "platform/Picture.h"
 #include "platform/Twips.h"
 #include "shell/ClickLabel.h"
+#include "shell/DecorativePictures.h"
 #include "shell/FitPicture.h"
 #include "shell/ImageBox.h"
 #include "store/mdlVariables.h"
@@ -87,6 +88,7 @@ EntryScreen::EntryScreen(const QString& caption)
     imgSide = new ImageBox(picIntroduction);
     imgSide->setObjectName(QStringLiteral("imgSide"));
     imgSide->Move(120, 120, 2295, 5655);
+    imgSide->setPicture(IntroductionSidePicture(TwipsToPixels(2295), TwipsToPixels(5655)));
     lblSpreadTitle = MakeLabel(picIntroduction, QStringLiteral("lblSpreadTitle"), QString(), 2640, 240, 6735, 495);
     QFont titleFont = lblSpreadTitle->font();
     titleFont.setPointSize(titleFont.pointSize() + 4);

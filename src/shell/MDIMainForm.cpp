@@ -8,6 +8,7 @@
 #include "platform/Application.h"
 #include "platform/Errors.h"
 #include "platform/MsgBox.h"
+#include "packages/frmInstallPackage.h"
 #include "shell/frmMainScreen.h"
 #include "shell/mdlFORM.h"
 #include "store/Startup.h"
@@ -20,6 +21,17 @@ constexpr int FrameHeight = 740;
 QString& TheProgramDirectory() {
     static QString dir;
     return dir;
+}
+
+QString& ThePackageToOpen() {
+    static QString file;
+    return file;
+}
+
+// The installer, as its main-screen button opens it, with the package chosen.
+void OpenPackageFile(const QString& packageFile) {
+    Get<frmMainScreen>().lblButton_Click(7);
+    if (IsLoaded<frmInstallPackage>()) Get<frmInstallPackage>().SelectPackage(packageFile);
 }
 
 }  // namespace
@@ -36,6 +48,8 @@ MDIMainForm::MDIMainForm() {
 }
 
 void MDIMainForm::SetProgramDirectory(const QString& programDir) { TheProgramDirectory() = programDir; }
+
+void MDIMainForm::SetPackageToOpen(const QString& packageFile) { ThePackageToOpen() = packageFile; }
 
 QString MDIMainForm::ProgramDirectory() {
     return TheProgramDirectory().isEmpty() ? ExecutableFolder() : TheProgramDirectory();
@@ -56,7 +70,10 @@ void MDIMainForm::ShowFrame() {
 void MDIMainForm::Form_Load() {
     // An error here stops the start-up where it stands: its box shows, and
     // the frame stays for the exit question.
-    Guarded([] { RunStartup(ProgramDirectory()); });
+    const QString package = ThePackageToOpen();
+    Guarded([&package] {
+        if (RunStartup(ProgramDirectory(), package.isEmpty()) && !package.isEmpty()) OpenPackageFile(package);
+    });
 }
 
 void MDIMainForm::Form_QueryUnload(bool& cancel, int unloadMode) {

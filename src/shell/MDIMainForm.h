@@ -16,6 +16,11 @@ public:
     static void SetProgramDirectory(const QString& programDir);
     static QString ProgramDirectory();
 
+    // A package file the desktop handed over (opened from the file manager):
+    // once the main screen stands, the installer opens on it instead of the
+    // offer to install designs. Empty for a plain start.
+    static void SetPackageToOpen(const QString& packageFile);
+
     // Brings the frame window itself up (it is the desktop's window, not a
     // screen inside its own area).
     void ShowFrame();

@@ -11,7 +11,8 @@
 
 frmHelpViewer::frmHelpViewer() {
     setCaption(QStringLiteral("Cartomar Help"));
-    resize(760, 560);
+    // Wide enough for the pictures of the screens at their own size.
+    resize(960, 680);
 
     txtHelp = new QTextBrowser(this);
     txtHelp->setOpenLinks(true);

@@ -2,12 +2,8 @@
 
 #include <QFont>
 #include <QLabel>
-#include <QLinearGradient>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QPainter>
-#include <QPainterPath>
-#include <QRadialGradient>
 
 #include "platform/FileSys.h"
 #include "platform/MsgBox.h"
@@ -23,6 +19,7 @@
 #include "packages/frmCreatePackage.h"
 #include "packages/frmInstallPackage.h"
 #include "shell/ClickLabel.h"
+#include "shell/DecorativePictures.h"
 #include "shell/ImageBox.h"
 #include "shell/MDIMainForm.h"
 #include "shell/frmHelpViewer.h"
@@ -96,65 +93,6 @@ QString ProgramDirectoryShown() {
 }
 
 }  // namespace
-
-QImage MainScreenPicture(int width, int height) {
-    QImage image(width, height, QImage::Format_RGB32);
-    QPainter p(&image);
-    p.setRenderHint(QPainter::Antialiasing);
-
-    QLinearGradient sky(0, 0, 0, height);
-    sky.setColorAt(0.0, QColor(14, 12, 40));
-    sky.setColorAt(0.55, QColor(44, 34, 92));
-    sky.setColorAt(1.0, QColor(22, 18, 52));
-    p.fillRect(image.rect(), sky);
-
-    // A soft glow behind the name.
-    QRadialGradient glow(QPointF(width / 2.0, height * 0.2), width * 0.45);
-    glow.setColorAt(0.0, QColor(120, 90, 170, 90));
-    glow.setColorAt(1.0, QColor(120, 90, 170, 0));
-    p.fillRect(image.rect(), glow);
-
-    // Stars at fixed places, so that the picture is the same at every start.
-    quint32 seed = 20240611u;
-    auto next = [&seed] {
-        seed = seed * 1664525u + 1013904223u;
-        return seed >> 8;
-    };
-    p.setPen(Qt::NoPen);
-    for (int i = 0; i < 140; ++i) {
-        const double x = next() % width;
-        const double y = next() % (height * 3 / 5);
-        const double r = 0.4 + (next() % 100) / 100.0;
-        p.setBrush(QColor(255, 250, 230, 90 + int(next() % 150)));
-        p.drawEllipse(QPointF(x, y), r, r);
-    }
-
-    // A crescent moon in the upper right.
-    QPainterPath moon, bite;
-    const QPointF moonCentre(width * 0.86, height * 0.13);
-    moon.addEllipse(moonCentre, 24, 24);
-    bite.addEllipse(moonCentre + QPointF(10, -6), 21, 21);
-    p.setBrush(PaleGold);
-    p.drawPath(moon.subtracted(bite));
-
-    // A gold frame and a rule under the name.
-    p.setBrush(Qt::NoBrush);
-    p.setPen(QPen(Gold, 2));
-    p.drawRect(QRectF(8, 8, width - 16, height - 16));
-    p.setPen(QPen(QColor(Gold.red(), Gold.green(), Gold.blue(), 160), 1));
-    p.drawRect(QRectF(14, 14, width - 28, height - 28));
-    p.drawLine(QPointF(width * 0.25, 152), QPointF(width * 0.75, 152));
-
-    QFont tagline(QStringLiteral("DejaVu Serif"));
-    tagline.setItalic(true);
-    tagline.setPointSize(12);
-    p.setFont(tagline);
-    p.setPen(PaleGold);
-    p.drawText(QRect(0, 160, width, 30), Qt::AlignCenter,
-               QStringLiteral("Unlock the Door to Future Possibilities"));
-    p.end();
-    return image;
-}
 
 frmMainScreen::frmMainScreen() {
     setCaption(QStringLiteral("Cartomar"));

@@ -53,6 +53,3 @@ private:
     std::map<int, ClickLabel*> lblButton_;
     QColor ButtonDownColour_;
 };
-
-// The picture behind the main screen's buttons, drawn for a size in pixels.
-QImage MainScreenPicture(int width, int height);

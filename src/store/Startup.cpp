@@ -47,26 +47,6 @@ void RemoveUnfinishedWrites() {
 
 }  // namespace
 
-void FormPaths(const QString& programDir) {
-    AppPath = programDir.endsWith(QLatin1Char('/')) ? programDir : programDir + QLatin1Char('/');
-    SettingsPath = AppPath + QStringLiteral("Settings.dat");
-    SpreadsPath = AppPath + QStringLiteral("Spreads.spr");
-    LocationsPath = AppPath + QStringLiteral("Location.loc");
-    DecksPath = AppPath + QStringLiteral("Decks.dck");
-    CardsDir = AppPath + QStringLiteral("Cards/");
-    PackagesDir = AppPath + QStringLiteral("Packages/");
-    AttachmentsDir = PackagesDir + QStringLiteral("Attachments/");
-    CardsPath = AppPath + QStringLiteral("Cards.crd");
-    ReadingsPath = AppPath + QStringLiteral("Readings.red");
-    DiaryPath = AppPath + QStringLiteral("Diary.dry");
-    DefaultPicturePath = CardsDir + DefaultPictureName;
-    // Formed before TempDir has its value, so it holds the bare file name.
-    // Nothing reads it.
-    TempFilePath = QStringLiteral("temp.tmp");
-    TempDir = AppPath + QStringLiteral("Temp/");
-    TempCardsPath = TempDir + QStringLiteral("Cards.crd");
-}
-
 void InitDatabase() {
     MkDirIgnoringErrors(TempDir);
     ClearTemp();
@@ -84,12 +64,6 @@ void InitDatabase() {
     SavePictureAsBmp(DefaultCardPicture(), DefaultPicturePath);
 }
 
-void ClearTemp() {
-    // Without a formed TempDir the pattern would reach the working folder.
-    if (TempDir.isEmpty()) return;
-    KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
-}
-
 void FatalError() {
     MsgBox(QStringLiteral("Cartomar Error. If this problem persists, please contact Ondine Software Inc."),
            vbCritical);
@@ -103,7 +77,7 @@ QImage DefaultCardPicture() {
     return QImage(QStringLiteral(":/cartomar/C000000.bmp"));
 }
 
-bool RunStartup(const QString& programDir) {
+bool RunStartup(const QString& programDir, bool offerInstall) {
     FormPaths(programDir);
     // Before anything is touched: a second copy on the same folder would
     // empty the first one's Temp/ under its feet.
@@ -139,7 +113,7 @@ bool RunStartup(const QString& programDir) {
     const int spreadCount = CountSpreads();
     const int deckCount = CountDecks();
     ShowMainScreen();
-    if (spreadCount == 0 && deckCount == 0) {
+    if (offerInstall && spreadCount == 0 && deckCount == 0) {
         const int answer = MsgBox(QStringLiteral("You don't have any designs installed. Do you want install any now?"),
                                   vbYesNo | vbInformation);
         if (answer == vbYes) {

@@ -34,8 +34,10 @@ QImage DefaultCardPicture();
 // record files, Temp/, the old-database test with its conversion screen, then
 // the main screen and, with no designs at all, the offer to install some.
 // Returns false when the process was ended on the way (only a test's
-// end-of-process hook lets control come back here).
-bool RunStartup(const QString& programDir);
+// end-of-process hook lets control come back here). A run started on a
+// package file goes to the installer itself, so it passes offerInstall false
+// and the offer is not made.
+bool RunStartup(const QString& programDir, bool offerInstall = true);
 
 // Ends the process at once. Everything that ends the program goes through
 // here; a test may put its own hook in place to see the end without dying,

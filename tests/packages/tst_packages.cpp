@@ -17,6 +17,7 @@
 #include "packages/mdlPackages.h"
 #include "platform/CommonDialog.h"
 #include "platform/FileLists.h"
+#include "ModalScript.h"
 #include "readings/ReadingFixtures.h"
 #include "spreads/SortedListBox.h"
 #include "spreads/frmDeckChooser.h"
@@ -27,37 +28,6 @@
 using namespace ReadingFixtures;
 
 namespace {
-
-// Acts on modal screens in the order they come up, each once.
-class ModalScript {
-public:
-    ModalScript() {
-        QObject::connect(&timer_, &QTimer::timeout, [this] {
-            if (steps_.empty() || !steps_.front().ready()) return;
-            Step step = std::move(steps_.front());
-            steps_.pop_front();
-            step.act();
-        });
-        timer_.start(2);
-    }
-    template <class T>
-    ModalScript& On(std::function<void(T&)> act) {
-        steps_.push_back({[] { return IsLoaded<T>() && Get<T>().ShownModal(); }, [act] { act(Get<T>()); }});
-        return *this;
-    }
-    bool Done() const { return steps_.empty(); }
-
-private:
-    struct Step {
-        std::function<bool()> ready;
-        std::function<void()> act;
-    };
-    std::deque<Step> steps_;
-    QTimer timer_;
-};
-
-// Lets screens that were unloaded go.
-void Settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
 template <class R>
 std::vector<R> All(const QString& path) { return ReadAllRecords<R>(path); }

@@ -1,6 +1,7 @@
 // The services every screen and data operation rely on: the code page of
 // record text, dates, the random generator, wildcard file operations,
 // scripted message boxes and the error report.
+#include <QApplication>
 #include <QBuffer>
 #include <QImage>
 #include <QTemporaryDir>
@@ -132,6 +133,24 @@ private slots:
         QCOMPARE(h[0].prompt, QStringLiteral("Sure?"));
         QCOMPARE(h[0].title, QStringLiteral("Cartomar"));
         QCOMPARE(h[0].style & 0x70, int(vbQuestion));
+    }
+
+    // A real box over a screen that goes while the box waits (as a screen
+    // unloaded just before the box was asked for goes at the next turn of
+    // the event loop) ends with the Esc answer instead of a crash.
+    void aBoxWhoseScreenGoesAnswersAsEsc() {
+        MsgBoxScript::Disable();
+        auto* screen = new QWidget;
+        screen->show();
+        QApplication::setActiveWindow(screen);
+        screen->deleteLater();
+        QCOMPARE(MsgBox(QStringLiteral("Save changes?"), vbYesNoCancel | vbQuestion), int(vbCancel));
+        auto* other = new QWidget;
+        other->show();
+        QApplication::setActiveWindow(other);
+        other->deleteLater();
+        QCOMPARE(MsgBox(QStringLiteral("Done.")), int(vbOK));
+        MsgBoxScript::Enable();
     }
 
     void errorsReportAndEndOnlyTheOperation() {

@@ -1,0 +1,202 @@
+// One record file of a small real database replaced by arbitrary bytes, then
+// everything that reads record files run over the database: counts, whole
+// and sequential reads, reads by number, the lookups by name and id, the free
+// ids, loading each deck and each spread's locations, the tests whether a
+// spread or deck can be dealt, and the delete passes. Built once per record
+// file (FuzzedRecordFile names it).
+//
+// Beyond not crashing, every answer must agree with the file: each record
+// read encodes back to its own bytes, a lookup's record carries what was
+// looked up, a free id is carried by no record, a loaded deck holds only its
+// own cards.
+#include <QFile>
+#include <algorithm>
+#include <vector>
+
+#include "FuzzSupport.h"
+#include "platform/FileSys.h"
+#include "platform/MsgBox.h"
+#include "store/RecordFile.h"
+#include "store/mdlSubRoutines.h"
+#include "store/mdlVariables.h"
+
+// The record file the input stands for, given by each target.
+extern const FuzzedFile FuzzedRecordFile;
+
+using Fuzz::Expect;
+using Fuzz::Handled;
+
+namespace {
+
+// A few records of each file are enough: the rest only repeat the work.
+constexpr std::size_t RecordsLookedAt = 4;
+
+// A deck or spread that claims far more cards or locations than the files
+// hold is loaded into an array of the claimed size (up to 32767 records of
+// 5 KB) before the load finds them missing; that is slow, not wrong, and
+// would starve the fuzzer. Claims a little past what is there still run.
+constexpr int ClaimBeyondFile = 8;
+bool Plausible(int claimed, int held) { return claimed <= held + ClaimBeyondFile; }
+
+// Every way of reading the file, checked against its bytes.
+template <class R>
+std::vector<R> ReadAndCheck(const QString& path) {
+    QFile file(path);
+    Expect(file.open(QIODevice::ReadOnly), "record file missing");
+    const QByteArray bytes = file.readAll();
+    const int count = CountRecords<R>(path);
+    Expect(count == bytes.size() / R::Length, "count is not the whole records");
+
+    std::vector<R> all = ReadAllRecords<R>(path);
+    Expect(static_cast<int>(all.size()) == count, "ReadAllRecords missed records");
+    RecordReader<R> reader(path);
+    R r;
+    int n = 0;
+    while (reader.Next(r)) {
+        ++n;
+        Expect(reader.Current() == n, "reader numbers records wrongly");
+        Expect(EncodeRecord(r) == bytes.mid(static_cast<qsizetype>(n - 1) * R::Length, R::Length),
+               "a record read does not write back to its own bytes");
+    }
+    Expect(n == count, "RecordReader missed records");
+    if (count > 0) {
+        Expect(GetRecord(path, count, r), "last record unreadable");
+        Expect(EncodeRecord(r) == EncodeRecord(all.back()), "GetRecord disagrees with ReadAllRecords");
+    }
+    Expect(!GetRecord(path, count + 1, r), "a record past the end");
+    return all;
+}
+
+template <class R, class Id>
+bool AnyCarries(const std::vector<R>& records, Id R::*field, Integer id) {
+    return std::any_of(records.begin(), records.end(), [&](const R& r) { return r.*field == id; });
+}
+
+void LookUpDecks(const std::vector<DeckRecord>& decks) {
+    Handled([&] {
+        const Integer free = NextDeckId();
+        Expect(free > 0 && !AnyCarries(decks, &DeckRecord::DeckId, free), "NextDeckId gave an id in use");
+    });
+    for (std::size_t i = 0; i < std::min(decks.size(), RecordsLookedAt); ++i) {
+        const DeckRecord& deck = decks[i];
+        Handled([&] {
+            const int number = FindDeckByName(deck.DeckName.Value());
+            Expect(number >= 1 && static_cast<std::size_t>(number) <= i + 1, "FindDeckByName missed a deck");
+            Expect(decks[static_cast<std::size_t>(number - 1)].DeckName.Trimmed() == deck.DeckName.Trimmed(),
+                   "FindDeckByName found another name");
+            const Integer id = FindDeckIdByName(deck.DeckName.Value());
+            Expect(id == decks[static_cast<std::size_t>(number - 1)].DeckId, "FindDeckIdByName disagrees");
+            const int byId = FindDeckRecordById(deck.DeckId);
+            Expect(byId >= 1 && decks[static_cast<std::size_t>(byId - 1)].DeckId == deck.DeckId,
+                   "FindDeckRecordById missed the id");
+            (void)DeckNameById(deck.DeckId);
+            (void)FormatLongDate(deck.ModifiedOn);
+            (void)FormatSortDate(deck.ModifiedOn);
+            (void)IsDeckUsable(deck.DeckId, deck.CardCount);
+        });
+        if (!Plausible(deck.CardCount, CountCards())) continue;
+        Handled([&] {
+            // As the deck list does: the chosen record in ListDeck, then the
+            // load; a deck with missing cards is kept.
+            ListDeck = deck;
+            MsgBoxScript::Answer(vbNo);
+            bool removed = true;
+            if (LoadDeck(removed)) {
+                Expect(CurrentDeck.DeckCards.Count() == std::max<int>(0, deck.CardCount), "deck loaded short");
+                for (const CardRecord& card : CurrentDeck.DeckCards)
+                    Expect(card.CardDeckId == deck.DeckId, "a card of another deck was loaded");
+                (void)CountCardsOfTypeName(deck.CardTypeName[0].Value());
+            }
+            Expect(!removed, "a deck was removed against the answer");
+        });
+    }
+}
+
+void LookUpSpreads(const std::vector<SpreadRecord>& spreads) {
+    Handled([&] {
+        const Integer free = NextSpreadId();
+        Expect(free > 0 && !AnyCarries(spreads, &SpreadRecord::SpreadId, free), "NextSpreadId gave an id in use");
+    });
+    for (std::size_t i = 0; i < std::min(spreads.size(), RecordsLookedAt); ++i) {
+        const SpreadRecord& spread = spreads[i];
+        Handled([&] {
+            const int number = FindSpreadByName(spread.SpreadName.Value());
+            Expect(number >= 1 && static_cast<std::size_t>(number) <= i + 1, "FindSpreadByName missed a spread");
+            const int byId = FindSpreadRecordById(spread.SpreadId);
+            Expect(byId >= 1 && spreads[static_cast<std::size_t>(byId - 1)].SpreadId == spread.SpreadId,
+                   "FindSpreadRecordById missed the id");
+            (void)SpreadNameById(spread.SpreadId);
+            (void)FormatLongDate(spread.ModifiedOn);
+            (void)IsSpreadUsable(spread.SpreadName.Value());
+        });
+        if (!Plausible(spread.LocationCount, CountRecords<LocationRecord>(LocationsPath))) continue;
+        Handled([&] {
+            LoadSpreadLocations(spread.SpreadId, spread.LocationCount);
+            Expect(SpreadLocations.Count() == std::max<int>(0, spread.LocationCount), "locations sized wrongly");
+            int n = 0;
+            for (const LocationRecord& location : SpreadLocations) {
+                ++n;
+                Expect(location.LocationNumber == 0 ||
+                           (location.LocationNumber == n && location.LocationSpreadId == spread.SpreadId),
+                       "a location landed in the wrong place");
+            }
+        });
+    }
+}
+
+template <class Entry>
+void LookUpEntries(const std::vector<Entry>& entries, FixedText<50> Entry::*name, int (*find)(const QString&),
+                   void (*remove)(const QString&)) {
+    for (std::size_t i = 0; i < std::min(entries.size(), RecordsLookedAt); ++i) {
+        Handled([&] {
+            const int number = find((entries[i].*name).Value());
+            Expect(number >= 1 && static_cast<std::size_t>(number) <= i + 1, "an entry was not found by its name");
+            (void)FormatLongDate(entries[i].SavedOn);
+            (void)FormatSortDate(entries[i].SavedOn);
+        });
+    }
+    if (entries.empty()) return;
+    Handled([&] {
+        const QString first = (entries.front().*name).Value();
+        remove(first);
+        Expect(find(first) == -1, "an entry survived its delete");
+    });
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
+    Fuzz::Initialize(argc, argv);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    Fuzz::LayDatabase();
+    WriteWholeFile(Fuzz::PathOf(FuzzedRecordFile), Fuzz::Bytes(data, size));
+
+    std::vector<DeckRecord> decks;
+    std::vector<SpreadRecord> spreads;
+    std::vector<ReadingRecord> readings;
+    std::vector<DiaryRecord> diaries;
+    Handled([&] {
+        decks = ReadAndCheck<DeckRecord>(DecksPath);
+        (void)ReadAndCheck<CardRecord>(CardsPath);
+        spreads = ReadAndCheck<SpreadRecord>(SpreadsPath);
+        (void)ReadAndCheck<LocationRecord>(LocationsPath);
+        readings = ReadAndCheck<ReadingRecord>(ReadingsPath);
+        diaries = ReadAndCheck<DiaryRecord>(DiaryPath);
+    });
+    LookUpDecks(decks);
+    LookUpSpreads(spreads);
+    LookUpEntries(readings, &ReadingRecord::ReadingName, FindReadingByName, DeleteReading);
+    LookUpEntries(diaries, &DiaryRecord::DiaryName, FindDiaryByName, DeleteDiary);
+    // The delete passes of designs, with what goes with them.
+    if (!spreads.empty()) Handled([] { DeleteSpread(1); });
+    if (!decks.empty()) Handled([&] {
+        const int number = FindDeckByName(decks.front().DeckName.Value());
+        DeleteDeck(number);
+        Expect(CountDecks() == static_cast<int>(decks.size()) - 1, "DeleteDeck took other decks");
+    });
+    Fuzz::CheckNothingOutsideTouched();
+    return 0;
+}

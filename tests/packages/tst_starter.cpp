@@ -1,0 +1,272 @@
+// The starter package: its sources read whole and fit the records, its faces
+// are drawn the same every time, and the package the build makes installs a
+// deck and spreads that a reading can use at once.
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "ModalScript.h"
+#include "StarterPictures.h"
+#include "StarterSource.h"
+#include "packages/PackageSummary.h"
+#include "packages/frmInstallPackage.h"
+#include "platform/CommonDialog.h"
+#include "platform/FileLists.h"
+#include "platform/Picture.h"
+#include "readings/ReadingFixtures.h"
+#include "spreads/SortedListBox.h"
+#include "spreads/frmDeckChooser.h"
+
+using namespace ReadingFixtures;
+
+namespace {
+
+StarterDesigns ReadSources() {
+    QStringList problems;
+    StarterDesigns designs = ReadStarterDesigns(QStringLiteral(STARTER_SOURCE_DIR), problems);
+    if (!problems.isEmpty()) qWarning() << problems;
+    return designs;
+}
+
+const QString StarterPackageName = QStringLiteral("Cartomar Starter.pck");
+
+// Runs the package tool into a folder of its own; the package's bytes, or
+// nothing when the tool failed.
+QByteArray RunTool(const QString& folder) {
+    const QString package = folder + QStringLiteral("/") + StarterPackageName;
+    QProcess tool;
+    tool.setProcessChannelMode(QProcess::ForwardedChannels);
+    tool.start(QStringLiteral(MAKE_STARTER_PATH),
+               {QStringLiteral(STARTER_SOURCE_DIR), package, folder + QStringLiteral("/work")});
+    if (!tool.waitForFinished(240000) || tool.exitStatus() != QProcess::NormalExit || tool.exitCode() != 0)
+        return QByteArray();
+    return ReadWholeFile(package);
+}
+
+const StarterSpread* SpreadNamed(const StarterDesigns& designs, const QString& name) {
+    for (const StarterSpread& spread : designs.Spreads)
+        if (spread.Name == name) return &spread;
+    return nullptr;
+}
+
+}  // namespace
+
+class tst_starter : public QObject {
+    Q_OBJECT
+    QTemporaryDir frameDir_;
+
+private slots:
+    void initTestCase();
+    void sourcesMakeAFullDeckAndTheClassicSpreads();
+    void checkCatchesWhatTheRecordsCannotHold();
+    void facesAreLegibleAndRepeatable();
+    void toolGivesTheSameBytesEveryRun();
+    void installedStarterServesACelticCrossReading();
+};
+
+void tst_starter::initTestCase() {
+    MsgBoxScript::Enable();
+    MediaPlayerScript::Enable();
+    CommonDialogScript::Enable();
+    StandUpFrame(frameDir_.path());
+}
+
+void tst_starter::sourcesMakeAFullDeckAndTheClassicSpreads() {
+    QStringList problems;
+    const StarterDesigns designs = ReadStarterDesigns(QStringLiteral(STARTER_SOURCE_DIR), problems);
+    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
+    const QStringList faults = CheckStarterDesigns(designs);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+
+    const StarterDeck& deck = designs.Deck;
+    QCOMPARE(deck.Cards.size(), std::size_t(78));
+    QVERIFY(deck.IncludesReversed);
+    QMap<QString, int> bySuit, byType;
+    QSet<QString> titles;
+    for (const StarterCard& card : deck.Cards) {
+        ++bySuit[card.Suit];
+        ++byType[card.Type];
+        titles.insert(card.Title);
+    }
+    QCOMPARE(titles.size(), 78);
+    QCOMPARE(bySuit.value(QStringLiteral("Major")), 22);
+    for (const QString& suit : {QStringLiteral("Wands"), QStringLiteral("Cups"), QStringLiteral("Swords"),
+                                QStringLiteral("Pentacles")})
+        QCOMPARE(bySuit.value(suit), 14);
+    QCOMPARE(byType.value(QStringLiteral("Major Arcana")), 22);
+    QCOMPARE(byType.value(QStringLiteral("Minor Arcana")) + byType.value(QStringLiteral("Court Cards")), 56);
+    // The deck runs from the Fool to the King of Pentacles.
+    QCOMPARE(deck.Cards.front().Title, QStringLiteral("The Fool"));
+    QCOMPARE(deck.Cards[22].Title, QStringLiteral("Ace of Wands"));
+    QCOMPARE(deck.Cards.back().Title, QStringLiteral("King of Pentacles"));
+
+    QVERIFY(designs.Spreads.size() >= 5);
+    const std::pair<const char*, std::size_t> classics[] = {
+        {"One Card", 1}, {"Past, Present, Future", 3}, {"Celtic Cross", 10}, {"Horseshoe", 7}, {"Relationship", 7}};
+    for (const auto& [name, count] : classics) {
+        const StarterSpread* spread = SpreadNamed(designs, QString::fromLatin1(name));
+        QVERIFY2(spread, name);
+        QCOMPARE(spread->Locations.size(), count);
+    }
+}
+
+void tst_starter::checkCatchesWhatTheRecordsCannotHold() {
+    const StarterDesigns good = ReadSources();
+    QVERIFY(CheckStarterDesigns(good).isEmpty());
+
+    StarterDesigns designs = good;
+    designs.Deck.Cards[5].Upright = QString(1501, QLatin1Char('a'));
+    designs.Deck.Cards[6].ReversedKeywords.clear();
+    designs.Deck.Cards[7].Type = QStringLiteral("Trumps");
+    designs.Deck.Cards[8].Title = QStringLiteral("Ace \u2660");   // no such character in the code page
+    QStringList faults = CheckStarterDesigns(designs);
+    QCOMPARE(faults.size(), 4);
+    QVERIFY(faults[0].contains(QLatin1String("1501 bytes")));
+
+    designs = good;
+    StarterSpread& cross = designs.Spreads[2];
+    cross.Locations[1].Left = cross.Locations[0].Left;   // one twip over the first
+    cross.Locations[1].Top = cross.Locations[0].Top + LocationHeight - 1;
+    cross.Locations[2].Top = LocationMaxTop + 1;
+    cross.Locations[3].Questions << QStringLiteral("a") << QStringLiteral("b") << QStringLiteral("c");
+    faults = CheckStarterDesigns(designs);
+    QCOMPARE(faults.size(), 3);
+    QVERIFY(faults.join(QLatin1Char('\n')).contains(QLatin1String("location 2: lies on top of location 1")));
+
+    // Rectangles that only touch do not overlap.
+    designs = good;
+    designs.Spreads[2].Locations[1].Top = designs.Spreads[2].Locations[0].Top + LocationHeight;
+    QVERIFY(!CheckStarterDesigns(designs).join(QLatin1Char('\n')).contains(QLatin1String("on top of location 1")));
+}
+
+void tst_starter::facesAreLegibleAndRepeatable() {
+    const StarterDesigns designs = ReadSources();
+    const StarterCard& fool = designs.Deck.Cards[0];
+    const StarterCard& aceOfCups = designs.Deck.Cards[36];
+    QCOMPARE(aceOfCups.Title, QStringLiteral("Ace of Cups"));
+
+    const QImage face = DrawCardFace(fool);
+    QCOMPARE(face.size(), QSize(FaceWidth, FaceHeight));
+    QCOMPARE(DrawCardFace(fool), face);
+    QCOMPARE(FaceFileBytes(face), FaceFileBytes(DrawCardFace(fool)));
+
+    // The reversed side is the same face turned half a turn.
+    const QImage reversed = ReversedFace(face);
+    for (const QPoint& p : {QPoint(20, 30), QPoint(100, 146), QPoint(60, 270)})
+        QCOMPARE(reversed.pixel(FaceWidth - 1 - p.x(), FaceHeight - 1 - p.y()), face.pixel(p));
+
+    // Suits differ in colour and cards in what they show.
+    const QImage cups = DrawCardFace(aceOfCups);
+    QVERIFY(cups.pixel(30, 200) != face.pixel(30, 200));
+    QVERIFY(DrawCardFace(designs.Deck.Cards[37]) != cups);
+
+    // The file is a picture of modest size that loads back.
+    const QByteArray bytes = FaceFileBytes(face);
+    QVERIFY(bytes.size() < 40000);
+    QImage loaded;
+    QVERIFY(loaded.loadFromData(bytes, "JPG"));
+    QCOMPARE(loaded.size(), face.size());
+}
+
+void tst_starter::toolGivesTheSameBytesEveryRun() {
+    QTemporaryDir first, second;
+    const QByteArray once = RunTool(first.path());
+    QVERIFY(!once.isEmpty());
+    QCOMPARE(RunTool(second.path()), once);
+    // And the build's own package is those bytes too.
+    QCOMPARE(ReadWholeFile(QStringLiteral(STARTER_PACKAGE_PATH)), once);
+}
+
+void tst_starter::installedStarterServesACelticCrossReading() {
+    QTemporaryDir program;
+    FreshRun(program.path());
+    FileCopy(QStringLiteral(STARTER_PACKAGE_PATH), PackagesDir + StarterPackageName);
+
+    // Installing through the screen, the deck chosen for every spread.
+    Get<frmMainScreen>().lblButton_Click(7);
+    frmInstallPackage& install = Get<frmInstallPackage>();
+    QCOMPARE(install.filSelection->ListCount(), 1);
+    install.filSelection->setListIndex(0);
+    ModalScript script;
+    script
+        .On<frmDeckChooser>([](frmDeckChooser& chooser) {
+            QCOMPARE(chooser.lstAvailableDecks->ListCount(), 1);
+            chooser.lstAvailableDecks->setListIndex(0);
+            chooser.cmdAddDeck_Click();
+            chooser.cmdClose_Click();
+        })
+        .On<frmPackageSummary>([](frmPackageSummary& summary) {
+            QCOMPARE(summary.txtDecksCount->text(), QStringLiteral("1"));
+            QCOMPARE(summary.txtSpreadsCount->text(), QStringLiteral("5"));
+            summary.cmdCancel->click();
+        });
+    install.cmdInstall->click();
+    QVERIFY(script.Done());
+    Settle();
+    QCOMPARE(MsgBoxScript::History().size(), 0);
+
+    // One deck of 78 cards, every text written, every picture a picture.
+    const std::vector<DeckRecord> decks = ReadAllRecords<DeckRecord>(DecksPath);
+    QCOMPARE(int(decks.size()), 1);
+    const DeckRecord& deck = decks[0];
+    QCOMPARE(deck.CardCount, Integer(78));
+    QVERIFY(deck.IncludesReversed != 0);
+    int cards = 0;
+    for (const CardRecord& card : ReadAllRecords<CardRecord>(CardsPath)) {
+        QCOMPARE(card.CardDeckId, deck.DeckId);
+        ++cards;
+        QVERIFY(!card.CardTitle.IsBlank());
+        for (int side = 0; side < 2; ++side) {
+            const auto s = static_cast<std::size_t>(side);
+            QVERIFY(!card.CardDescription[s].IsBlank() && !card.CardKeywords[s].IsBlank());
+            const QString picture = card.CardPicture[s].Trimmed();
+            QVERIFY(picture.startsWith(side == 0 ? QLatin1String("CU") : QLatin1String("CR")));
+            const Picture loaded = LoadPicture(CardsDir + picture);
+            QCOMPARE(loaded.Image.size(), QSize(FaceWidth, FaceHeight));
+        }
+    }
+    QCOMPARE(cards, 78);
+
+    // The spreads, each tied to the deck, every location titled.
+    const std::vector<SpreadRecord> spreads = ReadAllRecords<SpreadRecord>(SpreadsPath);
+    QVERIFY(spreads.size() >= 5);
+    for (const SpreadRecord& spread : spreads) {
+        QCOMPARE(spread.AllowedDeckCount, Integer(1));
+        QCOMPARE(spread.AllowedDeckId[0], deck.DeckId);
+        QVERIFY(spread.LocationCount >= 1);
+        LoadSpreadLocations(spread.SpreadId, spread.LocationCount);
+        for (int n = 1; n <= spread.LocationCount; ++n) {
+            QVERIFY2(!SpreadLocations(n).LocationTitle.IsBlank(), qPrintable(spread.SpreadName.Trimmed()));
+            QVERIFY(!SpreadLocations(n).LocationQuestion[0].IsBlank());
+        }
+    }
+
+    // A reading on the Celtic Cross deals ten different cards of the deck.
+    NewReading([](frmSelectSpread& select) {
+        select.lstSpreads->setCurrentRow(select.lstSpreads->row(
+            select.lstSpreads->findItems(QStringLiteral("Celtic Cross"), Qt::MatchStartsWith).first()));
+    });
+    QCOMPARE(CurrentSpread.LocationCount, Integer(10));
+    QCOMPARE(CurrentDeck.DeckId, deck.DeckId);
+    frmNewReading& reading = Get<frmNewReading>();
+    reading.cmdContinue->click();
+    reading.cmdAllCards->click();
+    QSet<Integer> dealt;
+    for (std::size_t i = 0; i < 10; ++i) {
+        const Integer card = CurrentReading.DealtCard[i];
+        QVERIFY(card >= 1 && card <= 78);
+        dealt.insert(card);
+    }
+    QCOMPARE(dealt.size(), 10);
+    QCOMPARE(CurrentReading.DealtCard[10], Integer(0));
+    UnloadScreen<frmReadingCards>();
+    UnloadScreen<frmNewReading>();
+    Settle();
+}
+
+QTEST_MAIN(tst_starter)
+#include "tst_starter.moc"

@@ -1,0 +1,169 @@
+// Which folder a run works on: the executable's own when it can take files,
+// else the user's own copy, filled once from the installed folder and never
+// over the user's files; and a run started on a package file, which opens
+// the installer on it instead of offering to install designs.
+#include <QDir>
+#include <QFile>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "packages/frmInstallPackage.h"
+#include "platform/FileLists.h"
+#include "platform/MsgBox.h"
+#include "platform/ProgramLock.h"
+#include "platform/UserFolders.h"
+#include "shell/MDIMainForm.h"
+#include "shell/ProgramFolder.h"
+#include "shell/frmMainScreen.h"
+#include "store/Startup.h"
+#include "store/mdlVariables.h"
+
+namespace {
+
+void WriteFile(const QString& path, const QByteArray& bytes) {
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(bytes);
+}
+
+QByteArray ReadFile(const QString& path) {
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<missing>");
+}
+
+bool Exists(const QString& path) { return QFileInfo::exists(path); }
+
+}  // namespace
+
+class TestProgramFolder : public QObject {
+    Q_OBJECT
+    QTemporaryDir root_;
+    QString installed_, home_;
+    ProgramFolderPlaces places_;
+
+private slots:
+    void init() {
+        MsgBoxScript::Enable();
+        MsgBoxScript::Clear();
+        installed_ = root_.path() + QStringLiteral("/opt/cartomar/");
+        home_ = root_.path() + QStringLiteral("/home/.local/share/");
+        QDir(root_.path()).removeRecursively();
+        QDir().mkpath(root_.path());
+        // What an installation lays out: the executable, the help with its
+        // pictures, the empty location file and the starter package; the
+        // lock and Temp/ of a run from there must not travel.
+        WriteFile(installed_ + QStringLiteral("cartomar"), "ELF");
+        WriteFile(installed_ + QStringLiteral("Cartomar.hlp"), "<html>help 1</html>");
+        WriteFile(installed_ + QStringLiteral("Help/images/main.png"), "png 1");
+        WriteFile(installed_ + QStringLiteral("Location.loc"), QByteArray());
+        WriteFile(installed_ + QStringLiteral("Packages/Cartomar Starter.pck"), "starter 1");
+        WriteFile(installed_ + ProgramLockName, "123");
+        WriteFile(installed_ + QStringLiteral("Temp/work.tmp"), "x");
+        places_ = {installed_, QStringLiteral("cartomar"), false, home_};
+    }
+
+    void cleanup() { QCOMPARE(MsgBoxScript::Unanswered(), 0); }
+
+    void aFolderThatTakesFilesIsTheProgramFolder() {
+        QVERIFY(FolderIsWritable(root_.path()));
+        QVERIFY(QDir(root_.path()).entryList(QDir::Files | QDir::Hidden).isEmpty());   // no probe left
+        QVERIFY(!FolderIsWritable(root_.path() + QStringLiteral("/nowhere")));
+
+        places_.ExecutableFolderWritable = true;
+        QVERIFY(!IsSharedProgramFolder(places_));
+        QCOMPARE(FindProgramDirectory(places_), installed_);
+        QVERIFY(!Exists(home_));
+
+        // The package manager's tree is shared even where the administrator
+        // could write.
+        places_.ExecutableFolder = QStringLiteral("/usr/lib/cartomar");
+        QVERIFY(IsSharedProgramFolder(places_));
+        places_.ExecutableFolder = QStringLiteral("/usr/local/lib/cartomar/");
+        QVERIFY(IsSharedProgramFolder(places_));
+    }
+
+    void aSharedFolderIsCopiedForTheUserAtTheFirstStart() {
+        const QString own = FindProgramDirectory(places_);
+        QCOMPARE(own, home_ + QStringLiteral("cartomar/"));
+        QCOMPARE(ReadFile(own + QStringLiteral("Cartomar.hlp")), QByteArray("<html>help 1</html>"));
+        QCOMPARE(ReadFile(own + QStringLiteral("Help/images/main.png")), QByteArray("png 1"));
+        QCOMPARE(ReadFile(own + QStringLiteral("Location.loc")), QByteArray());
+        QCOMPARE(ReadFile(own + QStringLiteral("Packages/Cartomar Starter.pck")), QByteArray("starter 1"));
+        QVERIFY(!Exists(own + QStringLiteral("cartomar")));
+        QVERIFY(!Exists(own + ProgramLockName));
+        QVERIFY(!Exists(own + QStringLiteral("Temp")));
+
+        // The copied Location.loc makes it a present-format database: the
+        // start-up asks no conversion and leaves the installed folder alone.
+        bool converted = false;
+        const ConversionScreenHook previous = SetConversionScreenHook([&converted] { converted = true; });
+        MsgBoxScript::Answer(vbNo);   // the offer to install designs
+        QVERIFY(RunStartup(own));
+        SetConversionScreenHook(previous);
+        ReleaseProgramLock();
+        UnloadScreen<frmMainScreen>();
+        QVERIFY(!converted);
+        QVERIFY(Exists(own + QStringLiteral("Decks.dck")));
+        QVERIFY(!Exists(installed_ + QStringLiteral("Decks.dck")));
+    }
+
+    void laterStartsKeepTheUsersFilesAndFollowTheInstalledHelp() {
+        const QString own = FindProgramDirectory(places_);
+        // The user works: records appear, the starter package is deleted,
+        // Location.loc fills, a picture of their own lies in Help/.
+        WriteFile(own + QStringLiteral("Decks.dck"), "deck");
+        WriteFile(own + QStringLiteral("Location.loc"), "locations");
+        QVERIFY(QFile::remove(own + QStringLiteral("Packages/Cartomar Starter.pck")));
+        WriteFile(own + QStringLiteral("Help/images/mine.png"), "mine");
+        // An upgrade brings a new manual, a new picture and a new package.
+        WriteFile(installed_ + QStringLiteral("Cartomar.hlp"), "<html>help 2</html>");
+        WriteFile(installed_ + QStringLiteral("Help/images/main.png"), "png 2");
+        WriteFile(installed_ + QStringLiteral("Packages/More.pck"), "more");
+
+        QCOMPARE(FindProgramDirectory(places_), own);
+        QCOMPARE(ReadFile(own + QStringLiteral("Cartomar.hlp")), QByteArray("<html>help 2</html>"));
+        QCOMPARE(ReadFile(own + QStringLiteral("Help/images/main.png")), QByteArray("png 2"));
+        QCOMPARE(ReadFile(own + QStringLiteral("Help/images/mine.png")), QByteArray("mine"));
+        QCOMPARE(ReadFile(own + QStringLiteral("Location.loc")), QByteArray("locations"));
+        QCOMPARE(ReadFile(own + QStringLiteral("Decks.dck")), QByteArray("deck"));
+        QVERIFY(!Exists(own + QStringLiteral("Packages/Cartomar Starter.pck")));
+        QVERIFY(!Exists(own + QStringLiteral("Packages/More.pck")));
+    }
+
+    void aFolderWithoutRecordsIsFilledAroundWhatItHolds() {
+        // A folder the user made, or a first start that stopped half-way.
+        const QString own = home_ + QStringLiteral("cartomar/");
+        WriteFile(own + QStringLiteral("Packages/Cartomar Starter.pck"), "the user's own");
+        QCOMPARE(FindProgramDirectory(places_), own);
+        QCOMPARE(ReadFile(own + QStringLiteral("Packages/Cartomar Starter.pck")), QByteArray("the user's own"));
+        QCOMPARE(ReadFile(own + QStringLiteral("Location.loc")), QByteArray());
+    }
+
+    void aPackageFileOpensTheInstallerInsteadOfTheOffer() {
+        // An empty database would be offered the installer; a start on a
+        // package goes there straight, asking nothing.
+        const QString own = FindProgramDirectory(places_);
+        const QString downloads = root_.path() + QStringLiteral("/Downloads/");
+        WriteFile(downloads + QStringLiteral("A Deck.pck"), "a");
+        WriteFile(downloads + QStringLiteral("Tarot Deck.pck"), "t");
+        WriteFile(downloads + QStringLiteral("Z Deck.pck"), "z");
+        MDIMainForm::SetProgramDirectory(own);
+        MDIMainForm::SetPackageToOpen(downloads + QStringLiteral("Tarot Deck.pck"));
+        Get<MDIMainForm>();
+
+        QVERIFY(MsgBoxScript::History().isEmpty());
+        QVERIFY(IsLoaded<frmInstallPackage>());
+        frmInstallPackage& installer = Get<frmInstallPackage>();
+        QVERIFY(installer.Visible());
+        QVERIFY(!Get<frmMainScreen>().Visible());
+        QCOMPARE(QDir(installer.filSelection->Path()).absolutePath(), QDir(downloads).absolutePath());
+        QCOMPARE(installer.filSelection->FileName(), QStringLiteral("Tarot Deck.pck"));
+        QVERIFY(installer.cmdInstall->isEnabled());
+        ReleaseProgramLock();
+    }
+};
+
+QTEST_MAIN(TestProgramFolder)
+#include "tst_programfolder.moc"

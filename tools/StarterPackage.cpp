@@ -1,0 +1,26 @@
+#include "StarterPackage.h"
+
+#include "packages/PackageStaging.h"
+#include "packages/mdlPackages.h"
+#include "platform/FileSys.h"
+#include "store/Startup.h"
+#include "store/mdlVariables.h"
+
+bool PackStarterPackage(const QStringList& deckNames, const QStringList& spreadNames, const QString& packagePath) {
+    // As the create-package screen does: Temp/ empty before and after, and a
+    // package file of that name deleted first, since packing never cuts an
+    // existing file short.
+    MkDirIgnoringErrors(AppPath + QStringLiteral("Temp"));
+    ClearTemp();
+    KillIgnoringErrors(packagePath);
+    PackageStaging staging;
+    staging.DeckNames = deckNames;
+    staging.SpreadNames = spreadNames;
+    staging.StageDecks();
+    staging.StageCards();
+    staging.StageSpreads();
+    const bool packed = staging.DecksPacked == deckNames.size() && staging.SpreadsPacked == spreadNames.size() &&
+                        CreatePackageFile(TempDir, packagePath);
+    ClearTemp();
+    return packed;
+}
