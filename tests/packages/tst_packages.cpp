@@ -308,6 +308,40 @@ private slots:
         Settle();
     }
 
+    // A card record that names a file outside Temp/ names nothing the
+    // package brought: the installation stops on a missing file, and the
+    // file it reached for is never copied into Cards/.
+    void aCardNamingAFileOutsideTempTakesNothingFromThere() {
+        QTemporaryDir a;
+        FreshRun(a.path());
+        Fixtures::MakeDeck(QStringLiteral("Lure"), 1, false);
+        DeckRecord deck;
+        QVERIFY(GetRecord(DecksPath, 1, deck));
+        CardRecord card = All<CardRecord>(CardsPath).front();
+        card.CardPicture[0] = QStringLiteral("../x.bmp");
+        DeleteDeck(1);
+        const QByteArray secret("not the package's to take");
+        WriteWholeFile(AppPath + QStringLiteral("x.bmp"), secret);
+        WriteWholeFile(PackagesDir + QStringLiteral("lure.pck"),
+                       EncodeMemberHead(QStringLiteral("C:\\Temp\\Temp.dck"), DeckRecord::Length) + EncodeRecord(deck) +
+                           EncodeMemberHead(QStringLiteral("C:\\Temp\\Temp.crd"), CardRecord::Length) +
+                           EncodeRecord(card));
+
+        frmInstallPackage& install = Get<frmInstallPackage>();
+        install.ShowFolder(PackagesDir);
+        SelectFile(install, QStringLiteral("lure.pck"));
+        install.cmdInstall_Click();
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QVERIFY(MsgBoxScript::History()[0].prompt.contains(ErrorDescription(errFileNotFound)));
+        for (const QString& name : Dir(CardsDir + QStringLiteral("*.*")))
+            QVERIFY2(ReadWholeFile(CardsDir + name) != secret, qPrintable(name));
+        QCOMPARE(CountCards(CardsPath), 0);
+        QCOMPARE(ReadWholeFile(AppPath + QStringLiteral("x.bmp")), secret);
+        QVERIFY(IsLoaded<frmInstallPackage>());
+        install.cmdCancel_Click();
+        Settle();
+    }
+
     void compactionOfADeckListAfterMapping() {
         SpreadRecord spread;
         auto run = [&spread](std::array<Integer, 10> ids, int count) {
