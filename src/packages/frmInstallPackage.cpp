@@ -274,6 +274,22 @@ void frmInstallPackage::ResetInstallState() {
         ids->Reset();
     LastOldDeckId = 0;
     LastNewDeckId = 0;
+    TakenFiles.clear();
+}
+
+// The files a package unpacked into Temp/ are moved into Cards/ under their
+// new names rather than copied: Temp/ is emptied after the installation in
+// any case. A file that several records name is copied from where the first
+// one took it, so every design still gets its own file.
+void frmInstallPackage::TakeUnpackedFile(const QString& recorded, const QString& newName) {
+    const QString oldName = UnpackedFileName(recorded);
+    const auto taken = TakenFiles.constFind(oldName);
+    if (taken != TakenFiles.cend()) {
+        FileCopyUnsynced(CardsDir + taken.value(), CardsDir + newName);
+    } else {
+        FileMoveUnsynced(TempDir + oldName, CardsDir + newName);
+        TakenFiles.insert(oldName, newName);
+    }
 }
 
 void frmInstallPackage::cmdInstall_Click() {
@@ -499,9 +515,8 @@ void frmInstallPackage::TakeCards(RecordEdit<CardRecord>& cards) {
     CardRecord card;
     // Every card file is copied under a fresh name, so the files of
     // installed cards, those of an overwritten deck included, stay untouched.
-    auto takeFile = [](FixedText<12>& field, const QString& newName) {
-        const QString oldName = UnpackedFileName(field.Trimmed());
-        FileCopyUnsynced(TempDir + oldName, CardsDir + newName);
+    auto takeFile = [this](FixedText<12>& field, const QString& newName) {
+        TakeUnpackedFile(field.Trimmed(), newName);
         field = newName;
     };
     for (int i = 1; reader.Next(card); ++i) {
@@ -574,7 +589,8 @@ void frmInstallPackage::InstallSpreadBackground() {
     if (CurrentSpread.BackgroundFile.Trimmed().isEmpty()) return;
     const QString oldName = UnpackedFileName(CurrentSpread.BackgroundFile.Trimmed());
     const QString newName = NewBackgroundName(oldName);
-    FileCopy(TempDir + oldName, CardsDir + newName);
+    TakeUnpackedFile(oldName, newName);
+    SyncFileSystem(CardsDir);
     CurrentSpread.BackgroundFile = newName;
 }
 

@@ -9,6 +9,8 @@
 // Nothing is rolled back: a record written stays. Each record is written
 // whole, so an installation that ends on an error leaves every record file
 // readable.
+#include <QHash>
+
 #include "platform/Arrays.h"
 #include "platform/CommonDialog.h"
 #include "platform/Form.h"
@@ -93,6 +95,7 @@ private:
     void InstallSpread(SpreadRecord spread, int i, int& position);
     void RemapSpread(int i);
     void InstallSpreadBackground();
+    void TakeUnpackedFile(const QString& recorded, const QString& newName);
     Integer MapDeckId(Integer oldId);
     int AskDesignExists(int design, const QString& title);
     void ShowPackageSummary();
@@ -104,6 +107,8 @@ private:
     BoundedArray<QString> InstalledDeckNames, InstalledSpreadNames;   // 50 characters, untrimmed
     Integer LastOldDeckId = 0;
     Integer LastNewDeckId = 0;
+    // Files of Temp/ already moved into Cards/, by their unpacked name.
+    QHash<QString, QString> TakenFiles;
     int ChosenDeckCount = -1;
     std::array<Integer, 10> ChosenDeckIds{};
     bool FirstLinkPending = true;

@@ -148,6 +148,12 @@ void FileCopyUnsynced(const QString& source, const QString& destination) {
     }
 }
 
+void FileMoveUnsynced(const QString& source, const QString& destination) {
+    const QString from = NativePath(source);
+    if (!FileExists(from)) RaiseError(errFileNotFound);
+    if (!RenameStep(from, NativePath(destination))) FileCopyUnsynced(source, destination);
+}
+
 void SyncFileSystem(const QString& folder) {
     if (!WriteFaults::Syncs()) return;
     const int fd = ::open(QFile::encodeName(NativePath(folder)).constData(), O_RDONLY | O_DIRECTORY);

@@ -30,6 +30,10 @@ void FileCopy(const QString& source, const QString& destination);  // overwrites
 // then makes durable with one wait instead of one a file. The destination is
 // still never seen half-written.
 void FileCopyUnsynced(const QString& source, const QString& destination);
+// Puts a file under a new name, overwriting, without waiting for the disk: a
+// rename when both names are on one file system, else FileCopyUnsynced. The
+// source may be gone afterwards.
+void FileMoveUnsynced(const QString& source, const QString& destination);
 // Waits until everything written to the file system that holds folder is
 // on the disk.
 void SyncFileSystem(const QString& folder);

@@ -342,6 +342,44 @@ private slots:
         Settle();
     }
 
+    // Two cards of a package that name the same picture each get a file of
+    // their own in Cards/, with the picture's bytes.
+    void cardsSharingAPictureEachGetTheirOwnFile() {
+        QTemporaryDir a;
+        FreshRun(a.path());
+        Fixtures::MakeDeck(QStringLiteral("Twins"), 2, false);
+        DeckRecord deck;
+        QVERIFY(GetRecord(DecksPath, 1, deck));
+        QByteArray cards;
+        for (CardRecord card : All<CardRecord>(CardsPath)) {
+            card.CardPicture[0] = QStringLiteral("Shared.bmp");
+            cards += EncodeRecord(card);
+        }
+        DeleteDeck(1);
+        const QByteArray picture("BM the one picture");
+        WriteWholeFile(PackagesDir + QStringLiteral("twins.pck"),
+                       EncodeMemberHead(QStringLiteral("C:\\Temp\\Temp.dck"), DeckRecord::Length) + EncodeRecord(deck) +
+                           EncodeMemberHead(QStringLiteral("C:\\Temp\\Temp.crd"), qint32(cards.size())) + cards +
+                           EncodeMemberHead(QStringLiteral("C:\\Temp\\Shared.bmp"), qint32(picture.size())) +
+                           picture);
+
+        frmInstallPackage& install = Get<frmInstallPackage>();
+        install.ShowFolder(PackagesDir);
+        SelectFile(install, QStringLiteral("twins.pck"));
+        ModalScript summary;
+        summary.On<frmPackageSummary>([](frmPackageSummary& s) { s.cmdCancel->click(); });
+        install.cmdInstall_Click();
+        QVERIFY(summary.Done());
+        const std::vector<CardRecord> installed = All<CardRecord>(CardsPath);
+        QCOMPARE(installed.size(), std::size_t(2));
+        const QString first = installed[0].CardPicture[0].Trimmed(), second = installed[1].CardPicture[0].Trimmed();
+        QVERIFY(first != second);
+        QCOMPARE(ReadWholeFile(CardsDir + first), picture);
+        QCOMPARE(ReadWholeFile(CardsDir + second), picture);
+        QVERIFY(Dir(TempDir + QStringLiteral("*.*")).isEmpty());
+        Settle();
+    }
+
     void compactionOfADeckListAfterMapping() {
         SpreadRecord spread;
         auto run = [&spread](std::array<Integer, 10> ids, int count) {
