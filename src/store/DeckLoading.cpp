@@ -23,9 +23,15 @@ bool LoadDeck(bool& DeckRemoved) {
     RecordEdit<CardRecord> blanked(CardsPath);
     int cardNumber = 1;
     {
+        // Only the deck's own cards are decoded; the others are passed over
+        // by the id in their bytes.
+        const int idAt = OffsetOf(&CardRecord::CardDeckId);
         RecordReader<CardRecord> reader(CardsPath);
-        while (cardNumber <= cardCount && reader.Next(ScratchCard)) {
-            if (ScratchCard.CardDeckId != CurrentDeck.DeckId) continue;
+        while (cardNumber <= cardCount) {
+            const char* raw = reader.NextRaw();
+            if (!raw) break;
+            if (RawInteger(raw, idAt) != CurrentDeck.DeckId) continue;
+            DecodeRecord(raw, ScratchCard);
             if (ValidateCardPictures(ScratchCard))
                 blanked.Put(reader.Current(), CurrentDeck.DeckCards(cardNumber));
             CurrentDeck.DeckCards(cardNumber) = ScratchCard;

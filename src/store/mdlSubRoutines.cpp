@@ -24,15 +24,6 @@ bool SameName(const FixedText<N>& field, const QString& trimmedName) {
     return field.Trimmed() == trimmedName;
 }
 
-// Lookups over whole files look at one field of each record straight in its
-// bytes instead of decoding every record: the answers are the same, the time
-// is that of reading the file.
-Integer RawInteger(const char* raw, int offset) {
-    const auto lo = static_cast<unsigned char>(raw[offset]);
-    const auto hi = static_cast<unsigned char>(raw[offset + 1]);
-    return static_cast<Integer>(static_cast<std::uint16_t>(lo | (hi << 8)));
-}
-
 // A name compared, both sides trimmed, with a name field in a record's
 // bytes. The code page gives each byte one character of its own, so the
 // bytes match exactly when the decoded texts do; a name the code page cannot
@@ -47,6 +38,16 @@ public:
     bool operator()(const char* raw) const {
         if (!possible_) return false;
         const char* text = raw + offset_;
+        const int wanted = static_cast<int>(bytes_.size());
+        // Names are mostly written from the field's first byte: then the
+        // wanted bytes must stand there, and only blanks after them. Most
+        // records fail at their first bytes.
+        if (!IsBlankByte(text[0])) {
+            if (wanted == 0 || wanted > width_ || std::memcmp(text, bytes_.constData(), wanted) != 0) return false;
+            for (int i = wanted; i < width_; ++i)
+                if (!IsBlankByte(text[i])) return false;
+            return true;
+        }
         int first = 0;
         int last = width_ - 1;
         while (first <= last && IsBlankByte(text[first])) ++first;

@@ -270,6 +270,15 @@ int OffsetOf(F R::*member) {
     return FieldOffset(probe, &(probe.*member));
 }
 
+// Lookups over whole files look at one field of each record straight in its
+// bytes instead of decoding every record: the answers are the same, the time
+// is that of reading the file. The Integer at offset in a record's bytes:
+inline Integer RawInteger(const char* raw, int offset) {
+    const auto lo = static_cast<unsigned char>(raw[offset]);
+    const auto hi = static_cast<unsigned char>(raw[offset + 1]);
+    return static_cast<Integer>(static_cast<std::uint16_t>(lo | (hi << 8)));
+}
+
 template <class R>
 QByteArray EncodeRecord(const R& r) {
     QByteArray bytes(R::Length, '\0');
