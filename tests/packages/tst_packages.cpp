@@ -17,7 +17,7 @@
 #include "packages/mdlPackages.h"
 #include "platform/CommonDialog.h"
 #include "platform/FileLists.h"
-#include "ModalScript.h"
+#include "support/ModalScript.h"
 #include "readings/ReadingFixtures.h"
 #include "spreads/SortedListBox.h"
 #include "spreads/frmDeckChooser.h"

@@ -9,7 +9,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "ModalScript.h"
+#include "support/ModalScript.h"
 #include "StarterPictures.h"
 #include "StarterSource.h"
 #include "packages/PackageSummary.h"
