@@ -10,6 +10,7 @@
 #include "platform/Errors.h"
 #include "platform/FileSys.h"
 #include "platform/MsgBox.h"
+#include "platform/WriteFaults.h"
 #include "platform/Picture.h"
 #include "store/Startup.h"
 #include "store/mdlTypes.h"
@@ -232,6 +233,9 @@ QByteArray PictureBytes() {
 void Initialize(int* argc, char*** argv) {
     static QCoreApplication app(*argc, *argv);
     MsgBoxScript::Enable();
+    // The program folder is thrown away after the run: its record files
+    // need not wait for the disk, and the fuzzer runs many more inputs.
+    WriteFaults::SetSyncs(false);
     Expect(Root().isValid(), "no temporary folder");
     FormPaths(ProgramDir());
     for (const QString& dir : {TempDir, CardsDir, AttachmentsDir}) QDir().mkpath(dir);
