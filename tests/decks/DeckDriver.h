@@ -1,60 +1,20 @@
 #pragma once
-// Driving the deck screens from a test: acting on a modal screen when it
-// shows, picking files in the choosers, and comparing Cards/ with the card
-// records.
+// Driving the deck screens from a test: picking files in the choosers, and
+// comparing Cards/ with the card records.
 #include <QDir>
 #include <QFileInfo>
 #include <QList>
 #include <QListWidget>
-#include <QPointer>
 #include <QSet>
-#include <QTimer>
 #include <QtTest>
 #include <functional>
 
 #include "decks/FileChooser.h"
 #include "platform/FileLists.h"
 #include "platform/FileSys.h"
-#include "platform/Form.h"
+#include "support/ModalScript.h"
 #include "store/RecordFile.h"
 #include "store/mdlVariables.h"
-
-// Acts on each new showing of screen T with the next queued action. A
-// showing with no action left is closed and counted, so a test fails rather
-// than waits.
-template <class T>
-class OnEachShowing : public QObject {
-public:
-    explicit OnEachShowing(QList<std::function<void(T&)>> actions) : actions_(std::move(actions)) {
-        connect(&timer_, &QTimer::timeout, this, [this] { Poll(); });
-        timer_.start(5);
-    }
-    int Remaining() const { return static_cast<int>(actions_.size()); }
-    int Unexpected() const { return unexpected_; }
-
-private:
-    void Poll() {
-        T* screen = ScreenSlot<T>();
-        if (!screen || screen == last_.data() || !screen->isVisible()) return;
-        last_ = screen;
-        if (actions_.isEmpty()) {
-            ++unexpected_;
-            screen->Unload();
-            return;
-        }
-        auto action = actions_.takeFirst();
-        QPointer<T> acted(screen);
-        action(*screen);
-        // A failed check inside the action must not leave a modal screen
-        // waiting for nobody.
-        if (QTest::currentTestFailed() && acted && ScreenSlot<T>() == acted.data()) acted->Unload();
-    }
-
-    QList<std::function<void(T&)>> actions_;
-    QPointer<T> last_;
-    QTimer timer_;
-    int unexpected_ = 0;
-};
 
 // Picks a file in a chooser as a user does: opens its folder, clicks it,
 // presses Select. An empty name cancels.

@@ -45,19 +45,21 @@ private slots:
     // The properties, the designer and the save screen; a deck name the code
     // page cannot hold is saved as the record holds it and found again.
     void deckScreensHoldTheirLimitsAndTheCodePage() {
-        OnEachShowing<frmDeckCardProperties> properties({[this](frmDeckCardProperties& p) {
+        ModalScript properties;
+        properties.On<frmDeckCardProperties>([this](frmDeckCardProperties& p) {
             tried_ += BadInput::TourTextBoxes(p);
             // The tour left one text in every type name: they must differ.
             for (int i = 0; i < 4; ++i) p.txtCardTypeName[std::size_t(i)]->setText(QString::number(i));
             p.cmdClose_Click();
-        }});
+        });
         Get<frmDecks>().cmdDesign_Click();
-        QCOMPARE(properties.Remaining(), 0);
+        QVERIFY(properties.Done());
         frmDesignDeck& designer = Get<frmDesignDeck>();
         tried_ += BadInput::TourTextBoxes(designer);
 
         for (int pass = 0; pass < 2; ++pass) {
-            OnEachShowing<frmSaveDeck> save({[this, pass](frmSaveDeck& s) {
+            ModalScript save;
+            save.On<frmSaveDeck>([this, pass](frmSaveDeck& s) {
                 if (pass == 0) tried_ += BadInput::TourTextBoxes(s);
                 QApplication::clipboard()->setText(BadInput::Foreign());
                 s.txtSaveAs->clear();
@@ -67,9 +69,9 @@ private slots:
                 if (pass == 1) MsgBoxScript::Answer(vbNo);
                 s.cmdSave_Click();
                 if (pass == 1) s.cmdCancel_Click();
-            }});
+            });
             designer.cmdSave_Click();
-            QCOMPARE(save.Remaining(), 0);
+            QVERIFY(save.Done());
         }
         QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Deck already exists. Overwrite?"));
         QCOMPARE(CountDecks(), 1);

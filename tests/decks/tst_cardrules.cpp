@@ -72,24 +72,26 @@ private slots:
 
     void theHundredAndFirstCardIsRefused() {
         frmDesignDeck& designer = Design(QStringLiteral("Full"));
-        OnEachShowing<frmGetImageFile> none({});
+        ModalScript none;
+        none.Refuse<frmGetImageFile>();
         designer.cmdAddCard_Click();
         QCOMPARE(LastPrompt(), QStringLiteral("The number of cards in a deck cannot exceed 100."));
         QCOMPARE(MsgBoxScript::History().last().style, int(vbCritical));
         QVERIFY(!IsLoaded<frmAddCard>());
-        QCOMPARE(none.Unexpected(), 0);
+        QVERIFY(none.Done());
         QCOMPARE(CurrentDeck.CardCount, MaxDeckCards);
     }
 
     void titlesMustBeFilledAndUnique() {
         frmDesignDeck& designer = Design(QStringLiteral("Plain"));
-        OnEachShowing<frmGetImageFile> pick({Pick<frmGetImageFile>(src_, QStringLiteral("good.bmp"))});
+        ModalScript pick;
+        pick.On(Pick<frmGetImageFile>(src_, QStringLiteral("good.bmp")));
         designer.cmdAddCard_Click();
         frmAddCard& editor = Get<frmAddCard>();
         // A deck without reversed cards: only the upright picture is asked.
         QVERIFY(!editor.optReversed->isEnabled());
         QCOMPARE(CurrentCard.CardPicture[1].Value(), DefaultPictureName);
-        QCOMPARE(pick.Remaining(), 0);
+        QVERIFY(pick.Done());
 
         editor.txtCardTitle->setText(QStringLiteral("   "));
         editor.cmdSaveClose_Click();
@@ -118,20 +120,18 @@ private slots:
 
     void cancelledPicksLeaveNothingBehind() {
         // A new deck: reversed cards, so both pictures are asked.
-        OnEachShowing<frmDeckCardProperties> properties({[](frmDeckCardProperties& p) { p.cmdClose_Click(); }});
+        ModalScript script;
+        script.On<frmDeckCardProperties>([](frmDeckCardProperties& p) { p.cmdClose_Click(); })
+            .On(Pick<frmGetImageFile>(src_, QString()))
+            .On(Pick<frmGetImageFile>(src_, QStringLiteral("good.bmp")))
+            .On(Pick<frmGetImageFile>(src_, QString()))
+            .Refuse<frmGetImageFile>();
         Get<frmDecks>().cmdDesign_Click();
         frmDesignDeck& designer = Get<frmDesignDeck>();
-        {
-            OnEachShowing<frmGetImageFile> cancel({Pick<frmGetImageFile>(src_, QString())});
-            designer.cmdAddCard_Click();
-        }
+        designer.cmdAddCard_Click();
         QVERIFY(!IsLoaded<frmAddCard>());
-        {
-            OnEachShowing<frmGetImageFile> half({Pick<frmGetImageFile>(src_, QStringLiteral("good.bmp")),
-                                                 Pick<frmGetImageFile>(src_, QString())});
-            designer.cmdAddCard_Click();
-            QCOMPARE(half.Remaining(), 0);
-        }
+        designer.cmdAddCard_Click();
+        QVERIFY(script.Done());
         QVERIFY(!IsLoaded<frmAddCard>());
         QCOMPARE(CurrentDeck.CardCount, 0);
         QVERIFY(!designer.DesignModified);
@@ -140,10 +140,10 @@ private slots:
     void aFileThatIsNoPictureShowsTheDefault() {
         frmDesignDeck& designer = Design(QStringLiteral("Plain"));
         MsgBoxScript::Clear();
-        {
-            OnEachShowing<frmGetImageFile> pick({Pick<frmGetImageFile>(src_, QStringLiteral("broken.bmp"))});
-            designer.cmdAddCard_Click();
-        }
+        ModalScript pick;
+        pick.On(Pick<frmGetImageFile>(src_, QStringLiteral("broken.bmp")));
+        designer.cmdAddCard_Click();
+        QVERIFY(pick.Done());
         QVERIFY(LastPrompt().startsWith(QLatin1String("Error while loading the picture. A default picture is selected instead.")));
         Get<frmAddCard>().txtCardTitle->setText(QStringLiteral("Broken"));
         Get<frmAddCard>().cmdSaveClose_Click();
@@ -174,7 +174,8 @@ private slots:
     void propertiesAreFixedOnceConfigured() {
         // A new deck: open until the first close.
         {
-            OnEachShowing<frmDeckCardProperties> first({[](frmDeckCardProperties& p) {
+            ModalScript first;
+            first.On<frmDeckCardProperties>([](frmDeckCardProperties& p) {
                 p.txtCardTypeName[0]->setText(QStringLiteral("Major"));
                 p.txtCardTypeName[1]->setText(QStringLiteral("Major "));
                 p.txtCardTypeName[2]->setText(QStringLiteral(""));
@@ -187,9 +188,9 @@ private slots:
                 p.txtCardTypeName[1]->setText(QStringLiteral("Minor"));
                 p.chkUseReversed->click();
                 p.cmdClose_Click();
-            }});
+            });
             Get<frmDecks>().cmdDesign_Click();
-            QCOMPARE(first.Remaining(), 0);
+            QVERIFY(first.Done());
             QVERIFY(!IsLoaded<frmDeckCardProperties>());
             QCOMPARE(CurrentDeck.CardTypeName[1].Trimmed(), QStringLiteral("Minor"));
             QCOMPARE(CurrentDeck.IncludesReversed, False16);
@@ -200,7 +201,8 @@ private slots:
         // An existing deck: only the display of titles changes.
         Design(QStringLiteral("Plain"));
         {
-            OnEachShowing<frmDeckCardProperties> fixed({[](frmDeckCardProperties& p) {
+            ModalScript fixed;
+            fixed.On<frmDeckCardProperties>([](frmDeckCardProperties& p) {
                 QVERIFY(p.txtCardTypeName[0]->isReadOnly());
                 p.chkUseReversed->click();
                 p.chkType[0]->click();
@@ -208,9 +210,9 @@ private slots:
                 QVERIFY(!p.chkUseReversed->isChecked());
                 QVERIFY(p.chkType[0]->isChecked());
                 p.cmdClose_Click();
-            }});
+            });
             Get<frmDesignDeck>().cmdProperties_Click();
-            QCOMPARE(fixed.Remaining(), 0);
+            QVERIFY(fixed.Done());
             QCOMPARE(CurrentDeck.DisplayCardTitles, False16);
             QCOMPARE(CurrentDeck.IncludesReversed, False16);
         }
@@ -220,15 +222,16 @@ private slots:
         GetRecord(DecksPath, FindDeckByName(QStringLiteral("Plain")), ListDeck);
         bool removed = false;
         QVERIFY(LoadDeck(removed));
-        OnEachShowing<frmDeckCardPropertiesInfo> info({[](frmDeckCardPropertiesInfo& p) {
+        ModalScript info;
+        info.On<frmDeckCardPropertiesInfo>([](frmDeckCardPropertiesInfo& p) {
             p.chkDisplay->click();
             p.chkType[1]->click();
             QVERIFY(p.chkDisplay->isChecked());
             QVERIFY(p.chkType[1]->isChecked());
             p.cmdClose_Click();
-        }});
+        });
         Get<frmDeckInfo>().cmdProperties_Click();
-        QCOMPARE(info.Remaining(), 0);
+        QVERIFY(info.Done());
         Get<frmDeckInfo>().cmdBack_Click();
     }
 

@@ -29,6 +29,7 @@
 #include "store/Startup.h"
 #include "store/mdlSubRoutines.h"
 #include "support/Fixtures.h"
+#include "support/Prompts.h"
 
 namespace {
 
@@ -75,12 +76,13 @@ class TestDeckDesign : public QObject {
     }
 
     static void SaveAs(const QString& name) {
-        OnEachShowing<frmSaveDeck> save({[name](frmSaveDeck& s) {
+        ModalScript save;
+        save.On<frmSaveDeck>([name](frmSaveDeck& s) {
             s.txtSaveAs->setText(name);
             s.cmdSave_Click();
-        }});
+        });
         Get<frmDesignDeck>().cmdSave_Click();
-        QCOMPARE(save.Remaining(), 0);
+        QVERIFY(save.Done());
         QVERIFY(!IsLoaded<frmSaveDeck>());
     }
 
@@ -109,18 +111,18 @@ private slots:
         const QSet<QString> sourcesBefore = Snapshot(src_);
 
         // ---- A new deck: the properties come first.
-        OnEachShowing<frmDeckCardProperties> properties({[](frmDeckCardProperties& p) {
+        ModalScript properties;
+        properties.On<frmDeckCardProperties>([](frmDeckCardProperties& p) {
             QVERIFY(p.chkUseReversed->isChecked());   // a new deck has reversed cards
             QVERIFY(!p.txtCardTypeName[0]->isReadOnly());
             p.txtCardTypeName[2]->setText(QStringLiteral("Court"));
             QVERIFY(p.chkType[2]->isChecked());
             p.cmdClose_Click();
-        }});
+        });
         Get<frmDecks>().cmdDesign_Click();
-        QCOMPARE(properties.Remaining(), 0);
+        QVERIFY(properties.Done());
         QVERIFY(!IsLoaded<frmDecks>());
         frmDesignDeck& designer = Get<frmDesignDeck>();
-        QCOMPARE(designer.Caption(), QStringLiteral("Deck Design"));
         QVERIFY(designer.DeckCardProperties_Configured);
         QCOMPARE(CurrentDeck.CardTypeName[2].Trimmed(), QStringLiteral("Court"));
         designer.txtDeckTitle->setText(QStringLiteral("Sea Tarot"));
@@ -134,23 +136,21 @@ private slots:
         // goes straight on to the next card.
         frmAddCard* editor = nullptr;
         {
-            OnEachShowing<frmGetImageFile> pictures({
-                Pick<frmGetImageFile>(src_, QStringLiteral("fool_up.bmp")),
-                [this](frmGetImageFile& c) {
+            ModalScript pictures;
+            pictures.On(Pick<frmGetImageFile>(src_, QStringLiteral("fool_up.bmp")))
+                .On<frmGetImageFile>([this](frmGetImageFile& c) {
                     QCOMPARE(c.Caption(), QStringLiteral("Select Reversed Image"));
                     PickFile(c, src_, QStringLiteral("fool_rev.bmp"));
-                },
-                Pick<frmGetImageFile>(src_, QStringLiteral("mage_up.jpg")),
-                Pick<frmGetImageFile>(src_, QStringLiteral("mage_rev.bmp")),
-                Pick<frmGetImageFile>(src_, QStringLiteral("cups_up.gif")),
-                Pick<frmGetImageFile>(src_, QStringLiteral("cups_rev.bmp")),
-            });
-            OnEachShowing<frmGetSoundFile> sounds({[this](frmGetSoundFile& s) {
+                });
+            for (const char* name : {"mage_up.jpg", "mage_rev.bmp", "cups_up.gif", "cups_rev.bmp"})
+                pictures.On(Pick<frmGetImageFile>(src_, QString::fromLatin1(name)));
+            ModalScript sounds;
+            sounds.On<frmGetSoundFile>([this](frmGetSoundFile& s) {
                 QCOMPARE(s.Caption(), QStringLiteral("Select Upright Sound"));
                 s.dirSelection->setPath(src_);
                 QCOMPARE(s.filSelection->ListCount(), 1);   // only the patterns' files
                 PickFile(s, src_, QStringLiteral("bell.wav"));
-            }});
+            });
             designer.cmdAddCard_Click();
             editor = &Get<frmAddCard>();
             QCOMPARE(UprightPictureFile, QStringLiteral("TempUp.bmp"));
@@ -174,8 +174,8 @@ private slots:
             FillCard(*editor, QStringLiteral("Ace of Cups"), QStringLiteral("Court"), QStringLiteral("cups"),
                      QStringLiteral("cups reversed"));
             editor->cmdSaveClose_Click();
-            QCOMPARE(pictures.Remaining(), 0);
-            QCOMPARE(sounds.Remaining(), 0);
+            QVERIFY(pictures.Done());
+            QVERIFY(sounds.Done());
         }
         QVERIFY(!IsLoaded<frmAddCard>());
         QCOMPARE(CurrentDeck.CardCount, 3);
@@ -236,11 +236,10 @@ private slots:
         const QString oldMage = CurrentDeck.DeckCards(2).CardPicture[0].Trimmed();
         ClickLine(again.lstCards, QStringLiteral("The Magician"));
         again.cmdEditCard_Click();
-        {
-            OnEachShowing<frmGetImageFile> replace({Pick<frmGetImageFile>(src_, QStringLiteral("mage_new.bmp"))});
-            Get<frmAddCard>().cmdEditImage_Click();
-            QCOMPARE(replace.Remaining(), 0);
-        }
+        ModalScript replace;
+        replace.On(Pick<frmGetImageFile>(src_, QStringLiteral("mage_new.bmp")));
+        Get<frmAddCard>().cmdEditImage_Click();
+        QVERIFY(replace.Done());
         QCOMPARE(Get<frmAddCard>().imgCard->Image().pixelColor(0, 0), NewMage);
         Get<frmAddCard>().cmdSaveClose_Click();
         const QString newMage = CurrentDeck.DeckCards(2).CardPicture[0].Trimmed();
@@ -251,22 +250,22 @@ private slots:
         // No keeps the save screen open and the deck unsaved.
         MsgBoxScript::Answer(vbNo);
         {
-            OnEachShowing<frmSaveDeck> refused({[](frmSaveDeck& s) {
+            ModalScript refused;
+            refused.On<frmSaveDeck>([](frmSaveDeck& s) {
                 QCOMPARE(s.txtSaveAs->text(), QStringLiteral("Sea Tarot"));
                 QCOMPARE(SelectedLine(s.lstDeckNames).trimmed(), QStringLiteral("Sea Tarot"));
                 s.cmdSave_Click();
                 QVERIFY(IsLoaded<frmSaveDeck>());
                 s.cmdCancel_Click();
-            }});
+            });
             again.cmdSave_Click();
-            QCOMPARE(refused.Remaining(), 0);
+            QVERIFY(refused.Done());
         }
         QVERIFY(again.DesignModified);
         MsgBoxScript::Clear();
         MsgBoxScript::Answer(vbYes);
         SaveAs(QStringLiteral("Sea Tarot"));
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QCOMPARE(MsgBoxScript::History()[0].prompt, QStringLiteral("Deck already exists. Overwrite?"));
+        QCOMPARE(Prompts(), QStringList{QStringLiteral("Deck already exists. Overwrite?")});
         QCOMPARE(CountDecks(), 1);
         QCOMPARE(CountCards(), 3);
         VerifyCardsFolder();

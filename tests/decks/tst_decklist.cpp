@@ -20,6 +20,7 @@
 #include "store/frmGetPassword.h"
 #include "store/mdlSubRoutines.h"
 #include "support/Fixtures.h"
+#include "support/Prompts.h"
 
 class TestDeckList : public QObject {
     Q_OBJECT
@@ -56,7 +57,6 @@ private slots:
 
     void deleteAsksTwiceAndUntiesSpreads() {
         frmDecks& decks = Get<frmDecks>();
-        QCOMPARE(decks.Caption(), QStringLiteral("Decks' Menu"));
         QCOMPARE(decks.lstDecks->count(), 3);
         QCOMPARE(SelectedLine(decks.lstDecks).trimmed(), QStringLiteral("Alpha"));
         QCOMPARE(decks.lblCardsField->text(), QStringLiteral("3"));
@@ -111,16 +111,14 @@ private slots:
         frmDecks& decks = Get<frmDecks>();
         ClickLine(decks.lstDecks, QStringLiteral("Beta"));
         MsgBoxScript::Clear();
-        {
-            OnEachShowing<frmGetPassword> password({[](frmGetPassword& p) {
-                p.txtPassword->setText(QStringLiteral("Secret"));
-                p.cmdOK_Click();
-            }});
-            decks.cmdEdit_Click();
-            QCOMPARE(password.Remaining(), 0);
-        }
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QCOMPARE(MsgBoxScript::History()[0].prompt, QStringLiteral("Incorrect password. Access Denied."));
+        ModalScript wrong;
+        wrong.On<frmGetPassword>([](frmGetPassword& p) {
+            p.txtPassword->setText(QStringLiteral("Secret"));
+            p.cmdOK_Click();
+        });
+        decks.cmdEdit_Click();
+        QVERIFY(wrong.Done());
+        QCOMPARE(Prompts(), QStringList{QStringLiteral("Incorrect password. Access Denied.")});
         QVERIFY(!IsLoaded<frmDesignDeck>());
         QVERIFY(IsLoaded<frmDecks>());
 
@@ -131,13 +129,13 @@ private slots:
         Get<frmDeckInfo>().cmdBack_Click();
         QCOMPARE(SelectedLine(Get<frmDecks>().lstDecks).trimmed(), QStringLiteral("Beta"));
 
-        {
-            OnEachShowing<frmGetPassword> password({[](frmGetPassword& p) {
-                p.txtPassword->setText(QStringLiteral("secret"));
-                p.cmdOK_Click();
-            }});
-            Get<frmDecks>().cmdEdit_Click();
-        }
+        ModalScript right;
+        right.On<frmGetPassword>([](frmGetPassword& p) {
+            p.txtPassword->setText(QStringLiteral("secret"));
+            p.cmdOK_Click();
+        });
+        Get<frmDecks>().cmdEdit_Click();
+        QVERIFY(right.Done());
         QVERIFY(IsLoaded<frmDesignDeck>());
         QVERIFY(!IsLoaded<frmDecks>());
         QCOMPARE(Get<frmDesignDeck>().Caption(), QStringLiteral("Deck Design - Beta"));

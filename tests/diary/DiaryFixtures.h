@@ -30,23 +30,25 @@ inline void FreshDiaryRun(const QString& dir) {
 // "New" of the Diary group with the first spread and deck, and whatever
 // adjust does to the selection screen's boxes.
 inline frmNewDiary& NewDiary(const std::function<void(frmSelectSpreadforDiary&)>& adjust = {}) {
-    WhenModal([adjust] {
-        frmSelectSpreadforDiary& select = Get<frmSelectSpreadforDiary>();
+    ModalScript script;
+    script.On<frmSelectSpreadforDiary>([adjust](frmSelectSpreadforDiary& select) {
         if (adjust) adjust(select);
         select.cmdSelect->click();
     });
     Get<frmMainScreen>().lblButton_Click(3);
+    script.Require();
     return Get<frmNewDiary>();
 }
 
 // "Past" of the Diary group, opening the entry in the given row.
 inline void OpenPastDiary(int row) {
-    WhenModal([row] {
-        frmOpenDiary& open = Get<frmOpenDiary>();
+    ModalScript script;
+    script.On<frmOpenDiary>([row](frmOpenDiary& open) {
         open.lstEntries->setCurrentRow(row);
         open.cmdOpen->click();
     });
     Get<frmMainScreen>().lblButton_Click(4);
+    QVERIFY(script.Done());
 }
 
 inline int RowOf(const QListWidget* list, const QString& text) {
@@ -60,17 +62,15 @@ inline int RowOf(const QListWidget* list, const QString& text) {
 // box to the orientation and presses Select; act replaces all of that.
 inline void Choose(frmNewDiary& diary, int location, const QString& text, bool reversed = false,
                    const std::function<void(frmDiaryCards&)>& act = {}) {
-    WhenModal([text, reversed, act] {
-        frmDiaryCards& cards = Get<frmDiaryCards>();
-        if (act) {
-            act(cards);
-            return;
-        }
+    ModalScript script;
+    script.On<frmDiaryCards>([text, reversed, act](frmDiaryCards& cards) {
+        if (act) return act(cards);
         cards.lstCards->setCurrentRow(RowOf(cards.lstCards, text));
         if (cards.chkReserved->isChecked() != reversed) cards.chkReserved->click();
         cards.cmdSelect->click();
     });
     diary.cmdCardTitle(location)->click();
+    QVERIFY(script.Done());
 }
 
 // The rows of a location's list: text and card number.

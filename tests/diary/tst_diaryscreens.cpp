@@ -20,15 +20,6 @@ constexpr int Locations = 4;
 constexpr int DeckSize = 30;
 const QString SelectRow = QStringLiteral(" [Select]");
 
-void SaveAs(frmNewDiary& diary, const QString& name) {
-    WhenModal([name] {
-        frmSaveDiary& save = Get<frmSaveDiary>();
-        save.txtSaveAs->setText(name);
-        save.cmdSave_Click();
-    });
-    diary.cmdSave->click();
-}
-
 }  // namespace
 
 class TestDiaryScreens : public QObject {
@@ -109,7 +100,7 @@ private slots:
         const DiaryRecord shown = CurrentDiary;
         QList<QStringList> offered;
         for (int i = 1; i <= Locations; ++i) offered << Offered(diary, i);
-        SaveAs(diary, QStringLiteral("Tuesday"));
+        SaveThrough<frmSaveDiary>(diary.cmdSave, QStringLiteral("Tuesday"));
         QVERIFY(!diary.DiaryChanged);
         QCOMPARE(CountDiaries(), 1);
         DiaryRecord saved;
@@ -149,7 +140,7 @@ private slots:
 
         // Saving again under its name raises the count and keeps the record.
         MsgBoxScript::Answer(vbYes);
-        SaveAs(reopened, QStringLiteral("Tuesday"));
+        SaveThrough<frmSaveDiary>(reopened.cmdSave, QStringLiteral("Tuesday"));
         QCOMPARE(MsgBoxScript::History().size(), 1);
         QVERIFY(GetRecord(DiaryPath, 1, saved));
         QCOMPARE(saved.SaveCount, Integer(2));
@@ -240,7 +231,7 @@ private slots:
         QVERIFY(empty.lblCardTitle->isHidden());
         QCOMPARE(diary.chkReversed(1)->palette().color(QPalette::Window), QColor(192, 0, 0));
         empty.cmdClose->click();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        Settle();
         QCOMPARE(diary.chkReversed(1)->palette().color(QPalette::Window), QBColor(CurrentLocationColour));
 
         Choose(diary, 2, CardText(4), true);
@@ -254,32 +245,14 @@ private slots:
         QVERIFY(page.Enlarged());
         QCOMPARE(!page.MediaPlayer1->isHidden(), playerShown);
         page.cmdClose->click();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        Settle();
         // A double click on a location's picture interprets the focused one.
         diary.imgCard_DblClick(2);
         QVERIFY(IsLoaded<frmDiaryInterpretLocation>());
         UnloadScreen<frmDiaryInterpretLocation>();
     }
 
-    void closingAsksAboutUnsavedChanges() {
-        frmNewDiary& diary = NewDiary();
-        diary.cmdContinue->click();
-        Choose(diary, 1, CardText(1));
-        MsgBoxScript::Answer(vbCancel);
-        diary.cmdClose->click();
-        QVERIFY(IsLoaded<frmNewDiary>());
-        QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Save changes to diary before exit?"));
-        // Yes, then a cancelled save: the entry closes unsaved.
-        MsgBoxScript::Answer(vbYes);
-        WhenModal([] { Get<frmSaveDiary>().cmdCancel->click(); });
-        diary.cmdClose->click();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(!IsLoaded<frmNewDiary>());
-        QCOMPARE(CountDiaries(), 0);
-        QVERIFY(Get<frmMainScreen>().Visible());
-    }
-
-    void notesMarkTheEntryChanged() {
+    void notesMarkTheEntryChangedAndClosingAsks() {
         frmNewDiary& diary = NewDiary();
         diary.cmdContinue->click();
         QVERIFY(!diary.DiaryChanged);
@@ -288,6 +261,17 @@ private slots:
         Get<frmDiaryNotes>().cmdClose->click();
         QVERIFY(diary.DiaryChanged);
         QCOMPARE(CurrentDiary.DiaryNotes.Trimmed(), QStringLiteral("Rain came."));
+        MsgBoxScript::Answer(vbCancel);
+        diary.cmdClose->click();
+        QVERIFY(IsLoaded<frmNewDiary>());
+        QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Save changes to diary before exit?"));
+        // Yes, then a cancelled save: the entry closes unsaved.
+        MsgBoxScript::Answer(vbYes);
+        SaveThrough<frmSaveDiary>(diary.cmdClose, QString());
+        Settle();
+        QVERIFY(!IsLoaded<frmNewDiary>());
+        QCOMPARE(CountDiaries(), 0);
+        QVERIFY(Get<frmMainScreen>().Visible());
     }
 };
 

@@ -11,6 +11,7 @@
 #include "shell/ClickLabel.h"
 #include "store/frmGetPassword.h"
 #include "DiaryFixtures.h"
+#include "support/Prompts.h"
 
 using namespace DiaryFixtures;
 
@@ -65,8 +66,7 @@ class TestSavedDiaries : public QObject {
         const QByteArray file = ReadWholeFile(DiaryPath);
         const DiaryRecord before = CurrentDiary;
         frmOpenDiary& open = TryOpen();
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QCOMPARE(MsgBoxScript::History().at(0).prompt, message);
+        QCOMPARE(Prompts(), QStringList{message});
         QVERIFY(IsLoaded<frmOpenDiary>());
         QVERIFY(open.cmdOpen->isEnabled());
         QCOMPARE(ReadWholeFile(DiaryPath), file);
@@ -114,12 +114,13 @@ private slots:
             d.EntryLocked = True16;
             d.EntryPassword = QStringLiteral("moon");
         });
-        WhenModal([] {
-            frmGetPassword& ask = Get<frmGetPassword>();
+        ModalScript script;
+        script.On<frmGetPassword>([](frmGetPassword& ask) {
             ask.txtPassword->setText(QStringLiteral("sun"));
             ask.cmdOK_Click();
         });
         ExpectRefusal(QStringLiteral("Incorrect password. Access Denied."));
+        QVERIFY(script.Done());
     }
 
     void aSmallerDeckIsCheckedOnTheFirstFifteenLocationsOnly() {
@@ -163,8 +164,8 @@ private slots:
         QVERIFY(!diary.DiaryChanged);
         // An empty entry saves too: no card is required.
         for (int i = 1; i <= Locations; ++i) diary.cboCardName_KeyUp(i, 46);
-        WhenModal([] {
-            frmSaveDiary& save = Get<frmSaveDiary>();
+        ModalScript script;
+        script.On<frmSaveDiary>([](frmSaveDiary& save) {
             QCOMPARE(save.txtSaveAs->text(), QStringLiteral("First"));
             QVERIFY(!save.cmdSave->isEnabled());
             save.txtSaveAs->setText(QStringLiteral("Second"));
@@ -172,6 +173,7 @@ private slots:
             save.cmdSave_Click();
         });
         diary.cmdSave->click();
+        QVERIFY(script.Done());
         QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Diary already exists. Overwrite?"));
         QCOMPARE(CountDiaries(), 2);
         DiaryRecord second;

@@ -22,6 +22,7 @@
 #include "support/BadInput.h"
 #include "support/Fixtures.h"
 #include "support/ModalScript.h"
+#include "support/Prompts.h"
 
 namespace {
 void PasteForeign(QLineEdit* box) {
@@ -95,8 +96,7 @@ private slots:
         QVERIFY(install.cmdInstall->isEnabled());
         Kill(PackagesDir + QStringLiteral("gone.pck"));
         install.cmdInstall_Click();
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QCOMPARE(MsgBoxScript::History()[0].prompt, QStringLiteral("Unable to open package"));
+        QCOMPARE(Prompts(), QStringList{QStringLiteral("Unable to open package")});
         QCOMPARE(ReadWholeFile(DecksPath), decksBefore);
         QVERIFY(Dir(TempDir + QStringLiteral("*.*")).isEmpty());
         QVERIFY(IsLoaded<frmInstallPackage>());

@@ -8,6 +8,7 @@
 #include "platform/OleDate.h"
 #include "platform/RecordingPrinter.h"
 #include "printing/mdlPrinting.h"
+#include "support/Prompts.h"
 
 namespace {
 
@@ -108,8 +109,7 @@ private slots:
         printer->LastError = 1;
         QVERIFY(!StartPrint(2, QStringLiteral("t"), QString(), QString()));
         QVERIFY(!PrintActive);
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QCOMPARE(MsgBoxScript::History()[0].prompt, QStringLiteral("Unable to initialize printer."));
+        QCOMPARE(Prompts(), QStringList{QStringLiteral("Unable to initialize printer.")});
         QCOMPARE(MsgBoxScript::History()[0].style, int(vbExclamation));
         // Without a job nothing reaches the printer.
         printer->Calls.clear();

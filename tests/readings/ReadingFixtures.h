@@ -1,11 +1,9 @@
 #pragma once
 // What the reading tests share: a program directory with a deck and a spread,
-// the way through the main screen's Readings buttons, and acting on a modal
-// screen from inside its own wait.
+// the way through the main screen's Readings buttons, and the save screens.
 #include <QCheckBox>
 #include <QListWidget>
 #include <QPushButton>
-#include <QTimer>
 #include <functional>
 
 #include "platform/MediaPlayer.h"
@@ -23,11 +21,23 @@
 #include "store/mdlSubRoutines.h"
 #include "store/mdlVariables.h"
 #include "support/Fixtures.h"
+#include "support/ModalScript.h"
 
 namespace ReadingFixtures {
 
-// Runs act once the modal screen about to open waits for the user.
-inline void WhenModal(std::function<void()> act) { QTimer::singleShot(0, std::move(act)); }
+// Presses a button that opens the save screen S and saves there under name;
+// an empty name cancels the save.
+template <class S>
+void SaveThrough(QAbstractButton* button, const QString& name) {
+    ModalScript script;
+    script.On<S>([name](S& save) {
+        if (name.isEmpty()) return save.cmdCancel->click();
+        save.txtSaveAs->setText(name);
+        save.cmdSave_Click();   // as the name may be the one proposed, with the button still off
+    });
+    button->click();
+    QVERIFY(script.Done());
+}
 
 // Rewrites record n of a record file through a change.
 template <class R>
@@ -65,24 +75,26 @@ inline void FreshRun(const QString& dir) {
 // "New" of the Readings group, choosing the first spread and deck as the
 // selection screen proposes them, with whatever adjust does to its boxes.
 inline frmNewReading& NewReading(const std::function<void(frmSelectSpread&)>& adjust = {}) {
-    WhenModal([adjust] {
-        frmSelectSpread& select = Get<frmSelectSpread>();
+    ModalScript script;
+    script.On<frmSelectSpread>([adjust](frmSelectSpread& select) {
         if (adjust) adjust(select);
         select.cmdSelect->click();
     });
     Get<frmMainScreen>().lblButton_Click(1);
+    script.Require();
     return Get<frmNewReading>();
 }
 
 // "Past" of the Readings group, opening the entry in the given row.
 inline void OpenPastReading(int row, const std::function<void(frmOpenReading&)>& beforeOpen = {}) {
-    WhenModal([row, beforeOpen] {
-        frmOpenReading& open = Get<frmOpenReading>();
+    ModalScript script;
+    script.On<frmOpenReading>([row, beforeOpen](frmOpenReading& open) {
         open.lstEntries->setCurrentRow(row);
         if (beforeOpen) beforeOpen(open);
         open.cmdOpen->click();
     });
     Get<frmMainScreen>().lblButton_Click(2);
+    QVERIFY(script.Done());
 }
 
 // The table position that holds a deck card (duplicates off: each card lies once).

@@ -40,15 +40,6 @@ QList<Shown> ShownCards(frmNewReading& reading, int count) {
     return shown;
 }
 
-void SaveAs(frmNewReading& reading, const QString& name) {
-    WhenModal([name] {
-        frmSaveReading& save = Get<frmSaveReading>();
-        save.txtSaveAs->setText(name);
-        save.cmdSave_Click();
-    });
-    reading.cmdSave->click();
-}
-
 }  // namespace
 
 class TestReadingScreens : public QObject {
@@ -102,6 +93,10 @@ private slots:
         QVERIFY(Near(table.Top(), reading.Top() + reading.OuterHeight() + 50));
         QCOMPARE(reading.DeckCardsLeft, Integer(DeckSize));
         QCOMPARE(reading.cmdContinue->text(), QStringLiteral("&Back"));
+        for (int i = 1; i <= Locations; ++i) {   // each location where its record puts it
+            QVERIFY(Near(reading.picLocation(i)->x() * 15, SpreadLocations(i).LocationLeft));
+            QVERIFY(Near(reading.picLocation(i)->y() * 15, SpreadLocations(i).LocationTop));
+        }
         for (QPushButton* on : {reading.cmdContinue, reading.cmdNextCard, reading.cmdAllCards, reading.cmdInterpret,
                                 reading.cmdNotes, reading.cmdSave, reading.cmdPrint, reading.cmdQuickHelp,
                                 static_cast<QPushButton*>(reading.cmdFakeShuffle)})
@@ -137,7 +132,7 @@ private slots:
             QCOMPARE(s.upright, orientation[static_cast<std::size_t>(position - 1)]);
             QCOMPARE(s.name, QStringLiteral("Card %1").arg(s.card));
             QVERIFY(reading.lblCardNumber(i)->isHidden());
-            QVERIFY(reading.imgCard(i)->HasPicture());
+            QCOMPARE(reading.imgCard(i)->Image().pixelColor(0, 0).rgb(), Fixtures::CardColour(s.card, s.upright).rgb());
             if (s.upright == False16 && reversedAt == 0) reversedAt = i;
         }
         QVERIFY2(reversedAt > 0, "the seed deals no reversed card");
@@ -169,14 +164,15 @@ private slots:
         Get<frmReadingNotes>().cmdClose->click();
 
         // Save, then close with nothing left to ask.
-        WhenModal([] {
-            frmSaveReading& save = Get<frmSaveReading>();
+        ModalScript script;
+        script.On<frmSaveReading>([](frmSaveReading& save) {
             QCOMPARE(save.txtSaveAs->text(), QStringLiteral("Will it rain?"));
             QVERIFY(!save.cmdSave->isEnabled());
             save.txtSaveAs->setText(QStringLiteral("Morning"));
             save.cmdSave->click();
         });
         reading.cmdSave->click();
+        QVERIFY(script.Done());
         QVERIFY(!reading.ReadingChanged);
         reading.cmdClose->click();
         QCOMPARE(MsgBoxScript::History().size(), 0);
@@ -234,7 +230,7 @@ private slots:
         // Saved again unchanged: the same record, counted twice.
         const QByteArray before = ReadWholeFile(ReadingsPath);
         MsgBoxScript::Answer(vbYes);   // overwrite
-        SaveAs(again, QStringLiteral("Morning"));
+        SaveThrough<frmSaveReading>(again.cmdSave, QStringLiteral("Morning"));
         ReadingRecord twice;
         GetRecord(ReadingsPath, 1, twice);
         QCOMPARE(twice.SaveCount, Integer(2));
@@ -258,12 +254,7 @@ private slots:
 
         // Closing asks; Yes saves, here under a new name.
         MsgBoxScript::Answer(vbYes);
-        WhenModal([] {
-            frmSaveReading& save = Get<frmSaveReading>();
-            save.txtSaveAs->setText(QStringLiteral("Half"));
-            save.cmdSave->click();
-        });
-        reading.cmdClose->click();
+        SaveThrough<frmSaveReading>(reading.cmdClose, QStringLiteral("Half"));
         QCOMPARE(MsgBoxScript::History().at(0).prompt, QStringLiteral("Save changes to the reading?"));
         ReadingRecord saved;
         GetRecord(ReadingsPath, 1, saved);
@@ -362,8 +353,7 @@ private slots:
         reading.cmdClose->click();
         QVERIFY(IsLoaded<frmNewReading>());
         MsgBoxScript::Answer(vbYes);
-        WhenModal([] { Get<frmSaveReading>().cmdCancel->click(); });
-        reading.cmdClose->click();
+        SaveThrough<frmSaveReading>(reading.cmdClose, QString());
         QVERIFY(!IsLoaded<frmNewReading>());
         QCOMPARE(CountReadings(), 0);
     }

@@ -10,6 +10,7 @@
 #include "readings/frmSaveReading.h"
 #include "store/frmGetPassword.h"
 #include "ReadingFixtures.h"
+#include "support/Prompts.h"
 
 using namespace ReadingFixtures;
 
@@ -67,8 +68,7 @@ class TestSavedReadings : public QObject {
         const QByteArray file = ReadWholeFile(ReadingsPath);
         const ReadingRecord before = CurrentReading;
         frmOpenReading& open = TryOpen();
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QCOMPARE(MsgBoxScript::History().at(0).prompt, message);
+        QCOMPARE(Prompts(), QStringList{message});
         QVERIFY(IsLoaded<frmOpenReading>());
         QVERIFY(open.cmdOpen->isEnabled());
         QCOMPARE(ReadWholeFile(ReadingsPath), file);
@@ -148,19 +148,16 @@ private slots:
             r.EntryLocked = True16;
             r.EntryPassword = QStringLiteral("moon");
         });
-        WhenModal([] {
-            frmGetPassword& ask = Get<frmGetPassword>();
-            ask.txtPassword->setText(QStringLiteral("sun"));
-            ask.cmdOK_Click();
-        });
+        ModalScript script;
+        for (const char* typed : {"sun", "moon"})
+            script.On<frmGetPassword>([typed](frmGetPassword& ask) {
+                ask.txtPassword->setText(QString::fromLatin1(typed));
+                ask.cmdOK_Click();
+            });
         ExpectRefusal(QStringLiteral("Incorrect password. Access Denied."));
         MsgBoxScript::Clear();
-        WhenModal([] {
-            frmGetPassword& ask = Get<frmGetPassword>();
-            ask.txtPassword->setText(QStringLiteral("moon"));
-            ask.cmdOK_Click();
-        });
         TryOpen();
+        QVERIFY(script.Done());
         QVERIFY(!IsLoaded<frmOpenReading>());
         QCOMPARE(Get<frmNewReading>().ThisLocationNumber, Integer(21));
         QCOMPARE(MsgBoxScript::History().size(), 0);

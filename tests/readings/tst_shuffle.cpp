@@ -138,16 +138,6 @@ private slots:
         QCOMPARE(frmReadingCards::LocationIsUpright()(1), False16);
     }
 
-    void aRestoredReadingIsLeftAlone() {
-        frmNewReading& reading = LayTable(12, 77, true);
-        const auto before = CurrentReading.LocationCard;
-        frmReadingCards::LoadingReading = true;
-        reading.cmdContinue->click();
-        frmReadingCards::LoadingReading = false;
-        QCOMPARE(CurrentReading.LocationCard, before);
-        QVERIFY(frmReadingCards::LocationCard()(1) != 0);
-    }
-
     void theTableFansOutAndFollowsThePool() {
         frmNewReading& reading = LayTable(20, 5, true);
         reading.cmdContinue->click();

@@ -16,6 +16,7 @@
 #include <QTextImageFormat>
 #include <QtTest>
 
+#include "platform/FileSys.h"
 #include "platform/MsgBox.h"
 #include "shell/MDIMainForm.h"
 #include "shell/frmHelpViewer.h"
@@ -28,12 +29,6 @@ namespace {
 // The manual in the source tree, two folders up from this test.
 QString SourceHelpFolder() {
     return QFileInfo(QStringLiteral(__FILE__)).absoluteDir().absoluteFilePath(QStringLiteral("../../help"));
-}
-
-void WriteFile(const QString& path, const QByteArray& bytes) {
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
 }
 
 // The image names the document shows, in order.
@@ -64,8 +59,8 @@ private slots:
         MsgBoxScript::Enable();
         SetEndProcessHook([](int) {});
         // A present-format database with one deck: no conversion, no offer.
-        WriteFile(dir_.path() + QStringLiteral("/Location.loc"), QByteArray());
-        WriteFile(dir_.path() + QStringLiteral("/Decks.dck"), QByteArray(DeckRecord::Length, '\0'));
+        WriteWholeFile(dir_.path() + QStringLiteral("/Location.loc"), QByteArray());
+        WriteWholeFile(dir_.path() + QStringLiteral("/Decks.dck"), QByteArray(DeckRecord::Length, '\0'));
         // Laid out as the build lays the program folder.
         const QDir help(SourceHelpFolder());
         QVERIFY(QFile::copy(help.filePath(QStringLiteral("Cartomar.hlp")), dir_.filePath(QStringLiteral("Cartomar.hlp"))));

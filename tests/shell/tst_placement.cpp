@@ -16,6 +16,7 @@
 #include "store/Startup.h"
 #include "store/mdlVariables.h"
 #include "support/Fixtures.h"
+#include "support/Prompts.h"
 
 namespace {
 
@@ -186,10 +187,8 @@ private slots:
         notPicture.close();
         box.Move(0, 0, 1500, 1500);
         FitPicture(box, notPicture.fileName(), false, false);
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QCOMPARE(MsgBoxScript::History()[0].prompt,
-                 QStringLiteral("Error while loading the picture. A default picture is selected instead.\n"
-                                "Please save all your work, exit Cartomar, and then run it again"));
+        QCOMPARE(Prompts(), QStringList{QStringLiteral("Error while loading the picture. A default picture is selected instead.\n"
+                                "Please save all your work, exit Cartomar, and then run it again")});
         QCOMPARE(MsgBoxScript::History()[0].style, int(vbCritical));
         QCOMPARE(box.Image(), defaultPicture);
     }

@@ -18,17 +18,12 @@
 #include "store/Startup.h"
 #include "store/mdlTypes.h"
 #include "store/mdlVariables.h"
+#include "support/Prompts.h"
 
 namespace {
 
 int gConversions = 0;
 QList<int> gEnds;
-
-void WriteFile(const QString& path, const QByteArray& bytes) {
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-}
 
 }  // namespace
 
@@ -106,9 +101,7 @@ private slots:
 
         // No designs: the main screen stands and the offer to install comes.
         QVERIFY(IsLoaded<frmMainScreen>() && Get<frmMainScreen>().Visible());
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QCOMPARE(MsgBoxScript::History()[0].prompt,
-                 QStringLiteral("You don't have any designs installed. Do you want install any now?"));
+        QCOMPARE(Prompts(), QStringList{QStringLiteral("You don't have any designs installed. Do you want install any now?")});
         QCOMPARE(MsgBoxScript::History()[0].style, vbYesNo | vbInformation);
 
         // The second start makes the attachment folder, now that Packages/
@@ -124,12 +117,12 @@ private slots:
         const QString root = dir.path() + QLatin1Char('/');
         QDir().mkpath(root + QStringLiteral("Temp"));
         QDir().mkpath(root + QStringLiteral("Cards"));
-        WriteFile(root + QStringLiteral("Temp/TempUp.bmp"), "stale");
-        WriteFile(root + QStringLiteral("Temp/Cards.crd"), "stale");
-        WriteFile(root + QStringLiteral("Cards/C000000.bmp"), "not a picture");
-        WriteFile(root + QStringLiteral("Location.loc"), QByteArray());
-        WriteFile(root + QStringLiteral("Decks.dck"), QByteArray(DeckRecord::Length, '\0'));
-        WriteFile(root + QStringLiteral("Readings.red"), "kept");
+        WriteWholeFile(root + QStringLiteral("Temp/TempUp.bmp"), "stale");
+        WriteWholeFile(root + QStringLiteral("Temp/Cards.crd"), "stale");
+        WriteWholeFile(root + QStringLiteral("Cards/C000000.bmp"), "not a picture");
+        WriteWholeFile(root + QStringLiteral("Location.loc"), QByteArray());
+        WriteWholeFile(root + QStringLiteral("Decks.dck"), QByteArray(DeckRecord::Length, '\0'));
+        WriteWholeFile(root + QStringLiteral("Readings.red"), "kept");
 
         QVERIFY(RunStartup(dir.path()));
         QVERIFY(QFileInfo(root + QStringLiteral("Temp")).isDir());
@@ -143,27 +136,14 @@ private slots:
         QVERIFY(Get<frmMainScreen>().Visible());
     }
 
-    void noDesignsAskToInstall_AnswerNoKeepsTheMainScreen() {
-        QTemporaryDir dir;
-        WriteFile(dir.path() + QStringLiteral("/Location.loc"), QByteArray());
-        MsgBoxScript::Answer(vbNo);
-        QVERIFY(RunStartup(dir.path()));
-        QCOMPARE(gConversions, 0);
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QCOMPARE(MsgBoxScript::History()[0].answer, int(vbNo));
-        QVERIFY(Get<frmMainScreen>().Visible());
-    }
-
     void oldDatabaseWithBackupsEndsAtOnce() {
         QTemporaryDir dir;
-        WriteFile(dir.path() + QStringLiteral("/Decks.dck.bkp"), "old");
+        WriteWholeFile(dir.path() + QStringLiteral("/Decks.dck.bkp"), "old");
         QVERIFY(!RunStartup(dir.path()));
         QCOMPARE(gEnds.size(), 1);
         QCOMPARE(gConversions, 0);
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QCOMPARE(MsgBoxScript::History()[0].prompt,
-                 QStringLiteral("Unable to convert to new database format as existing backups exist.  Please "
-                                "reinstall in a new directory or contact ") + SupportAddress + QLatin1Char('.'));
+        QCOMPARE(Prompts(), QStringList{QStringLiteral("Unable to convert to new database format as existing backups exist.  Please "
+                                "reinstall in a new directory or contact ") + SupportAddress + QLatin1Char('.')});
         QCOMPARE(MsgBoxScript::History()[0].style, int(vbOKOnly));
         QVERIFY(!IsLoaded<frmMainScreen>());
     }
@@ -171,9 +151,7 @@ private slots:
     void fatalErrorShowsTheMessageAndEnds() {
         FatalError();
         QCOMPARE(gEnds.size(), 1);
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QCOMPARE(MsgBoxScript::History()[0].prompt,
-                 QStringLiteral("Cartomar Error. If this problem persists, please contact Ondine Software Inc."));
+        QCOMPARE(Prompts(), QStringList{QStringLiteral("Cartomar Error. If this problem persists, please contact Ondine Software Inc.")});
         QCOMPARE(MsgBoxScript::History()[0].style, int(vbCritical));
     }
 
@@ -181,7 +159,7 @@ private slots:
         QTemporaryDir dir;
         const QString here = QDir::currentPath();
         QDir::setCurrent(dir.path());
-        WriteFile(dir.path() + QStringLiteral("/keep.txt"), "x");
+        WriteWholeFile(dir.path() + QStringLiteral("/keep.txt"), "x");
         ClearTemp();
         QDir::setCurrent(here);
         QVERIFY(QFileInfo::exists(dir.path() + QStringLiteral("/keep.txt")));
@@ -192,7 +170,7 @@ private slots:
     void aSecondCopyOnTheSameFolderIsRefused() {
         QTemporaryDir dir;
         const QString root = dir.path() + QLatin1Char('/');
-        WriteFile(root + QStringLiteral("Location.loc"), QByteArray());
+        WriteWholeFile(root + QStringLiteral("Location.loc"), QByteArray());
         int ready[2];
         QVERIFY(::pipe(ready) == 0);
         const pid_t first = ::fork();
@@ -206,14 +184,12 @@ private slots:
         QCOMPARE(::read(ready[0], &taken, 1), ssize_t(1));
         QCOMPARE(taken, 'y');
         QDir().mkpath(root + QStringLiteral("Temp"));
-        WriteFile(root + QStringLiteral("Temp/working.bmp"), "in use");
+        WriteWholeFile(root + QStringLiteral("Temp/working.bmp"), "in use");
 
         QVERIFY(!RunStartup(dir.path()));
         QCOMPARE(gEnds, QList<int>{1});
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QCOMPARE(MsgBoxScript::History()[0].prompt,
-                 QStringLiteral("Cartomar is already running from the folder '") + dir.path() +
-                     QStringLiteral("'. Only one copy can work on the same designs at a time."));
+        QCOMPARE(Prompts(), QStringList{QStringLiteral("Cartomar is already running from the folder '") + dir.path() +
+                     QStringLiteral("'. Only one copy can work on the same designs at a time.")});
         QVERIFY(QFileInfo::exists(root + QStringLiteral("Temp/working.bmp")));
         QVERIFY(!QFileInfo::exists(root + QStringLiteral("Decks.dck")));
 

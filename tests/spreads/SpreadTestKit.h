@@ -1,38 +1,14 @@
 #pragma once
-// Helpers of the spread screen tests: acting on a modal screen once it
-// stands, dragging a location rectangle with the mouse, and reading a
-// record file's raw records.
+// Helpers of the spread screen tests: dragging a location rectangle with the
+// mouse, and reading a record file's raw records.
 #include <QApplication>
-#include <QDeadlineTimer>
 #include <QMouseEvent>
-#include <QTimer>
-#include <functional>
 
 #include "platform/FileSys.h"
-#include "platform/Form.h"
 #include "platform/Twips.h"
+#include "support/ModalScript.h"
 
 namespace SpreadTestKit {
-
-// Runs act on screen T as soon as it is shown modally; gives up after five
-// seconds so that a test fails instead of hanging.
-template <class T>
-void WhenShown(std::function<void(T&)> act) {
-    auto* timer = new QTimer;
-    const QDeadlineTimer deadline(5000);
-    QObject::connect(timer, &QTimer::timeout, [timer, deadline, act] {
-        if (IsLoaded<T>() && Get<T>().ShownModal()) {
-            timer->stop();
-            timer->deleteLater();
-            act(Get<T>());
-        } else if (deadline.hasExpired()) {
-            timer->stop();
-            timer->deleteLater();
-            qWarning("modal screen never came");
-        }
-    });
-    timer->start(5);
-}
 
 inline void SendMouse(QWidget* w, QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
     QMouseEvent e(type, QPointF(at), w->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
@@ -60,8 +36,5 @@ inline QList<QByteArray> RawRecords(const QString& path, int length) {
     for (int at = 0; at + length <= all.size(); at += length) records.append(all.mid(at, length));
     return records;
 }
-
-// Lets screens that were unloaded go.
-inline void Settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
 }  // namespace SpreadTestKit

@@ -43,7 +43,8 @@ private slots:
         // keeps the background it had.
         const QString picture = dir_.filePath(QStringLiteral("back.bmp"));
         Fixtures::WritePicture(picture);
-        WhenShown<frmGetSpreadBackground>([&](frmGetSpreadBackground& screen) {
+        ModalScript script;
+        script.On<frmGetSpreadBackground>([&](frmGetSpreadBackground& screen) {
             tried_ += BadInput::TourTextBoxes(screen);
             screen.txtFilename->setText(picture);
             QFile::remove(picture);
@@ -52,13 +53,14 @@ private slots:
             screen.cmdCancel_Click();
         });
         designer.cmdPicture_Click();
+        QVERIFY(script.Done());
         QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("There is no file with the name you provided!"));
         QVERIFY(CurrentSpread.BackgroundFile.IsBlank());
         ++tried_;
 
         for (int pass = 0; pass < 2; ++pass) {
             if (pass == 1) MsgBoxScript::Answer(vbNo);
-            WhenShown<frmSaveSpread>([&, pass](frmSaveSpread& save) {
+            script.On<frmSaveSpread>([&, pass](frmSaveSpread& save) {
                 if (pass == 0) tried_ += BadInput::TourTextBoxes(save);
                 QApplication::clipboard()->setText(BadInput::Foreign());
                 save.txtSaveAs->clear();
@@ -69,6 +71,7 @@ private slots:
                 if (pass == 1) save.cmdCancel_Click();
             });
             designer.cmdSave_Click();
+            QVERIFY(script.Done());
         }
         QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Spread already exists. Overwrite?"));
         QCOMPARE(CountSpreads(), 1);

@@ -8,7 +8,6 @@
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QtTest>
 #include <cstring>
 #include <functional>
@@ -18,6 +17,7 @@
 #include "store/frmConvert.h"
 #include "store/mdlVariables.h"
 #include "support/Fixtures.h"
+#include "support/ModalScript.h"
 
 namespace {
 
@@ -116,15 +116,6 @@ OldDatabase WriteOldDatabase() {
 
 QStringList RecordFiles() { return {DecksPath, SpreadsPath, CardsPath, ReadingsPath, DiaryPath}; }
 
-// Acts on the conversion screen once its modal loop runs.
-void WhenShown(std::function<void(frmConvert&)> act) {
-    QTimer::singleShot(0, [act] {
-        frmConvert* screen = ScreenSlot<frmConvert>();
-        QVERIFY(screen && screen->isVisible());
-        act(*screen);
-    });
-}
-
 }  // namespace
 
 class TestConversion : public QObject {
@@ -144,8 +135,10 @@ private slots:
     void convertMovesEveryFieldAndKeepsBackups() {
         const OldDatabase db = WriteOldDatabase();
         WriteWholeFile(LocationsPath, QByteArray(1100, 'X'));  // a stray locations file goes first
-        WhenShown([](frmConvert& screen) { QTest::mouseClick(screen.cmdConvert, Qt::LeftButton); });
+        ModalScript script;
+        script.On<frmConvert>([](frmConvert& screen) { QTest::mouseClick(screen.cmdConvert, Qt::LeftButton); });
         QVERIFY(RunConversionScreen());
+        QVERIFY(script.Done());
         QVERIFY(!IsLoaded<frmConvert>());
         QCOMPARE(MsgBoxScript::History().size(), 0);
 
@@ -201,18 +194,17 @@ private slots:
 
     void cancelChangesNothing() {
         const OldDatabase db = WriteOldDatabase();
-        WhenShown([](frmConvert& screen) {
-            QCOMPARE(screen.Caption(), QString("Cartomar Converter"));
+        ModalScript script;
+        script.On<frmConvert>([](frmConvert& screen) {
             QVERIFY(screen.lblMessage->text().startsWith("Cartomar detected an older database version.  Would"));
             QVERIFY(screen.lblMessage->text().endsWith("version?  (Note that a *.bkp copies will be created of "
                                                        "the old database files.)"));
-            QCOMPARE(screen.cmdConvert->text(), QString("Con&vert"));
-            QCOMPARE(screen.cmdClose->text(), QString("&Cancel"));
             QTest::mouseClick(screen.cmdClose, Qt::LeftButton);
         });
+        script.On<frmConvert>([](frmConvert& screen) { QTest::keyClick(screen.cmdConvert, Qt::Key_Escape); });
         QVERIFY(!RunConversionScreen());
-        WhenShown([](frmConvert& screen) { QTest::keyClick(screen.cmdConvert, Qt::Key_Escape); });
         QVERIFY(!RunConversionScreen());
+        QVERIFY(script.Done());
 
         const QList<QByteArray> olds = {db.decks, db.spreads, db.cards, db.readings, db.diary};
         for (int i = 0; i < olds.size(); ++i) {

@@ -8,6 +8,7 @@
 #include "store/RecordFile.h"
 #include "store/mdlSubRoutines.h"
 #include "support/Fixtures.h"
+#include "support/Prompts.h"
 
 namespace {
 
@@ -76,8 +77,7 @@ private slots:
         MsgBoxScript::Answer(vbNo);
         QVERIFY(!LoadDeck(removed));
         QVERIFY(!removed);
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QCOMPARE(MsgBoxScript::History().at(0).prompt, MissingPicturesQuestion);
+        QCOMPARE(Prompts(), QStringList{MissingPicturesQuestion});
         QCOMPARE(MsgBoxScript::History().at(0).style, int(vbYesNo | vbCritical));
         QCOMPARE(FindDeckRecordById(id), 2);
 
@@ -146,10 +146,7 @@ private slots:
         QCOMPARE(CardUprightName(12), QStringLiteral("CU00012"));
         QCOMPARE(CardReversedName(123456), QStringLiteral("CR123456"));
         QCOMPARE(SpreadPictureName(7), QStringLiteral("S000007"));
-        QCOMPARE(SpreadPictureName(42), QStringLiteral("S000042"));
-        QCOMPARE(SpreadPictureName(999), QStringLiteral("S000999"));
         QCOMPARE(SpreadPictureName(1000), QStringLiteral("S001000"));
-        QCOMPARE(SpreadPictureName(12345), QStringLiteral("S012345"));
         QCOMPARE(SpreadPictureName(123456), QStringLiteral("S0123456"));
     }
 

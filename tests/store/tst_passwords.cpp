@@ -2,7 +2,6 @@
 // decides access, cancelling stays silent, and the installer gets the answer.
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTimer>
 #include <QtTest>
 
 #include "platform/MsgBox.h"
@@ -11,29 +10,20 @@
 #include "store/frmGetPassword.h"
 #include "store/frmSetPassword.h"
 #include "store/mdlVariables.h"
+#include "support/ModalScript.h"
+#include "support/Prompts.h"
 
 namespace {
-// Acts on a modal screen once it is up.
-template <class F, class Act>
-void WhenShown(Act act) {
-    QTimer::singleShot(0, [act] {
-        QTRY_VERIFY(IsLoaded<F>() && Get<F>().Visible());
-        act(Get<F>());
-    });
-    // Should the screen still stand once the test acted, end its wait so the
-    // test fails instead of hanging.
-    QTimer::singleShot(5000, [] {
-        if (IsLoaded<F>()) Get<F>().Unload();
-    });
-}
-
 bool Check(const QString& stored, const QString& typed, bool cancel = false) {
-    WhenShown<frmGetPassword>([typed, cancel](frmGetPassword& f) {
+    ModalScript script;
+    script.On<frmGetPassword>([typed, cancel](frmGetPassword& f) {
         f.txtPassword->setText(typed);
         if (cancel) QTest::keyClick(f.txtPassword, Qt::Key_Escape);
         else QTest::keyClick(f.txtPassword, Qt::Key_Return);   // Enter acts as OK
     });
-    return CheckPassword(stored);
+    const bool granted = CheckPassword(stored);
+    if (!script.Done()) QTest::qFail("the password screen never came", __FILE__, __LINE__);
+    return granted;
 }
 }  // namespace
 
@@ -49,8 +39,7 @@ private slots:
         QVERIFY(Check(QStringLiteral("Secret  "), QStringLiteral("Secret")));   // trailing spaces don't count
         QVERIFY(MsgBoxScript::History().isEmpty());
         QVERIFY(!Check(QStringLiteral("Secret"), QStringLiteral("secret")));    // case counts
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QCOMPARE(MsgBoxScript::History()[0].prompt, QStringLiteral("Incorrect password. Access Denied."));
+        QCOMPARE(Prompts(), QStringList{QStringLiteral("Incorrect password. Access Denied.")});
         QCOMPARE(MsgBoxScript::History()[0].style & 0x70, int(vbCritical));
         MsgBoxScript::Clear();
         QVERIFY(!Check(QStringLiteral("Secret"), QStringLiteral("Secret"), true));   // cancel: silent
@@ -60,7 +49,8 @@ private slots:
     }
 
     void askNewPassword() {
-        WhenShown<frmSetPassword>([](frmSetPassword& f) {
+        ModalScript script;
+        script.On<frmSetPassword>([](frmSetPassword& f) {
             f.txtPassword1->setText(QStringLiteral("abc"));
             f.txtPassword2->setText(QStringLiteral("abd"));
             f.cmdOK->click();
@@ -72,19 +62,20 @@ private slots:
             QTest::keyClick(f.txtPassword2, Qt::Key_Return);   // and then acts as OK
         });
         QCOMPARE(AskNewPassword(QStringLiteral("old")), QStringLiteral("Moon"));
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QCOMPARE(MsgBoxScript::History()[0].prompt, QStringLiteral("The two passwords do not match."));
+        QCOMPARE(Prompts(), QStringList{QStringLiteral("The two passwords do not match.")});
 
-        WhenShown<frmSetPassword>([](frmSetPassword& f) {
+        script.On<frmSetPassword>([](frmSetPassword& f) {
             f.txtPassword1->setText(QStringLiteral("x"));
             QTest::keyClick(f.txtPassword1, Qt::Key_Escape);
         });
         QCOMPARE(AskNewPassword(QStringLiteral("old")), QStringLiteral("old"));
+        QVERIFY(script.Done());
     }
 
     void designExistsAnswers() {
         DesignExistsChoice = 0;
-        WhenShown<frmDesignExists>([](frmDesignExists& f) {
+        ModalScript script;
+        script.On<frmDesignExists>([](frmDesignExists& f) {
             QCOMPARE(f.Caption(), QStringLiteral("Deck 'Rider Waite' exists."));
             f.cmdOverwriteAll->click();
         });
@@ -94,7 +85,7 @@ private slots:
 
         // Rename: the proposal keeps 23 characters of the name and adds " (Copy)".
         QStringList offered;
-        WhenShown<frmDesignExists>([&offered](frmDesignExists& f) {
+        script.On<frmDesignExists>([&offered](frmDesignExists& f) {
             f.NameInUse = [](int design, const QString& padded) {
                 return design == DesignSpread && padded == QStringLiteral("Taken").leftJustified(30);
             };
@@ -112,6 +103,7 @@ private slots:
             QTest::keyClick(f.txtDesignName, Qt::Key_Return);
         });
         Get<frmDesignExists>().Ask(DesignSpread, QStringLiteral("A Very Long Spread Name Indeed"));
+        QVERIFY(script.Done());
         QCOMPARE(offered, QStringList({QStringLiteral("A Very Long Spread Name (Copy)")}));
         const auto& h = MsgBoxScript::History();
         QCOMPARE(h.size(), 2);

@@ -6,7 +6,6 @@
 #include <cstring>
 
 #include "platform/FileSys.h"
-#include "platform/OleDate.h"
 #include "store/RecordFile.h"
 #include "store/mdlSubRoutines.h"
 #include "support/Fixtures.h"
@@ -37,19 +36,8 @@ LocationRecord Location(Integer spreadId, Integer number, const QString& title) 
     return l;
 }
 
-ReadingRecord Reading(const QString& name) {
-    ReadingRecord r;
-    ResetReading(r);
-    r.ReadingName = name;
-    return r;
-}
-
-DiaryRecord Diary(const QString& name) {
-    DiaryRecord r;
-    ResetDiary(r);
-    r.DiaryName = name;
-    return r;
-}
+using Fixtures::NamedDiary;
+using Fixtures::NamedReading;
 
 QStringList SpreadNames() {
     QStringList names;
@@ -115,15 +103,8 @@ private slots:
         QCOMPARE(SpreadNameById(2).trimmed(), QStringLiteral("Cross"));
         QCOMPARE(SpreadNameById(4), QString());
 
-        // A record cut short by a failed write is no record.
-        QFile spreads(SpreadsPath);
-        QVERIFY(spreads.open(QIODevice::Append));
-        spreads.write(QByteArray(100, 'x'));
-        spreads.close();
-        QCOMPARE(CountSpreads(), 1);
-
-        AppendRecord(ReadingsPath, Reading(QStringLiteral("Monday")));
-        AppendRecord(DiaryPath, Diary(QStringLiteral("Tuesday")));
+        AppendRecord(ReadingsPath, NamedReading(QStringLiteral("Monday")));
+        AppendRecord(DiaryPath, NamedDiary(QStringLiteral("Tuesday")));
         QCOMPARE(FindReadingByName(QStringLiteral(" Monday")), 1);
         QCOMPARE(FindDiaryByName(QStringLiteral("Tuesday ")), 1);
         QCOMPARE(FindDiaryByName(QStringLiteral("Monday")), -1);
@@ -222,8 +203,8 @@ private slots:
 
     void deleteReadingAndDiaryDropEveryRecordOfTheName() {
         for (const char* name : {"Alpha", "Beta", " Alpha ", "Gamma"}) {
-            AppendRecord(ReadingsPath, Reading(QString::fromLatin1(name)));
-            AppendRecord(DiaryPath, Diary(QString::fromLatin1(name)));
+            AppendRecord(ReadingsPath, NamedReading(QString::fromLatin1(name)));
+            AppendRecord(DiaryPath, NamedDiary(QString::fromLatin1(name)));
         }
         DeleteReading(QStringLiteral("Alpha"));
         DeleteDiary(QStringLiteral("Beta"));
@@ -302,14 +283,6 @@ private slots:
         QVERIFY(!IsSpreadUsable(QStringLiteral("Three")));
         QVERIFY(!IsSpreadUsable(QStringLiteral("Any Three")));
         QVERIFY(IsSpreadUsable(QStringLiteral("Any Two")));
-    }
-
-    void helpers() {
-        QCOMPARE(AddTrailingBackslash(QStringLiteral("/a/b")), QStringLiteral("/a/b/"));
-        QCOMPARE(AddTrailingBackslash(QStringLiteral("/a/b/")), QStringLiteral("/a/b/"));
-        const double day = ToOleDate(QDate(2026, 3, 5));
-        QCOMPARE(FormatLongDate(day), QStringLiteral("05-Mar-2026"));
-        QCOMPARE(FormatSortDate(day), QStringLiteral("2026/03/05"));
     }
 };
 

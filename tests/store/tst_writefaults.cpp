@@ -57,21 +57,8 @@ QSet<QByteArray> Records(const QByteArray& bytes, int length) {
     return set;
 }
 
-ReadingRecord Reading(const QString& name) {
-    ReadingRecord r;
-    ResetReading(r);
-    r.ReadingName = name;
-    r.SavedOn = 45000;
-    return r;
-}
-
-DiaryRecord Diary(const QString& name) {
-    DiaryRecord r;
-    ResetDiary(r);
-    r.DiaryName = name;
-    r.SavedOn = 45000;
-    return r;
-}
+using Fixtures::NamedDiary;
+using Fixtures::NamedReading;
 
 // Two decks, two spreads, three readings, two diary entries; and a package
 // of one deck laid out in Temp/ as its extraction leaves it.
@@ -81,8 +68,8 @@ void MakeFixture(const QString& dir) {
     Fixtures::MakeDeck(QStringLiteral("Deck B"), 2, false);
     Fixtures::MakeSpread(QStringLiteral("Spread A"), 3, {deckA});
     Fixtures::MakeSpread(QStringLiteral("Spread B"), 2, {}, true);
-    for (const char* name : {"First", "Second", "Third"}) AppendRecord(ReadingsPath, Reading(QLatin1String(name)));
-    for (const char* name : {"Monday", "Tuesday"}) AppendRecord(DiaryPath, Diary(QLatin1String(name)));
+    for (const char* name : {"First", "Second", "Third"}) AppendRecord(ReadingsPath, NamedReading(QLatin1String(name)));
+    for (const char* name : {"Monday", "Tuesday"}) AppendRecord(DiaryPath, NamedDiary(QLatin1String(name)));
 
     const Integer packed = Fixtures::MakeDeck(QStringLiteral("Packed"), 2, true);
     const int at = FindDeckByName(QStringLiteral("Packed"));
@@ -119,9 +106,9 @@ struct Operation {
 
 const QList<Operation>& Operations() {
     static const QList<Operation> all = {
-        {"reading saved anew", {}, [] { PutRecord(ReadingsPath, CountReadings() + 1, Reading(QStringLiteral("New"))); }},
-        {"reading saved over", {}, [] { PutRecord(ReadingsPath, 2, Reading(QStringLiteral("Second"))); }},
-        {"diary entry saved over", {}, [] { PutRecord(DiaryPath, 1, Diary(QStringLiteral("Moonday"))); }},
+        {"reading saved anew", {}, [] { PutRecord(ReadingsPath, CountReadings() + 1, NamedReading(QStringLiteral("New"))); }},
+        {"reading saved over", {}, [] { PutRecord(ReadingsPath, 2, NamedReading(QStringLiteral("Second"))); }},
+        {"diary entry saved over", {}, [] { PutRecord(DiaryPath, 1, NamedDiary(QStringLiteral("Moonday"))); }},
         {"reading deleted", {}, [] { DeleteReading(QStringLiteral("Second")); }},
         {"diary entry deleted", {}, [] { DeleteDiary(QStringLiteral("Tuesday")); }},
         {"spread deleted", {}, [] { DeleteSpread(1); }},

@@ -47,6 +47,8 @@ void WritePicture(const QString& path, const QColor& colour) {
     SavePictureAsBmp(image, path);
 }
 
+QColor CardColour(int i, bool upright) { return QColor::fromHsv((i * 37) % 360, 200, upright ? 200 : 100); }
+
 Integer MakeDeck(const QString& name, int cardCount, bool withReversed) {
     DeckRecord deck;
     deck.IncludesReversed = Flag(withReversed);
@@ -73,11 +75,11 @@ Integer MakeDeck(const QString& name, int cardCount, bool withReversed) {
         card.CardKeywords[1] = QStringLiteral("reversed keywords %1").arg(i);
         upright = FreeCardPictureNumber(0, {CardsDir}, upright + 1);
         card.CardPicture[0] = CardUprightName(upright) + QStringLiteral(".bmp");
-        WritePicture(CardsDir + card.CardPicture[0].Trimmed(), QColor::fromHsv((i * 37) % 360, 200, 200));
+        WritePicture(CardsDir + card.CardPicture[0].Trimmed(), CardColour(i, true));
         if (withReversed) {
             reversed = FreeCardPictureNumber(1, {CardsDir}, reversed + 1);
             card.CardPicture[1] = CardReversedName(reversed) + QStringLiteral(".bmp");
-            WritePicture(CardsDir + card.CardPicture[1].Trimmed(), QColor::fromHsv((i * 37) % 360, 200, 100));
+            WritePicture(CardsDir + card.CardPicture[1].Trimmed(), CardColour(i, false));
         } else {
             card.CardPicture[1] = DefaultPictureName;
         }
@@ -116,6 +118,22 @@ Integer MakeSpread(const QString& name, int locationCount, const QList<Integer>&
     }
     AppendRecord(SpreadsPath, spread);
     return spread.SpreadId;
+}
+
+ReadingRecord NamedReading(const QString& name) {
+    ReadingRecord r;
+    ResetReading(r);
+    r.ReadingName = name;
+    r.SavedOn = 45000;
+    return r;
+}
+
+DiaryRecord NamedDiary(const QString& name) {
+    DiaryRecord r;
+    ResetDiary(r);
+    r.DiaryName = name;
+    r.SavedOn = 45000;
+    return r;
 }
 
 }  // namespace Fixtures

@@ -20,6 +20,9 @@ void UseProgramDir(const QString& dir);
 // Writes a small bitmap at path (a few pixels of one colour).
 void WritePicture(const QString& path, const QColor& colour = QColor(Qt::darkBlue));
 
+// The colour of the picture of card i on one side, as MakeDeck paints it.
+QColor CardColour(int i, bool upright);
+
 // Appends a saved deck of cardCount cards to Decks.dck and Cards.crd and
 // returns its DeckId (the smallest free one). Card i is titled "Card i", is
 // of type 0 ("Major Arcana") for i up to 22 and of type 1 ("Minor Arcana")
@@ -33,5 +36,10 @@ Integer MakeDeck(const QString& name, int cardCount, bool withReversed);
 // to the decks listed (at most 10), or to any deck with anyDeck.
 Integer MakeSpread(const QString& name, int locationCount, const QList<Integer>& allowedDeckIds = {},
                    bool anyDeck = false);
+
+// A reading and a diary entry of that name, blank otherwise, saved on one
+// fixed day.
+ReadingRecord NamedReading(const QString& name);
+DiaryRecord NamedDiary(const QString& name);
 
 }  // namespace Fixtures

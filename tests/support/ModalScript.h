@@ -3,9 +3,11 @@
 // the order they come up, each once.
 #include <QCoreApplication>
 #include <QEvent>
+#include <QTest>
 #include <QTimer>
 #include <deque>
 #include <functional>
+#include <vector>
 
 #include "platform/Form.h"
 
@@ -13,26 +15,57 @@ class ModalScript {
 public:
     ModalScript() {
         QObject::connect(&timer_, &QTimer::timeout, [this] {
-            if (steps_.empty() || !steps_.front().ready()) return;
-            Step step = std::move(steps_.front());
-            steps_.pop_front();
-            step.act();
+            if (!steps_.empty() && steps_.front().ready()) {
+                Step step = std::move(steps_.front());
+                steps_.pop_front();
+                step.act();
+                return;
+            }
+            for (const auto& refuse : refusals_)
+                if (refuse()) ++strays_;
         });
         timer_.start(2);
     }
+    // Acts on the next modal showing of T. Should a check inside act fail,
+    // the screen is closed so that the test fails rather than waits.
     template <class T>
     ModalScript& On(std::function<void(T&)> act) {
-        steps_.push_back({[] { return IsLoaded<T>() && Get<T>().ShownModal(); }, [act] { act(Get<T>()); }});
+        steps_.push_back({[] { return Shown<T>(); },
+                          [act] {
+                              act(Get<T>());
+                              if (QTest::currentTestFailed() && Shown<T>()) Get<T>().Unload();
+                          }});
         return *this;
     }
-    bool Done() const { return steps_.empty(); }
+    // A modal showing of T that no step awaits is closed and counted: the
+    // script is then not done.
+    template <class T>
+    ModalScript& Refuse() {
+        refusals_.push_back([] {
+            if (!Shown<T>()) return false;
+            Get<T>().Unload();
+            return true;
+        });
+        return *this;
+    }
+    bool Done() const { return steps_.empty() && strays_ == 0; }
+    // For helpers that cannot QVERIFY: fails the running test unless done.
+    void Require() const {
+        if (!Done()) QTest::qFail("a modal screen went otherwise than scripted", __FILE__, __LINE__);
+    }
 
 private:
+    template <class T>
+    static bool Shown() {
+        return IsLoaded<T>() && Get<T>().ShownModal();
+    }
     struct Step {
         std::function<bool()> ready;
         std::function<void()> act;
     };
     std::deque<Step> steps_;
+    std::vector<std::function<bool()>> refusals_;
+    int strays_ = 0;
     QTimer timer_;
 };
 
