@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "StarterSource.h"
+#include "shell/Emblems.h"
 
 namespace {
 
@@ -33,16 +34,6 @@ QFont FaceFont(int pixelSize, bool bold) {
     font.setBold(bold);
     font.setHintingPreference(QFont::PreferFullHinting);
     return font;
-}
-
-QPolygonF Star(QPointF centre, double outer, double inner, int points) {
-    QPolygonF star;
-    for (int i = 0; i < points * 2; ++i) {
-        const double r = (i % 2 == 0) ? outer : inner;
-        const double a = -M_PI / 2 + i * M_PI / points;
-        star << centre + QPointF(r * std::cos(a), r * std::sin(a));
-    }
-    return star;
 }
 
 // Every emblem is drawn in a box of 100 by 100 around the origin.

@@ -3,7 +3,7 @@
 // picture stays small inside the executable. It is drawn without smoothing:
 // three exact colours keep the file at 4 bits a pixel.
 //
-//   g++ -std=c++20 -fPIC tools/make_card_back.cpp $(pkg-config --cflags --libs Qt6Gui) -o /tmp/make_card_back
+//   g++ -std=c++20 -fPIC -Isrc tools/make_card_back.cpp $(pkg-config --cflags --libs Qt6Gui) -o /tmp/make_card_back
 //   /tmp/make_card_back resources/C000000.bmp
 #include <QGuiApplication>
 #include <QImage>
@@ -12,31 +12,13 @@
 #include <QPolygonF>
 #include <QtMath>
 #include <cstdio>
+#include "shell/Emblems.h"
 
 namespace {
 
 const QColor Night(28, 24, 72);
 const QColor Dusk(52, 40, 110);
 const QColor Gold(222, 184, 92);
-
-// A star of `points` rays around a centre.
-QPolygonF Star(QPointF centre, double outer, double inner, int points) {
-    QPolygonF star;
-    for (int i = 0; i < points * 2; ++i) {
-        const double r = (i % 2 == 0) ? outer : inner;
-        const double a = -M_PI / 2 + i * M_PI / points;
-        star << centre + QPointF(r * std::cos(a), r * std::sin(a));
-    }
-    return star;
-}
-
-// A crescent: a disc with a smaller disc taken out of one side.
-QPainterPath Crescent(QPointF centre, double r, double shift) {
-    QPainterPath disc, bite;
-    disc.addEllipse(centre, r, r);
-    bite.addEllipse(centre + QPointF(shift, 0), r * 0.85, r * 0.85);
-    return disc.subtracted(bite);
-}
 
 }  // namespace
 
@@ -73,8 +55,8 @@ int main(int argc, char** argv) {
     p.drawEllipse(centre, 3, 3);
 
     // Crescent moons above and below the star, facing each other.
-    p.drawPath(Crescent(QPointF(w / 2.0, 32), 10, 5));
-    p.drawPath(Crescent(QPointF(w / 2.0, h - 32), 10, -5));
+    p.drawPath(Crescent(QPointF(w / 2.0, 32), 10, QPointF(5, 0), 0.85));
+    p.drawPath(Crescent(QPointF(w / 2.0, h - 32), 10, QPointF(-5, 0), 0.85));
 
     // A small star in each corner.
     for (const QPointF c : {QPointF(20, 20), QPointF(w - 20, 20), QPointF(20, h - 20), QPointF(w - 20, h - 20)})

@@ -4,7 +4,7 @@
 // into the hicolor theme; the 64-pixel one is also the window icon carried as
 // a Qt resource.
 //
-//   g++ -std=c++20 -fPIC tools/make_icon.cpp $(pkg-config --cflags --libs Qt6Gui) -o /tmp/make_icon
+//   g++ -std=c++20 -fPIC -Isrc tools/make_icon.cpp $(pkg-config --cflags --libs Qt6Gui) -o /tmp/make_icon
 //   /tmp/make_icon desktop/icons resources/cartomar-icon.png
 #include <QDir>
 #include <QGuiApplication>
@@ -16,6 +16,7 @@
 #include <QRadialGradient>
 #include <QtMath>
 #include <cstdio>
+#include "shell/Emblems.h"
 
 namespace {
 
@@ -23,23 +24,6 @@ const QColor Night(22, 18, 58);
 const QColor Dusk(58, 44, 120);
 const QColor Gold(222, 184, 92);
 const QColor PaleGold(246, 230, 184);
-
-QPolygonF Star(QPointF centre, double outer, double inner, int points) {
-    QPolygonF star;
-    for (int i = 0; i < points * 2; ++i) {
-        const double r = (i % 2 == 0) ? outer : inner;
-        const double a = -M_PI / 2 + i * M_PI / points;
-        star << centre + QPointF(r * std::cos(a), r * std::sin(a));
-    }
-    return star;
-}
-
-QPainterPath Crescent(QPointF centre, double r, QPointF shift) {
-    QPainterPath disc, bite;
-    disc.addEllipse(centre, r, r);
-    bite.addEllipse(centre + shift, r * 0.82, r * 0.82);
-    return disc.subtracted(bite);
-}
 
 // Draws on a 256-unit square; `detail` drops the fine lines at small sizes,
 // where they would only blur.
@@ -91,7 +75,7 @@ QImage Icon(int size) {
     }
     p.setPen(Qt::NoPen);
     p.setBrush(Gold);
-    p.drawPath(Crescent(QPointF(0, -30), 30, QPointF(13, -7)));
+    p.drawPath(Crescent(QPointF(0, -30), 30, QPointF(13, -7), 0.82));
     p.drawPolygon(Star(QPointF(2, 40), 26, 10, 8));
     if (detail) {
         for (const QPointF c : {QPointF(-30, 10), QPointF(32, 4), QPointF(-26, 66), QPointF(30, 70)})

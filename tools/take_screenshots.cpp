@@ -60,6 +60,7 @@
 #include "store/Startup.h"
 #include "store/mdlSubRoutines.h"
 #include "store/mdlVariables.h"
+#include "shell/Emblems.h"
 
 namespace {
 
@@ -110,16 +111,6 @@ const SampleCard MinorArcana[] = {
 const char* const Numerals[] = {"0",    "I",   "II", "III",  "IV", "V",     "VI",    "VII",
                                 "VIII", "IX",  "X",  "XI",   "XII", "XIII", "XIV",   "XV",
                                 "XVI",  "XVII", "XVIII", "XIX", "XX", "XXI"};
-
-QPolygonF Star(QPointF centre, double outer, double inner, int points) {
-    QPolygonF star;
-    for (int i = 0; i < points * 2; ++i) {
-        const double r = (i % 2 == 0) ? outer : inner;
-        const double a = -M_PI / 2 + i * M_PI / points;
-        star << centre + QPointF(r * std::cos(a), r * std::sin(a));
-    }
-    return star;
-}
 
 // The face of a sample card: a coloured field in a golden border, the
 // numeral above, a sign in the middle and the title below.

@@ -46,52 +46,39 @@ bool CommonDialog::Finish(bool chosen, const QString& path) {
     return true;
 }
 
-bool CommonDialog::ShowOpen() {
-    Script& s = TheScript();
-    if (s.enabled) {
-        s.history.append({DialogTitle, Filter, FilterIndex, FileName, false});
-        const QString answer = s.answers.isEmpty() ? QString() : s.answers.takeFirst();
-        return Finish(!answer.isEmpty(), answer);
-    }
-    QPointer<QFileDialog> owned = new QFileDialog(QApplication::activeWindow(), DialogTitle);
-    QFileDialog& dialog = *owned;
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    const QStringList filters = QtFilters(Filter);
-    dialog.setNameFilters(filters);
-    if (FilterIndex >= 1 && FilterIndex <= filters.size()) dialog.selectNameFilter(filters[FilterIndex - 1]);
-    if (!FileName.isEmpty()) dialog.selectFile(FileName);
-    // A screen that goes while the dialogue waits takes it along: nothing
-    // was chosen.
-    const bool accepted = dialog.exec() == QDialog::Accepted;
-    if (!owned) return Finish(false, QString());
-    const bool chosen = accepted && !dialog.selectedFiles().isEmpty();
-    const QString path = chosen ? dialog.selectedFiles().first() : QString();
-    delete owned;
-    return Finish(chosen, path);
-}
+bool CommonDialog::ShowOpen() { return Show(false); }
 
-bool CommonDialog::ShowSave() {
+bool CommonDialog::ShowSave() { return Show(true); }
+
+bool CommonDialog::Show(bool saving) {
     Script& s = TheScript();
     if (s.enabled) {
-        s.history.append({DialogTitle, Filter, FilterIndex, FileName, true});
+        s.history.append({DialogTitle, Filter, FilterIndex, FileName, saving});
         const QString answer = s.answers.isEmpty() ? QString() : s.answers.takeFirst();
         return Finish(!answer.isEmpty(), answer);
     }
     QPointer<QFileDialog> owned = new QFileDialog(QApplication::activeWindow(), DialogTitle);
     QFileDialog& dialog = *owned;
     dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    if (!(Flags & cdlOFNOverwritePrompt)) dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    if (saving) {
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setFileMode(QFileDialog::AnyFile);
+        if (!(Flags & cdlOFNOverwritePrompt)) dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    } else {
+        dialog.setFileMode(QFileDialog::ExistingFile);
+        dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    }
     const QStringList filters = QtFilters(Filter);
     dialog.setNameFilters(filters);
     if (FilterIndex >= 1 && FilterIndex <= filters.size()) dialog.selectNameFilter(filters[FilterIndex - 1]);
     if (!FileName.isEmpty()) {
-        const QFileInfo proposed(FileName);
-        dialog.setDirectory(proposed.absolutePath());
-        dialog.selectFile(proposed.fileName());
+        if (saving) {
+            const QFileInfo proposed(FileName);
+            dialog.setDirectory(proposed.absolutePath());
+            dialog.selectFile(proposed.fileName());
+        } else {
+            dialog.selectFile(FileName);
+        }
     }
     // A screen that goes while the dialogue waits takes it along: nothing
     // was chosen.

@@ -30,6 +30,7 @@ public:
     static constexpr int cdlOFNPathMustExist = 2048;
 
 private:
+    bool Show(bool saving);
     bool Finish(bool chosen, const QString& path);
 };
 

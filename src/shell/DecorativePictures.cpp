@@ -7,6 +7,7 @@
 #include <QPolygonF>
 #include <QRadialGradient>
 #include <QtMath>
+#include "shell/Emblems.h"
 
 namespace {
 
@@ -35,16 +36,6 @@ public:
 private:
     quint32 seed_;
 };
-
-QPolygonF Star(QPointF centre, double outer, double inner, int points) {
-    QPolygonF star;
-    for (int i = 0; i < points * 2; ++i) {
-        const double r = (i % 2 == 0) ? outer : inner;
-        const double a = -M_PI / 2 + i * M_PI / points;
-        star << centre + QPointF(r * std::cos(a), r * std::sin(a));
-    }
-    return star;
-}
 
 // The lit part of the moon at a phase from 0 (new) through 0.5 (full) to 1,
 // lit from the right while waxing.

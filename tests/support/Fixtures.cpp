@@ -6,6 +6,7 @@
 #include "platform/OleDate.h"
 #include "platform/Picture.h"
 #include "store/RecordFile.h"
+#include "store/Startup.h"
 #include "store/mdlSubRoutines.h"
 #include "store/mdlVariables.h"
 
@@ -19,21 +20,7 @@ void MakeEmptyFile(const QString& path) { WriteWholeFile(path, QByteArray()); }
 
 void UseProgramDir(const QString& dir) {
     ResetRunState();
-    AppPath = AddTrailingBackslash(dir);
-    SettingsPath = AppPath + QStringLiteral("Settings.dat");
-    SpreadsPath = AppPath + QStringLiteral("Spreads.spr");
-    LocationsPath = AppPath + QStringLiteral("Location.loc");
-    DecksPath = AppPath + QStringLiteral("Decks.dck");
-    CardsDir = AppPath + QStringLiteral("Cards/");
-    PackagesDir = AppPath + QStringLiteral("Packages/");
-    AttachmentsDir = PackagesDir + QStringLiteral("Attachments/");
-    CardsPath = AppPath + QStringLiteral("Cards.crd");
-    ReadingsPath = AppPath + QStringLiteral("Readings.red");
-    DiaryPath = AppPath + QStringLiteral("Diary.dry");
-    DefaultPicturePath = CardsDir + DefaultPictureName;
-    TempDir = AppPath + QStringLiteral("Temp/");
-    TempFilePath = TempDir + QStringLiteral("temp.tmp");
-    TempCardsPath = TempDir + QStringLiteral("Cards.crd");
+    FormPaths(dir);
 
     for (const QString& folder : {CardsDir, PackagesDir, AttachmentsDir, TempDir}) MkDirIgnoringErrors(folder);
     for (const QString& file : {ReadingsPath, DiaryPath, SpreadsPath, DecksPath, CardsPath, LocationsPath})
