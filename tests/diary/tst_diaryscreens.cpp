@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include "shell/ClickLabel.h"
@@ -22,22 +21,15 @@ const QString SelectRow = QStringLiteral(" [Select]");
 
 }  // namespace
 
-class TestDiaryScreens : public QObject {
+class TestDiaryScreens : public QObject, ScreenRun {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> dir_;
-    QTemporaryDir frameDir_;
     Integer deckId_ = 0;
 
 private slots:
-    void initTestCase() {
-        MsgBoxScript::Enable();
-        MediaPlayerScript::Enable();
-        StandUpFrame(frameDir_.path());
-    }
+    void initTestCase() { StandUp(); }
 
     void init() {
-        dir_ = std::make_unique<QTemporaryDir>();
-        FreshDiaryRun(dir_->path());
+        FreshDiaryRun(NewDir());
         deckId_ = Fixtures::MakeDeck(QStringLiteral("Tarot"), DeckSize, true);
         Fixtures::MakeSpread(QStringLiteral("Four"), Locations, {deckId_});
     }

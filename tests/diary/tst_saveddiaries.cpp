@@ -4,7 +4,6 @@
 // another entry's name overwrites it in place.
 #include <QLabel>
 #include <QLineEdit>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include "platform/FileSys.h"
@@ -29,10 +28,8 @@ const QString TooManyRemoved = QStringLiteral(
 
 }  // namespace
 
-class TestSavedDiaries : public QObject {
+class TestSavedDiaries : public QObject, ScreenRun {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> dir_;
-    QTemporaryDir frameDir_;
     Integer deckId_ = 0;
     Integer spreadId_ = 0;
 
@@ -75,15 +72,10 @@ class TestSavedDiaries : public QObject {
     }
 
 private slots:
-    void initTestCase() {
-        MsgBoxScript::Enable();
-        MediaPlayerScript::Enable();
-        StandUpFrame(frameDir_.path());
-    }
+    void initTestCase() { StandUp(); }
 
     void init() {
-        dir_ = std::make_unique<QTemporaryDir>();
-        FreshDiaryRun(dir_->path());
+        FreshDiaryRun(NewDir());
         deckId_ = Fixtures::MakeDeck(QStringLiteral("Tarot"), 22, false);
         spreadId_ = Fixtures::MakeSpread(QStringLiteral("Big"), Locations, {deckId_});
     }

@@ -49,16 +49,13 @@ void GiveSounds(const QString& cardsPath, Integer deckId) {
 
 }  // namespace
 
-class TestPackages : public QObject {
+class TestPackages : public QObject, ScreenRun {
     Q_OBJECT
-    QTemporaryDir frameDir_;
 
 private slots:
     void initTestCase() {
-        MsgBoxScript::Enable();
-        MediaPlayerScript::Enable();
         CommonDialogScript::Enable();
-        StandUpFrame(frameDir_.path());
+        StandUp();
     }
 
     void init() {

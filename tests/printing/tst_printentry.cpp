@@ -8,7 +8,6 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include "platform/OleDate.h"
@@ -85,10 +84,8 @@ bool InOrder(const QString& text, const QStringList& parts) {
 
 }  // namespace
 
-class TestPrintEntry : public QObject {
+class TestPrintEntry : public QObject, ScreenRun {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> dir_;
-    QTemporaryDir frameDir_;
 
     void MakeDesigns(int locations) {
         const Integer deckId = Fixtures::MakeDeck(QStringLiteral("Tarot"), 30, true);
@@ -137,20 +134,17 @@ class TestPrintEntry : public QObject {
 
     QString OutputDir() const {
         const QString kept = qEnvironmentVariable("CARTOMAR_PRINTOUT_DIR");
-        return kept.isEmpty() ? dir_->path() : kept;
+        return kept.isEmpty() ? RunDir() : kept;
     }
 
 private slots:
     void initTestCase() {
-        MsgBoxScript::Enable();
-        MediaPlayerScript::Enable();
         PrinterDialogScript::Enable();
-        StandUpFrame(frameDir_.path());
+        StandUp();
     }
 
     void init() {
-        dir_ = std::make_unique<QTemporaryDir>();
-        FreshRun(dir_->path());
+        FreshRun(NewDir());
         PrinterDialogScript::Clear();
         PrintActive = false;
         MakeDesigns(Locations);
@@ -323,8 +317,8 @@ private slots:
 
         // A diary entry of five locations, with notes.
         CloseAll();
-        QDir(dir_->path()).mkpath(QStringLiteral("diary"));
-        FreshRun(dir_->path() + QStringLiteral("/diary"));
+        QDir(RunDir()).mkpath(QStringLiteral("diary"));
+        FreshRun(RunDir() + QStringLiteral("/diary"));
         MakeDesigns(5);
         // Kept through the diary's own screens: the cards chosen location by
         // location, the notes typed, Print pressed.

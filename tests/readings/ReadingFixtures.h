@@ -4,7 +4,9 @@
 #include <QCheckBox>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <functional>
+#include <memory>
 
 #include "platform/MediaPlayer.h"
 #include "platform/Palette.h"
@@ -57,6 +59,26 @@ inline void StandUpFrame(const QString& frameDir) {
     MDIMainForm::SetProgramDirectory(frameDir);
     Get<MDIMainForm>();
 }
+
+// What every test case of the screens holds: the frame, stood up once with
+// boxes and sounds scripted, and a program directory of its own per test.
+class ScreenRun {
+protected:
+    void StandUp() {
+        MsgBoxScript::Enable();
+        MediaPlayerScript::Enable();
+        StandUpFrame(frameDir_.path());
+    }
+    QString NewDir() {
+        dir_ = std::make_unique<QTemporaryDir>();
+        return dir_->path();
+    }
+    QString RunDir() const { return dir_->path(); }
+
+private:
+    QTemporaryDir frameDir_;
+    std::unique_ptr<QTemporaryDir> dir_;
+};
 
 // Twips read back from a screen's place are whole pixels.
 inline bool Near(int a, int b) { return qAbs(a - b) < 15; }

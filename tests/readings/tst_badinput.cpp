@@ -5,7 +5,6 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include "diary/frmSaveDiary.h"
@@ -29,22 +28,15 @@ void PasteInto(QLineEdit* box, const QString& text) {
 
 }  // namespace
 
-class TestReadingBadInput : public QObject {
+class TestReadingBadInput : public QObject, ScreenRun {
     Q_OBJECT
-    QTemporaryDir frameDir_;
-    std::unique_ptr<QTemporaryDir> dir_;
     int tried_ = 0;
 
 private slots:
-    void initTestCase() {
-        MsgBoxScript::Enable();
-        MediaPlayerScript::Enable();
-        StandUpFrame(frameDir_.path());
-    }
+    void initTestCase() { StandUp(); }
 
     void init() {
-        dir_ = std::make_unique<QTemporaryDir>();
-        FreshRun(dir_->path());
+        FreshRun(NewDir());
         const Integer deck = Fixtures::MakeDeck(QStringLiteral("Tarot"), 22, false);
         Fixtures::MakeSpread(QStringLiteral("Cross"), 3, {deck});
     }

@@ -5,7 +5,6 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QRadioButton>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include "platform/OleDate.h"
@@ -42,23 +41,16 @@ QList<Shown> ShownCards(frmNewReading& reading, int count) {
 
 }  // namespace
 
-class TestReadingScreens : public QObject {
+class TestReadingScreens : public QObject, ScreenRun {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> dir_;
-    QTemporaryDir frameDir_;
     Integer deckId_ = 0;
     Integer spreadId_ = 0;
 
 private slots:
-    void initTestCase() {
-        MsgBoxScript::Enable();
-        MediaPlayerScript::Enable();
-        StandUpFrame(frameDir_.path());
-    }
+    void initTestCase() { StandUp(); }
 
     void init() {
-        dir_ = std::make_unique<QTemporaryDir>();
-        FreshRun(dir_->path());
+        FreshRun(NewDir());
         deckId_ = Fixtures::MakeDeck(QStringLiteral("Tarot"), DeckSize, true);
         spreadId_ = Fixtures::MakeSpread(QStringLiteral("Cross"), Locations, {deckId_});
         ChangeRecord<SpreadRecord>(SpreadsPath, 1, [](SpreadRecord& s) { s.AskQuestion = True16; });

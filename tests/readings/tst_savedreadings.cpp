@@ -3,7 +3,6 @@
 // nothing is written.
 #include <QLabel>
 #include <QLineEdit>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include "platform/FileSys.h"
@@ -30,10 +29,8 @@ const QString DeckChanged = QStringLiteral(
 
 }  // namespace
 
-class TestSavedReadings : public QObject {
+class TestSavedReadings : public QObject, ScreenRun {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> dir_;
-    QTemporaryDir frameDir_;
     Integer deckId_ = 0;
     Integer spreadId_ = 0;
 
@@ -77,16 +74,11 @@ class TestSavedReadings : public QObject {
     }
 
 private slots:
-    void initTestCase() {
-        MsgBoxScript::Enable();
-        MediaPlayerScript::Enable();
-        StandUpFrame(frameDir_.path());
-    }
+    void initTestCase() { StandUp(); }
 
     void init() {
-        dir_ = std::make_unique<QTemporaryDir>();
         UnloadScreen<frmOpenReading>();
-        FreshRun(dir_->path());
+        FreshRun(NewDir());
         deckId_ = Fixtures::MakeDeck(QStringLiteral("Tarot"), 22, false);
         spreadId_ = Fixtures::MakeSpread(QStringLiteral("Big"), 20, {deckId_});
     }

@@ -2,7 +2,6 @@
 // out here from the generator's formula, the reversal rule, the geometry, and
 // the animation (it yields, restores the homes of nested runs, stops when told
 // and when its table goes).
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include "shell/ClickLabel.h"
@@ -51,10 +50,8 @@ Expected HandShuffle(QList<Integer> list, std::uint32_t seed, bool useReversed) 
 
 }  // namespace
 
-class TestShuffle : public QObject {
+class TestShuffle : public QObject, ScreenRun {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> dir_;
-    QTemporaryDir frameDir_;
 
     // A reading on the spread page of a 12-location spread with a deck of
     // `cards` cards whose types alternate, so that grouping by type shows.
@@ -71,15 +68,10 @@ class TestShuffle : public QObject {
     }
 
 private slots:
-    void initTestCase() {
-        MsgBoxScript::Enable();
-        MediaPlayerScript::Enable();
-        StandUpFrame(frameDir_.path());
-    }
+    void initTestCase() { StandUp(); }
 
     void init() {
-        dir_ = std::make_unique<QTemporaryDir>();
-        FreshRun(dir_->path());
+        FreshRun(NewDir());
     }
 
     void cleanup() {
