@@ -10,7 +10,6 @@
 #include "shell/ClickLabel.h"
 #include "store/frmGetPassword.h"
 #include "DiaryFixtures.h"
-#include "support/Prompts.h"
 
 using namespace DiaryFixtures;
 
@@ -35,39 +34,16 @@ class TestSavedDiaries : public QObject, ScreenRun {
 
     // An entry of the 20-location spread with card i in location i.
     DiaryRecord SavedDiary(const QString& name, double savedOn, int highCardAt = 0, Integer highCard = 0) {
-        DiaryRecord d;
-        ResetDiary(d);
-        d.DiaryName = name;
-        d.ReadingDeckId = deckId_;
-        d.ReadingDeckRevision = 1;
-        d.ReadingSpreadId = spreadId_;
-        d.ReadingSpreadRevision = 1;
-        for (int i = 1; i <= Locations; ++i) d.DealtCard[std::size_t(i - 1)] = Integer(i);
-        if (highCardAt > 0) d.DealtCard[std::size_t(highCardAt - 1)] = highCard;
-        d.DiaryChoice = 7;
-        d.CardTypeSelected = {True16, True16, False16, False16};
-        d.SavedOn = savedOn;
-        AppendRecord(DiaryPath, d);
-        return d;
+        const auto own = [&](DiaryRecord& d) {
+            d.DiaryName = name;
+            d.DiaryChoice = 7;
+            d.SavedOn = savedOn;
+        };
+        return SaveEntry<DiaryRecord>(DiaryPath, deckId_, spreadId_, Locations, own, highCardAt, highCard);
     }
-
-    frmOpenDiary& TryOpen(int row = 0) {
-        Get<frmNewDiary>();
-        frmOpenDiary& open = Get<frmOpenDiary>();
-        open.lstEntries->setCurrentRow(row);
-        open.cmdOpen_Click();
-        return open;
-    }
-
-    void ExpectRefusal(const QString& message) {
-        const QByteArray file = ReadWholeFile(DiaryPath);
-        const DiaryRecord before = CurrentDiary;
-        frmOpenDiary& open = TryOpen();
-        QCOMPARE(Prompts(), QStringList{message});
-        QVERIFY(IsLoaded<frmOpenDiary>());
-        QVERIFY(open.cmdOpen->isEnabled());
-        QCOMPARE(ReadWholeFile(DiaryPath), file);
-        QCOMPARE(EncodeRecord(CurrentDiary), EncodeRecord(before));
+    static frmOpenDiary& TryOpen() { return ReadingFixtures::TryOpen<frmNewDiary, frmOpenDiary>(); }
+    static void ExpectRefusal(const QString& message) {
+        ExpectRefusalOf<frmNewDiary, frmOpenDiary>(DiaryPath, CurrentDiary, message);
         QVERIFY(Get<frmNewDiary>().OpeningDiary == false);
     }
 

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <functional>
 #include <memory>
+#include <type_traits>
 
 #include "platform/MediaPlayer.h"
 #include "platform/Palette.h"
@@ -24,6 +25,7 @@
 #include "store/mdlVariables.h"
 #include "support/Fixtures.h"
 #include "support/ModalScript.h"
+#include "support/Prompts.h"
 
 namespace ReadingFixtures {
 
@@ -79,6 +81,52 @@ private:
     QTemporaryDir frameDir_;
     std::unique_ptr<QTemporaryDir> dir_;
 };
+
+// A saved entry, reading or diary, made with the deck and spread given, card i
+// in location i of the first locations, highCard at highCardAt if any, and
+// what own sets.
+template <class R>
+R SaveEntry(const QString& path, Integer deckId, Integer spreadId, int locations,
+            const std::function<void(R&)>& own, int highCardAt, Integer highCard) {
+    R r;
+    if constexpr (std::is_same_v<R, ReadingRecord>) ResetReading(r);
+    else ResetDiary(r);
+    r.ReadingDeckId = deckId;
+    r.ReadingDeckRevision = 1;
+    r.ReadingSpreadId = spreadId;
+    r.ReadingSpreadRevision = 1;
+    for (int i = 1; i <= locations; ++i) r.DealtCard[std::size_t(i - 1)] = Integer(i);
+    if (highCardAt > 0) r.DealtCard[std::size_t(highCardAt - 1)] = highCard;
+    r.CardTypeSelected = {True16, True16, False16, False16};
+    own(r);
+    AppendRecord(path, r);
+    return r;
+}
+
+// Opens the given row on a fresh open screen O over the entry screen E; the
+// open screen stays up for checks.
+template <class E, class O>
+O& TryOpen(int row = 0) {
+    Get<E>();
+    O& open = Get<O>();
+    open.lstEntries->setCurrentRow(row);
+    open.cmdOpen_Click();
+    return open;
+}
+
+// Opening row 0 is refused with that one message: the open screen stays with
+// Open on, the entry file and the entry in memory are as they were.
+template <class E, class O, class R>
+void ExpectRefusalOf(const QString& path, const R& current, const QString& message) {
+    const QByteArray file = ReadWholeFile(path);
+    const R before = current;
+    O& open = TryOpen<E, O>();
+    QCOMPARE(Prompts(), QStringList{message});
+    QVERIFY(IsLoaded<O>());
+    QVERIFY(open.cmdOpen->isEnabled());
+    QCOMPARE(ReadWholeFile(path), file);
+    QCOMPARE(EncodeRecord(current), EncodeRecord(before));
+}
 
 // Twips read back from a screen's place are whole pixels.
 inline bool Near(int a, int b) { return qAbs(a - b) < 15; }

@@ -9,7 +9,6 @@
 #include "readings/frmSaveReading.h"
 #include "store/frmGetPassword.h"
 #include "ReadingFixtures.h"
-#include "support/Prompts.h"
 
 using namespace ReadingFixtures;
 
@@ -36,40 +35,16 @@ class TestSavedReadings : public QObject, ScreenRun {
 
     // A complete reading of the 20-location spread, saved as "Saved".
     ReadingRecord SavedReading(int highCardAt = 0, Integer highCard = 0) {
-        ReadingRecord r;
-        ResetReading(r);
-        r.ReadingName = QStringLiteral("Saved");
-        r.ReadingDeckId = deckId_;
-        r.ReadingDeckRevision = 1;
-        r.ReadingSpreadId = spreadId_;
-        r.ReadingSpreadRevision = 1;
-        r.DealtCount = 20;
-        for (int i = 1; i <= 20; ++i) r.DealtCard[std::size_t(i - 1)] = Integer(i);
-        if (highCardAt > 0) r.DealtCard[std::size_t(highCardAt - 1)] = highCard;
-        r.CardTypeSelected = {True16, True16, False16, False16};
-        r.SavedOn = 46000;
-        AppendRecord(ReadingsPath, r);
-        return r;
+        const auto own = [](ReadingRecord& r) {
+            r.ReadingName = QStringLiteral("Saved");
+            r.DealtCount = 20;
+            r.SavedOn = 46000;
+        };
+        return SaveEntry<ReadingRecord>(ReadingsPath, deckId_, spreadId_, 20, own, highCardAt, highCard);
     }
-
-    // Opens row 0 of a fresh open screen; the screen stays up for checks.
-    frmOpenReading& TryOpen() {
-        Get<frmNewReading>();
-        frmOpenReading& open = Get<frmOpenReading>();
-        open.lstEntries->setCurrentRow(0);
-        open.cmdOpen_Click();
-        return open;
-    }
-
-    void ExpectRefusal(const QString& message) {
-        const QByteArray file = ReadWholeFile(ReadingsPath);
-        const ReadingRecord before = CurrentReading;
-        frmOpenReading& open = TryOpen();
-        QCOMPARE(Prompts(), QStringList{message});
-        QVERIFY(IsLoaded<frmOpenReading>());
-        QVERIFY(open.cmdOpen->isEnabled());
-        QCOMPARE(ReadWholeFile(ReadingsPath), file);
-        QCOMPARE(EncodeRecord(CurrentReading), EncodeRecord(before));
+    static frmOpenReading& TryOpen() { return ReadingFixtures::TryOpen<frmNewReading, frmOpenReading>(); }
+    static void ExpectRefusal(const QString& message) {
+        ExpectRefusalOf<frmNewReading, frmOpenReading>(ReadingsPath, CurrentReading, message);
         QVERIFY(!IsLoaded<frmReadingCards>());
     }
 
