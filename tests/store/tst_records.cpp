@@ -70,6 +70,24 @@ private:
     QList<std::pair<int, QByteArray>> checks_;
 };
 
+// Readings and diary entries share the fields up to offset 350.
+template <class R>
+void EntryHead(Filler& f, R& r, FixedText<50>& name) {
+    f.Int(0, r.IssueAsked);
+    f.Date(2, r.SavedOn);
+    f.Text(10, name);
+    f.Text(60, r.Issue);
+    f.Int(185, r.ReadingSpreadId);
+    f.Int(187, r.ReadingSpreadRevision);
+    f.Int(189, r.ReadingDeckId);
+    f.Int(191, r.ReadingDeckRevision);
+    f.Ints(193, r.DealtCard);
+    f.Ints(257, r.DealtUpright);
+    f.Int(321, r.EntryLocked);
+    f.Text(323, r.EntryPassword);
+    f.Int(348, r.SaveCount);
+}
+
 template <class R>
 void RoundTrip(const R& original, const Filler& f, const QString& path) {
     const QByteArray bytes = EncodeRecord(original);
@@ -178,19 +196,7 @@ private slots:
     void readingRecordLayout() {
         ReadingRecord r;
         Filler f;
-        f.Int(0, r.IssueAsked);
-        f.Date(2, r.SavedOn);
-        f.Text(10, r.ReadingName);
-        f.Text(60, r.Issue);
-        f.Int(185, r.ReadingSpreadId);
-        f.Int(187, r.ReadingSpreadRevision);
-        f.Int(189, r.ReadingDeckId);
-        f.Int(191, r.ReadingDeckRevision);
-        f.Ints(193, r.DealtCard);
-        f.Ints(257, r.DealtUpright);
-        f.Int(321, r.EntryLocked);
-        f.Text(323, r.EntryPassword);
-        f.Int(348, r.SaveCount);
+        EntryHead(f, r, r.ReadingName);
         f.Text(350, r.ReadingNotes);
         f.Int(2850, r.DealtCount);
         f.Ints(2852, r.TableCardVisible);
@@ -206,19 +212,7 @@ private slots:
     void diaryRecordLayout() {
         DiaryRecord r;
         Filler f;
-        f.Int(0, r.IssueAsked);
-        f.Date(2, r.SavedOn);
-        f.Text(10, r.DiaryName);
-        f.Text(60, r.Issue);
-        f.Int(185, r.ReadingSpreadId);
-        f.Int(187, r.ReadingSpreadRevision);
-        f.Int(189, r.ReadingDeckId);
-        f.Int(191, r.ReadingDeckRevision);
-        f.Ints(193, r.DealtCard);
-        f.Ints(257, r.DealtUpright);
-        f.Int(321, r.EntryLocked);
-        f.Text(323, r.EntryPassword);
-        f.Int(348, r.SaveCount);
+        EntryHead(f, r, r.DiaryName);
         f.Int(350, r.DiaryChoice);
         f.Text(352, r.DiaryNotes);
         f.Ints(2852, r.CardTypeSelected);
