@@ -55,9 +55,8 @@ const StarterSpread* SpreadNamed(const StarterDesigns& designs, const QString& n
 
 }  // namespace
 
-class tst_starter : public QObject {
+class tst_starter : public QObject, ScreenRun {
     Q_OBJECT
-    QTemporaryDir frameDir_;
 
 private slots:
     void initTestCase();
@@ -69,10 +68,8 @@ private slots:
 };
 
 void tst_starter::initTestCase() {
-    MsgBoxScript::Enable();
-    MediaPlayerScript::Enable();
     CommonDialogScript::Enable();
-    StandUpFrame(frameDir_.path());
+    StandUp();
 }
 
 void tst_starter::sourcesMakeAFullDeckAndTheClassicSpreads() {

@@ -52,16 +52,6 @@ void ChangeRecord(const QString& path, int n, const std::function<void(R&)>& cha
     PutRecord(path, n, r);
 }
 
-// Stands the frame up once, on a folder of its own, so that the screens live
-// in its area as they do in the program; each test then points the run at a
-// program directory of its own.
-inline void StandUpFrame(const QString& frameDir) {
-    WriteWholeFile(frameDir + QStringLiteral("/Location.loc"), QByteArray());
-    WriteWholeFile(frameDir + QStringLiteral("/Decks.dck"), QByteArray(DeckRecord::Length, '\0'));
-    MDIMainForm::SetProgramDirectory(frameDir);
-    Get<MDIMainForm>();
-}
-
 // What every test case of the screens holds: the frame, stood up once with
 // boxes and sounds scripted, and a program directory of its own per test.
 class ScreenRun {
@@ -69,7 +59,7 @@ protected:
     void StandUp() {
         MsgBoxScript::Enable();
         MediaPlayerScript::Enable();
-        StandUpFrame(frameDir_.path());
+        Fixtures::StandUpFrame(frameDir_.path());
     }
     QString NewDir() {
         dir_ = std::make_unique<QTemporaryDir>();

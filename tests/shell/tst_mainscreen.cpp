@@ -23,7 +23,7 @@
 #include "shell/frmMainScreen.h"
 #include "shell/frmQuickHelp.h"
 #include "store/Startup.h"
-#include "store/mdlTypes.h"
+#include "support/Fixtures.h"
 #include "store/mdlVariables.h"
 #include "support/ModalScript.h"
 #include "support/Prompts.h"
@@ -48,11 +48,7 @@ private slots:
     void initTestCase() {
         MsgBoxScript::Enable();
         SetEndProcessHook([](int code) { gEnds.append(code); });
-        // A present-format database with one deck: no conversion, no offer.
-        WriteWholeFile(dir_.path() + QStringLiteral("/Location.loc"), QByteArray());
-        WriteWholeFile(dir_.path() + QStringLiteral("/Decks.dck"), QByteArray(DeckRecord::Length, '\0'));
-        MDIMainForm::SetProgramDirectory(dir_.path());
-        Get<MDIMainForm>();
+        Fixtures::StandUpFrame(dir_.path());
         main_ = &Get<frmMainScreen>();
     }
 

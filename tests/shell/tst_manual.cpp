@@ -18,11 +18,10 @@
 
 #include "platform/FileSys.h"
 #include "platform/MsgBox.h"
-#include "shell/MDIMainForm.h"
 #include "shell/frmHelpViewer.h"
 #include "shell/frmMainScreen.h"
 #include "store/Startup.h"
-#include "store/mdlTypes.h"
+#include "support/Fixtures.h"
 
 namespace {
 
@@ -58,9 +57,6 @@ private slots:
     void initTestCase() {
         MsgBoxScript::Enable();
         SetEndProcessHook([](int) {});
-        // A present-format database with one deck: no conversion, no offer.
-        WriteWholeFile(dir_.path() + QStringLiteral("/Location.loc"), QByteArray());
-        WriteWholeFile(dir_.path() + QStringLiteral("/Decks.dck"), QByteArray(DeckRecord::Length, '\0'));
         // Laid out as the build lays the program folder.
         const QDir help(SourceHelpFolder());
         QVERIFY(QFile::copy(help.filePath(QStringLiteral("Cartomar.hlp")), dir_.filePath(QStringLiteral("Cartomar.hlp"))));
@@ -70,8 +66,7 @@ private slots:
         for (const QString& png : pictures)
             QVERIFY(QFile::copy(help.filePath(QStringLiteral("images/") + png),
                                 dir_.filePath(QStringLiteral("Help/images/") + png)));
-        MDIMainForm::SetProgramDirectory(dir_.path());
-        Get<MDIMainForm>();
+        Fixtures::StandUpFrame(dir_.path());
     }
 
     void helpShowsTheManualWithItsPictures() {

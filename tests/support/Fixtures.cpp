@@ -5,6 +5,7 @@
 #include "platform/FileSys.h"
 #include "platform/OleDate.h"
 #include "platform/Picture.h"
+#include "shell/MDIMainForm.h"
 #include "store/RecordFile.h"
 #include "store/Startup.h"
 #include "store/mdlSubRoutines.h"
@@ -17,6 +18,13 @@ namespace {
 void MakeEmptyFile(const QString& path) { WriteWholeFile(path, QByteArray()); }
 
 }  // namespace
+
+void StandUpFrame(const QString& dir) {
+    WriteWholeFile(dir + QStringLiteral("/Location.loc"), QByteArray());
+    WriteWholeFile(dir + QStringLiteral("/Decks.dck"), QByteArray(DeckRecord::Length, '\0'));
+    MDIMainForm::SetProgramDirectory(dir);
+    Get<MDIMainForm>();
+}
 
 void UseProgramDir(const QString& dir) {
     ResetRunState();

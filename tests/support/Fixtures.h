@@ -17,6 +17,12 @@ namespace Fixtures {
 // Cards/ with the default picture, Temp/, Packages/ and Packages/Attachments/.
 void UseProgramDir(const QString& dir);
 
+// Stands the frame up on dir, a present-format database with one deck (no
+// conversion, no offer to install), so that the screens live in its area as
+// they do in the program; screen tests then point each run at a program
+// directory of its own.
+void StandUpFrame(const QString& dir);
+
 // Writes a small bitmap at path (a few pixels of one colour).
 void WritePicture(const QString& path, const QColor& colour = QColor(Qt::darkBlue));
 
