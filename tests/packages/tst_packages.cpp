@@ -47,6 +47,11 @@ void GiveSounds(const QString& cardsPath, Integer deckId) {
         });
 }
 
+// One member of a package: its head (the name it was packed under), then its bytes.
+QByteArray Member(const char* name, const QByteArray& bytes) {
+    return EncodeMemberHead(QString::fromLatin1(name), qint32(bytes.size())) + bytes;
+}
+
 }  // namespace
 
 class TestPackages : public QObject, ScreenRun {
@@ -259,9 +264,7 @@ private slots:
         FreshRun(b.path());
         Fixtures::MakeDeck(QStringLiteral("Mine"), 1, false);
         const QByteArray decksBefore = ReadWholeFile(DecksPath);
-        frmInstallPackage& install = Get<frmInstallPackage>();
-        install.ShowFolder(packages);
-        SelectFile(install, QStringLiteral("five.pck"));
+        frmInstallPackage& install = Chosen(packages, QStringLiteral("five.pck"));
         install.cmdInstall_Click();
         QCOMPARE(MsgBoxScript::History().size(), 1);
         QVERIFY(MsgBoxScript::History()[0].prompt.contains(ErrorDescription(errSubscriptOutOfRange)));
@@ -272,11 +275,9 @@ private slots:
 
         // A package whose record file is of a foreign length is refused
         // whole, after its attachment is saved.
-        QByteArray bad = EncodeMemberHead(QStringLiteral("C:\\Temp\\Temp.spr"), 7) + "garbage" +
-                         EncodeMemberHead(QStringLiteral("ATT - a.txt"), 2) + "hi";
-        WriteWholeFile(packages + QStringLiteral("bad.pck"), bad);
-        install.ShowFolder(packages);
-        SelectFile(install, QStringLiteral("bad.pck"));
+        WriteWholeFile(packages + QStringLiteral("bad.pck"),
+                       Member("C:\\Temp\\Temp.spr", "garbage") + Member("ATT - a.txt", "hi"));
+        Chosen(packages, QStringLiteral("bad.pck"));
         MsgBoxScript::Clear();
         CommonDialogScript::Answer(AttachmentsDir + QStringLiteral("a"));
         ModalScript summary;
@@ -308,13 +309,9 @@ private slots:
         const QByteArray secret("not the package's to take");
         WriteWholeFile(AppPath + QStringLiteral("x.bmp"), secret);
         WriteWholeFile(PackagesDir + QStringLiteral("lure.pck"),
-                       EncodeMemberHead(QStringLiteral("C:\\Temp\\Temp.dck"), DeckRecord::Length) + EncodeRecord(deck) +
-                           EncodeMemberHead(QStringLiteral("C:\\Temp\\Temp.crd"), CardRecord::Length) +
-                           EncodeRecord(card));
+                       Member("C:\\Temp\\Temp.dck", EncodeRecord(deck)) + Member("C:\\Temp\\Temp.crd", EncodeRecord(card)));
 
-        frmInstallPackage& install = Get<frmInstallPackage>();
-        install.ShowFolder(PackagesDir);
-        SelectFile(install, QStringLiteral("lure.pck"));
+        frmInstallPackage& install = Chosen(PackagesDir, QStringLiteral("lure.pck"));
         install.cmdInstall_Click();
         QCOMPARE(MsgBoxScript::History().size(), 1);
         QVERIFY(MsgBoxScript::History()[0].prompt.contains(ErrorDescription(errFileNotFound)));
@@ -342,15 +339,11 @@ private slots:
         }
         DeleteDeck(1);
         const QByteArray picture("BM the one picture");
-        WriteWholeFile(PackagesDir + QStringLiteral("twins.pck"),
-                       EncodeMemberHead(QStringLiteral("C:\\Temp\\Temp.dck"), DeckRecord::Length) + EncodeRecord(deck) +
-                           EncodeMemberHead(QStringLiteral("C:\\Temp\\Temp.crd"), qint32(cards.size())) + cards +
-                           EncodeMemberHead(QStringLiteral("C:\\Temp\\Shared.bmp"), qint32(picture.size())) +
-                           picture);
+        WriteWholeFile(PackagesDir + QStringLiteral("twins.pck"), Member("C:\\Temp\\Temp.dck", EncodeRecord(deck)) +
+                                                                  Member("C:\\Temp\\Temp.crd", cards) +
+                                                                  Member("C:\\Temp\\Shared.bmp", picture));
 
-        frmInstallPackage& install = Get<frmInstallPackage>();
-        install.ShowFolder(PackagesDir);
-        SelectFile(install, QStringLiteral("twins.pck"));
+        frmInstallPackage& install = Chosen(PackagesDir, QStringLiteral("twins.pck"));
         ModalScript summary;
         summary.On<frmPackageSummary>([](frmPackageSummary& s) { s.cmdCancel->click(); });
         install.cmdInstall_Click();
@@ -418,9 +411,13 @@ private:
         Settle();
     }
 
-    static void SelectFile(frmInstallPackage& install, const QString& name) {
+    // The installation screen on a folder, with the package of that name chosen.
+    static frmInstallPackage& Chosen(const QString& folder, const QString& name) {
+        frmInstallPackage& install = Get<frmInstallPackage>();
+        install.ShowFolder(folder);
         for (int i = 0; i < install.filSelection->ListCount(); ++i)
             if (install.filSelection->List(i) == name) install.filSelection->setListIndex(i);
+        return install;
     }
 };
 
