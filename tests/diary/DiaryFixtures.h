@@ -27,6 +27,19 @@ inline void FreshDiaryRun(const QString& dir) {
     SelectSpreadScreen::LastAllowDuplicateCards = false;
 }
 
+// After each test: no box left unanswered, the card choice and the open
+// screen gone, the entry closed without a question.
+inline void CloseDiaryScreens() {
+    QCOMPARE(MsgBoxScript::Unanswered(), 0);
+    UnloadScreen<frmDiaryCards>();
+    UnloadScreen<frmOpenDiary>();
+    if (frmNewDiary* diary = ScreenSlot<frmNewDiary>()) {
+        diary->DiaryChanged = false;
+        diary->cmdClose_Click();
+    }
+    Settle();
+}
+
 // "New" of the Diary group with the first spread and deck, and whatever
 // adjust does to the selection screen's boxes.
 inline frmNewDiary& NewDiary(const std::function<void(frmSelectSpreadforDiary&)>& adjust = {}) {

@@ -34,14 +34,7 @@ private slots:
         Fixtures::MakeSpread(QStringLiteral("Four"), Locations, {deckId_});
     }
 
-    void cleanup() {
-        QCOMPARE(MsgBoxScript::Unanswered(), 0);
-        UnloadScreen<frmDiaryCards>();
-        if (frmNewDiary* diary = ScreenSlot<frmNewDiary>()) {
-            diary->DiaryChanged = false;
-            diary->cmdClose_Click();
-        }
-    }
+    void cleanup() { CloseDiaryScreens(); }
 
     void anEntryChosenInAnyOrderSavesAndReopensAsItWas() {
         frmNewDiary& diary = NewDiary();

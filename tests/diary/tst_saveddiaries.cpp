@@ -56,15 +56,7 @@ private slots:
         spreadId_ = Fixtures::MakeSpread(QStringLiteral("Big"), Locations, {deckId_});
     }
 
-    void cleanup() {
-        QCOMPARE(MsgBoxScript::Unanswered(), 0);
-        UnloadScreen<frmOpenDiary>();
-        if (frmNewDiary* diary = ScreenSlot<frmNewDiary>()) {
-            diary->DiaryChanged = false;
-            diary->cmdClose_Click();
-        }
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
+    void cleanup() { CloseDiaryScreens(); }
 
     void aDeletedDeckOrSpreadOrAWrongPasswordRefuses() {
         SavedDiary(QStringLiteral("Saved"), 46000);

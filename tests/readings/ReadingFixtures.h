@@ -66,6 +66,12 @@ protected:
         return dir_->path();
     }
     QString RunDir() const { return dir_->path(); }
+    // After each test: no box left unanswered, the reading and its open screen gone.
+    static void CloseReadingScreens() {
+        QCOMPARE(MsgBoxScript::Unanswered(), 0);
+        UnloadScreen<frmOpenReading>();
+        if (frmNewReading* reading = ScreenSlot<frmNewReading>()) reading->CloseReading();
+    }
 
 private:
     QTemporaryDir frameDir_;

@@ -41,11 +41,7 @@ private slots:
         Fixtures::MakeSpread(QStringLiteral("Cross"), 3, {deck});
     }
 
-    void cleanup() {
-        QCOMPARE(MsgBoxScript::Unanswered(), 0);
-        UnloadScreen<frmOpenReading>();
-        if (frmNewReading* reading = ScreenSlot<frmNewReading>()) reading->CloseReading();
-    }
+    void cleanup() { CloseReadingScreens(); }
 
     void cleanupTestCase() { qInfo("bad inputs tried on the reading screens: %d", tried_); }
 

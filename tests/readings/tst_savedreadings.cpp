@@ -58,11 +58,7 @@ private slots:
         spreadId_ = Fixtures::MakeSpread(QStringLiteral("Big"), 20, {deckId_});
     }
 
-    void cleanup() {
-        QCOMPARE(MsgBoxScript::Unanswered(), 0);
-        UnloadScreen<frmOpenReading>();
-        if (frmNewReading* reading = ScreenSlot<frmNewReading>()) reading->CloseReading();
-    }
+    void cleanup() { CloseReadingScreens(); }
 
     void aDeletedDeckOrSpreadRefusesTheReading() {
         SavedReading();

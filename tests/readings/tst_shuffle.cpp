@@ -75,8 +75,7 @@ private slots:
     }
 
     void cleanup() {
-        QCOMPARE(MsgBoxScript::Unanswered(), 0);
-        if (frmNewReading* reading = ScreenSlot<frmNewReading>()) reading->CloseReading();
+        CloseReadingScreens();
         SelectSpreadScreen::LastAllowDuplicateCards = false;
     }
 
