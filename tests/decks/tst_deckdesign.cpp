@@ -57,10 +57,8 @@ class TestDeckDesign : public QObject {
     QTemporaryDir sources_;
     QString src_;
 
-    void VerifyCardsFolder() {
-        QCOMPARE(FilesIn(CardsDir), FilesNamedByCards());
-        for (const QString& name : FilesNamedByCards()) QVERIFY2(FileExists(CardsDir + name), qPrintable(name));
-    }
+    // Cards/ holds exactly the files the card records name: none missing, none stray.
+    void VerifyCardsFolder() { QCOMPARE(FilesIn(CardsDir), FilesNamedByCards()); }
 
     // Fills the open card editor: title, type, both sides' texts.
     static void FillCard(frmAddCard& editor, const QString& title, const QString& type, const QString& up,

@@ -70,9 +70,7 @@ class TestShuffle : public QObject, ScreenRun {
 private slots:
     void initTestCase() { StandUp(); }
 
-    void init() {
-        FreshRun(NewDir());
-    }
+    void init() { FreshRun(NewDir()); }
 
     void cleanup() {
         CloseReadingScreens();
