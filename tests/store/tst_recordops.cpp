@@ -277,12 +277,9 @@ private slots:
         Fixtures::MakeSpread(QStringLiteral("Three"), 3, {small, reversed});
         Fixtures::MakeSpread(QStringLiteral("Any Three"), 3, {}, true);
         Fixtures::MakeSpread(QStringLiteral("Any Two"), 2, {}, true);
-        QVERIFY(!IsSpreadUsable(QStringLiteral("Missing")));
-        QVERIFY(!IsSpreadUsable(QStringLiteral("Empty")));
-        QVERIFY(IsSpreadUsable(QStringLiteral("Pair")));
-        QVERIFY(!IsSpreadUsable(QStringLiteral("Three")));
-        QVERIFY(!IsSpreadUsable(QStringLiteral("Any Three")));
-        QVERIFY(IsSpreadUsable(QStringLiteral("Any Two")));
+        for (const auto& [name, usable] : {std::pair{"Missing", false}, {"Empty", false}, {"Pair", true},
+                                           {"Three", false}, {"Any Three", false}, {"Any Two", true}})
+            QVERIFY2(IsSpreadUsable(QLatin1String(name)) == usable, name);
     }
 };
 
