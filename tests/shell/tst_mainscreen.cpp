@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTextBrowser>
@@ -22,6 +21,7 @@
 #include "shell/frmHelpViewer.h"
 #include "shell/frmMainScreen.h"
 #include "shell/frmQuickHelp.h"
+#include "spreads/SpreadTestKit.h"
 #include "store/Startup.h"
 #include "support/Fixtures.h"
 #include "store/mdlVariables.h"
@@ -31,11 +31,7 @@
 namespace {
 
 QList<int> gEnds;
-
-void SendMouse(QWidget* w, QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
-    QMouseEvent e(type, QPointF(at), w->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
-    QApplication::sendEvent(w, &e);
-}
+using SpreadTestKit::SendMouse;
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 #pragma once
-// Helpers of the spread screen tests: dragging a location rectangle with the
-// mouse, and reading a record file's raw records.
+// Helpers of the spread screen tests: the mouse as a user moves it (the main
+// screen's buttons take it too), dragging a location rectangle, and reading a
+// record file's raw records.
 #include <QApplication>
 #include <QMouseEvent>
 
