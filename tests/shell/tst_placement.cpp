@@ -110,48 +110,35 @@ private slots:
     }
 
     void fitCases() {
-        // 1000 high, 2000 wide in a box 1500 square: case 2, height 750,
-        // centred 375 lower; the top stays with KeepTop.
-        BoxGeometry box{100, 200, 1500, 1500};
-        QCOMPARE(FitBoxToPicture(1000, 2000, box, true, false), 2);
-        QCOMPARE(box.Height, 750);
-        QCOMPARE(box.Width, 1500);
-        QCOMPARE(box.Top, 475);
-        QCOMPARE(box.Left, 200);
-        box = {100, 200, 1500, 1500};
-        FitBoxToPicture(1000, 2000, box, true, true);
-        QCOMPARE(box.Top, 100);
-
-        // Exactly the box's size: case 2, the height recomputed from the
-        // width (and not cut short by the division).
-        box = {0, 0, 1050, 450};
-        QCOMPARE(FitBoxToPicture(450, 1050, box, false, false), 2);
-        QCOMPARE(box.Height, 450);
-        QCOMPARE(box.Width, 1050);
-
-        // Larger both ways, taller than the box's shape: the width shrinks.
-        box = {0, 0, 1500, 1500};
-        QCOMPARE(FitBoxToPicture(3000, 2000, box, true, false), 1);
-        QCOMPARE(box.Width, 1000);
-        QCOMPARE(box.Height, 1500);
-        QCOMPARE(box.Left, 250);
-        // Larger both ways, wider than the box's shape: the height shrinks.
-        box = {0, 0, 1500, 1500};
-        QCOMPARE(FitBoxToPicture(2000, 4000, box, false, false), 1);
-        QCOMPARE(box.Height, 750);
-        QCOMPARE(box.Width, 1500);
-
-        box = {0, 0, 1500, 1500};
-        QCOMPARE(FitBoxToPicture(3000, 1000, box, true, false), 3);
-        QCOMPARE(box.Width, 500);
-        QCOMPARE(box.Left, 500);
-
-        box = {10, 20, 1500, 1500};
-        QCOMPARE(FitBoxToPicture(600, 400, box, true, false), 4);
-        QCOMPARE(box.Height, 600);
-        QCOMPARE(box.Width, 400);
-        QCOMPARE(box.Top, 460);
-        QCOMPARE(box.Left, 570);
+        struct Fit {
+            int height, width;      // the picture's
+            BoxGeometry box;        // {Top, Left, Width, Height}
+            bool centre, keepTop;
+            int result;
+            BoxGeometry fitted;
+        };
+        const Fit fits[] = {
+            // 1000 high, 2000 wide in a box 1500 square: case 2, height 750,
+            // centred 375 lower; the top stays with KeepTop.
+            {1000, 2000, {100, 200, 1500, 1500}, true, false, 2, {475, 200, 1500, 750}},
+            {1000, 2000, {100, 200, 1500, 1500}, true, true, 2, {100, 200, 1500, 750}},
+            // Exactly the box's size: case 2, the height recomputed from the
+            // width (and not cut short by the division).
+            {450, 1050, {0, 0, 1050, 450}, false, false, 2, {0, 0, 1050, 450}},
+            // Larger both ways, taller than the box's shape: the width shrinks;
+            // wider than the box's shape: the height shrinks.
+            {3000, 2000, {0, 0, 1500, 1500}, true, false, 1, {0, 250, 1000, 1500}},
+            {2000, 4000, {0, 0, 1500, 1500}, false, false, 1, {0, 0, 1500, 750}},
+            // Taller only, then smaller both ways.
+            {3000, 1000, {0, 0, 1500, 1500}, true, false, 3, {0, 500, 500, 1500}},
+            {600, 400, {10, 20, 1500, 1500}, true, false, 4, {460, 570, 400, 600}},
+        };
+        for (const Fit& f : fits) {
+            BoxGeometry box = f.box;
+            QCOMPARE(FitBoxToPicture(f.height, f.width, box, f.centre, f.keepTop), f.result);
+            QCOMPARE(QList<int>({box.Top, box.Left, box.Width, box.Height}),
+                     QList<int>({f.fitted.Top, f.fitted.Left, f.fitted.Width, f.fitted.Height}));
+        }
     }
 
     void fitPictureLoadsAndFallsBack() {
