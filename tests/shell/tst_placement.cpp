@@ -54,19 +54,15 @@ private slots:
     void init() { MsgBoxScript::Clear(); }
 
     void centreInFrameAndItsMargin() {
-        frmProbe& f = Probe(3000, 1500);
-        CentreInFrame(f);
-        QCOMPARE(f.Left(), (W - 3000) / 2);
-        QCOMPARE(f.Top(), (H - 1500) / 2);
-        // Up to 50 twips of room left: still centred; less: 50 from the edge.
-        Probe(W - 60, H - 60);
-        CentreInFrame(f);
-        QCOMPARE(f.Left(), 30);
-        QCOMPARE(f.Top(), 30);
-        Probe(W - 45, H + 300);
-        CentreInFrame(f);
-        QCOMPARE(f.Left(), 50);
-        QCOMPARE(f.Top(), 50);
+        // Width, height, then left and top: up to 50 twips of room left is
+        // still centred; less puts the screen 50 from the edge.
+        const std::array<int, 4> cases[] = {
+            {3000, 1500, (W - 3000) / 2, (H - 1500) / 2}, {W - 60, H - 60, 30, 30}, {W - 45, H + 300, 50, 50}};
+        for (const auto& [width, height, left, top] : cases) {
+            frmProbe& f = Probe(width, height);
+            CentreInFrame(f);
+            QCOMPARE(QList<int>({f.Left(), f.Top()}), QList<int>({left, top}));
+        }
     }
 
     void variantsUseTheirOwnMargins() {
@@ -154,10 +150,7 @@ private slots:
         box.Move(0, 0, 1500, 1500);
         FitPicture(box, CardsDir + QStringLiteral("CU00001.bmp"), true, false);
         QVERIFY(box.Stretch());
-        QCOMPARE(box.Height(), 300);
-        QCOMPARE(box.Width(), 600);
-        QCOMPARE(box.Top(), 600);
-        QCOMPARE(box.Left(), 450);
+        QCOMPARE(QList<int>({box.Top(), box.Left(), box.Width(), box.Height()}), QList<int>({600, 450, 600, 300}));
         QCOMPARE(box.Image().pixelColor(0, 0), QColor(Qt::red));
         QVERIFY(MsgBoxScript::History().isEmpty());
 
