@@ -53,21 +53,15 @@ private slots:
     void pathTableFollowsTheProgramFolder() {
         for (const QString& dir : {QStringLiteral("/opt/cartomar"), QStringLiteral("/opt/cartomar/")}) {
             FormPaths(dir);
-            QCOMPARE(AppPath, QStringLiteral("/opt/cartomar/"));
-            QCOMPARE(SettingsPath, QStringLiteral("/opt/cartomar/Settings.dat"));
-            QCOMPARE(SpreadsPath, QStringLiteral("/opt/cartomar/Spreads.spr"));
-            QCOMPARE(LocationsPath, QStringLiteral("/opt/cartomar/Location.loc"));
-            QCOMPARE(DecksPath, QStringLiteral("/opt/cartomar/Decks.dck"));
-            QCOMPARE(CardsDir, QStringLiteral("/opt/cartomar/Cards/"));
-            QCOMPARE(PackagesDir, QStringLiteral("/opt/cartomar/Packages/"));
-            QCOMPARE(AttachmentsDir, QStringLiteral("/opt/cartomar/Packages/Attachments/"));
-            QCOMPARE(CardsPath, QStringLiteral("/opt/cartomar/Cards.crd"));
-            QCOMPARE(ReadingsPath, QStringLiteral("/opt/cartomar/Readings.red"));
-            QCOMPARE(DiaryPath, QStringLiteral("/opt/cartomar/Diary.dry"));
-            QCOMPARE(DefaultPicturePath, QStringLiteral("/opt/cartomar/Cards/C000000.bmp "));
-            QCOMPARE(TempFilePath, QStringLiteral("temp.tmp"));
-            QCOMPARE(TempDir, QStringLiteral("/opt/cartomar/Temp/"));
-            QCOMPARE(TempCardsPath, QStringLiteral("/opt/cartomar/Temp/Cards.crd"));
+            const QStringList formed = {AppPath,      SettingsPath, SpreadsPath,    LocationsPath,      DecksPath,
+                                        CardsDir,     PackagesDir,  AttachmentsDir, CardsPath,          ReadingsPath,
+                                        DiaryPath,    TempDir,      TempCardsPath,  DefaultPicturePath, TempFilePath};
+            QStringList expected;
+            for (const char* name : {"", "Settings.dat", "Spreads.spr", "Location.loc", "Decks.dck", "Cards/",
+                                     "Packages/", "Packages/Attachments/", "Cards.crd", "Readings.red", "Diary.dry",
+                                     "Temp/", "Temp/Cards.crd", "Cards/C000000.bmp "})
+                expected << QStringLiteral("/opt/cartomar/") + QLatin1String(name);
+            QCOMPARE(formed, expected << QStringLiteral("temp.tmp"));
         }
     }
 

@@ -51,11 +51,9 @@ private slots:
     }
 
     void gridStepsAndSnappingToTheTwip() {
-        QCOMPARE(GridStep(9495, 39), Integer(243));
-        QCOMPARE(GridStep(5895, 29), Integer(203));
-        QCOMPARE(GridStep(9615, 39), Integer(247));
-        QCOMPARE(GridStep(5, 2), Integer(2));   // halves go to even
-        QCOMPARE(GridStep(7, 2), Integer(4));
+        // Span, cells, step: halves go to even.
+        const std::array<int, 3> steps[] = {{9495, 39, 243}, {5895, 29, 203}, {9615, 39, 247}, {5, 2, 2}, {7, 2, 4}};
+        for (const auto& [span, cells, step] : steps) QCOMPARE(GridStep(span, cells), Integer(step));
 
         struct Case {
             int from;
