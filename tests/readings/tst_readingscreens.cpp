@@ -177,21 +177,17 @@ private slots:
         QCOMPARE(saved.ReadingName.Trimmed(), QStringLiteral("Morning"));
         QCOMPARE(saved.Issue.Trimmed(), QStringLiteral("Will it rain?"));
         QVERIFY(saved.Issue.Value().startsWith(QStringLiteral("  Will it rain?  ")));
-        QCOMPARE(saved.IssueAsked, True16);
         QCOMPARE(saved.SavedOn, OleToday());
-        QCOMPARE(saved.SaveCount, Integer(1));
-        QCOMPARE(saved.DealtCount, Integer(Locations));
         QCOMPARE(saved.ReadingNotes.Trimmed(), QStringLiteral("Rain later."));
-        QCOMPARE(saved.ReadingDeckId, deckId_);
-        QCOMPARE(saved.ReadingDeckRevision, Integer(1));
-        QCOMPARE(saved.ReadingSpreadId, spreadId_);
-        QCOMPARE(saved.ReadingSpreadRevision, Integer(1));
-        QCOMPARE(saved.UseReversed, True16);
-        QCOMPARE(saved.AllowDuplicateCards, False16);
+        // Issue asked, save count, cards dealt, deck and spread with their
+        // revisions, reversed sides, duplicates, lock.
+        QCOMPARE(QList<Integer>({saved.IssueAsked, saved.SaveCount, saved.DealtCount, saved.ReadingDeckId,
+                                 saved.ReadingDeckRevision, saved.ReadingSpreadId, saved.ReadingSpreadRevision,
+                                 saved.UseReversed, saved.AllowDuplicateCards, saved.EntryLocked}),
+                 QList<Integer>({True16, 1, Locations, deckId_, 1, spreadId_, 1, True16, False16, False16}));
         QCOMPARE(saved.CardTypeSelected, (std::array<Integer, 4>{True16, True16, False16, False16}));
         QCOMPARE(saved.LocationCard, order);
         QCOMPARE(saved.LocationIsUpright, orientation);
-        QCOMPARE(saved.EntryLocked, False16);
         for (int i = 1; i <= Locations; ++i) {
             QCOMPARE(saved.DealtCard[static_cast<std::size_t>(i - 1)], dealt[i - 1].card);
             QCOMPARE(saved.DealtUpright[static_cast<std::size_t>(i - 1)], dealt[i - 1].upright);

@@ -103,11 +103,9 @@ private slots:
         QCOMPARE(list.lstSpreads->List(0).size(), 50);   // as stored, with its blanks
         QCOMPARE(list.GetIndexOf(QStringLiteral(" Beta ")), 1);
         QCOMPARE(list.GetIndexOf(QStringLiteral("Gone")), 0);
-        QCOMPARE(list.lblQueryField->text(), QStringLiteral("Y"));
-        QCOMPARE(list.lblCardsField->text(), QStringLiteral("4"));
-        QCOMPARE(list.lblDecksField->text(), QStringLiteral("2"));
-        QCOMPARE(list.lblDesignDateField->text(), QStringLiteral("05-Mar-2024"));
-        QCOMPARE(list.lblDesignerNameField->text().trimmed(), QStringLiteral("Mira"));
+        QCOMPARE((QStringList{list.lblQueryField->text(), list.lblCardsField->text(), list.lblDecksField->text(),
+                              list.lblDesignDateField->text(), list.lblDesignerNameField->text().trimmed()}),
+                 (QStringList{"Y", "4", "2", "05-Mar-2024", "Mira"}));
         QCOMPARE(SpreadLocations.UBound(), 4);
         list.lstSpreads->setListIndex(0);
         QCOMPARE(list.lblDecksField->text(), QStringLiteral("All"));
