@@ -192,9 +192,8 @@ private slots:
         QVERIFY(!IsLoaded<frmDesignDeck>());
         frmDecks& decks = Get<frmDecks>();
         QCOMPARE(SelectedLine(decks.lstDecks).trimmed(), QStringLiteral("Sea Tarot"));
-        QCOMPARE(decks.lblCardsField->text(), QStringLiteral("3"));
-        QCOMPARE(decks.lblDesignerNameField->text(), QStringLiteral("Ann Reader"));
-        QCOMPARE(decks.lblTitleField->text(), QStringLiteral("Sea Tarot"));
+        QCOMPARE((QStringList{decks.lblCardsField->text(), decks.lblDesignerNameField->text(), decks.lblTitleField->text()}),
+                 (QStringList{"3", "Ann Reader", "Sea Tarot"}));
         decks.cboCards_GotFocus();
         QCOMPARE(decks.cboCards->count(), 3);
         QCOMPARE(decks.cboCards->currentText(), QStringLiteral("Cards List"));
@@ -203,10 +202,9 @@ private slots:
         decks.cmdEdit_Click();
         frmDesignDeck& again = Get<frmDesignDeck>();
         QCOMPARE(again.Caption(), QStringLiteral("Deck Design - Sea Tarot"));
-        QCOMPARE(again.txtDeckTitle->text(), QStringLiteral("Sea Tarot"));
-        QCOMPARE(again.txtDesignerEmail->text(), QStringLiteral("ann@example.org"));
-        QCOMPARE(again.txtDesignerWebPage->text(), QStringLiteral("example.org/ann"));
-        QCOMPARE(again.txtDeckDescription->toPlainText(), QStringLiteral("Cards of the sea."));
+        QCOMPARE((QStringList{again.txtDeckTitle->text(), again.txtDesignerEmail->text(),
+                              again.txtDesignerWebPage->text(), again.txtDeckDescription->toPlainText()}),
+                 (QStringList{"Sea Tarot", "ann@example.org", "example.org/ann", "Cards of the sea."}));
         QCOMPARE(again.lstCards->count(), 3);
         QVERIFY(!again.DesignModified);
         // Saving drew names free in both Cards/ and Temp/.

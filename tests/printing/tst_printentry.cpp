@@ -170,13 +170,11 @@ private slots:
         printer->OnPrintForm = [&](QWidget& form) {
             auto& page = static_cast<frmPrintingReading&>(form);
             looked = true;
-            QCOMPARE(page.lblPageNumber->text(), QStringLiteral("Page 1"));
-            QCOMPARE(page.lblTheIssue->text(), MakerWebAddress);
-            QCOMPARE(page.Label2->text(), QStringLiteral("Cross"));
-            QCOMPARE(page.Label3->text(), QStringLiteral("Tarot"));
-            QCOMPARE(page.lblTitle->text(), QStringLiteral("Will it rain?"));
-            QCOMPARE(page.lblCpyS->text(), QStringLiteral("Spread \u00a9 Copyright 2001 By Iris Vane."));
-            QCOMPARE(page.lblCpyD->text(), QStringLiteral("Deck \u00a9 Copyright 2001 By Odo Marl."));
+            QCOMPARE((QStringList{page.lblPageNumber->text(), page.lblTheIssue->text(), page.Label2->text(),
+                                  page.Label3->text(), page.lblTitle->text(), page.lblCpyS->text(), page.lblCpyD->text()}),
+                     (QStringList{QStringLiteral("Page 1"), MakerWebAddress, QStringLiteral("Cross"), QStringLiteral("Tarot"),
+                                  QStringLiteral("Will it rain?"), QStringLiteral("Spread \u00a9 Copyright 2001 By Iris Vane."),
+                                  QStringLiteral("Deck \u00a9 Copyright 2001 By Odo Marl.")}));
             QVERIFY(QRegularExpression(QStringLiteral("^\\w+day, \\d{1,2} \\w{3} \\d{4} - \\d{1,2}:\\d{1,2}:\\d{1,2} [AP]M$"))
                         .match(page.lblNow->text())
                         .hasMatch());

@@ -199,10 +199,9 @@ private slots:
         QCOMPARE(CountSpreads(), 1);
         SpreadRecord saved;
         QVERIFY(GetRecord(SpreadsPath, 1, saved));
-        QCOMPARE(saved.SpreadId, Integer(1));
-        QCOMPARE(saved.SpreadRevision, Integer(1));
-        QCOMPARE(saved.LocationCount, Integer(5));
-        QCOMPARE(saved.AllowedDeckCount, Integer(0));
+        // Id, revision, locations, decks tied.
+        QCOMPARE(QList<Integer>({saved.SpreadId, saved.SpreadRevision, saved.LocationCount, saved.AllowedDeckCount}),
+                 QList<Integer>({1, 1, 5, 0}));
         QCOMPARE(saved.SpreadTitle.Trimmed(), QStringLiteral("Five Paths Title"));
         QCOMPARE(saved.BackgroundFile.Trimmed(), QStringLiteral("S000001.BMP"));
         QVERIFY(FileExists(CardsDir + QStringLiteral("S000001.BMP")));
