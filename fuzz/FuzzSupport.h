@@ -45,7 +45,7 @@ void LayDatabase();
 void Handled(const std::function<void()>& operation);
 
 // Aborts unless the file beside the program directory is still there, with
-// its bytes, and the program directory holds only what a run may make.
+// its bytes: a run must write nothing outside its program directory.
 void CheckNothingOutsideTouched();
 
 // Aborts with the message on stderr: the fuzzer reports it as a crash.

@@ -151,7 +151,9 @@ void ReportAndGoOn(const std::function<void()>& step) {
 }  // namespace
 
 void frmSaveDeck::WriteCards() {
-    // The cards go into Cards.crd together, in one replacement of the file.
+    // The pictures and sounds are copied without a wait each and made
+    // durable together before the cards that name them go into Cards.crd,
+    // in one replacement of the file.
     RecordEdit<CardRecord> cards(CardsPath);
     const int sides = CurrentDeck.IncludesReversed ? 2 : 1;
     for (CardRecord& card : CurrentDeck.DeckCards) {
@@ -167,17 +169,18 @@ void frmSaveDeck::WriteCards() {
             ReportAndGoOn([&] {
                 picture = NextPictureName(side) + oldPicture.right(5);
                 const QString newPicture = picture.Value();
-                ReportAndGoOn([&] { FileCopy(TempDir + oldPicture, CardsDir + newPicture); });
+                ReportAndGoOn([&] { FileCopyUnsynced(TempDir + oldPicture, CardsDir + newPicture); });
                 ReportAndGoOn([&] { Name(TempDir + oldPicture, TempDir + newPicture); });
                 if (sound.IsBlank()) return;
                 const QString oldSound = sound.Trimmed();
                 sound = QStringLiteral("M") + newPicture.left(7) + oldSound.right(4);
                 const QString newSound = sound.Value();
-                ReportAndGoOn([&] { FileCopy(TempDir + oldSound, CardsDir + newSound); });
+                ReportAndGoOn([&] { FileCopyUnsynced(TempDir + oldSound, CardsDir + newSound); });
                 ReportAndGoOn([&] { Name(TempDir + oldSound, TempDir + newSound); });
             });
         }
         cards.Append(card);
     }
+    SyncFileSystem(CardsDir);
     ReportAndGoOn([&] { cards.Commit(); });
 }

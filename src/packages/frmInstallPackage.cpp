@@ -59,8 +59,6 @@ bool IsOverwrite(int choice) { return choice == DesignExistsOverwrite || choice 
 bool IsSkip(int choice) { return choice == DesignExistsSkip || choice == DesignExistsSkipAll; }
 bool AnswersForAll(int choice) { return choice == DesignExistsOverwriteAll || choice == DesignExistsSkipAll; }
 
-QString FiveDigits(int number) { return QStringLiteral("%1").arg(number, 5, 10, QLatin1Char('0')); }
-
 }  // namespace
 
 // ---- Id lists --------------------------------------------------------------
@@ -404,11 +402,11 @@ void frmInstallPackage::ReserveCardFileNames() {
     }
     int slot = 1;
     for (int number = 0; slot <= PackageCardCount; ++number) {
-        const QString stem = QStringLiteral("CU") + FiveDigits(number);
+        const QString stem = CardUprightName(number);
         if (taken.contains(stem)) continue;
         NewUprightNames(slot) = stem;
         NewUprightSoundNames(slot) = stem + QLatin1Char('M');
-        NewReversedNames(slot) = QStringLiteral("CR") + FiveDigits(number);
+        NewReversedNames(slot) = CardReversedName(number);
         NewReversedSoundNames(slot) = NewReversedNames(slot) + QLatin1Char('M');
         ++slot;
     }
@@ -554,10 +552,13 @@ void frmInstallPackage::InstallSpread(SpreadRecord spread, int i, int& position)
             RemapSpread(i);
             InstallSpreadBackground();
             const int at = FindSpreadByName(CurrentSpread.SpreadName.Trimmed());
-            DeleteSpreadBackground(at);
+            if (!GetRecord(SpreadsPath, at, ScratchSpread)) RaiseError(errInputPastEndOfFile);
+            const QString oldBackground = ScratchSpread.BackgroundFile.Value();
             ReplaceSpreadLocations(CurrentSpread.SpreadId, locationCount);
             LinkToExistingDecks();
             PutRecord(SpreadsPath, at, CurrentSpread);
+            // The old background goes once no record names it.
+            KillDesignFile(oldBackground);
             ++SpreadsInstalled;
             return;
         }
@@ -587,9 +588,9 @@ void frmInstallPackage::RemapSpread(int i) {
 
 void frmInstallPackage::InstallSpreadBackground() {
     if (CurrentSpread.BackgroundFile.Trimmed().isEmpty()) return;
-    const QString oldName = UnpackedFileName(CurrentSpread.BackgroundFile.Trimmed());
+    const QString oldName = CurrentSpread.BackgroundFile.Trimmed();
     const QString newName = NewBackgroundName(oldName);
-    TakeUnpackedFile(oldName, newName);
+    TakeUnpackedFile(oldName, newName);   // refuses a name outside Temp/
     SyncFileSystem(CardsDir);
     CurrentSpread.BackgroundFile = newName;
 }

@@ -25,10 +25,9 @@ void WriteOrRaise(QFile& file, const char* bytes, qint64 length) {
 void FlushOrRaise(QFile& file) {
     if (!file.flush() || !SyncStep(file.handle())) RaiseError(errDiskFull);
 }
-
-// Where a record file's replacement is built before it is renamed over it.
-QString NewFileBeside(const QString& path) { return NativePath(path) + QStringLiteral(".new"); }
 }  // namespace
+
+QString NewFileBeside(const QString& path) { return NativePath(path) + QStringLiteral(".new"); }
 
 RecordFileReader::RecordFileReader(const QString& path, int recordLength)
     : file_(std::make_unique<QFile>(NativePath(path))), length_(recordLength) {
@@ -102,7 +101,7 @@ void AtomicFileWriter::Commit() {
     Flush();
     FlushOrRaise(*file_);
     file_->close();
-    ReplaceFile(newPath_, realPath_);
+    RenameOver(newPath_, realPath_);
     committed_ = true;
 }
 

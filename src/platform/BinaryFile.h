@@ -88,6 +88,9 @@ private:
     std::map<int, QByteArray> changes_;
 };
 
+// Where a file's replacement is built before it is renamed over it.
+QString NewFileBeside(const QString& path);
+
 // Random access to one record: read record n, or write it (the file grows
 // when n is past the end). A write is a RecordFileEdit of one record. Raises
 // on failure.

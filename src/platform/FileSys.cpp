@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cerrno>
 #include <cstdio>
 #include <unistd.h>
 #include <fcntl.h>
@@ -13,6 +14,10 @@
 #include "platform/WriteFaults.h"
 
 namespace {
+
+// A copy made without waiting for the disk is built under this suffix beside
+// its destination.
+const QString UnfinishedCopySuffix = QStringLiteral(".part");
 
 // Wildcard match of the toolkit: '*' any run, '?' one character, letters
 // compared without case.
@@ -67,6 +72,10 @@ QString NativePath(const QString& path) {
     while (end > 0 && (p[end - 1] == QLatin1Char(' ') || p[end - 1] == QChar(0))) --end;
     p.truncate(end);
     return p;
+}
+
+QString WithSlash(const QString& folder) {
+    return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
 }
 
 bool FileExists(const QString& path) {
@@ -127,7 +136,7 @@ void FileCopyUnsynced(const QString& source, const QString& destination) {
     if (!FileExists(from)) RaiseError(errFileNotFound);
     QFile in(from);
     if (!in.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) RaiseError(errPermissionDenied);
-    const QString part = to + QStringLiteral(".part");
+    const QString part = to + UnfinishedCopySuffix;
     {
         QFile out(part);
         if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) RaiseError(errPathNotFound);
@@ -148,10 +157,17 @@ void FileCopyUnsynced(const QString& source, const QString& destination) {
     }
 }
 
+void RemoveUnfinishedCopies(const QString& folder) {
+    KillIgnoringErrors(WithSlash(folder) + QLatin1Char('*') + UnfinishedCopySuffix);
+}
+
 void FileMoveUnsynced(const QString& source, const QString& destination) {
     const QString from = NativePath(source);
     if (!FileExists(from)) RaiseError(errFileNotFound);
-    if (!RenameStep(from, NativePath(destination))) FileCopyUnsynced(source, destination);
+    errno = 0;
+    if (RenameStep(from, NativePath(destination))) return;
+    if (errno != EXDEV) RaiseError(errPathFileAccess);
+    FileCopyUnsynced(source, destination);
 }
 
 void SyncFileSystem(const QString& folder) {
@@ -175,7 +191,12 @@ void ReplaceFile(const QString& newFile, const QString& realFile) {
     const QString to = NativePath(realFile);
     if (!QFileInfo::exists(from)) RaiseError(errFileNotFound);
     SyncFile(from);
-    if (!RenameStep(from, to)) RaiseError(errPathFileAccess);
+    RenameOver(from, to);
+}
+
+void RenameOver(const QString& newFile, const QString& realFile) {
+    const QString to = NativePath(realFile);
+    if (!RenameStep(NativePath(newFile), to)) RaiseError(errPathFileAccess);
     SyncFile(FolderOf(to));
 }
 

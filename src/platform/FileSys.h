@@ -31,9 +31,12 @@ void FileCopy(const QString& source, const QString& destination);  // overwrites
 // still never seen half-written.
 void FileCopyUnsynced(const QString& source, const QString& destination);
 // Puts a file under a new name, overwriting, without waiting for the disk: a
-// rename when both names are on one file system, else FileCopyUnsynced. The
+// rename, or FileCopyUnsynced when the names lie on two file systems. The
 // source may be gone afterwards.
 void FileMoveUnsynced(const QString& source, const QString& destination);
+// Removes the copies that a process killed during FileCopyUnsynced left in
+// a folder.
+void RemoveUnfinishedCopies(const QString& folder);
 // Waits until everything written to the file system that holds folder is
 // on the disk.
 void SyncFileSystem(const QString& folder);
@@ -41,6 +44,9 @@ void Name(const QString& oldPath, const QString& newPath);         // rename; fa
 // Replaces a file by another in one step (rename over it): a reader finds
 // either the old or the new file, never none.
 void ReplaceFile(const QString& newFile, const QString& realFile);
+// The same for a new file its writer has synced already: renames it over the
+// real one and syncs the folder.
+void RenameOver(const QString& newFile, const QString& realFile);
 void Kill(const QString& pattern);                   // fails when nothing matches
 void KillIgnoringErrors(const QString& pattern);     // deletes matching files
 void MkDir(const QString& path);
@@ -52,6 +58,8 @@ QByteArray ReadWholeFile(const QString& path);       // raises when missing
 // target.
 void WriteWholeFile(const QString& path, const QByteArray& bytes);
 
+// A folder's path ending in '/'.
+QString WithSlash(const QString& folder);
 // The folder of a path, with a trailing '/'.
 QString FolderOf(const QString& path);
 // The part after the last '/' or '\'.

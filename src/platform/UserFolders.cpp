@@ -8,14 +8,6 @@
 
 #include "platform/FileSys.h"
 
-namespace {
-
-QString WithSlash(const QString& folder) {
-    return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
-}
-
-}  // namespace
-
 bool FolderIsWritable(const QString& folder) {
     if (!DirExists(folder)) return false;
     QTemporaryFile probe(WithSlash(folder) + QStringLiteral(".cartomar-probe-XXXXXX"));

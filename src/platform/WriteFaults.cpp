@@ -72,7 +72,7 @@ qint64 WriteStep(QIODevice& device, const char* bytes, qint64 length) {
         return device.write(bytes, length / 2);
     case Fault::Kill:
         device.write(bytes, length / 2);
-        if (auto* file = qobject_cast<QFile*>(&device)) file->flush();
+        if (auto* file = qobject_cast<QFileDevice*>(&device)) file->flush();
         Die();
     case Fault::None:
         break;

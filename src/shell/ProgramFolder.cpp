@@ -8,10 +8,6 @@
 
 namespace {
 
-QString WithSlash(const QString& folder) {
-    return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
-}
-
 const QString HelpFileName = QStringLiteral("Cartomar.hlp");
 const QString HelpFolderName = QStringLiteral("Help");
 

@@ -39,7 +39,7 @@ void RewriteFile(const QString& oldPath, const QString& newPath, Convert convert
 // moment either the old one or the new one, whole. The Temp/ file goes right
 // after.
 void PutInPlace(const QString& tempPath, const QString& realPath) {
-    const QString beside = realPath + QStringLiteral(".new");
+    const QString beside = NewFileBeside(realPath);
     try {
         FileCopy(tempPath, beside);
         ReplaceFile(beside, realPath);

@@ -6,7 +6,7 @@
 #include "store/mdlVariables.h"
 
 void FormPaths(const QString& programDir) {
-    AppPath = programDir.endsWith(QLatin1Char('/')) ? programDir : programDir + QLatin1Char('/');
+    AppPath = WithSlash(programDir);
     SettingsPath = AppPath + QStringLiteral("Settings.dat");
     SpreadsPath = AppPath + QStringLiteral("Spreads.spr");
     LocationsPath = AppPath + QStringLiteral("Location.loc");

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "platform/BinaryFile.h"
 #include "platform/FileSys.h"
 #include "platform/MsgBox.h"
 #include "platform/ProgramLock.h"
@@ -40,9 +41,9 @@ void MakeRecordFileIfMissing(const QString& path) {
 // was building beside the real one, which stayed whole. Nothing reads it.
 void RemoveUnfinishedWrites() {
     for (const QString* path : {&ReadingsPath, &DiaryPath, &SpreadsPath, &LocationsPath, &DecksPath, &CardsPath})
-        KillIgnoringErrors(*path + QStringLiteral(".new"));
-    for (const char* name : {"Spreads.tmp", "Location.tmp", "Readings.tmp", "Diaries.tmp", "Cards.tmp"})
-        KillIgnoringErrors(AppPath + QLatin1String(name));
+        KillIgnoringErrors(NewFileBeside(*path));
+    RemoveUnfinishedRewrites();
+    RemoveUnfinishedCopies(CardsDir);
 }
 
 }  // namespace

@@ -19,10 +19,14 @@ const QString DiariesTmpName = QStringLiteral("Diaries.tmp");
 const QString CardsTmpName = QStringLiteral("Cards.tmp");
 const QString DecksTmpName = QStringLiteral("Decks.tmp");
 
-template <int N>
-bool SameName(const FixedText<N>& field, const QString& trimmedName) {
-    return field.Trimmed() == trimmedName;
+}  // namespace
+
+void RemoveUnfinishedRewrites() {
+    for (const QString* name : {&SpreadsTmpName, &LocationTmpName, &ReadingsTmpName, &DiariesTmpName, &CardsTmpName})
+        KillIgnoringErrors(AppPath + *name);
 }
+
+namespace {
 
 // A name compared, both sides trimmed, with a name field in a record's
 // bytes. The code page gives each byte one character of its own, so the
@@ -32,35 +36,28 @@ class NameField {
 public:
     template <class R, int N>
     NameField(FixedText<N> R::*field, const QString& name)
-        : offset_(OffsetOf(field)), width_(N), wanted_(TrimField(name)),
-          possible_(AnsiRepresentable(wanted_)), bytes_(ToAnsi(wanted_)) {}
+        : offset_(OffsetOf(field)), width_(N), possible_(AnsiRepresentable(TrimField(name))),
+          bytes_(ToAnsi(TrimField(name))) {}
 
     bool operator()(const char* raw) const {
         if (!possible_) return false;
         const char* text = raw + offset_;
-        const int wanted = static_cast<int>(bytes_.size());
-        // Names are mostly written from the field's first byte: then the
-        // wanted bytes must stand there, and only blanks after them. Most
-        // records fail at their first bytes.
-        if (!IsBlankByte(text[0])) {
-            if (wanted == 0 || wanted > width_ || std::memcmp(text, bytes_.constData(), wanted) != 0) return false;
-            for (int i = wanted; i < width_; ++i)
-                if (!IsBlankByte(text[i])) return false;
-            return true;
-        }
         int first = 0;
-        int last = width_ - 1;
-        while (first <= last && IsBlankByte(text[first])) ++first;
-        while (last >= first && IsBlankByte(text[last])) --last;
-        const int length = last - first + 1;
-        return length == bytes_.size() && std::memcmp(text + first, bytes_.constData(), length) == 0;
+        while (first < width_ && IsBlankByte(text[first])) ++first;
+        const int wanted = static_cast<int>(bytes_.size());
+        if (wanted == 0) return first == width_;
+        // Most records fail at their first bytes; only a match looks at the
+        // rest of the field, which must be blank.
+        if (first + wanted > width_ || std::memcmp(text + first, bytes_.constData(), wanted) != 0) return false;
+        for (int i = first + wanted; i < width_; ++i)
+            if (!IsBlankByte(text[i])) return false;
+        return true;
     }
 
 private:
     static bool IsBlankByte(char c) { return c == ' ' || c == '\0'; }
     int offset_;
     int width_;
-    QString wanted_;
     bool possible_;
     QByteArray bytes_;
 };
@@ -139,17 +136,6 @@ Integer SmallestFreeId(const QString& path, Integer R::*idField) {
     RaiseError(6, QStringLiteral("Overflow"));
 }
 
-// A design file in Cards/ goes with its design; a failure to delete it is of
-// no consequence. A blank name names no file.
-void KillDesignFile(const QString& name) {
-    const QString trimmed = TrimField(name);
-    if (trimmed.isEmpty()) return;
-    // Names come from records, which a package may have filled: a wildcard
-    // in one must never widen the delete to other designs' files.
-    if (trimmed.contains(QLatin1Char('*')) || trimmed.contains(QLatin1Char('?'))) return;
-    KillIgnoringErrors(CardsDir + name);
-}
-
 void LoadLocationsFrom(const QString& path, Integer spreadId, int count) {
     SpreadLocations.Redim(1, count);
     const LocationRecord empty = ZeroRecord<LocationRecord>();
@@ -164,6 +150,17 @@ void LoadLocationsFrom(const QString& path, Integer spreadId, int count) {
 }
 
 }  // namespace
+
+// A design file in Cards/ goes with its design; a failure to delete it is of
+// no consequence. A blank name names no file.
+void KillDesignFile(const QString& name) {
+    const QString trimmed = TrimField(name);
+    if (trimmed.isEmpty()) return;
+    // Names come from records, which a package may have filled: a wildcard
+    // in one must never widen the delete to other designs' files.
+    if (trimmed.contains(QLatin1Char('*')) || trimmed.contains(QLatin1Char('?'))) return;
+    KillIgnoringErrors(CardsDir + name);
+}
 
 // ---- Counting ----------------------------------------------------------------
 

@@ -63,7 +63,13 @@ void DeleteReading(const QString& name);      // every reading of that name
 void DeleteDiary(const QString& name);        // every diary entry of that name
 void DeleteDeck(int recordNumber);            // with its cards and their files
 void DeleteDeckCards(Integer deckId);
+// Removes the replacements that a process killed during a delete pass left
+// beside the record files.
+void RemoveUnfinishedRewrites();
 void DeleteSpreadBackground(int recordNumber);  // the file only; the record stays
+// Deletes a design's picture, sound or background file from Cards/; a blank
+// name or one holding a wildcard deletes nothing.
+void KillDesignFile(const QString& name);
 
 // Fills SpreadLocations(1 .. count) with the spread's locations by their
 // LocationNumber; numbers not found stay all zero.
