@@ -117,8 +117,16 @@ private slots:
         WriteWholeFile(root + QStringLiteral("Location.loc"), QByteArray());
         WriteWholeFile(root + QStringLiteral("Decks.dck"), QByteArray(DeckRecord::Length, '\0'));
         WriteWholeFile(root + QStringLiteral("Readings.red"), "kept");
+        // What a process killed while writing leaves beside the files it
+        // wrote; the design file beside them is kept.
+        const QStringList leftovers = {QStringLiteral("Decks.dck.new"), QStringLiteral("Cards.tmp"),
+                                       QStringLiteral("Cards/CU00001.bmp.part")};
+        for (const QString& name : leftovers) WriteWholeFile(root + name, "unfinished");
+        WriteWholeFile(root + QStringLiteral("Cards/CU00002.bmp"), "a design's picture");
 
         QVERIFY(RunStartup(dir.path()));
+        for (const QString& name : leftovers) QVERIFY2(!QFileInfo::exists(root + name), qPrintable(name));
+        QVERIFY(QFileInfo::exists(root + QStringLiteral("Cards/CU00002.bmp")));
         QVERIFY(QFileInfo(root + QStringLiteral("Temp")).isDir());
         QVERIFY(QDir(root + QStringLiteral("Temp")).entryList(QDir::Files).isEmpty());
         QVERIFY(!LoadPicture(root + QStringLiteral("Cards/C000000.bmp")).IsNull());
