@@ -56,7 +56,8 @@ QString MissingFile(const char* kind, const QString& owner, const FixedText<N>& 
 }
 
 // The ids are given out in record order up to the first 0: the records from
-// there on keep none (an id 0 each), and their cards are never reached.
+// there on keep none, an id 0 each. A deck's cards are then never reached,
+// and such spreads share the one id.
 template <class R>
 std::vector<Integer> InstalledIds(const std::vector<R>& records, Integer R::*id) {
     std::vector<Integer> ids;
@@ -74,7 +75,8 @@ QString DeckProblem(const std::vector<DeckRecord>& decks, const std::vector<Card
         const DeckRecord& deck = decks[i];
         const QString name = deck.DeckName.Trimmed();
         if (deck.CardCount < 0 || deck.CardCount > MaxDeckCards)
-            return Damaged(QStringLiteral("The deck '%1' claims %2 cards, which no deck can hold.").arg(name).arg(deck.CardCount));
+            return Damaged(
+                QStringLiteral("The deck '%1' claims %2 cards, which no deck can hold.").arg(name).arg(deck.CardCount));
         if (ids[i] == 0 && deck.CardCount > 0)
             return Damaged(QStringLiteral("The deck '%1' would be installed without its cards.").arg(name));
         for (std::size_t j = 0; j < i; ++j)
@@ -84,7 +86,8 @@ QString DeckProblem(const std::vector<DeckRecord>& decks, const std::vector<Card
         if (QString missing = MissingFile("deck", name, deck.DeckAttachment); !missing.isEmpty()) return missing;
     }
     for (const CardRecord& card : cards)
-        if (std::none_of(decks.begin(), decks.end(), [&card](const DeckRecord& d) { return d.DeckId == card.CardDeckId; }))
+        if (std::none_of(decks.begin(), decks.end(),
+                         [&card](const DeckRecord& d) { return d.DeckId == card.CardDeckId; }))
             return Damaged(QStringLiteral("A card of the package belongs to none of its decks."));
     for (const DeckRecord& deck : decks) {
         const auto held = std::count_if(cards.begin(), cards.end(),
@@ -156,10 +159,67 @@ QString SpreadProblem(const std::vector<SpreadRecord>& spreads, const std::vecto
 // Records of a record file as they will be: n past the end adds one.
 template <class R>
 void Place(std::vector<R>& records, std::set<int>& changed, int n, const R& r) {
-    if (n < 1 || n > static_cast<int>(records.size()) + 1) RaiseError(errBadFileName, QStringLiteral("Bad record number"));
+    if (n < 1 || n > static_cast<int>(records.size()) + 1)
+        RaiseError(errBadFileName, QStringLiteral("Bad record number"));
     if (n == static_cast<int>(records.size()) + 1) records.push_back(r);
     records[static_cast<std::size_t>(n - 1)] = r;
     changed.insert(n);
+}
+
+// The index of id among ids, from the first entry; -1 when an entry 0
+// follows the one tested or the array ends first.
+int IndexOfId(const BoundedArray<Integer>& ids, Integer id) {
+    for (int k = ids.LBound(); k <= ids.UBound(); ++k) {
+        if (ids(k) == id) return k;
+        if (k + 1 > ids.UBound() || ids(k + 1) == 0) return -1;
+    }
+    return -1;
+}
+
+// Whether a name stands among names, both trimmed, case counting.
+bool NameIsInArray(const BoundedArray<QString>& names, const QString& name) {
+    const QString wanted = TrimField(name);
+    for (const QString& entry : names)
+        if (TrimField(entry) == wanted) return true;
+    return false;
+}
+
+// Gives each package id in turn the smallest positive id not among the
+// installed ones, in ascending order, until a package entry is 0.
+void AssignNewIds(const GrownIdList& packageIds, GrownIdList& newIds, const GrownIdList& installedIds) {
+    newIds.Capacity = packageIds.Capacity;
+    newIds.Count = packageIds.Count;
+    newIds.Ids.Redim(1, std::max(1, packageIds.Capacity));
+    // A package list that is exactly full has no 0 behind its last entry:
+    // the look past it raises the subscript error before anything is written.
+    int i = 1;
+    for (int candidate = 1; packageIds.Ids(i) != 0; ++candidate) {
+        if (IndexOfId(installedIds.Ids, static_cast<Integer>(candidate)) != -1) continue;
+        newIds.Ids(i) = static_cast<Integer>(candidate);
+        ++i;
+    }
+}
+
+// The compaction of a spread's deck list after its ids were mapped: entries
+// -1 go, the others move left by the places shifted so far in the run.
+void CompactAllowedDecks(SpreadRecord& spread, int countAtStart) {
+    // The 1-based list of the record; a place left of the first raises the
+    // subscript error, as the list of the record does.
+    auto entry = [&spread](int k) -> Integer& {
+        if (k < 1 || k > 10) RaiseError(errSubscriptOutOfRange);
+        return spread.AllowedDeckId[static_cast<std::size_t>(k - 1)];
+    };
+    int shifted = 0;   // places shifted so far; never reset within the run
+    for (int j = 1; j <= countAtStart; ++j) {
+        if (entry(j) != -1) continue;
+        // The pass starts back where the gap would stand had the list moved
+        // twice the places already shifted, and moves by the new total.
+        const int from = std::max(1, j - 2 * shifted);
+        ++shifted;
+        --spread.AllowedDeckCount;
+        for (int k = from; k <= countAtStart; ++k)
+            if (entry(k) != -1) entry(k - shifted) = entry(k);
+    }
 }
 
 }  // namespace
@@ -179,55 +239,6 @@ void GrownIdList::Add(Integer id, int step) {
         Ids.RedimPreserve(Capacity);
     }
     Ids(Count) = id;
-}
-
-int IndexOfId(const BoundedArray<Integer>& ids, Integer id) {
-    for (int k = ids.LBound(); k <= ids.UBound(); ++k) {
-        if (ids(k) == id) return k;
-        if (k + 1 > ids.UBound() || ids(k + 1) == 0) return -1;
-    }
-    return -1;
-}
-
-bool NameIsInArray(const BoundedArray<QString>& names, const QString& name) {
-    const QString wanted = TrimField(name);
-    for (const QString& entry : names)
-        if (TrimField(entry) == wanted) return true;
-    return false;
-}
-
-void AssignNewIds(const GrownIdList& packageIds, GrownIdList& newIds, const GrownIdList& installedIds) {
-    newIds.Capacity = packageIds.Capacity;
-    newIds.Count = packageIds.Count;
-    newIds.Ids.Redim(1, std::max(1, packageIds.Capacity));
-    // A package list that is exactly full has no 0 behind its last entry:
-    // the look past it raises the subscript error before anything is written.
-    int i = 1;
-    for (int candidate = 1; packageIds.Ids(i) != 0; ++candidate) {
-        if (IndexOfId(installedIds.Ids, static_cast<Integer>(candidate)) != -1) continue;
-        newIds.Ids(i) = static_cast<Integer>(candidate);
-        ++i;
-    }
-}
-
-void CompactAllowedDecks(SpreadRecord& spread, int countAtStart) {
-    // The 1-based list of the record; a place left of the first raises the
-    // subscript error, as the list of the record does.
-    auto entry = [&spread](int k) -> Integer& {
-        if (k < 1 || k > 10) RaiseError(errSubscriptOutOfRange);
-        return spread.AllowedDeckId[static_cast<std::size_t>(k - 1)];
-    };
-    int shifted = 0;   // places shifted so far; never reset within the run
-    for (int j = 1; j <= countAtStart; ++j) {
-        if (entry(j) != -1) continue;
-        // The pass starts back where the gap would stand had the list moved
-        // twice the places already shifted, and moves by the new total.
-        const int from = std::max(1, j - 2 * shifted);
-        ++shifted;
-        --spread.AllowedDeckCount;
-        for (int k = from; k <= countAtStart; ++k)
-            if (entry(k) != -1) entry(k - shifted) = entry(k);
-    }
 }
 
 QString PackageProblem() {

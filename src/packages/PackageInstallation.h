@@ -45,18 +45,6 @@ struct GrownIdList {
     void Add(Integer id, int step);
 };
 
-// The index of id among ids, from the first entry; -1 when an entry 0
-// follows the one tested or the array ends first.
-int IndexOfId(const BoundedArray<Integer>& ids, Integer id);
-// Whether a name stands among names, both trimmed, case counting.
-bool NameIsInArray(const BoundedArray<QString>& names, const QString& name);
-// Gives each package id in turn the smallest positive id not among the
-// installed ones, in ascending order, until a package entry is 0.
-void AssignNewIds(const GrownIdList& packageIds, GrownIdList& newIds, const GrownIdList& installedIds);
-// The compaction of a spread's deck list after its ids were mapped: entries
-// -1 go, the others move left by the places shifted so far in the run.
-void CompactAllowedDecks(SpreadRecord& spread, int countAtStart);
-
 // What the user said to a design whose name is installed already.
 struct DesignExistsReply {
     int Choice = 0;    // a DesignExistsAnswer

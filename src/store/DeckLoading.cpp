@@ -132,7 +132,8 @@ bool TakenStems::Contains(const QString& stem) const { return stems_.contains(st
 
 void TakenStems::Take(const QString& fileName) {
     const QString folded = fileName.toCaseFolded();
-    for (qsizetype rest = 0; rest <= 4 && rest < folded.size(); ++rest) stems_.insert(folded.left(folded.size() - rest));
+    for (qsizetype rest = 0; rest <= 4 && rest < folded.size(); ++rest)
+        stems_.insert(folded.left(folded.size() - rest));
     for (qsizetype dot = folded.indexOf(QLatin1Char('.')); dot > 0; dot = folded.indexOf(QLatin1Char('.'), dot + 1))
         stems_.insert(folded.left(dot));
 }

@@ -1,25 +1,19 @@
 #pragma once
-// A package installation's questions answered by the test: the attachment's
-// place, the design-exists replies in turn, and the decks (by name) that the
-// first spread is tied to; what each chooser offered is kept.
+// A package installation's questions answered by the test: the first spread
+// is tied to the decks named in Chosen, what the chooser offered is kept in
+// Offered, and any other question is left unanswered.
 #include <QStringList>
-#include <deque>
 
 #include "packages/PackageInstallation.h"
 #include "store/mdlVariables.h"
 
 struct InstallAnswers : InstallationQuestions {
-    QString Attachment;   // empty: cancelled
-    std::deque<DesignExistsReply> Replies;
     QStringList Chosen;
     QStringList Offered;
 
-    QString AttachmentTarget(const QString&) override { return Attachment; }
+    QString AttachmentTarget(const QString&) override { return {}; }
     DesignExistsReply DesignExists(int, const QString&, const std::function<bool(const QString&)>&) override {
-        if (Replies.empty()) return {DesignExistsChoice, {}};
-        const DesignExistsReply reply = Replies.front();
-        Replies.pop_front();
-        return reply;
+        return {DesignExistsChoice, {}};
     }
     void ChooseDecks(const std::vector<DeckRecord>& decks) override {
         Offered.clear();
