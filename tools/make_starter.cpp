@@ -73,11 +73,11 @@ CardRecord SaveCard(const StarterCard& card, const StarterDeck& deck, Integer de
     record.CardKeywords[0] = card.UprightKeywords;
     record.CardKeywords[1] = card.ReversedKeywords;
     const QImage upright = DrawCardFace(card);
-    const QString uprightName = FreeCardPictureName(0, CardsDir) + QStringLiteral(".jpg");
+    const QString uprightName = CardPictureStem(0, FreeCardNumber(0, {CardsDir})) + QStringLiteral(".jpg");
     WriteWholeFile(CardsDir + uprightName, FaceFileBytes(upright));
     record.CardPicture[0] = uprightName;
     if (deck.IncludesReversed) {
-        const QString reversedName = FreeCardPictureName(1, CardsDir) + QStringLiteral(".jpg");
+        const QString reversedName = CardPictureStem(1, FreeCardNumber(1, {CardsDir})) + QStringLiteral(".jpg");
         WriteWholeFile(CardsDir + reversedName, FaceFileBytes(ReversedFace(upright)));
         record.CardPicture[1] = reversedName;
     }

@@ -231,11 +231,11 @@ Integer MakeSampleDeck(const QString& name, const QString& title, int hueBase, b
         card.CardKeywords[1] = QString::fromUtf8(cards[i].Reversed);
         const QImage face = CardFace(cardTitle, major ? QString::fromLatin1(Numerals[i]) : QStringLiteral("Ace"),
                                      i, hueBase);
-        upright = FreeCardPictureNumber(0, {CardsDir}, upright + 1);
+        upright = FreeCardNumber(0, {CardsDir}, upright + 1);
         card.CardPicture[0] = CardUprightName(upright) + QStringLiteral(".bmp");
         SavePictureAsBmp(face, CardsDir + card.CardPicture[0].Trimmed());
         if (withReversed) {
-            reversed = FreeCardPictureNumber(1, {CardsDir}, reversed + 1);
+            reversed = FreeCardNumber(1, {CardsDir}, reversed + 1);
             card.CardPicture[1] = CardReversedName(reversed) + QStringLiteral(".bmp");
             SavePictureAsBmp(face.mirrored(true, true), CardsDir + card.CardPicture[1].Trimmed());
         } else {

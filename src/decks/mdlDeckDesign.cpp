@@ -27,42 +27,6 @@ ChooserMemory& RememberedSoundFolder() {
     return memory;
 }
 
-QString CardPictureStem(int side, int number) {
-    return side == 0 ? CardUprightName(number) : CardReversedName(number);
-}
-
-namespace {
-
-// Whether a file name carries the stem: "stem", "stem.ext", or the stem with
-// a four-character extension that lost its dot.
-bool CarriesStem(const QString& name, const QString& stem) {
-    if (!name.startsWith(stem, Qt::CaseInsensitive)) return false;
-    const qsizetype rest = name.size() - stem.size();
-    return rest == 0 || name.at(stem.size()) == QLatin1Char('.') || rest == 4;
-}
-
-}  // namespace
-
-int FreeCardNumber(int side, const QStringList& folders, int from) {
-    // One listing per folder answers every candidate.
-    QStringList names;
-    const QString prefix = side == 0 ? QStringLiteral("CU") : QStringLiteral("CR");
-    for (const QString& folder : folders)
-        for (const QString& name : Dir(AddTrailingBackslash(folder) + QStringLiteral("*")))
-            if (name.startsWith(prefix, Qt::CaseInsensitive)) names.append(name);
-    for (int n = from;; ++n) {
-        const QString stem = CardPictureStem(side, n);
-        bool taken = false;
-        for (const QString& name : names) {
-            if (CarriesStem(name, stem)) {
-                taken = true;
-                break;
-            }
-        }
-        if (!taken) return n;
-    }
-}
-
 void ResetDeckDesignState() {
     UprightPictureFile.clear();
     ReversedPictureFile.clear();

@@ -1,14 +1,15 @@
 #pragma once
 // What the deck screens share beyond the records: the card editor's run-wide
 // file names, the working names a picked file takes in Temp/ until its card
-// is stored, the deck's card limit, the search for a free card picture
-// number, and the small control helpers of these screens.
+// is stored, the deck's card limit, and the small control helpers of these
+// screens.
 #include <QComboBox>
 #include <QRect>
 #include <QString>
 #include <QStringList>
 
 #include "platform/Twips.h"
+#include "store/mdlTypes.h"
 
 class QLabel;
 class QListWidget;
@@ -34,17 +35,6 @@ inline const QString UprightPictureStem = QStringLiteral("TempUp");
 inline const QString ReversedPictureStem = QStringLiteral("TempRev");
 inline const QString UprightSoundStem = QStringLiteral("TsndUp");
 inline const QString ReversedSoundStem = QStringLiteral("TsndRev");
-
-// A deck holds at most this many cards.
-constexpr int MaxDeckCards = 100;
-
-// The first number from `from` upward whose upright (side 0) or reversed
-// (side 1) picture stem no file in the folders carries. A file whose
-// extension lost its dot ("CU00003jpeg", from a source with a four-letter
-// extension) blocks its number too, so two such pictures never share a name.
-int FreeCardNumber(int side, const QStringList& folders, int from = 1);
-// "CU" or "CR" and the number, by side.
-QString CardPictureStem(int side, int number);
 
 // Where a file chooser was last left in this run: its folder and the index
 // of the file picked there. One for pictures, one for sounds.

@@ -1,21 +1,13 @@
 #pragma once
 // "Install Package": picks a package file in a folder, shows what it holds,
-// deletes it, or installs it. Installing unpacks it into Temp/ and merges its
-// designs into the live files: the attachment first, then the decks, their
-// cards, and the spreads. Every design gets a fresh id and every card file a
-// fresh name; a design whose name is taken goes through frmDesignExists, and
-// each spread is tied to installed decks on frmDeckChooser.
-//
-// Nothing is rolled back: a record written stays. Each record is written
-// whole, so an installation that ends on an error leaves every record file
-// readable.
-#include <QHash>
-
-#include "platform/Arrays.h"
+// deletes it, or installs it. Installing unpacks it into Temp/ and hands it
+// to PackageInstallation, whose questions this screen answers with the save
+// dialogue, frmDesignExists and frmDeckChooser; it then shows what came of
+// it: the summary, the refusal of a damaged package, or the error that
+// stopped the installation with nothing written.
+#include "packages/PackageInstallation.h"
 #include "platform/CommonDialog.h"
 #include "platform/Form.h"
-#include "store/RecordFile.h"
-#include "store/mdlTypes.h"
 
 class DirListBox;
 class DriveListBox;
@@ -23,17 +15,7 @@ class FileListBox;
 class QLabel;
 class QPushButton;
 
-// A list of ids read from a record file, grown a fixed number of entries at a
-// time. Entries past the last one read are 0, and searches stop at a 0 entry.
-struct GrownIdList {
-    BoundedArray<Integer> Ids;
-    int Capacity = 0;
-    int Count = 0;
-    void Reset();
-    void Add(Integer id, int step);
-};
-
-class frmInstallPackage : public Form {
+class frmInstallPackage : public Form, public InstallationQuestions {
     Q_OBJECT
 public:
     frmInstallPackage();
@@ -66,10 +48,14 @@ public:
     void cmdCancel_Click();
 
     void ExtractFiles();
-    void Install();
-    void LinkToExistingDecks();
-    bool NameIsInDeckInstalledArray(const QString& name) const;
-    bool NameIsInSpreadInstalledArray(const QString& name) const;
+    // Installs the package unpacked in Temp/; false when it was refused, so
+    // that no summary follows.
+    bool Install();
+
+    QString AttachmentTarget(const QString& proposed) override;
+    DesignExistsReply DesignExists(int design, const QString& title,
+                                   const std::function<bool(const QString&)>& nameInUse) override;
+    void ChooseDecks(const std::vector<DeckRecord>& decks) override;
 
     // The folder shown, so that a caller can point the screen at one.
     void ShowFolder(const QString& folder);
@@ -82,36 +68,7 @@ protected:
 
 private:
     void UpdateButtons();
-    void ResetInstallState();
-    bool SaveAttachment();
-    bool PassesCompatibilityTest() const;
-    void ReserveCardFileNames();
-    void LoadInstalledDecks();
-    void LoadInstalledSpreads();
-    void InstallDecks();
-    void InstallCards();
-    void TakeCards(RecordEdit<CardRecord>& cards);
-    void InstallSpreads();
-    void InstallSpread(SpreadRecord spread, int i, int& position);
-    void RemapSpread(int i);
-    void InstallSpreadBackground();
-    void TakeUnpackedFile(const QString& recorded, const QString& newName);
-    Integer MapDeckId(Integer oldId);
-    int AskDesignExists(int design, const QString& title);
     void ShowPackageSummary();
-
-    int PackageCardCount = 0;
-    BoundedArray<QString> NewUprightNames, NewReversedNames, NewUprightSoundNames, NewReversedSoundNames;
-    GrownIdList PackageDeckIds, NewDeckIds, InstalledDeckIds;
-    GrownIdList PackageSpreadIds, NewSpreadIds, InstalledSpreadIds;
-    BoundedArray<QString> InstalledDeckNames, InstalledSpreadNames;   // 50 characters, untrimmed
-    Integer LastOldDeckId = 0;
-    Integer LastNewDeckId = 0;
-    // Files of Temp/ already moved into Cards/, by their unpacked name.
-    QHash<QString, QString> TakenFiles;
-    int ChosenDeckCount = -1;
-    std::array<Integer, 10> ChosenDeckIds{};
-    bool FirstLinkPending = true;
 };
 
 // "Package Info": the spreads, decks and attachment of the package unpacked
@@ -134,15 +91,3 @@ protected:
     void Form_Load() override;
     void Form_KeyUp(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 };
-
-// The index of id among ids, from the first entry; -1 when an entry 0
-// follows the one tested or the array ends first.
-int IndexOfId(const BoundedArray<Integer>& ids, Integer id);
-// Whether a name stands among names, both trimmed, case counting.
-bool NameIsInArray(const BoundedArray<QString>& names, const QString& name);
-// Gives each package id in turn the smallest positive id not among the
-// installed ones, in ascending order, until a package entry is 0.
-void AssignNewIds(const GrownIdList& packageIds, GrownIdList& newIds, const GrownIdList& installedIds);
-// The compaction of a spread's deck list after its ids were mapped: entries
-// -1 go, the others move left by the places shifted so far in the run.
-void CompactAllowedDecks(SpreadRecord& spread, int countAtStart);

@@ -97,10 +97,16 @@ void AtomicFileWriter::Flush() {
     pending_.resize(0);   // keeps the block's memory for the next one
 }
 
-void AtomicFileWriter::Commit() {
+void AtomicFileWriter::Finish() {
+    if (finished_) return;
     Flush();
     FlushOrRaise(*file_);
     file_->close();
+    finished_ = true;
+}
+
+void AtomicFileWriter::Commit() {
+    Finish();
     RenameOver(newPath_, realPath_);
     committed_ = true;
 }
@@ -134,9 +140,9 @@ void RecordFileEdit::Put(int recordNumber, const char* bytes) {
     changes_[recordNumber] = QByteArray(bytes, length_);
 }
 
-void RecordFileEdit::Commit() {
-    if (changes_.empty()) return;
-    AtomicFileWriter writer(NewFileBeside(path_), path_);
+void RecordFileEdit::Prepare() {
+    if (changes_.empty() || prepared_) return;
+    auto writer = std::make_unique<AtomicFileWriter>(NewFileBeside(path_), path_);
     {
         RecordFileReader reader(path_, length_);
         const int last = std::max(reader.RecordCount(), changes_.rbegin()->first);
@@ -146,13 +152,21 @@ void RecordFileEdit::Commit() {
             // The reader stays in step with n over the records the file has.
             const char* old = n <= reader.RecordCount() ? reader.Next() : nullptr;
             if (change != changes_.cend() && change->first == n) {
-                writer.Write((change++)->second);
+                writer->Write((change++)->second);
             } else {
-                writer.Write(old ? old : gap.constData(), length_);
+                writer->Write(old ? old : gap.constData(), length_);
             }
         }
     }
-    writer.Commit();
+    writer->Finish();
+    prepared_ = std::move(writer);
+}
+
+void RecordFileEdit::Commit() {
+    Prepare();
+    if (!prepared_) return;
+    prepared_->Commit();
+    prepared_.reset();
     changes_.clear();
     count_ = RecordCountOf(path_, length_);
 }

@@ -52,7 +52,10 @@ public:
 
     void Write(const char* bytes, qint64 length);
     void Write(const QByteArray& bytes) { Write(bytes.constData(), bytes.size()); }
-    // Flushes, syncs and renames the new file over the real one.
+    // Flushes and syncs the new file and closes it, leaving the real one as
+    // it is: several files can be made ready and then put in place together.
+    void Finish();
+    // Finishes the new file if need be and renames it over the real one.
     void Commit();
 
 private:
@@ -61,6 +64,7 @@ private:
     QString newPath_;
     QString realPath_;
     QByteArray pending_;
+    bool finished_ = false;
     bool committed_ = false;
 };
 
@@ -78,6 +82,9 @@ public:
     // leaves the records between all zero.
     void Put(int recordNumber, const char* bytes);
     bool Pending() const { return !changes_.empty(); }
+    // Builds the new file and waits for the disk, without putting it in
+    // place; Commit then only renames. No further Put until Commit.
+    void Prepare();
     // Writes the changes, if any; the edit is then empty and may go on.
     void Commit();
 
@@ -86,6 +93,7 @@ private:
     int length_;
     int count_;
     std::map<int, QByteArray> changes_;
+    std::unique_ptr<AtomicFileWriter> prepared_;
 };
 
 // Where a file's replacement is built before it is renamed over it.

@@ -15,9 +15,8 @@ void RestoreListPosition(SortedListBox* list, int noted) {
 }
 
 void DeckLists::ShowDeckLists() {
-    RecordReader<DeckRecord> reader(DecksPath);
-    DeckRecord deck;
-    while (reader.Next(deck)) lstAvailableDecks->AddItem(deck.DeckName.Trimmed());
+    const std::vector<DeckRecord> onFile = Decks ? std::vector<DeckRecord>() : ReadAllRecords<DeckRecord>(DecksPath);
+    for (const DeckRecord& deck : Decks ? *Decks : onFile) lstAvailableDecks->AddItem(deck.DeckName.Trimmed());
     if (lstAvailableDecks->ListCount() > 0) lstAvailableDecks->setListIndex(0);
     if (lstDecks->ListCount() > 0) lstDecks->setListIndex(0);
     UpdateDeckButtons();
@@ -87,6 +86,14 @@ void DeckLists::WriteChoice(SpreadRecord& spread) const {
     spread.AllowedDeckCount = static_cast<Integer>(chkAnyDeck->isChecked() ? -1 : lstDecks->ListCount());
     for (int i = 0; i < MaxSpreadDecks; ++i) {
         spread.AllowedDeckId[static_cast<std::size_t>(i)] =
-            i < lstDecks->ListCount() ? FindDeckIdByName(lstDecks->List(i)) : Integer(-1);
+            i < lstDecks->ListCount() ? DeckIdByName(lstDecks->List(i)) : Integer(-1);
     }
+}
+
+Integer DeckLists::DeckIdByName(const QString& name) const {
+    if (!Decks) return FindDeckIdByName(name);
+    const QString wanted = TrimField(name);
+    for (const DeckRecord& deck : *Decks)
+        if (deck.DeckName.Trimmed() == wanted) return deck.DeckId;
+    return -1;
 }

@@ -6,6 +6,7 @@
 // controls and its own way of marking the choice as changed.
 #include <QList>
 #include <functional>
+#include <vector>
 
 #include "store/mdlTypes.h"
 
@@ -27,6 +28,8 @@ public:
     // Controls that are usable only while the spread is not an any-deck one.
     QList<QWidget*> NamedDeckControls;
     std::function<void()> MarkDirty;
+    // The decks to choose from, when they are not those of Decks.dck.
+    const std::vector<DeckRecord>* Decks = nullptr;
 
     // Every deck's trimmed name into lstAvailableDecks.
     void ShowDeckLists();
@@ -44,6 +47,8 @@ public:
 
 private:
     void Move(SortedListBox* from, SortedListBox* to);
+    // The id of the first deck of that name among the decks to choose from.
+    Integer DeckIdByName(const QString& name) const;
 };
 
 // Selects position `noted` again after an entry went: one up when it lies

@@ -2,7 +2,8 @@
 // "Decks Available": ties the spread in CurrentSpread to decks. Opened from
 // the spread list (manage mode), it writes the choice into the spread's record
 // without making a new revision of the design; opened modally by package
-// installation, it starts empty and leaves the choice in memory only.
+// installation, it starts empty, offers the decks the installation will
+// leave, and leaves the choice in memory only.
 #include "platform/Form.h"
 #include "spreads/DeckLists.h"
 
@@ -15,6 +16,10 @@ class frmDeckChooser : public Form {
     Q_OBJECT
 public:
     frmDeckChooser();
+
+    // During an installation: the decks to offer, those the installation
+    // adds included, since they are not in Decks.dck yet.
+    static inline const std::vector<DeckRecord>* DecksOnOffer = nullptr;
 
     bool ChooserDirty = false;
     // The spread to select again on the list when the chooser closes.

@@ -1,6 +1,6 @@
 // The deck in memory, its card types, and the names of the picture files in
 // Cards/.
-#include <QSet>
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -13,7 +13,10 @@ bool LoadDeck(bool& DeckRemoved) {
     DeckRemoved = false;
     static_cast<DeckRecord&>(CurrentDeck) = ListDeck;
     const int cardCount = CurrentDeck.CardCount;
-    CurrentDeck.DeckCards.Redim(1, cardCount);
+    // Never more places than Cards.crd has records: a deck claiming more
+    // cards than that fails below all the same, and a claim of 32,767 must
+    // not cost 160 MB on the way.
+    CurrentDeck.DeckCards.Redim(1, std::min(cardCount, CountCards()));
     const CardRecord empty = ZeroRecord<CardRecord>();
     for (CardRecord& card : CurrentDeck.DeckCards) card = empty;
 
@@ -114,43 +117,38 @@ QString SpreadPictureName(int number) {
     return QStringLiteral("S0") + digits;
 }
 
-namespace {
-
-// The stems taken in a folder: a file blocks the stem before its first dot,
-// letters without case, just as the pattern "stem.*" would find it. One
-// listing answers every candidate, so a search through a full Cards/ stays
-// quick.
-void CollectStems(const QString& folder, QSet<QString>& stems) {
-    for (const QString& name : Dir(AddTrailingBackslash(folder) + QStringLiteral("*.*"))) {
-        const qsizetype dot = name.indexOf(QLatin1Char('.'));
-        if (dot >= 0) stems.insert(name.left(dot).toCaseFolded());
-    }
-}
-
-template <class NameOf>
-int FirstFreeNumber(const QStringList& folders, int from, NameOf nameOf) {
-    QSet<QString> stems;
-    for (const QString& folder : folders) CollectStems(folder, stems);
-    int n = from;
-    while (stems.contains(nameOf(n).toCaseFolded())) ++n;
-    return n;
-}
-
-QString CardPictureName(int side, int number) {
+QString CardPictureStem(int side, int number) {
     return side == 0 ? CardUprightName(number) : CardReversedName(number);
 }
 
-}  // namespace
+TakenStems::TakenStems(const QStringList& folders) {
+    // One listing per folder; each name enters every stem it takes, so that
+    // a search through a full Cards/ asks a set, not the folder.
+    for (const QString& folder : folders)
+        for (const QString& name : Dir(AddTrailingBackslash(folder) + QStringLiteral("*.*"))) Take(name);
+}
 
-QString NewBackgroundName(const QString& sourcePath) {
-    const int n = FirstFreeNumber({CardsDir}, 1, SpreadPictureName);
+bool TakenStems::Contains(const QString& stem) const { return stems_.contains(stem.toCaseFolded()); }
+
+void TakenStems::Take(const QString& fileName) {
+    const QString folded = fileName.toCaseFolded();
+    for (qsizetype rest = 0; rest <= 4 && rest < folded.size(); ++rest)
+        stems_.insert(folded.left(folded.size() - rest));
+    for (qsizetype dot = folded.indexOf(QLatin1Char('.')); dot > 0; dot = folded.indexOf(QLatin1Char('.'), dot + 1))
+        stems_.insert(folded.left(dot));
+}
+
+QString NewBackgroundName(const QString& sourcePath) { return NewBackgroundName(sourcePath, TakenStems({CardsDir})); }
+
+QString NewBackgroundName(const QString& sourcePath, const TakenStems& taken) {
+    int n = 1;
+    while (taken.Contains(SpreadPictureName(n))) ++n;
     return SpreadPictureName(n) + TrimField(sourcePath).right(4);
 }
 
-int FreeCardPictureNumber(int side, const QStringList& folders, int from) {
-    return FirstFreeNumber(folders, from, [side](int n) { return CardPictureName(side, n); });
-}
-
-QString FreeCardPictureName(int side, const QString& folder) {
-    return CardPictureName(side, FreeCardPictureNumber(side, {folder}));
+int FreeCardNumber(int side, const QStringList& folders, int from) {
+    const TakenStems taken(folders);
+    int n = from;
+    while (taken.Contains(CardPictureStem(side, n))) ++n;
+    return n;
 }

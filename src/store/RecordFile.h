@@ -77,6 +77,7 @@ public:
     void Put(int recordNumber, const R& r) { edit_.Put(recordNumber, EncodeRecord(r).constData()); }
     void Append(const R& r) { Put(Count() + 1, r); }
     bool Pending() const { return edit_.Pending(); }
+    void Prepare() { edit_.Prepare(); }
     void Commit() { edit_.Commit(); }
 
 private:
@@ -90,6 +91,7 @@ public:
     RecordRewriter(const QString& newPath, const QString& realPath) : writer_(newPath, realPath) {}
     void Add(const R& r) { writer_.Write(EncodeRecord(r)); }
     void AddRaw(const char* bytes) { writer_.Write(bytes, R::Length); }
+    void Prepare() { writer_.Finish(); }
     void Commit() { writer_.Commit(); }
 
 private:

@@ -4,23 +4,12 @@
 #include <functional>
 
 #include "platform/Form.h"
+#include "store/mdlVariables.h"
 
 class QLabel;
 class QLineEdit;
 class QPushButton;
 class QWidget;
-
-enum DesignKind : int { DesignCard = 0, DesignDeck = 1, DesignSpread = 2 };
-
-// The answers left in DesignExistsChoice.
-enum DesignExistsAnswer : int {
-    DesignExistsNone = 0,
-    DesignExistsRename = 1,
-    DesignExistsOverwrite = 2,
-    DesignExistsSkip = 3,
-    DesignExistsOverwriteAll = 4,
-    DesignExistsSkipAll = 5,
-};
 
 class frmDesignExists : public Form {
     Q_OBJECT

@@ -7,6 +7,7 @@
 //
 // No file stays open between calls. Record numbers count from 1 and are only
 // positions of the moment; a delete moves later records up.
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <cstring>
@@ -111,16 +112,33 @@ int CountSelectedCardsOfType(const BoundedArray<CardRecord>& cards, int cardCoun
 // ---- Names of picture files ------------------------------------------------
 QString CardUprightName(int number);     // "CU00012"
 QString CardReversedName(int number);    // "CR00012"
+QString CardPictureStem(int side, int number);   // by side: 0 upright, 1 reversed
 QString SpreadPictureName(int number);   // "S000007"
-// The first S name free in Cards/ (no file of that stem, whatever its
-// extension), with the source's extension.
+
+// The stems ("CU00012", "S000007") that the files of some folders take. A
+// file takes a stem when its name is the stem followed by a dot and anything,
+// or by at most four more characters: every name the program gives is a stem
+// and the last four characters of a source, and that source may have lost its
+// dot ("photo.jpeg" gives "CU00001jpeg"). Letters count without case, as in
+// the program's wildcard matching. Every search for a free picture name goes
+// by this one rule, so two pictures never meet under one name in Cards/.
+class TakenStems {
+public:
+    explicit TakenStems(const QStringList& folders);
+    bool Contains(const QString& stem) const;
+    // Counts a file that is not there yet as if it were.
+    void Take(const QString& fileName);
+
+private:
+    QSet<QString> stems_;
+};
+
+// The first S name that no file takes, with the source's extension.
 QString NewBackgroundName(const QString& sourcePath);
-// The first number from `from` upward for which no folder holds a file of
-// the stem CardUprightName(n) (side 0) or CardReversedName(n) (side 1), with
-// any extension.
-int FreeCardPictureNumber(int side, const QStringList& folders, int from = 1);
-// The stem of the first free upright or reversed picture name in one folder.
-QString FreeCardPictureName(int side, const QString& folder);
+QString NewBackgroundName(const QString& sourcePath, const TakenStems& taken);
+// The first number from `from` upward whose upright (side 0) or reversed
+// (side 1) picture stem no file in the folders takes.
+int FreeCardNumber(int side, const QStringList& folders, int from = 1);
 
 // ---- Small helpers of every screen ------------------------------------------
 QString AddTrailingBackslash(const QString& path);   // ends the path in '/'

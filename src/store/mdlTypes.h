@@ -55,6 +55,11 @@ struct Designer {
     static constexpr int Length = 130;
 };
 
+// What the records can hold: a deck has at most 100 cards, a spread at most
+// 32 locations.
+constexpr int MaxDeckCards = 100;
+constexpr int MaxSpreadLocations = 32;
+
 struct DeckRecord {
     Integer IncludesReversed = 0;
     FixedText<50> DeckName;

@@ -52,7 +52,20 @@ extern std::array<bool, 4> CardTypeSelected;
 extern int SelectedLocation;
 extern bool ChooserManageMode;
 extern bool InstallAllSpreads;
-extern int DesignExistsChoice;
+extern int DesignExistsChoice;         // a DesignExistsAnswer
+
+// The kinds of design the design-exists question names.
+enum DesignKind : int { DesignCard = 0, DesignDeck = 1, DesignSpread = 2 };
+
+// The answers of the design-exists question.
+enum DesignExistsAnswer : int {
+    DesignExistsNone = 0,
+    DesignExistsRename = 1,
+    DesignExistsOverwrite = 2,
+    DesignExistsSkip = 3,
+    DesignExistsOverwriteAll = 4,
+    DesignExistsSkipAll = 5,
+};
 
 // Palette entries that mark locations on the reading and diary screens.
 extern int CurrentLocationColour;

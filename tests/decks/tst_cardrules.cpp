@@ -1,7 +1,7 @@
 // The rules of the designer and the card editor, and what bad input meets:
 // the card limit, blank and duplicate titles, cancelled picks, a file that is
-// no picture, a source with a four-letter extension, a deck without reversed
-// cards, the properties fixed once configured, and the questions on leaving.
+// no picture, a deck without reversed cards, the properties fixed once
+// configured, and the questions on leaving.
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QListWidget>
@@ -151,24 +151,6 @@ private slots:
         // number in Temp/ is 1.
         QCOMPARE(CurrentDeck.DeckCards(3).CardPicture[0].Trimmed(), QStringLiteral("CU00001.bmp"));
         QVERIFY(FileExists(TempDir + QStringLiteral("CU00001.bmp")));
-    }
-
-    void aFourLetterExtensionLosesItsDotButKeepsItsOwnNumber() {
-        frmDesignDeck& designer = Design(QStringLiteral("Plain"));
-        for (const QString& title : {QStringLiteral("Wide 1"), QStringLiteral("Wide 2")}) {
-            // What the chooser leaves for a source named "photo.jpeg".
-            DesignMode = 1;
-            ResetCard(CurrentCard);
-            frmAddCard& editor = Get<frmAddCard>();
-            UprightPictureFile = UprightPictureStem + QStringLiteral("jpeg");
-            Fixtures::WritePicture(TempDir + UprightPictureFile);
-            editor.txtCardTitle->setText(title);
-            editor.cmdSaveClose_Click();
-        }
-        QCOMPARE(CurrentDeck.DeckCards(3).CardPicture[0].Value(), QStringLiteral("CU00001jpeg "));
-        QCOMPARE(CurrentDeck.DeckCards(4).CardPicture[0].Value(), QStringLiteral("CU00002jpeg "));
-        QVERIFY(FileExists(TempDir + QStringLiteral("CU00001jpeg")));
-        QCOMPARE(designer.lstCards->count(), 4);
     }
 
     void propertiesAreFixedOnceConfigured() {

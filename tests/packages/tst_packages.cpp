@@ -1,6 +1,8 @@
 // Packages between two program directories: made on the creation screen in
 // one, installed in the other over designs of the same names, and used for a
-// reading there; and the installations that stop part way.
+// reading there; the rules of an installation on its own (fresh names, the
+// decks offered, packages refused or stopped part-way with nothing written);
+// and what the screen does with a package it cannot install.
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -11,12 +13,14 @@
 #include <QtTest>
 #include <deque>
 
+#include "packages/PackageStaging.h"
 #include "packages/PackageSummary.h"
 #include "packages/frmCreatePackage.h"
 #include "packages/frmInstallPackage.h"
 #include "packages/mdlPackages.h"
 #include "platform/CommonDialog.h"
 #include "platform/FileLists.h"
+#include "support/InstallAnswers.h"
 #include "support/ModalScript.h"
 #include "readings/ReadingFixtures.h"
 #include "spreads/SortedListBox.h"
@@ -52,6 +56,48 @@ QByteArray Member(const char* name, const QByteArray& bytes) {
     return EncodeMemberHead(QString::fromLatin1(name), qint32(bytes.size())) + bytes;
 }
 
+QByteArray Int16s(std::initializer_list<int> values) {
+    QByteArray bytes;
+    for (int v : values) bytes += char(v & 0xFF), bytes += char((v >> 8) & 0xFF);
+    return bytes;
+}
+
+// Designs staged in Temp/ of `from` as the creation screen stages them, then
+// laid in Temp/ of `to` as an extraction leaves them; `to` holds a deck and a
+// spread of its own. Decks "Tarot" (two cards with reversed pictures and
+// sounds), "Lenormand" (one card) and "Empty"; spreads "Cross" (two
+// locations, on Tarot, with a background) and "Line" (one location).
+void StagePackage(const QString& from, const QString& to) {
+    FreshRun(from);
+    const Integer tarot = Fixtures::MakeDeck(QStringLiteral("Tarot"), 2, true);
+    GiveSounds(CardsPath, tarot);
+    Fixtures::MakeDeck(QStringLiteral("Lenormand"), 1, false);
+    Fixtures::MakeDeck(QStringLiteral("Empty"), 0, false);
+    Fixtures::MakeSpread(QStringLiteral("Cross"), 2, {tarot});
+    Fixtures::MakeSpread(QStringLiteral("Line"), 1);
+    ChangeRecord<SpreadRecord>(SpreadsPath, 1, [](SpreadRecord& s) { s.BackgroundFile = QStringLiteral("S000001.bmp"); });
+    Fixtures::WritePicture(CardsDir + QStringLiteral("S000001.bmp"));
+    PackageStaging staging;
+    staging.DeckNames = {QStringLiteral("Tarot"), QStringLiteral("Lenormand"), QStringLiteral("Empty")};
+    staging.SpreadNames = {QStringLiteral("Cross"), QStringLiteral("Line")};
+    staging.StageDecks();
+    staging.StageCards();
+    staging.StageSpreads();
+    const QString staged = TempDir;
+    FreshRun(to);
+    Fixtures::MakeDeck(QStringLiteral("Mine"), 1, false);
+    Fixtures::MakeSpread(QStringLiteral("Mine"), 1);
+    for (const QString& name : Dir(staged + QStringLiteral("*.*"))) FileCopy(staged + name, TempDir + name);
+}
+
+// Everything an installation may write: the design record files and the
+// names in Cards/.
+QByteArray Stored() {
+    QByteArray all;
+    for (const QString* path : {&DecksPath, &CardsPath, &SpreadsPath, &LocationsPath}) all += ReadWholeFile(*path) + '|';
+    return all + Dir(CardsDir + QStringLiteral("*.*")).join(QLatin1Char('|')).toLatin1();
+}
+
 }  // namespace
 
 class TestPackages : public QObject, ScreenRun {
@@ -85,7 +131,6 @@ private slots:
         Fixtures::WritePicture(CardsDir + QStringLiteral("S000001.bmp"), Qt::darkGreen);
         WriteWholeFile(a.path() + QStringLiteral("/notes.txt"), "Read me first.");
         const DeckRecord deckInA = All<DeckRecord>(DecksPath)[0];
-        const std::vector<CardRecord> cardsInA = All<CardRecord>(CardsPath);
         const SpreadRecord spreadInA = All<SpreadRecord>(SpreadsPath)[0];
         const std::vector<LocationRecord> locationsInA = All<LocationRecord>(LocationsPath);
         const QString cardsDirA = CardsDir;
@@ -190,34 +235,19 @@ private slots:
         expectedDeck.DeckPassword = QStringLiteral("secret");
         QCOMPARE(EncodeRecord(decks[1]), EncodeRecord(expectedDeck));
 
-        // Cards: B's untouched, then A's under the new id with fresh file
-        // names whose files hold A's bytes; B's files are all still there.
+        // Cards: B's untouched, then A's under the new id, each of its
+        // files under a name of its own; B's files are all still there.
         QCOMPARE(ReadWholeFile(CardsPath).left(oldCardsB.size()), oldCardsB);
         const std::vector<CardRecord> cards = All<CardRecord>(CardsPath);
         QCOMPARE(int(cards.size()), 5);
         QSet<QString> names;
-        for (int i = 0; i < 3; ++i) {
-            const CardRecord& got = cards[static_cast<std::size_t>(i + 2)];
-            CardRecord expected = cardsInA[static_cast<std::size_t>(i)];
-            QCOMPARE(got.CardDeckId, Integer(2));
-            for (int side = 0; side < 2; ++side) {
-                const auto s = static_cast<std::size_t>(side);
-                for (const auto& [gotName, aName] : {std::pair{got.CardPicture[s], expected.CardPicture[s]},
-                                                     std::pair{got.CardSound[s], expected.CardSound[s]}}) {
-                    QVERIFY(!oldFilesB.contains(gotName.Trimmed()));
-                    QCOMPARE(ReadWholeFile(CardsDir + gotName.Trimmed()), ReadWholeFile(cardsDirA + aName.Trimmed()));
-                    names.insert(gotName.Trimmed());
-                }
-                expected.CardPicture[s] = got.CardPicture[s];
-                expected.CardSound[s] = got.CardSound[s];
-            }
-            QVERIFY(got.CardPicture[0].Trimmed().startsWith(QStringLiteral("CU")));
-            QVERIFY(got.CardSound[1].Trimmed().endsWith(QStringLiteral("M.WAV")));
-            expected.CardDeckId = 2;
-            QCOMPARE(EncodeRecord(got), EncodeRecord(expected));
+        for (std::size_t i = 2; i < 5; ++i) {
+            QCOMPARE(cards[i].CardDeckId, Integer(2));
+            for (const FixedText<12>& field : cards[i].CardPicture) names.insert(field.Trimmed());
+            for (const FixedText<12>& field : cards[i].CardSound) names.insert(field.Trimmed());
         }
         QCOMPARE(names.size(), 12);
-        for (const QString& file : oldFilesB) QVERIFY(FileExists(CardsDir + file));
+        for (const QString& file : oldFilesB) QVERIFY(FileExists(CardsDir + file) && !names.contains(file));
 
         // The spread took the place of B's, with a fresh id, the deck chosen,
         // a fresh background and A's locations.
@@ -252,26 +282,148 @@ private slots:
         QCOMPARE(CurrentDeck.DeckCards.Count(), 3);
     }
 
-    void installationsThatStopPartWayLeaveWholeRecords() {
+    // Each package contradicts itself in one place, and is refused with
+    // nothing written; or it stops part-way on a kept limit, and leaves
+    // every file as it was; or, last, it installs as it stands.
+    void packagesThatDisagreeOrStopPartWayWriteNothing_data() {
+        QTest::addColumn<QString>("member");
+        QTest::addColumn<int>("at");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("refusal");
+        QTest::addColumn<int>("error");
+        const auto deck = [](int n, int field) { return (n - 1) * DeckRecord::Length + field; };
+        const auto card = [](int n, int field) { return (n - 1) * CardRecord::Length + field; };
+        const auto spread = [](int n, int field) { return (n - 1) * SpreadRecord::Length + field; };
+        const auto location = [](int n, int field) { return (n - 1) * LocationRecord::Length + field; };
+        const QString damaged = QStringLiteral("Unable to install: Damaged Cartomar Package.\n");
+        QTest::newRow("a deck claiming 32767 cards") << "Temp.dck" << deck(1, 981) << Int16s({32767})
+            << damaged + "The deck 'Tarot' claims 32767 cards, which no deck can hold." << 0;
+        QTest::newRow("a deck claiming a card it lacks") << "Temp.dck" << deck(1, 981) << Int16s({3})
+            << damaged + "The deck 'Tarot' claims 3 cards, but the package holds 2 of them." << 0;
+        QTest::newRow("two decks of one id") << "Temp.dck" << deck(2, 985) << Int16s({1})
+            << damaged + "The decks 'Tarot' and 'Lenormand' would share their cards." << 0;
+        QTest::newRow("a deck of id 0 with cards") << "Temp.dck" << deck(1, 985) << Int16s({0})
+            << damaged + "The deck 'Tarot' would be installed without its cards." << 0;
+        QTest::newRow("a card of no deck") << "Temp.crd" << card(3, 5100) << Int16s({9})
+            << damaged + "A card of the package belongs to none of its decks." << 0;
+        QTest::newRow("a card type past 3") << "Temp.crd" << card(1, 0) << Int16s({4})
+            << damaged + "The card 'Card 1' has an unknown card type." << 0;
+        QTest::newRow("a picture the package lacks") << "Temp.crd" << card(2, 5052) << FixedText<12>("CU09999.bmp").Raw()
+            << damaged + "The card 'Card 2' names the file 'CU09999.bmp', which the package does not hold." << 0;
+        QTest::newRow("a picture outside Temp") << "Temp.crd" << card(1, 5064) << FixedText<12>("../x.bmp").Raw()
+            << damaged + "The card 'Card 1' names the file '../x.bmp', which the package does not hold." << 0;
+        QTest::newRow("a spread of 33 locations") << "Temp.spr" << spread(1, 2501) << Int16s({33})
+            << damaged + "The spread 'Cross' claims 33 locations, which no spread can hold." << 0;
+        QTest::newRow("a spread naming 11 decks") << "Temp.spr" << spread(1, 122) << Int16s({11})
+            << damaged + "The spread 'Cross' names 11 decks, which no spread can." << 0;
+        QTest::newRow("two spreads of one id") << "Temp.spr" << spread(2, 100) << Int16s({1})
+            << damaged + "The spreads 'Cross' and 'Line' would share their locations." << 0;
+        QTest::newRow("a background the package lacks") << "Temp.spr" << spread(1, 2507) << FixedText<11>("S000009.bmp").Raw()
+            << damaged + "The spread 'Cross' names the file 'S000009.bmp', which the package does not hold." << 0;
+        QTest::newRow("a location of no spread") << "Temp.loc" << location(3, 50) << Int16s({9})
+            << damaged + "A location of the package belongs to none of its spreads." << 0;
+        QTest::newRow("a location past the count") << "Temp.loc" << location(2, 52) << Int16s({3})
+            << damaged + "The locations of the spread 'Cross' do not agree with its count of 2." << 0;
+        // The compaction of a spread's mapped deck list: unmapped decks alone,
+        // or one behind a mapped one, go quietly; two behind it run it off.
+        QTest::newRow("two unmapped decks") << "Temp.spr" << spread(1, 102)
+            << Int16s({8, 9, -1, -1, -1, -1, -1, -1, -1, -1, 2}) << QString() << 0;
+        QTest::newRow("an unmapped deck behind a mapped one") << "Temp.spr" << spread(1, 102)
+            << Int16s({1, 8, -1, -1, -1, -1, -1, -1, -1, -1, 2}) << QString() << 0;
+        QTest::newRow("a deck list the compaction runs off") << "Temp.spr" << spread(1, 102)
+            << Int16s({1, 8, 9, -1, -1, -1, -1, -1, -1, -1, 3}) << QString() << int(errSubscriptOutOfRange);
+        DeckRecord extra;
+        extra.DeckId = 4;
+        QByteArray twoMore = EncodeRecord(extra);
+        extra.DeckId = 5;
+        twoMore += EncodeRecord(extra);
+        QTest::newRow("five decks filling the id list") << "Temp.dck" << deck(4, 0) << twoMore << QString()
+                                                        << int(errSubscriptOutOfRange);
+        QTest::newRow("a last deck of id 0 without cards") << "Temp.dck" << deck(3, 985) << Int16s({0}) << QString() << 0;
+    }
+
+    void packagesThatDisagreeOrStopPartWayWriteNothing() {
+        QFETCH(QString, member);
+        QFETCH(int, at);
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, refusal);
+        QFETCH(int, error);
+        QTemporaryDir a, b;
+        StagePackage(a.path(), b.path());
+        const QByteArray staged = ReadWholeFile(TempDir + member);
+        WriteWholeFile(TempDir + member, staged.left(at) + bytes + staged.mid(at + bytes.size()));
+        WriteWholeFile(AppPath + QStringLiteral("x.bmp"), "not the package's to take");
+        const QByteArray before = Stored();
+        InstallAnswers answers;
+        PackageInstallation installation(answers, QString());
+        int raised = 0;
+        try {
+            installation.Install();
+        } catch (const RuntimeError& e) {
+            raised = e.Number();
+        }
+        QCOMPARE(installation.Refusal, refusal);
+        QCOMPARE(raised, error);
+        QCOMPARE(Stored() != before, refusal.isEmpty() && error == 0);
+    }
+
+    // Card files take numbers whose four names (both pictures, both sounds)
+    // no file in Cards/ takes, a ".jpeg" picture's "CU00002jpeg" included;
+    // two cards on one picture get a copy each; the chooser offers the decks
+    // being installed with the others, and its choice holds for every spread.
+    void aPackageTakesFreeNamesAndOffersItsOwnDecks() {
+        QTemporaryDir a, b;
+        StagePackage(a.path(), b.path());
+        ChangeRecord<CardRecord>(TempDir + QStringLiteral("Temp.crd"), 2,
+                                 [](CardRecord& c) { c.CardPicture[0] = QStringLiteral("CU00001.bmp"); });
+        WriteWholeFile(CardsDir + QStringLiteral("CU00002jpeg"), "photo.jpeg");
+        WriteWholeFile(CardsDir + QStringLiteral("cr00003.bmp"), "a reversed picture whose upright one went");
+        InstallAnswers answers;
+        answers.Chosen = {QStringLiteral("Tarot")};
+        QCOMPARE(PackageInstallation(answers, QString()).Install(), InstallOutcome::Installed);
+        QCOMPARE(answers.Offered, (QStringList{"Mine", "Tarot", "Lenormand", "Empty"}));
+        QStringList names;
+        for (const CardRecord& c : All<CardRecord>(CardsPath))
+            names << c.CardPicture[0].Trimmed() << c.CardPicture[1].Trimmed() << c.CardSound[0].Trimmed()
+                  << c.CardSound[1].Trimmed();
+        QCOMPARE(names, (QStringList{"CU00001.bmp", "C000000.bmp", "", "",                                  // Mine
+                                     "CU00000.bmp", "CR00000.bmp", "CU00000M.WAV", "CR00000M.WAV",  // Tarot
+                                     "CU00004.bmp", "CR00004.bmp", "CU00004M.WAV", "CR00004M.WAV",
+                                     "CU00005.bmp", "C000000.bmp", "", ""}));                        // Lenormand
+        QCOMPARE(ReadWholeFile(CardsDir + QStringLiteral("CU00004.bmp")),
+                 ReadWholeFile(CardsDir + QStringLiteral("CU00000.bmp")));
+        for (const SpreadRecord& s : All<SpreadRecord>(SpreadsPath))
+            if (s.SpreadName.Trimmed() != QStringLiteral("Mine")) QCOMPARE(s.AllowedDeckId[0], Integer(2));
+    }
+
+    // A package the installation cannot take leaves the screen open on it,
+    // Temp/ emptied and the designs as they were: one that stops part-way
+    // (five decks fill the id list exactly) with the error box, a damaged
+    // one with its refusal; one of a foreign format after its attachment.
+    void theScreenStaysOnAPackageItCannotInstall() {
         QTemporaryDir a, b;
         FreshRun(a.path());
-        // Five decks fill the package's id list exactly: the look past its
-        // end stops the installation before any deck is written.
         for (int i = 1; i <= 5; ++i) Fixtures::MakeDeck(QStringLiteral("Deck %1").arg(i), 1, false);
         PackAllDecks(QStringLiteral("five.pck"));
         const QString packages = PackagesDir;
+        DeckRecord claims;
+        claims.CardCount = 5;
+        WriteWholeFile(packages + QStringLiteral("damaged.pck"), Member("C:\\Temp\\Temp.dck", EncodeRecord(claims)));
 
         FreshRun(b.path());
         Fixtures::MakeDeck(QStringLiteral("Mine"), 1, false);
-        const QByteArray decksBefore = ReadWholeFile(DecksPath);
-        frmInstallPackage& install = Chosen(packages, QStringLiteral("five.pck"));
-        install.cmdInstall_Click();
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QVERIFY(MsgBoxScript::History()[0].prompt.contains(ErrorDescription(errSubscriptOutOfRange)));
-        QCOMPARE(ReadWholeFile(DecksPath), decksBefore);
-        QCOMPARE(FileLen(CardsPath) % CardRecord::Length, 0);
-        QVERIFY(Dir(TempDir + QStringLiteral("*.*")).isEmpty());
-        QVERIFY(IsLoaded<frmInstallPackage>());   // the screen stays for another choice
+        const QByteArray before = Stored();
+        frmInstallPackage& install = Get<frmInstallPackage>();
+        for (const int style : {vbCritical, vbExclamation}) {
+            MsgBoxScript::Clear();
+            const QString package = style == vbCritical ? QStringLiteral("five.pck") : QStringLiteral("damaged.pck");
+            Chosen(packages, package).cmdInstall_Click();
+            QCOMPARE(MsgBoxScript::History().size(), 1);
+            QCOMPARE(MsgBoxScript::History()[0].style & style, int(style));
+            QCOMPARE(Stored(), before);
+            QVERIFY(Dir(TempDir + QStringLiteral("*.*")).isEmpty());
+            QVERIFY(IsLoaded<frmInstallPackage>());
+        }
 
         // A package whose record file is of a foreign length is refused
         // whole, after its attachment is saved.
@@ -292,96 +444,6 @@ private slots:
         QCOMPARE(ReadWholeFile(AttachmentsDir + QStringLiteral("a.txt")), QByteArray("hi"));
         QCOMPARE(CountSpreads(), 0);
         Settle();
-    }
-
-    // A card record that names a file outside Temp/ names nothing the
-    // package brought: the installation stops on a missing file, and the
-    // file it reached for is never copied into Cards/.
-    void aCardNamingAFileOutsideTempTakesNothingFromThere() {
-        QTemporaryDir a;
-        FreshRun(a.path());
-        Fixtures::MakeDeck(QStringLiteral("Lure"), 1, false);
-        DeckRecord deck;
-        QVERIFY(GetRecord(DecksPath, 1, deck));
-        CardRecord card = All<CardRecord>(CardsPath).front();
-        card.CardPicture[0] = QStringLiteral("../x.bmp");
-        DeleteDeck(1);
-        const QByteArray secret("not the package's to take");
-        WriteWholeFile(AppPath + QStringLiteral("x.bmp"), secret);
-        WriteWholeFile(PackagesDir + QStringLiteral("lure.pck"),
-                       Member("C:\\Temp\\Temp.dck", EncodeRecord(deck)) + Member("C:\\Temp\\Temp.crd", EncodeRecord(card)));
-
-        frmInstallPackage& install = Chosen(PackagesDir, QStringLiteral("lure.pck"));
-        install.cmdInstall_Click();
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QVERIFY(MsgBoxScript::History()[0].prompt.contains(ErrorDescription(errFileNotFound)));
-        for (const QString& name : Dir(CardsDir + QStringLiteral("*.*")))
-            QVERIFY2(ReadWholeFile(CardsDir + name) != secret, qPrintable(name));
-        QCOMPARE(CountCards(CardsPath), 0);
-        QCOMPARE(ReadWholeFile(AppPath + QStringLiteral("x.bmp")), secret);
-        QVERIFY(IsLoaded<frmInstallPackage>());
-        install.cmdCancel_Click();
-        Settle();
-    }
-
-    // Two cards of a package that name the same picture each get a file of
-    // their own in Cards/, with the picture's bytes.
-    void cardsSharingAPictureEachGetTheirOwnFile() {
-        QTemporaryDir a;
-        FreshRun(a.path());
-        Fixtures::MakeDeck(QStringLiteral("Twins"), 2, false);
-        DeckRecord deck;
-        QVERIFY(GetRecord(DecksPath, 1, deck));
-        QByteArray cards;
-        for (CardRecord card : All<CardRecord>(CardsPath)) {
-            card.CardPicture[0] = QStringLiteral("Shared.bmp");
-            cards += EncodeRecord(card);
-        }
-        DeleteDeck(1);
-        const QByteArray picture("BM the one picture");
-        WriteWholeFile(PackagesDir + QStringLiteral("twins.pck"), Member("C:\\Temp\\Temp.dck", EncodeRecord(deck)) +
-                                                                  Member("C:\\Temp\\Temp.crd", cards) +
-                                                                  Member("C:\\Temp\\Shared.bmp", picture));
-
-        frmInstallPackage& install = Chosen(PackagesDir, QStringLiteral("twins.pck"));
-        ModalScript summary;
-        summary.On<frmPackageSummary>([](frmPackageSummary& s) { s.cmdCancel->click(); });
-        install.cmdInstall_Click();
-        QVERIFY(summary.Done());
-        const std::vector<CardRecord> installed = All<CardRecord>(CardsPath);
-        QCOMPARE(installed.size(), std::size_t(2));
-        const QString first = installed[0].CardPicture[0].Trimmed(), second = installed[1].CardPicture[0].Trimmed();
-        QVERIFY(first != second);
-        QCOMPARE(ReadWholeFile(CardsDir + first), picture);
-        QCOMPARE(ReadWholeFile(CardsDir + second), picture);
-        QVERIFY(Dir(TempDir + QStringLiteral("*.*")).isEmpty());
-        Settle();
-    }
-
-    void compactionOfADeckListAfterMapping() {
-        SpreadRecord spread;
-        auto run = [&spread](std::array<Integer, 10> ids, int count) {
-            spread.AllowedDeckId = ids;
-            spread.AllowedDeckCount = static_cast<Integer>(count);
-            CompactAllowedDecks(spread, count);
-        };
-        // Unmapped entries alone, or one behind a mapped one, go quietly.
-        run({-1, -1}, 2);
-        QCOMPARE(spread.AllowedDeckCount, Integer(0));
-        run({-1, 4}, 2);
-        QCOMPARE(spread.AllowedDeckCount, Integer(1));
-        QCOMPARE(spread.AllowedDeckId[0], Integer(4));
-        run({3, -1}, 2);
-        QCOMPARE(spread.AllowedDeckId[0], Integer(3));
-        // A mapped entry and two unmapped ones behind it: the second pass
-        // shifts too far.
-        bool raised = false;
-        try {
-            run({3, -1, -1}, 3);
-        } catch (const RuntimeError& e) {
-            raised = e.Number() == errSubscriptOutOfRange;
-        }
-        QVERIFY(raised);
     }
 
     void startUpWithoutDesignsOffersTheInstaller() {

@@ -25,13 +25,8 @@
 
 namespace {
 
-// The manual in the source tree, beside the tests.
-QString SourceHelpFolder() {
-    // The compiler is given source paths relative to the build folder, so
-    // __FILE__ says nothing about where the test runs; the test's source
-    // folder is known to QtTest by its full path.
-    return QDir(QStringLiteral(QT_TESTCASE_SOURCEDIR)).absoluteFilePath(QStringLiteral("../help"));
-}
+// The manual in the source tree.
+QString SourceHelpFolder() { return QStringLiteral(CARTOMAR_SOURCE_HELP); }
 
 // The image names the document shows, in order.
 QStringList ImagesOf(const QTextDocument& document) {

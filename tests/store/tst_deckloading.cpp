@@ -124,6 +124,14 @@ private slots:
         StoreListDeck();
         QCOMPARE(ListDeck.DeckTitle.Trimmed(), QStringLiteral("Renamed"));
         QCOMPARE(ListDeck.CardCount, Integer(3));
+
+        // A claim past what Cards.crd holds fails as a deck with missing
+        // cards does, without a place for every card claimed.
+        ListDeck.CardCount = 32767;
+        MsgBoxScript::Answer(vbNo);
+        QVERIFY(!LoadDeck(removed));
+        QVERIFY(CurrentDeck.DeckCards.Count() <= CountCards());
+        QCOMPARE(MsgBoxScript::Unanswered(), 0);
     }
 
     void cardTypes() {
@@ -150,19 +158,38 @@ private slots:
         QCOMPARE(SpreadPictureName(123456), QStringLiteral("S0123456"));
     }
 
+    // Which stems a file in a folder takes, the one rule behind every free
+    // picture name.
+    void aFileTakesItsStem_data() {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("stem");
+        QTest::addColumn<bool>("taken");
+        QTest::newRow("with an extension") << "CU00001.jpg" << "CU00001" << true;
+        QTest::newRow("without one") << "S000003" << "S000003" << true;
+        QTest::newRow("four letters that lost their dot") << "CU00001jpeg" << "CU00001" << true;
+        QTest::newRow("in other letters") << "cu00001.BMP" << "CU00001" << true;
+        QTest::newRow("after two dots") << "S000001.tar.gz" << "S000001" << true;
+        QTest::newRow("a longer number") << "CU000012.jpg" << "CU00001" << false;
+        QTest::newRow("the stem's sound") << "CU00001M.WAV" << "CU00001" << false;
+        QTest::newRow("the sound's own stem") << "CU00001M.WAV" << "CU00001M" << true;
+    }
+
+    void aFileTakesItsStem() {
+        QFETCH(QString, file);
+        QFETCH(QString, stem);
+        QFETCH(bool, taken);
+        WriteWholeFile(TempDir + file, "x");
+        QCOMPARE(TakenStems({TempDir}).Contains(stem), taken);
+    }
+
     void freeNamesGoByStem() {
         Fixtures::WritePicture(CardsDir + QStringLiteral("S000001.jpg"));
-        Fixtures::WritePicture(CardsDir + QStringLiteral("s000002.bmp"));
-        WriteWholeFile(CardsDir + QStringLiteral("S000003"), QByteArray("no extension"));
+        WriteWholeFile(CardsDir + QStringLiteral("S000002"), QByteArray("no extension"));
         QCOMPARE(NewBackgroundName(QStringLiteral("/home/user/table.gif  ")), QStringLiteral("S000003.gif"));
-
         Fixtures::WritePicture(TempDir + QStringLiteral("CU00001.jpg"));
-        Fixtures::WritePicture(TempDir + QStringLiteral("CU00003.gif"));
-        Fixtures::WritePicture(CardsDir + QStringLiteral("CU00002.bmp"));
-        QCOMPARE(FreeCardPictureName(0, TempDir), QStringLiteral("CU00002"));
-        QCOMPARE(FreeCardPictureName(1, TempDir), QStringLiteral("CR00001"));
-        QCOMPARE(FreeCardPictureNumber(0, {CardsDir, TempDir}), 4);
-        QCOMPARE(FreeCardPictureNumber(0, {CardsDir}, 2), 3);
+        WriteWholeFile(CardsDir + QStringLiteral("CU00002jpeg"), QByteArray("a .jpeg source"));
+        QCOMPARE(FreeCardNumber(0, {CardsDir, TempDir}), 3);
+        QCOMPARE(FreeCardNumber(1, {CardsDir, TempDir}), 1);
     }
 };
 

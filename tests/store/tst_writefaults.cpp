@@ -17,7 +17,6 @@
 #include <QLineEdit>
 
 #include "decks/frmSaveDeck.h"
-#include "packages/frmInstallPackage.h"
 #include "platform/Errors.h"
 #include "platform/FileSys.h"
 #include "platform/MsgBox.h"
@@ -28,6 +27,7 @@
 #include "store/mdlSubRoutines.h"
 #include "store/mdlVariables.h"
 #include "support/Fixtures.h"
+#include "support/InstallAnswers.h"
 
 using WriteFaults::Fault;
 
@@ -61,7 +61,7 @@ using Fixtures::NamedDiary;
 using Fixtures::NamedReading;
 
 // Two decks, two spreads, three readings, two diary entries; and a package
-// of one deck laid out in Temp/ as its extraction leaves it.
+// of one deck and one spread laid out in Temp/ as its extraction leaves it.
 void MakeFixture(const QString& dir) {
     Fixtures::UseProgramDir(dir);
     const Integer deckA = Fixtures::MakeDeck(QStringLiteral("Deck A"), 3, true);
@@ -84,6 +84,13 @@ void MakeFixture(const QString& dir) {
     }
     WriteWholeFile(TempDir + QStringLiteral("Temp.dck"), EncodeRecord(deck));
     WriteWholeFile(TempDir + QStringLiteral("Temp.crd"), cards);
+    const Integer spreadId = Fixtures::MakeSpread(QStringLiteral("Packed spread"), 2, {packed});
+    QByteArray locations;
+    for (const LocationRecord& location : ReadAllRecords<LocationRecord>(LocationsPath))
+        if (location.LocationSpreadId == spreadId) locations += EncodeRecord(location);
+    WriteWholeFile(TempDir + QStringLiteral("Temp.spr"), ReadWholeFile(SpreadsPath).right(SpreadRecord::Length));
+    WriteWholeFile(TempDir + QStringLiteral("Temp.loc"), locations);
+    DeleteSpread(CountSpreads());
     DeleteDeck(at);
 }
 
@@ -102,6 +109,7 @@ struct Operation {
     const char* name;
     std::function<void()> prepare;   // untouched by faults
     std::function<void()> run;
+    bool newDecksWhole = false;      // a deck it adds is listed only with its cards
 };
 
 const QList<Operation>& Operations() {
@@ -130,7 +138,13 @@ const QList<Operation>& Operations() {
              save.txtSaveAs->setText(QStringLiteral("Deck C"));
              save.cmdSave_Click();
          }},
-        {"package installed", {}, [] { Get<frmInstallPackage>().Install(); }},
+        {"package installed", {},
+         [] {
+             InstallAnswers answers;
+             answers.Chosen = {QStringLiteral("Packed")};
+             PackageInstallation(answers, {}).Install();
+         },
+         true},
     };
     return all;
 }
@@ -151,7 +165,6 @@ class TestWriteFaults : public QObject {
         }
         WriteFaults::Disarm();
         UnloadScreen<frmSaveDeck>();
-        UnloadScreen<frmInstallPackage>();
     }
 
     // The number of write steps of an operation, leaving its result in place.
@@ -164,7 +177,8 @@ class TestWriteFaults : public QObject {
     std::unique_ptr<QTemporaryDir> clean_;
 
     // The state after a fault, against the files before and after a clean run.
-    void Check(const QString& dir, const Snapshot& before, const Snapshot& after, const QString& what) {
+    void Check(const QString& dir, const Snapshot& before, const Snapshot& after, const QString& what,
+               bool newDecksWhole) {
         const Snapshot now = Snap();
         for (const RecordFileKind& f : kFiles) {
             const QString name = FileNameOf(*f.path);
@@ -177,10 +191,11 @@ class TestWriteFaults : public QObject {
                      qPrintable(what + QStringLiteral(": lost a record of ") + name));
             QVERIFY2((found - old - done).isEmpty(), qPrintable(what + QStringLiteral(": stray record in ") + name));
         }
-        // A deck that both sides keep still loads whole, pictures and all.
-        const QSet<QByteArray> decksNow = Records(now.at(QStringLiteral("Decks.dck")), DeckRecord::Length);
-        for (const QByteArray& bytes : Records(before.at(QStringLiteral("Decks.dck")), DeckRecord::Length)) {
-            if (!decksNow.contains(bytes)) continue;
+        // A deck that both sides keep still loads whole, pictures and all;
+        // so does a new one, where its cards go before it.
+        const QSet<QByteArray> decksBefore = Records(before.at(QStringLiteral("Decks.dck")), DeckRecord::Length);
+        for (const QByteArray& bytes : Records(now.at(QStringLiteral("Decks.dck")), DeckRecord::Length)) {
+            if (!newDecksWhole && !decksBefore.contains(bytes)) continue;
             DecodeRecord(bytes.constData(), ListDeck);
             bool removed = false;
             QVERIFY2(LoadDeck(removed), qPrintable(what + QStringLiteral(": deck no longer loads")));
@@ -215,7 +230,8 @@ private slots:
                     const Snapshot before = Snap();
                     Run(op, fault, step);
                     Check(dir.path(), before, after,
-                          QStringLiteral("%1, fault %2 at step %3").arg(QLatin1String(op.name)).arg(int(fault)).arg(step));
+                          QStringLiteral("%1, fault %2 at step %3").arg(QLatin1String(op.name)).arg(int(fault)).arg(step),
+                          op.newDecksWhole);
                     if (QTest::currentTestFailed()) return;
                 }
             }
@@ -246,7 +262,7 @@ private slots:
                 ::waitpid(child, &status, 0);
                 const QString what = QStringLiteral("%1, killed at step %2").arg(QLatin1String(op.name)).arg(step);
                 QVERIFY2(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL, qPrintable(what));
-                Check(dir.path(), before, after, what);
+                Check(dir.path(), before, after, what, op.newDecksWhole);
                 if (QTest::currentTestFailed()) return;
             }
         }

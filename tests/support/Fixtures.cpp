@@ -68,11 +68,11 @@ Integer MakeDeck(const QString& name, int cardCount, bool withReversed) {
         card.CardDescription[1] = QStringLiteral("Reversed meaning of card %1").arg(i);
         card.CardKeywords[0] = QStringLiteral("upright keywords %1").arg(i);
         card.CardKeywords[1] = QStringLiteral("reversed keywords %1").arg(i);
-        upright = FreeCardPictureNumber(0, {CardsDir}, upright + 1);
+        upright = FreeCardNumber(0, {CardsDir}, upright + 1);
         card.CardPicture[0] = CardUprightName(upright) + QStringLiteral(".bmp");
         WritePicture(CardsDir + card.CardPicture[0].Trimmed(), CardColour(i, true));
         if (withReversed) {
-            reversed = FreeCardPictureNumber(1, {CardsDir}, reversed + 1);
+            reversed = FreeCardNumber(1, {CardsDir}, reversed + 1);
             card.CardPicture[1] = CardReversedName(reversed) + QStringLiteral(".bmp");
             WritePicture(CardsDir + card.CardPicture[1].Trimmed(), CardColour(i, false));
         } else {

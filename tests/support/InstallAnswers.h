@@ -1,0 +1,28 @@
+#pragma once
+// A package installation's questions answered by the test: the first spread
+// is tied to the decks named in Chosen, what the chooser offered is kept in
+// Offered, and any other question is left unanswered.
+#include <QStringList>
+
+#include "packages/PackageInstallation.h"
+#include "store/mdlVariables.h"
+
+struct InstallAnswers : InstallationQuestions {
+    QStringList Chosen;
+    QStringList Offered;
+
+    QString AttachmentTarget(const QString&) override { return {}; }
+    DesignExistsReply DesignExists(int, const QString&, const std::function<bool(const QString&)>&) override {
+        return {DesignExistsChoice, {}};
+    }
+    void ChooseDecks(const std::vector<DeckRecord>& decks) override {
+        Offered.clear();
+        CurrentSpread.AllowedDeckCount = 0;
+        CurrentSpread.AllowedDeckId.fill(-1);
+        for (const DeckRecord& deck : decks) {
+            Offered << deck.DeckName.Trimmed();
+            if (Chosen.contains(deck.DeckName.Trimmed()))
+                CurrentSpread.AllowedDeckId[static_cast<std::size_t>(CurrentSpread.AllowedDeckCount++)] = deck.DeckId;
+        }
+    }
+};
