@@ -25,9 +25,12 @@
 
 namespace {
 
-// The manual in the source tree, two folders up from this test.
+// The manual in the source tree, beside the tests.
 QString SourceHelpFolder() {
-    return QFileInfo(QStringLiteral(__FILE__)).absoluteDir().absoluteFilePath(QStringLiteral("../../help"));
+    // The compiler is given source paths relative to the build folder, so
+    // __FILE__ says nothing about where the test runs; the test's source
+    // folder is known to QtTest by its full path.
+    return QDir(QStringLiteral(QT_TESTCASE_SOURCEDIR)).absoluteFilePath(QStringLiteral("../help"));
 }
 
 // The image names the document shows, in order.
