@@ -43,13 +43,14 @@ bool CarriesStem(const QString& name, const QString& stem) {
 
 }  // namespace
 
-int FreeCardNumber(int side, const QStringList& folders, int from) {
+int FreeCardNumber(int side, const QStringList& folders, int from, const QStringList& going) {
     // One listing per folder answers every candidate.
     QStringList names;
     const QString prefix = side == 0 ? QStringLiteral("CU") : QStringLiteral("CR");
     for (const QString& folder : folders)
         for (const QString& name : Dir(AddTrailingBackslash(folder) + QStringLiteral("*")))
-            if (name.startsWith(prefix, Qt::CaseInsensitive)) names.append(name);
+            if (name.startsWith(prefix, Qt::CaseInsensitive) && !going.contains(NativePath(AddTrailingBackslash(folder) + name)))
+                names.append(name);
     for (int n = from;; ++n) {
         const QString stem = CardPictureStem(side, n);
         bool taken = false;

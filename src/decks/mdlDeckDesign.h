@@ -42,7 +42,8 @@ constexpr int MaxDeckCards = 100;
 // (side 1) picture stem no file in the folders carries. A file whose
 // extension lost its dot ("CU00003jpeg", from a source with a four-letter
 // extension) blocks its number too, so two such pictures never share a name.
-int FreeCardNumber(int side, const QStringList& folders, int from = 1);
+// Files about to go (full paths in `going`) block nothing.
+int FreeCardNumber(int side, const QStringList& folders, int from = 1, const QStringList& going = {});
 // "CU" or "CR" and the number, by side.
 QString CardPictureStem(int side, int number);
 

@@ -97,11 +97,20 @@ void AtomicFileWriter::Flush() {
     pending_.resize(0);   // keeps the block's memory for the next one
 }
 
-void AtomicFileWriter::Commit() {
+void AtomicFileWriter::Finish() {
     Flush();
     FlushOrRaise(*file_);
     file_->close();
+}
+
+void AtomicFileWriter::Commit() {
+    Finish();
     RenameOver(newPath_, realPath_);
+    committed_ = true;
+}
+
+void AtomicFileWriter::Prepare() {
+    Finish();
     committed_ = true;
 }
 

@@ -54,9 +54,13 @@ public:
     void Write(const QByteArray& bytes) { Write(bytes.constData(), bytes.size()); }
     // Flushes, syncs and renames the new file over the real one.
     void Commit();
+    // Flushes and syncs the new file and leaves it beside the real one, for
+    // a rename that someone else makes later (see DesignCommit).
+    void Prepare();
 
 private:
     void Flush();
+    void Finish();   // the new file written whole, on the disk and closed
     std::unique_ptr<QFile> file_;
     QString newPath_;
     QString realPath_;

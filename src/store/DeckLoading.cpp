@@ -119,18 +119,19 @@ namespace {
 // The stems taken in a folder: a file blocks the stem before its first dot,
 // letters without case, just as the pattern "stem.*" would find it. One
 // listing answers every candidate, so a search through a full Cards/ stays
-// quick.
-void CollectStems(const QString& folder, QSet<QString>& stems) {
+// quick. A file about to go (its full path in `going`) blocks nothing.
+void CollectStems(const QString& folder, QSet<QString>& stems, const QString& going = QString()) {
     for (const QString& name : Dir(AddTrailingBackslash(folder) + QStringLiteral("*.*"))) {
+        if (!going.isEmpty() && NativePath(AddTrailingBackslash(folder) + name) == NativePath(going)) continue;
         const qsizetype dot = name.indexOf(QLatin1Char('.'));
         if (dot >= 0) stems.insert(name.left(dot).toCaseFolded());
     }
 }
 
 template <class NameOf>
-int FirstFreeNumber(const QStringList& folders, int from, NameOf nameOf) {
+int FirstFreeNumber(const QStringList& folders, int from, NameOf nameOf, const QString& going = QString()) {
     QSet<QString> stems;
-    for (const QString& folder : folders) CollectStems(folder, stems);
+    for (const QString& folder : folders) CollectStems(folder, stems, going);
     int n = from;
     while (stems.contains(nameOf(n).toCaseFolded())) ++n;
     return n;
@@ -142,8 +143,8 @@ QString CardPictureName(int side, int number) {
 
 }  // namespace
 
-QString NewBackgroundName(const QString& sourcePath) {
-    const int n = FirstFreeNumber({CardsDir}, 1, SpreadPictureName);
+QString NewBackgroundName(const QString& sourcePath, const QString& going) {
+    const int n = FirstFreeNumber({CardsDir}, 1, SpreadPictureName, going);
     return SpreadPictureName(n) + TrimField(sourcePath).right(4);
 }
 

@@ -47,8 +47,9 @@ QString DeckNameById(Integer deckId);              // untrimmed, or ""
 QString SpreadNameById(Integer spreadId);          // untrimmed, or ""
 
 // The smallest positive id that no record carries: ids of deleted designs are
-// used again.
-Integer NextDeckId();
+// used again. A deck save that replaces a deck asks as if the replaced
+// record (its number) were already gone.
+Integer NextDeckId(int leavingOut = 0);
 Integer NextSpreadId();
 
 // ---- Delete passes ---------------------------------------------------------
@@ -66,10 +67,15 @@ void DeleteDeckCards(Integer deckId);
 // Removes the replacements that a process killed during a delete pass left
 // beside the record files.
 void RemoveUnfinishedRewrites();
-void DeleteSpreadBackground(int recordNumber);  // the file only; the record stays
 // Deletes a design's picture, sound or background file from Cards/; a blank
 // name or one holding a wildcard deletes nothing.
 void KillDesignFile(const QString& name);
+// The path in Cards/ of a design's file, or "" for a name that names none
+// (blank, or holding a wildcard).
+QString DesignFilePath(const QString& name);
+// The files in Cards/ that go with a card: its pictures (never the shared
+// default picture) and its sounds, as paths.
+QStringList CardFilesOf(const CardRecord& card);
 
 // Fills SpreadLocations(1 .. count) with the spread's locations by their
 // LocationNumber; numbers not found stay all zero.
@@ -113,8 +119,9 @@ QString CardUprightName(int number);     // "CU00012"
 QString CardReversedName(int number);    // "CR00012"
 QString SpreadPictureName(int number);   // "S000007"
 // The first S name free in Cards/ (no file of that stem, whatever its
-// extension), with the source's extension.
-QString NewBackgroundName(const QString& sourcePath);
+// extension), with the source's extension. A file about to go (its full
+// path in `going`) leaves its stem free.
+QString NewBackgroundName(const QString& sourcePath, const QString& going = QString());
 // The first number from `from` upward for which no folder holds a file of
 // the stem CardUprightName(n) (side 0) or CardReversedName(n) (side 1), with
 // any extension.
