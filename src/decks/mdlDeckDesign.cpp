@@ -47,10 +47,12 @@ int FreeCardNumber(int side, const QStringList& folders, int from, const QString
     // One listing per folder answers every candidate.
     QStringList names;
     const QString prefix = side == 0 ? QStringLiteral("CU") : QStringLiteral("CR");
-    for (const QString& folder : folders)
-        for (const QString& name : Dir(AddTrailingBackslash(folder) + QStringLiteral("*")))
-            if (name.startsWith(prefix, Qt::CaseInsensitive) && !going.contains(NativePath(AddTrailingBackslash(folder) + name)))
+    for (const QString& folder : folders) {
+        const QString dir = AddTrailingBackslash(folder);
+        for (const QString& name : Dir(dir + QStringLiteral("*")))
+            if (name.startsWith(prefix, Qt::CaseInsensitive) && !going.contains(NativePath(dir + name)))
                 names.append(name);
+    }
     for (int n = from;; ++n) {
         const QString stem = CardPictureStem(side, n);
         bool taken = false;

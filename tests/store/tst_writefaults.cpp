@@ -52,7 +52,8 @@ Snapshot Snap() {
     Snapshot s;
     for (const RecordFileKind& f : kFiles)
         s[FileNameOf(*f.path)] = FileExists(*f.path) ? ReadWholeFile(*f.path) : QByteArray();
-    for (const QString& name : Dir(CardsDir + QStringLiteral("*"))) s[QStringLiteral("Cards/") + name] = ReadWholeFile(CardsDir + name);
+    for (const QString& name : Dir(CardsDir + QStringLiteral("*")))
+        s[QStringLiteral("Cards/") + name] = ReadWholeFile(CardsDir + name);
     return s;
 }
 
@@ -236,9 +237,9 @@ class TestWriteFaults : public QObject {
         MsgBoxScript::Clear();
         QVERIFY2(RunStartup(dir), qPrintable(what));
         QCOMPARE(MsgBoxScript::Unanswered(), 0);
-        QVERIFY2(!AnyFileMatches(AppPath + QStringLiteral("*.new")) && !AnyFileMatches(CardsDir + QStringLiteral("*.staged")) &&
-                     !FileExists(AppPath + QStringLiteral("Cartomar.commit")),
-                 qPrintable(what + QStringLiteral(": leftovers")));
+        for (const QString& left : {AppPath + QStringLiteral("*.new"), CardsDir + QStringLiteral("*.staged"),
+                                    AppPath + QStringLiteral("Cartomar.commit")})
+            QVERIFY2(!AnyFileMatches(left), qPrintable(what + QStringLiteral(": left ") + left));
         const Snapshot now = Snap();
         for (const RecordFileKind& f : kFiles) {
             const QString name = FileNameOf(*f.path);
@@ -266,7 +267,7 @@ class TestWriteFaults : public QObject {
                 QVERIFY2(DesignAsHeld(now, r, deck) == DesignAsHeld(old.contains(r) ? before : after, r, deck),
                          qPrintable(what + QStringLiteral(": not whole: ") + NameOf(r, deck)));
             }
-            QVERIFY2((names - listed).isEmpty(), qPrintable(what + QStringLiteral(": neither the old nor the new ") + file));
+            QVERIFY2((names - listed).isEmpty(), qPrintable(what + QStringLiteral(": neither old nor new in ") + file));
         }
         ++injected_;
     }
