@@ -42,6 +42,7 @@
 #include "readings/frmOpenReading.h"
 #include "readings/frmReadingCards.h"
 #include "readings/frmSelectSpread.h"
+#include "store/DesignCommit.h"
 #include "store/RecordFile.h"
 #include "store/Startup.h"
 #include "store/mdlSubRoutines.h"
@@ -344,12 +345,13 @@ int main(int argc, char** argv) {
         GetRecord(DecksPath, 160, middle);
         const double del = Time([&] { DeleteDeckCards(middle.DeckId); }, [&] { CopyOnce(keep, CardsPath); });
         Row("DeleteDeckCards on 32,000 cards", del, "copy of Cards.crd", copyCards, 2.0);
-        // A deck save writes its cards in one replacement of the whole file.
+        // A deck save writes its cards in one replacement of the whole file,
+        // prepared beside it and put in place by the save's plan.
         const double save = Time([] {
-            RecordEdit<CardRecord> cards(CardsPath);
-            const CardRecord card = ZeroRecord<CardRecord>();
-            for (int c = 0; c < 100; ++c) cards.Append(card);
-            cards.Commit();
+            DesignCommit commit;
+            commit.AddRecordFile(CardsPath, CardRecord::Length, [](const char* card, int) { return card; },
+                                 EncodeRecord(ZeroRecord<CardRecord>()).repeated(100));
+            commit.Commit();
         }, [&] { CopyOnce(keep, CardsPath); });
         Row("100 cards saved after 32,000 cards (deck save)", save, "copy of Cards.crd", copyCards, 2.0);
         Kill(keep);

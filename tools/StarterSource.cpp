@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include "platform/CodePage.h"
+#include "spreads/LocationTitle.h"
 
 namespace {
 
@@ -189,6 +190,15 @@ void CheckSpread(const StarterSpread& spread, QStringList& problems) {
         const StarterLocation& location = spread.Locations[i];
         const QString at = what + QStringLiteral("location %1: ").arg(i + 1);
         CheckText(at + QStringLiteral("title"), location.Title, 50, problems);
+        // The reading screen shows the title behind the location's number,
+        // and a location takes another number when one before it goes.
+        for (std::size_t number = 1; number <= spread.Locations.size(); ++number) {
+            if (FitsLocationTitle(NumberedLocationTitle(static_cast<int>(number), location.Title))) continue;
+            problems << at + QStringLiteral("title \"%1\" does not show whole as location %2 on the reading screen")
+                                 .arg(location.Title)
+                                 .arg(number);
+            break;
+        }
         CheckText(at + QStringLiteral("description"), location.Description, 650, problems);
         if (location.Questions.isEmpty() || location.Questions.size() > 3)
             problems << at + QStringLiteral("a location asks one to three questions");

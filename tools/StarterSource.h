@@ -52,10 +52,11 @@ QStringList StarterCardFiles();
 // `problems` with its file and line; the designs read so far are returned.
 StarterDesigns ReadStarterDesigns(const QString& sourceFolder, QStringList& problems);
 
-// Everything that would not survive the records whole: texts longer than
-// their fields or outside the single-byte code page, empty texts, unknown
-// card types and suits, locations off the canvas or on top of one another,
-// more locations or questions than a spread holds.
+// Everything that would not survive the records whole or not show whole:
+// texts longer than their fields or outside the single-byte code page, empty
+// texts, unknown card types and suits, location titles that do not fit their
+// label on the reading screen, locations off the canvas or on top of one
+// another, more locations or questions than a spread holds.
 QStringList CheckStarterDesigns(const StarterDesigns& designs);
 
 // The size of a location's card rectangle on the spread canvas and the

@@ -4,6 +4,9 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSet>
+#include <array>
+#include <vector>
 
 #include "decks/frmDesignDeck.h"
 #include "decks/mdlDeckDesign.h"
@@ -11,6 +14,7 @@
 #include "platform/MsgBox.h"
 #include "platform/OleDate.h"
 #include "shell/mdlFORM.h"
+#include "store/DesignCommit.h"
 #include "store/RecordFile.h"
 #include "store/mdlSubRoutines.h"
 
@@ -86,22 +90,8 @@ void frmSaveDeck::cmdSave_Click() {
         if (MsgBox(QStringLiteral("Deck already exists. Overwrite?"), vbYesNo | vbQuestion | vbDefaultButton2) == vbNo)
             return;
         SetScreenPointer(MousePointer::Hourglass);
-        // Everything being saved lies in Temp/, so the old deck's files in
-        // Cards/ may go now.
-        DeleteDeck(existing);
     }
-
-    names_ = {};
-    namesBuilt_ = false;
-    drawn_ = {};
-    CurrentDeck.DeckName = name;
-    CurrentDeck.ModifiedOn = OleToday();
-    CurrentDeck.DeckRevision = static_cast<Integer>(CurrentDeck.DeckRevision + 1);
-    CurrentDeck.DeckId = NextDeckId();
-    for (CardRecord& card : CurrentDeck.DeckCards) card.CardDeckId = CurrentDeck.DeckId;
-    WriteCards();
-    StoreListDeck();
-    PutRecord(DecksPath, CountDecks() + 1, ListDeck);
+    SaveDeck(name, existing);
 
     if (IsLoaded<frmDesignDeck>()) {
         frmDesignDeck& designer = Get<frmDesignDeck>();
@@ -111,29 +101,6 @@ void frmSaveDeck::cmdSave_Click() {
     }
     SetScreenPointer(MousePointer::Arrow);
     Unload();
-}
-
-void frmSaveDeck::BuildNameTable() {
-    const int count = CurrentDeck.CardCount;
-    for (int side = 0; side < 2; ++side) {
-        auto& row = names_[static_cast<std::size_t>(side)];
-        int n = 1;
-        for (int i = 0; i < count; ++i) {
-            n = FreeCardNumber(side, {CardsDir, TempDir}, n);
-            row.push_back(CardPictureStem(side, n));
-            ++n;
-        }
-    }
-    namesBuilt_ = true;
-}
-
-QString frmSaveDeck::NextPictureName(int side) {
-    if (!namesBuilt_) BuildNameTable();
-    auto& row = names_[static_cast<std::size_t>(side)];
-    std::size_t& next = drawn_[static_cast<std::size_t>(side)];
-    // A row holds one name per card and each side draws once per card.
-    if (next >= row.size()) RaiseError(errSubscriptOutOfRange);
-    return row[next++];
 }
 
 namespace {
@@ -148,15 +115,87 @@ void ReportAndGoOn(const std::function<void()>& step) {
     }
 }
 
+// The final picture stems of one side, one per card: numbers upward whose
+// stem no file in Cards/ or Temp/ carries, the files of the deck being
+// replaced not counted.
+std::vector<QString> NameRow(int side, int count, const QStringList& going) {
+    std::vector<QString> row;
+    const TakenStems taken({CardsDir, TempDir}, going);
+    int n = 1;
+    for (int i = 0; i < count; ++i) {
+        while (taken.Contains(CardPictureStem(side, n))) ++n;
+        row.push_back(CardPictureStem(side, n++));
+    }
+    return row;
+}
+
+// The working files of the deck on their way to Cards/: each is copied there
+// under its final name and, once the save is made, takes that name in Temp/
+// too, so that the working folder stays in step for a later save of the same
+// design.
+class FilePass {
+public:
+    explicit FilePass(DesignCommit& commit) : commit_(commit) {}
+
+    void Move(const QString& from, const QString& to) {
+        const QString source = NativePath(TempDir + from);
+        // A working file that is not there (a second card on the same file,
+        // whose first took it along) is told for the copy and for the
+        // rename; the card keeps a name that no file answers to.
+        if (moved_.contains(source) || !FileExists(source)) {
+            for (int i = 0; i < 2; ++i) ReportAndGoOn([] { RaiseError(errFileNotFound); });
+            return;
+        }
+        commit_.AddFile(source, to);
+        moved_.insert(source);
+        renames_.emplace_back(source, TempDir + to);
+    }
+
+    void RenameWorkingFiles() {
+        for (const auto& [from, to] : renames_) ReportAndGoOn([&] { Name(from, to); });
+    }
+
+private:
+    DesignCommit& commit_;
+    QSet<QString> moved_;
+    std::vector<std::pair<QString, QString>> renames_;
+};
+
 }  // namespace
 
-void frmSaveDeck::WriteCards() {
-    // The pictures and sounds are copied without a wait each and made
-    // durable together before the cards that name them go into Cards.crd,
-    // in one replacement of the file.
-    RecordEdit<CardRecord> cards(CardsPath);
-    const int sides = CurrentDeck.IncludesReversed ? 2 : 1;
-    for (CardRecord& card : CurrentDeck.DeckCards) {
+void frmSaveDeck::SaveDeck(const QString& name, int existing) {
+    // The deck being replaced goes in the same step as the new one comes, so
+    // ids and picture names are drawn as if it were gone already.
+    DeckRecord old;
+    const bool replacing = existing >= 0 && GetRecord(DecksPath, existing, old);
+    const int cardIdAt = OffsetOf(&CardRecord::CardDeckId);
+    QStringList going;
+    if (replacing) {
+        RecordReader<CardRecord> reader(CardsPath);
+        CardRecord card;
+        while (const char* raw = reader.NextRaw()) {
+            if (RawInteger(raw, cardIdAt) != old.DeckId) continue;
+            DecodeRecord(raw, card);
+            going << CardFilesOf(card);
+        }
+    }
+
+    DeckInMemory deck = CurrentDeck;
+    deck.DeckName = name;
+    deck.ModifiedOn = OleToday();
+    deck.DeckRevision = static_cast<Integer>(deck.DeckRevision + 1);
+    deck.DeckId = NextDeckId(replacing ? existing : 0);
+    const int sides = deck.IncludesReversed ? 2 : 1;
+    std::array<std::vector<QString>, 2> names;
+    for (int side = 0; side < sides; ++side)
+        names[static_cast<std::size_t>(side)] = NameRow(side, deck.DeckCards.Count(), going);
+
+    DesignCommit commit;
+    FilePass files(commit);
+    QByteArray cards;
+    std::size_t i = 0;
+    for (CardRecord& card : deck.DeckCards) {
+        card.CardDeckId = deck.DeckId;
         for (int side = 0; side < sides; ++side) {
             auto& picture = card.CardPicture[static_cast<std::size_t>(side)];
             auto& sound = card.CardSound[static_cast<std::size_t>(side)];
@@ -166,21 +205,28 @@ void frmSaveDeck::WriteCards() {
             // the next finds no file to copy.
             if (picture.Trimmed() == DefaultPictureName) continue;
             const QString oldPicture = picture.Value();
-            ReportAndGoOn([&] {
-                picture = NextPictureName(side) + oldPicture.right(5);
-                const QString newPicture = picture.Value();
-                ReportAndGoOn([&] { FileCopyUnsynced(TempDir + oldPicture, CardsDir + newPicture); });
-                ReportAndGoOn([&] { Name(TempDir + oldPicture, TempDir + newPicture); });
-                if (sound.IsBlank()) return;
-                const QString oldSound = sound.Trimmed();
-                sound = QStringLiteral("M") + newPicture.left(7) + oldSound.right(4);
-                const QString newSound = sound.Value();
-                ReportAndGoOn([&] { FileCopyUnsynced(TempDir + oldSound, CardsDir + newSound); });
-                ReportAndGoOn([&] { Name(TempDir + oldSound, TempDir + newSound); });
-            });
+            picture = names[static_cast<std::size_t>(side)][i] + oldPicture.right(5);
+            files.Move(oldPicture, picture.Value());
+            if (sound.IsBlank()) continue;
+            const QString oldSound = sound.Trimmed();
+            sound = QStringLiteral("M") + picture.Value().left(7) + oldSound.right(4);
+            files.Move(oldSound, sound.Value());
         }
-        cards.Append(card);
+        cards += EncodeRecord(card);
+        ++i;
     }
-    SyncFileSystem(CardsDir);
-    ReportAndGoOn([&] { cards.Commit(); });
+    commit.AddRecordFile(CardsPath, CardRecord::Length, [&](const char* card, int) {
+        return replacing && RawInteger(card, cardIdAt) == old.DeckId ? nullptr : card;
+    }, cards);
+    const DeckRecord& record = deck;
+    commit.AddRecordFile(DecksPath, DeckRecord::Length, [&](const char* r, int number) {
+        return replacing && number == existing ? nullptr : r;
+    }, EncodeRecord(record));
+    for (const QString& file : going) commit.DropFile(file);
+    commit.Commit();
+
+    // The save is made: the deck in hand and the working folder follow it.
+    CurrentDeck = deck;
+    StoreListDeck();
+    files.RenameWorkingFiles();
 }

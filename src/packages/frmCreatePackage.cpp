@@ -283,7 +283,7 @@ void frmCreatePackage::CheckInputs() {
         AbortCreate = true;
     } else if (!IsValidFilename()) {
         SetScreenPointer(MousePointer::Default);
-        MsgBox(QStringLiteral("Invalid FileName!\rA valid filename cannot contain \\, /, :, *, ?, <, > or |."),
+        MsgBox(QStringLiteral("Invalid FileName!\nA valid filename cannot contain \\, /, :, *, ?, <, > or |."),
                vbCritical);
         AbortCreate = true;
     } else {
@@ -348,7 +348,7 @@ void frmCreatePackage::WarnProtectedDesign() {
     if (ProtectedWarningShown) return;
     ProtectedWarningShown = true;
     SetScreenPointer(MousePointer::Default);
-    MsgBox(QStringLiteral("Some designs were intially protected. Their passwords cannot be replaced.\r"
+    MsgBox(QStringLiteral("Some designs were intially protected. Their passwords cannot be replaced.\n"
                           "However, they will still be added to the package."),
            vbInformation);
     SetScreenPointer(MousePointer::Hourglass);

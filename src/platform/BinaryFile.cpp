@@ -105,6 +105,11 @@ void AtomicFileWriter::Finish() {
     finished_ = true;
 }
 
+void AtomicFileWriter::Leave() {
+    Finish();
+    committed_ = true;
+}
+
 void AtomicFileWriter::Commit() {
     Finish();
     RenameOver(newPath_, realPath_);

@@ -57,6 +57,10 @@ public:
     void Finish();
     // Finishes the new file if need be and renames it over the real one.
     void Commit();
+    // Finishes the new file and leaves it beside the real one, past the
+    // writer's end, for a rename that someone else makes later (see
+    // DesignCommit).
+    void Leave();
 
 private:
     void Flush();

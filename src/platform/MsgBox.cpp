@@ -58,6 +58,16 @@ QMessageBox::Icon IconOf(int style) {
     }
 }
 
+// The program writes a break inside a message as "\n". Text that comes
+// from elsewhere (a record, a system error) may break its lines with CR LF
+// or a lone CR: each of the three shows as one break.
+QString BoxText(const QString& prompt) {
+    QString text = prompt;
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    return text;
+}
+
 int Scripted(const QString& prompt, int style, const QString& title) {
     Script& s = TheScript();
     const QList<int> buttons = ButtonsOf(style);
@@ -78,13 +88,17 @@ int Scripted(const QString& prompt, int style, const QString& title) {
 
 int MsgBox(const QString& prompt, int style, const QString& title) {
     const QString caption = title.isEmpty() ? QStringLiteral("Cartomar") : title;
-    if (TheScript().enabled) return Scripted(prompt, style, caption);
+    const QString text = BoxText(prompt);
+    if (TheScript().enabled) return Scripted(text, style, caption);
 
     // The box lives on the heap under the active screen: should that screen
     // go while the box waits (a screen unloaded just before), it takes the
     // box with it and the answer is that of Esc.
     QPointer<QMessageBox> box =
-        new QMessageBox(IconOf(style), caption, prompt, QMessageBox::NoButton, QApplication::activeWindow());
+        new QMessageBox(IconOf(style), caption, text, QMessageBox::NoButton, QApplication::activeWindow());
+    // Messages are plain text: a name in one that looks like markup (a deck
+    // called "<b>Sun</b>") shows as typed, and its breaks stay breaks.
+    box->setTextFormat(Qt::PlainText);
     const QList<int> buttons = ButtonsOf(style);
     QHash<QAbstractButton*, int> answerOf;
     for (int b : buttons) answerOf.insert(box->addButton(Standard(b)), b);

@@ -14,6 +14,7 @@
 #include "shell/DecorativePictures.h"
 #include "shell/FitPicture.h"
 #include "shell/ImageBox.h"
+#include "spreads/LocationTitle.h"
 #include "store/mdlVariables.h"
 
 void PlaceControl(QWidget* control, int left, int top, int width, int height) {
@@ -124,7 +125,9 @@ EntryScreen::EntryScreen(const QString& caption)
         card->setProperty("Index", i);
         card->Move(0, 0, 735, 975);
         imgCard(i) = card;
-        lblCardTitle(i) = MakeClickLabel(location, QStringLiteral("lblCardTitle"), 720, 0, 975, 435);
+        lblCardTitle(i) = MakeClickLabel(location, QStringLiteral("lblCardTitle"), 720, 0, LocationTitleWidth,
+                                         LocationTitleHeight);
+        lblCardTitle(i)->setFont(LocationTitleFont());
         lblCardNumber(i) = MakeClickLabel(location, QStringLiteral("lblCardNumber"), 240, 360, 255, 255);
         lblCardNumber(i)->setAlignment(Qt::AlignCenter);
         for (QObject* control : {static_cast<QObject*>(lblCardTitle(i)), static_cast<QObject*>(lblCardNumber(i))})
@@ -173,7 +176,7 @@ void EntryScreen::PlaceLocation(int i) {
     box->show();
     box->setEnabled(true);
     PlaceControl(box, location.LocationLeft, location.LocationTop, LocationWidth, LocationHeight);
-    lblCardTitle(i)->setText(QStringLiteral("%1. %2").arg(i).arg(location.LocationTitle.Trimmed()));
+    lblCardTitle(i)->setText(NumberedLocationTitle(i, location.LocationTitle.Value()));
     lblCardNumber(i)->setText(QString::number(i));
     box->setBackColor(QBColor(CurrentLocationColour));
     const QColor other = QBColor(OtherLocationColour);

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QFocusEvent>
-#include <QFont>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -13,6 +12,7 @@
 #include "platform/Errors.h"
 #include "platform/Twips.h"
 #include "shell/ImageBox.h"
+#include "spreads/LocationTitle.h"
 
 namespace {
 // Whole pixels for a place in twips, rounding towards minus infinity so that
@@ -209,11 +209,9 @@ void SpreadCanvas::BuildLocation(int Index) {
 
     auto* title = new QLabel(pic);
     title->setObjectName(QStringLiteral("lblCardTitle%1").arg(Index));
-    title->setGeometry(PixelRect(720, 45, 975, 435));
+    title->setGeometry(PixelRect(720, 45, LocationTitleWidth, LocationTitleHeight));
     title->setStyleSheet(QStringLiteral("color: yellow; background: transparent;"));
-    QFont font(QStringLiteral("Arial"));
-    font.setPointSizeF(8.25);
-    title->setFont(font);
+    title->setFont(LocationTitleFont());
     title->setWordWrap(true);
     title->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     title->setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -256,7 +256,9 @@ void frmDesignSpread::FillFields() {
         return;
     }
     // The designer works on a copy in Temp/; a picture that has gone from
-    // Cards/ leaves the spread without one, silently.
+    // Cards/ leaves the spread without one, silently. The spread still opens
+    // unchanged: nothing the user did needs saving, and the blank name
+    // reaches the disk with the next save.
     if (!Quietly([&] { FileCopy(CardsDir + background, TempDir + background); })) {
         CurrentSpread.BackgroundFile = QString();
         return;

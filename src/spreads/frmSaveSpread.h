@@ -29,6 +29,7 @@ protected:
     void Form_KeyUp(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 
 private:
-    // Gives the background in Temp/ its permanent S name in Cards/.
-    void StoreBackground();
+    // Writes the spread in hand under the name as record n, in place of the
+    // record there (whose background goes) or after the last.
+    void SaveSpread(const QString& name, int n);
 };

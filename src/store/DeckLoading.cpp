@@ -121,11 +121,16 @@ QString CardPictureStem(int side, int number) {
     return side == 0 ? CardUprightName(number) : CardReversedName(number);
 }
 
-TakenStems::TakenStems(const QStringList& folders) {
+TakenStems::TakenStems(const QStringList& folders, const QStringList& going) {
     // One listing per folder; each name enters every stem it takes, so that
     // a search through a full Cards/ asks a set, not the folder.
-    for (const QString& folder : folders)
-        for (const QString& name : Dir(AddTrailingBackslash(folder) + QStringLiteral("*.*"))) Take(name);
+    QSet<QString> leaving;
+    for (const QString& path : going) leaving.insert(NativePath(path));
+    for (const QString& folder : folders) {
+        const QString dir = AddTrailingBackslash(folder);
+        for (const QString& name : Dir(dir + QStringLiteral("*.*")))
+            if (!leaving.contains(NativePath(dir + name))) Take(name);
+    }
 }
 
 bool TakenStems::Contains(const QString& stem) const { return stems_.contains(stem.toCaseFolded()); }

@@ -10,6 +10,7 @@
 #include "platform/Picture.h"
 #include "shell/MDIMainForm.h"
 #include "shell/frmMainScreen.h"
+#include "store/DesignCommit.h"
 #include "store/frmConvert.h"
 #include "store/mdlSubRoutines.h"
 #include "store/mdlVariables.h"
@@ -39,7 +40,10 @@ void MakeRecordFileIfMissing(const QString& path) {
 
 // A process that died while replacing a record file leaves the new file it
 // was building beside the real one, which stayed whole. Nothing reads it.
+// A design save that died after writing down its plan is finished first,
+// as the plan says, from the files it had prepared.
 void RemoveUnfinishedWrites() {
+    FinishUnfinishedCommit();
     for (const QString* path : {&ReadingsPath, &DiaryPath, &SpreadsPath, &LocationsPath, &DecksPath, &CardsPath})
         KillIgnoringErrors(NewFileBeside(*path));
     RemoveUnfinishedRewrites();

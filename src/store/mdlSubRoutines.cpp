@@ -119,13 +119,15 @@ void RewriteWithout(const QString& realPath, const QString& newPath, DropRaw dro
     writer.Commit();
 }
 
-// The smallest positive id that no record of the file carries.
+// The smallest positive id that no record of the file carries, record
+// number leavingOut not counted.
 template <class R>
-Integer SmallestFreeId(const QString& path, Integer R::*idField) {
+Integer SmallestFreeId(const QString& path, Integer R::*idField, int leavingOut = 0) {
     std::vector<bool> used(32768, false);
     const int offset = OffsetOf(idField);
     RecordReader<R> reader(path);
     while (const char* raw = reader.NextRaw()) {
+        if (reader.Current() == leavingOut) continue;
         const Integer id = RawInteger(raw, offset);
         if (id > 0) used[static_cast<std::size_t>(id)] = true;
     }
@@ -151,15 +153,31 @@ void LoadLocationsFrom(const QString& path, Integer spreadId, int count) {
 
 }  // namespace
 
-// A design file in Cards/ goes with its design; a failure to delete it is of
-// no consequence. A blank name names no file.
-void KillDesignFile(const QString& name) {
+QString DesignFilePath(const QString& name) {
     const QString trimmed = TrimField(name);
-    if (trimmed.isEmpty()) return;
     // Names come from records, which a package may have filled: a wildcard
-    // in one must never widen the delete to other designs' files.
-    if (trimmed.contains(QLatin1Char('*')) || trimmed.contains(QLatin1Char('?'))) return;
-    KillIgnoringErrors(CardsDir + name);
+    // in one must never widen a delete to other designs' files.
+    if (trimmed.isEmpty() || trimmed.contains(QLatin1Char('*')) || trimmed.contains(QLatin1Char('?'))) return {};
+    return NativePath(CardsDir + name);
+}
+
+// A design file in Cards/ goes with its design; a failure to delete it is of
+// no consequence.
+void KillDesignFile(const QString& name) {
+    const QString path = DesignFilePath(name);
+    if (!path.isEmpty()) KillIgnoringErrors(path);
+}
+
+QStringList CardFilesOf(const CardRecord& card) {
+    QStringList files;
+    for (const auto& picture : card.CardPicture) {
+        // The shared default picture is recognised by the exact field value;
+        // every other picture belongs to this card alone.
+        if (picture.Value() != DefaultPictureName) files << DesignFilePath(picture.Value());
+    }
+    for (const auto& sound : card.CardSound) files << DesignFilePath(sound.Value());
+    files.removeAll(QString());
+    return files;
 }
 
 // ---- Counting ----------------------------------------------------------------
@@ -236,7 +254,7 @@ QString SpreadNameById(Integer spreadId) {
     return name;
 }
 
-Integer NextDeckId() { return SmallestFreeId(DecksPath, &DeckRecord::DeckId); }
+Integer NextDeckId(int leavingOut) { return SmallestFreeId(DecksPath, &DeckRecord::DeckId, leavingOut); }
 
 Integer NextSpreadId() { return SmallestFreeId(SpreadsPath, &SpreadRecord::SpreadId); }
 
@@ -308,20 +326,8 @@ void DeleteDeckCards(Integer deckId) {
     QStringList files;
     RewriteWithout<CardRecord>(CardsPath, AppPath + CardsTmpName, [&](const char* raw) {
         return RawInteger(raw, idAt) == deckId;
-    }, [&](const CardRecord& r) {
-        for (const auto& picture : r.CardPicture) {
-            // The shared default picture is recognised by the exact field
-            // value; every other picture belongs to this card alone.
-            if (picture.Value() != DefaultPictureName) files << picture.Value();
-        }
-        for (const auto& sound : r.CardSound) files << sound.Value();
-    });
-    for (const QString& file : files) KillDesignFile(file);
-}
-
-void DeleteSpreadBackground(int recordNumber) {
-    if (!GetRecord(SpreadsPath, recordNumber, ScratchSpread)) RaiseError(errInputPastEndOfFile);
-    KillDesignFile(ScratchSpread.BackgroundFile.Value());
+    }, [&](const CardRecord& r) { files << CardFilesOf(r); });
+    for (const QString& file : files) KillIgnoringErrors(file);
 }
 
 void LoadSpreadLocations(Integer spreadId, int count) { LoadLocationsFrom(LocationsPath, spreadId, count); }

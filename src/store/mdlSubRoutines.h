@@ -48,8 +48,9 @@ QString DeckNameById(Integer deckId);              // untrimmed, or ""
 QString SpreadNameById(Integer spreadId);          // untrimmed, or ""
 
 // The smallest positive id that no record carries: ids of deleted designs are
-// used again.
-Integer NextDeckId();
+// used again. A deck save that replaces a deck asks as if the replaced
+// record (its number) were already gone.
+Integer NextDeckId(int leavingOut = 0);
 Integer NextSpreadId();
 
 // ---- Delete passes ---------------------------------------------------------
@@ -67,10 +68,15 @@ void DeleteDeckCards(Integer deckId);
 // Removes the replacements that a process killed during a delete pass left
 // beside the record files.
 void RemoveUnfinishedRewrites();
-void DeleteSpreadBackground(int recordNumber);  // the file only; the record stays
 // Deletes a design's picture, sound or background file from Cards/; a blank
 // name or one holding a wildcard deletes nothing.
 void KillDesignFile(const QString& name);
+// The path in Cards/ of a design's file, or "" for a name that names none
+// (blank, or holding a wildcard).
+QString DesignFilePath(const QString& name);
+// The files in Cards/ that go with a card: its pictures (never the shared
+// default picture) and its sounds, as paths.
+QStringList CardFilesOf(const CardRecord& card);
 
 // Fills SpreadLocations(1 .. count) with the spread's locations by their
 // LocationNumber; numbers not found stay all zero.
@@ -124,7 +130,8 @@ QString SpreadPictureName(int number);   // "S000007"
 // by this one rule, so two pictures never meet under one name in Cards/.
 class TakenStems {
 public:
-    explicit TakenStems(const QStringList& folders);
+    // Files about to go (full paths in `going`) take nothing.
+    explicit TakenStems(const QStringList& folders, const QStringList& going = {});
     bool Contains(const QString& stem) const;
     // Counts a file that is not there yet as if it were.
     void Take(const QString& fileName);

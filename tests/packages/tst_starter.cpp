@@ -18,6 +18,7 @@
 #include "platform/FileLists.h"
 #include "platform/Picture.h"
 #include "readings/ReadingFixtures.h"
+#include "shell/ClickLabel.h"
 #include "spreads/SortedListBox.h"
 #include "spreads/frmDeckChooser.h"
 
@@ -130,9 +131,11 @@ void tst_starter::checkCatchesWhatTheRecordsCannotHold() {
     cross.Locations[1].Top = cross.Locations[0].Top + LocationHeight - 1;
     cross.Locations[2].Top = LocationMaxTop + 1;
     cross.Locations[3].Questions << QStringLiteral("a") << QStringLiteral("b") << QStringLiteral("c");
+    cross.Locations[7].Title = QStringLiteral("Your Surroundings");   // "Surroundings" is wider than the label
     faults = CheckStarterDesigns(designs);
-    QCOMPARE(faults.size(), 3);
+    QCOMPARE(faults.size(), 4);
     QVERIFY(faults.join(QLatin1Char('\n')).contains(QLatin1String("location 2: lies on top of location 1")));
+    QVERIFY(faults.join(QLatin1Char('\n')).contains(QLatin1String("location 8: title \"Your Surroundings\"")));
 
     // Rectangles that only touch do not overlap.
     designs = good;
@@ -250,6 +253,12 @@ void tst_starter::installedStarterServesACelticCrossReading() {
     QCOMPARE(CurrentSpread.LocationCount, Integer(10));
     QCOMPARE(CurrentDeck.DeckId, deck.DeckId);
     frmNewReading& reading = Get<frmNewReading>();
+    // Every location's number and title show whole in its label.
+    for (int i = 1; i <= 10; ++i) {
+        const QLabel* title = reading.lblCardTitle(i);
+        const QRect shown = title->fontMetrics().boundingRect(title->contentsRect(), Qt::TextWordWrap, title->text());
+        QVERIFY2(title->contentsRect().contains(shown), qPrintable(title->text()));
+    }
     reading.cmdContinue->click();
     reading.cmdAllCards->click();
     QSet<Integer> dealt;

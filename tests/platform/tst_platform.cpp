@@ -133,6 +133,11 @@ private slots:
         QCOMPARE(h[0].prompt, QStringLiteral("Sure?"));
         QCOMPARE(h[0].title, QStringLiteral("Cartomar"));
         QCOMPARE(h[0].style & 0x70, int(vbQuestion));
+        // A break written as CR or CR LF shows as the one break "\n" does.
+        for (const char* text : {"Line\rnext", "Line\r\nnext"}) {
+            MsgBox(QString::fromLatin1(text));
+            QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Line\nnext"));
+        }
     }
 
     // A real box over a screen that goes while the box waits (as a screen

@@ -377,6 +377,16 @@ private slots:
         QCOMPARE(RawRecords(LocationsPath, LocationRecord::Length).size(), 10);
         QCOMPARE(copy.AllowedDeckCount, Integer(2));
         d.cmdBack_Click();
+
+        // Its picture gone from Cards/: it opens unchanged and without a
+        // background; the next save writes the blank name.
+        QFile::remove(CardsDir + QStringLiteral("S000002.BMP"));
+        Get<frmSpreads>().cmdEdit_Click();
+        frmDesignSpread& bare = Get<frmDesignSpread>();
+        QVERIFY(!bare.SpreadDirty && CurrentSpread.BackgroundFile.IsBlank());
+        SaveAs(bare, QStringLiteral("Copy of Paths"), vbYes);
+        QVERIFY(GetRecord(SpreadsPath, 2, copy) && copy.BackgroundFile.IsBlank());
+        bare.cmdBack_Click();
     }
 };
 

@@ -147,16 +147,6 @@ private slots:
         QVERIFY(!FileExists(AppPath + QStringLiteral("Spreads.tmp")));
         QVERIFY(!FileExists(AppPath + QStringLiteral("Location.tmp")));
         QCOMPARE(FindSpreadRecordById(b), -1);
-
-        // The background alone goes; the record stays.
-        SpreadRecord spreadC;
-        QVERIFY(GetRecord(SpreadsPath, 2, spreadC));
-        spreadC.BackgroundFile = QStringLiteral("S000002.bmp");
-        PutRecord(SpreadsPath, 2, spreadC);
-        DeleteSpreadBackground(2);
-        QVERIFY(!InCards(QStringLiteral("S000002.bmp")));
-        QCOMPARE(CountSpreads(), 2);
-        QVERIFY(InCards(DefaultPictureName));
     }
 
     void deleteDeckTakesItsCardsAndTheirFiles() {

@@ -1,9 +1,11 @@
 // Every operation that writes record files, with a fault at each of its write
 // steps in turn: a failing write, a disk that fills in the middle of a write,
-// and (in a child process) a kill at that step. Afterwards every record file
-// is a whole number of records, holds every record that both the file before
-// and the file after a clean run hold, holds nothing that is in neither, every
-// deck that the operation keeps still loads, and the program starts.
+// and (in a child process) a kill at that step. Afterwards the program starts,
+// and then every record file is a whole number of records, holds every record
+// that both the file before and the file after a clean run hold, holds
+// nothing that is in neither; every deck and spread is whole as the state it
+// came from left it (its cards or locations, the bytes of every file they
+// name), and a design that both states list by name is listed.
 #include <QFile>
 #include <QSet>
 #include <QTemporaryDir>
@@ -17,6 +19,8 @@
 #include <QLineEdit>
 
 #include "decks/frmSaveDeck.h"
+#include "spreads/TextBoxes.h"
+#include "spreads/frmSaveSpread.h"
 #include "platform/Errors.h"
 #include "platform/FileSys.h"
 #include "platform/MsgBox.h"
@@ -42,19 +46,66 @@ const RecordFileKind kFiles[] = {{&DecksPath, DeckRecord::Length},       {&Cards
                                  {&SpreadsPath, SpreadRecord::Length},   {&LocationsPath, LocationRecord::Length},
                                  {&ReadingsPath, ReadingRecord::Length}, {&DiaryPath, DiaryRecord::Length}};
 
-using Snapshot = std::map<QString, QByteArray>;   // file name -> bytes
+using Snapshot = std::map<QString, QByteArray>;   // file name ("Cards/" name) -> bytes
 
 Snapshot Snap() {
     Snapshot s;
     for (const RecordFileKind& f : kFiles)
         s[FileNameOf(*f.path)] = FileExists(*f.path) ? ReadWholeFile(*f.path) : QByteArray();
+    for (const QString& name : Dir(CardsDir + QStringLiteral("*")))
+        s[QStringLiteral("Cards/") + name] = ReadWholeFile(CardsDir + name);
     return s;
 }
 
+QList<QByteArray> Split(const QByteArray& bytes, int length) {
+    QList<QByteArray> records;
+    for (qsizetype at = 0; at + length <= bytes.size(); at += length) records.append(bytes.mid(at, length));
+    return records;
+}
+
 QSet<QByteArray> Records(const QByteArray& bytes, int length) {
-    QSet<QByteArray> set;
-    for (qsizetype at = 0; at + length <= bytes.size(); at += length) set.insert(bytes.mid(at, length));
-    return set;
+    const QList<QByteArray> records = Split(bytes, length);
+    return QSet<QByteArray>(records.begin(), records.end());
+}
+
+template <class R>
+R Decoded(const QByteArray& bytes) {
+    R r;
+    DecodeRecord(bytes.constData(), r);
+    return r;
+}
+
+// A deck or spread as one state of the folder holds it: its record, its
+// cards (as many as it counts) or its locations, and the bytes of every file
+// of its own they name (start-up writes the shared default picture anew).
+QByteArray DesignAsHeld(const Snapshot& s, const QByteArray& record, bool deck) {
+    QByteArray held = record;
+    const auto file = [&](const QString& name) {
+        const auto it = s.find(QStringLiteral("Cards/") + TrimField(name));
+        if (!TrimField(name).isEmpty() && name != DefaultPictureName)
+            held += it == s.end() ? QByteArray("(none)") : it->second;
+    };
+    if (deck) {
+        const auto d = Decoded<DeckRecord>(record);
+        int taken = 0;
+        for (const QByteArray& bytes : Split(s.at(QStringLiteral("Cards.crd")), CardRecord::Length)) {
+            const auto card = Decoded<CardRecord>(bytes);
+            if (card.CardDeckId != d.DeckId || taken++ >= d.CardCount) continue;
+            held += bytes;
+            for (const auto& name : card.CardPicture) file(name.Value());
+            for (const auto& name : card.CardSound) file(name.Value());
+        }
+    } else {
+        const auto spread = Decoded<SpreadRecord>(record);
+        for (const QByteArray& bytes : Split(s.at(QStringLiteral("Location.loc")), LocationRecord::Length))
+            if (Decoded<LocationRecord>(bytes).LocationSpreadId == spread.SpreadId) held += bytes;
+        file(spread.BackgroundFile.Value());
+    }
+    return held;
+}
+
+QString NameOf(const QByteArray& record, bool deck) {
+    return deck ? Decoded<DeckRecord>(record).DeckName.Trimmed() : Decoded<SpreadRecord>(record).SpreadName.Trimmed();
 }
 
 using Fixtures::NamedDiary;
@@ -68,6 +119,11 @@ void MakeFixture(const QString& dir) {
     Fixtures::MakeDeck(QStringLiteral("Deck B"), 2, false);
     Fixtures::MakeSpread(QStringLiteral("Spread A"), 3, {deckA});
     Fixtures::MakeSpread(QStringLiteral("Spread B"), 2, {}, true);
+    SpreadRecord spread;
+    GetRecord(SpreadsPath, 1, spread);
+    spread.BackgroundFile = QStringLiteral("S000001.bmp");
+    PutRecord(SpreadsPath, 1, spread);
+    Fixtures::WritePicture(CardsDir + QStringLiteral("S000001.bmp"));
     for (const char* name : {"First", "Second", "Third"}) AppendRecord(ReadingsPath, NamedReading(QLatin1String(name)));
     for (const char* name : {"Monday", "Tuesday"}) AppendRecord(DiaryPath, NamedDiary(QLatin1String(name)));
 
@@ -94,10 +150,10 @@ void MakeFixture(const QString& dir) {
     DeleteDeck(at);
 }
 
-// Puts the first deck in the designer's place, pictures in Temp/, as the
-// save screen finds it.
-void OpenDeckForSaving() {
-    GetRecord(DecksPath, 1, ListDeck);
+// Puts a deck in the designer's place, pictures in Temp/, as the save screen
+// finds it.
+void OpenDeckForSaving(int record) {
+    GetRecord(DecksPath, record, ListDeck);
     bool removed = false;
     LoadDeck(removed);
     for (const CardRecord& card : CurrentDeck.DeckCards)
@@ -109,8 +165,14 @@ struct Operation {
     const char* name;
     std::function<void()> prepare;   // untouched by faults
     std::function<void()> run;
-    bool newDecksWhole = false;      // a deck it adds is listed only with its cards
 };
+
+void SaveDeckAs(const QString& name) {
+    MsgBoxScript::Answer(vbYes);   // to the overwrite question, if it comes
+    frmSaveDeck& save = Get<frmSaveDeck>();
+    save.txtSaveAs->setText(name);
+    save.cmdSave_Click();
+}
 
 const QList<Operation>& Operations() {
     static const QList<Operation> all = {
@@ -120,31 +182,31 @@ const QList<Operation>& Operations() {
         {"reading deleted", {}, [] { DeleteReading(QStringLiteral("Second")); }},
         {"diary entry deleted", {}, [] { DeleteDiary(QStringLiteral("Tuesday")); }},
         {"spread deleted", {}, [] { DeleteSpread(1); }},
+        // A new background, which takes the name of the old one.
         {"spread saved over",
          [] {
              GetRecord(SpreadsPath, 1, CurrentSpread);
              LoadSpreadLocations(CurrentSpread.SpreadId, 3);
              SpreadLocations(2).LocationTitle = QStringLiteral("Moved");
-             CurrentSpread.SpreadRevision = 7;
+             Fixtures::WritePicture(TempDir + QStringLiteral("sprpic.bmp"), Qt::red);
+             CurrentSpread.BackgroundFile = QStringLiteral("sprpic.bmp");
          },
          [] {
-             ReplaceSpreadLocations(CurrentSpread.SpreadId, 3);
-             PutRecord(SpreadsPath, 1, CurrentSpread);
-         }},
-        {"deck deleted", {}, [] { DeleteDeck(1); }},
-        {"deck saved as new", OpenDeckForSaving,
-         [] {
-             frmSaveDeck& save = Get<frmSaveDeck>();
-             save.txtSaveAs->setText(QStringLiteral("Deck C"));
+             MsgBoxScript::Answer(vbYes);
+             frmSaveSpread& save = Get<frmSaveSpread>();
+             save.txtSaveAs->setText(QStringLiteral("Spread A"));
              save.cmdSave_Click();
          }},
+        {"deck deleted", {}, [] { DeleteDeck(1); }},
+        {"deck saved as new", [] { OpenDeckForSaving(1); }, [] { SaveDeckAs(QStringLiteral("Deck C")); }},
+        // Deck B over deck A: its pictures take the names of A's.
+        {"deck saved over another", [] { OpenDeckForSaving(2); }, [] { SaveDeckAs(QStringLiteral("Deck A")); }},
         {"package installed", {},
          [] {
              InstallAnswers answers;
              answers.Chosen = {QStringLiteral("Packed")};
              PackageInstallation(answers, {}).Install();
-         },
-         true},
+         }},
     };
     return all;
 }
@@ -165,6 +227,7 @@ class TestWriteFaults : public QObject {
         }
         WriteFaults::Disarm();
         UnloadScreen<frmSaveDeck>();
+        UnloadScreen<frmSaveSpread>();
     }
 
     // The number of write steps of an operation, leaving its result in place.
@@ -176,9 +239,15 @@ class TestWriteFaults : public QObject {
     }
     std::unique_ptr<QTemporaryDir> clean_;
 
-    // The state after a fault, against the files before and after a clean run.
-    void Check(const QString& dir, const Snapshot& before, const Snapshot& after, const QString& what,
-               bool newDecksWhole) {
+    // The state after a fault and a start, against the files before and after
+    // a clean run.
+    void Check(const QString& dir, const Snapshot& before, const Snapshot& after, const QString& what) {
+        MsgBoxScript::Clear();
+        QVERIFY2(RunStartup(dir), qPrintable(what));
+        QCOMPARE(MsgBoxScript::Unanswered(), 0);
+        for (const QString& left : {AppPath + QStringLiteral("*.new"), CardsDir + QStringLiteral("*.staged"),
+                                    AppPath + QStringLiteral("Cartomar.commit")})
+            QVERIFY2(!AnyFileMatches(left), qPrintable(what + QStringLiteral(": left ") + left));
         const Snapshot now = Snap();
         for (const RecordFileKind& f : kFiles) {
             const QString name = FileNameOf(*f.path);
@@ -191,19 +260,22 @@ class TestWriteFaults : public QObject {
                      qPrintable(what + QStringLiteral(": lost a record of ") + name));
             QVERIFY2((found - old - done).isEmpty(), qPrintable(what + QStringLiteral(": stray record in ") + name));
         }
-        // A deck that both sides keep still loads whole, pictures and all;
-        // so does a new one, where its cards go before it.
-        const QSet<QByteArray> decksBefore = Records(before.at(QStringLiteral("Decks.dck")), DeckRecord::Length);
-        for (const QByteArray& bytes : Records(now.at(QStringLiteral("Decks.dck")), DeckRecord::Length)) {
-            if (!newDecksWhole && !decksBefore.contains(bytes)) continue;
-            DecodeRecord(bytes.constData(), ListDeck);
-            bool removed = false;
-            QVERIFY2(LoadDeck(removed), qPrintable(what + QStringLiteral(": deck no longer loads")));
+        for (const bool deck : {true, false}) {
+            const QString file = deck ? QStringLiteral("Decks.dck") : QStringLiteral("Spreads.spr");
+            const int length = deck ? DeckRecord::Length : SpreadRecord::Length;
+            const QSet<QByteArray> old = Records(before.at(file), length);
+            QSet<QString> names, listed;
+            for (const QByteArray& r : Split(before.at(file), length)) names << NameOf(r, deck);
+            for (const QByteArray& r : Split(after.at(file), length)) listed << NameOf(r, deck);
+            names.intersect(listed);
+            listed.clear();
+            for (const QByteArray& r : Split(now.at(file), length)) {
+                listed << NameOf(r, deck);
+                QVERIFY2(DesignAsHeld(now, r, deck) == DesignAsHeld(old.contains(r) ? before : after, r, deck),
+                         qPrintable(what + QStringLiteral(": not whole: ") + NameOf(r, deck)));
+            }
+            QVERIFY2((names - listed).isEmpty(), qPrintable(what + QStringLiteral(": neither old nor new in ") + file));
         }
-        MsgBoxScript::Clear();
-        QVERIFY2(RunStartup(dir), qPrintable(what));
-        QVERIFY2(!AnyFileMatches(AppPath + QStringLiteral("*.new")), qPrintable(what));
-        QCOMPARE(MsgBoxScript::Unanswered(), 0);
         ++injected_;
     }
 
@@ -230,8 +302,7 @@ private slots:
                     const Snapshot before = Snap();
                     Run(op, fault, step);
                     Check(dir.path(), before, after,
-                          QStringLiteral("%1, fault %2 at step %3").arg(QLatin1String(op.name)).arg(int(fault)).arg(step),
-                          op.newDecksWhole);
+                          QStringLiteral("%1, fault %2 at step %3").arg(QLatin1String(op.name)).arg(int(fault)).arg(step));
                     if (QTest::currentTestFailed()) return;
                 }
             }
@@ -262,7 +333,7 @@ private slots:
                 ::waitpid(child, &status, 0);
                 const QString what = QStringLiteral("%1, killed at step %2").arg(QLatin1String(op.name)).arg(step);
                 QVERIFY2(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL, qPrintable(what));
-                Check(dir.path(), before, after, what, op.newDecksWhole);
+                Check(dir.path(), before, after, what);
                 if (QTest::currentTestFailed()) return;
             }
         }
