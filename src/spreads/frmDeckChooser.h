@@ -9,7 +9,7 @@
 class QCheckBox;
 class QLabel;
 class QPushButton;
-class SortedListBox;
+class ListBox;
 
 class frmDeckChooser : public Form {
     Q_OBJECT
@@ -20,8 +20,8 @@ public:
     // The spread to select again on the list when the chooser closes.
     QString RememberedSpreadName;
 
-    SortedListBox* lstAvailableDecks;
-    SortedListBox* lstDecks;
+    ListBox* lstAvailableDecks;
+    ListBox* lstDecks;
     QLabel* lblAvailable;
     QLabel* lblDecks;
     QCheckBox* chkAnyDeck;
@@ -43,7 +43,6 @@ public:
 
 protected:
     void Form_Load() override;
-    void Form_QueryUnload(bool& cancel, int unloadMode) override;
     void Form_Unload(bool& cancel) override;
     void Form_KeyUp(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 

@@ -4,7 +4,7 @@
 // cards, the properties fixed once configured, and the questions on leaving.
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QListWidget>
+#include "platform/ListBox.h"
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>

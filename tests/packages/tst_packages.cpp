@@ -4,7 +4,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
+#include "platform/ListBox.h"
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -19,7 +19,7 @@
 #include "platform/FileLists.h"
 #include "support/ModalScript.h"
 #include "readings/ReadingFixtures.h"
-#include "spreads/SortedListBox.h"
+#include "platform/ListBox.h"
 #include "spreads/frmDeckChooser.h"
 #include "store/Startup.h"
 #include "store/frmDesignExists.h"
@@ -391,8 +391,8 @@ private slots:
         QVERIFY(RunStartup(c.path()));
         QVERIFY(IsLoaded<frmInstallPackage>() && Get<frmInstallPackage>().Visible());
         QVERIFY(!Get<frmMainScreen>().Visible());
-        Get<frmInstallPackage>().cmdCancel_Click();
-        QVERIFY(Get<frmMainScreen>().Visible());
+        Get<frmInstallPackage>().close();   // the close box leaves as Close does
+        QVERIFY(!IsLoaded<frmInstallPackage>() && Get<frmMainScreen>().Visible());
         Settle();
     }
 

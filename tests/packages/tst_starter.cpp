@@ -18,7 +18,7 @@
 #include "platform/FileLists.h"
 #include "platform/Picture.h"
 #include "readings/ReadingFixtures.h"
-#include "spreads/SortedListBox.h"
+#include "platform/ListBox.h"
 #include "spreads/frmDeckChooser.h"
 
 using namespace ReadingFixtures;
