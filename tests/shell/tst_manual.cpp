@@ -25,10 +25,8 @@
 
 namespace {
 
-// The manual in the source tree, two folders up from this test.
-QString SourceHelpFolder() {
-    return QFileInfo(QStringLiteral(__FILE__)).absoluteDir().absoluteFilePath(QStringLiteral("../../help"));
-}
+// The manual in the source tree.
+QString SourceHelpFolder() { return QStringLiteral(CARTOMAR_SOURCE_DIR "/help"); }
 
 // The image names the document shows, in order.
 QStringList ImagesOf(const QTextDocument& document) {
