@@ -337,8 +337,9 @@ constexpr int WidestPicture = 880;
 
 // A modal screen is a window of its own, above the frame: it is painted into
 // the frame's picture at its place, under a title bar drawn by the style as
-// the frame draws the title bars of its inner screens.
-void PaintModalScreen(QPainter& p, QWidget& screen, const QPoint& at, QRect& screens) {
+// the frame draws the title bars of its inner screens. Its place is that of
+// its title bar, as a window manager puts a window where it is moved to.
+void PaintModalScreen(QPainter& p, QWidget& screen, QPoint at, QRect& screens) {
     QStyleOptionTitleBar title;
     title.initFrom(&screen);
     title.text = screen.windowTitle();
@@ -349,6 +350,7 @@ void PaintModalScreen(QPainter& p, QWidget& screen, const QPoint& at, QRect& scr
     title.palette.setCurrentColorGroup(QPalette::Active);
     const int height = screen.style()->pixelMetric(QStyle::PM_TitleBarHeight, &title, &screen);
     title.rect = QRect(0, 0, screen.width(), height);
+    at.ry() += height;
     p.save();
     p.translate(at.x(), at.y() - height);
     screen.style()->drawComplexControl(QStyle::CC_TitleBar, &title, &p, &screen);

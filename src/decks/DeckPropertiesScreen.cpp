@@ -35,6 +35,7 @@ DeckPropertiesScreen::DeckPropertiesScreen(bool editing) {
     connect(chkUseReversed, &QCheckBox::clicked, this, Handler([this] { chkUseReversed_Click(); }));
     connect(chkDisplay, &QCheckBox::clicked, this, Handler([this] { chkDisplay_Click(); }));
     connect(cmdClose, &QPushButton::clicked, this, Handler([this] { cmdClose_Click(); }));
+    setWayOut([this] { cmdClose_Click(); });
 }
 
 void DeckPropertiesScreen::Form_Load() {
@@ -56,13 +57,7 @@ void DeckPropertiesScreen::FillProperties() {
 
 void DeckPropertiesScreen::cmdClose_Click() { Unload(); }
 
-// The close box and Esc act as Close.
-void DeckPropertiesScreen::Form_QueryUnload(bool& cancel, int unloadMode) {
-    if (unloadMode != vbFormControlMenu) return;
-    cancel = true;
-    cmdClose_Click();
-}
-
+// Esc acts as Close.
 void DeckPropertiesScreen::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) {
     if (key == Qt::Key_Escape) {
         handled = true;

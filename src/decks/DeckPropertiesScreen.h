@@ -26,7 +26,6 @@ public:
 protected:
     explicit DeckPropertiesScreen(bool editing);
     void Form_Load() override;
-    void Form_QueryUnload(bool& cancel, int unloadMode) override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 
     // Puts the deck's values into the controls.

@@ -2,14 +2,13 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QSignalBlocker>
 
 #include "decks/frmDecks.h"
 #include "decks/mdlDeckDesign.h"
 #include "platform/FileSys.h"
+#include "platform/ListBox.h"
 #include "shell/mdlFORM.h"
 #include "store/RecordFile.h"
 #include "store/mdlSubRoutines.h"
@@ -40,9 +39,9 @@ DeckScreen::DeckScreen(const QString& captionStem, bool designing) : captionStem
     txtDeckDescription->setGeometry(At(240, 2940, 5160, 2400));
 
     MakeLabel(this, QStringLiteral("Cards:"), At(5640, 240, 3240, 285));
-    lstCards = new QListWidget(this);
+    lstCards = new ListBox(this);
     lstCards->setObjectName(QStringLiteral("lstCards"));
-    lstCards->setSortingEnabled(true);
+    lstCards->setSorted(true);
     lstCards->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstCards->setGeometry(At(5640, 540, 3240, 3960));
 
@@ -52,14 +51,13 @@ DeckScreen::DeckScreen(const QString& captionStem, bool designing) : captionStem
     cmdComments = MakeButton(this, "cmdComments", QStringLiteral("No&tes"), At(1920, 5580, 1500, 420));
     cmdBack = MakeButton(this, "cmdBack", QStringLiteral("&Close"), At(7380, 5580, 1500, 420));
 
-    connect(lstCards, &QListWidget::currentRowChanged, this, Handler([this] { UpdateCardButtons(); }));
-    connect(lstCards, &QListWidget::itemClicked, this, Handler([this] { UpdateCardButtons(); }));
+    connect(lstCards, &ListBox::Click, this, Handler([this] { UpdateCardButtons(); }));
 }
 
-void DeckScreen::UpdateCardButtons() { cmdEditCard->setEnabled(ListIndex(lstCards) >= 0); }
+void DeckScreen::UpdateCardButtons() { cmdEditCard->setEnabled(lstCards->ListIndex() >= 0); }
 
 void DeckScreen::OpenDeck(bool existingDeck, bool skipDefaultReversed) {
-    if (IsLoaded<frmDecks>()) OldDesignName = SelectedLine(Get<frmDecks>().lstDecks);
+    if (IsLoaded<frmDecks>()) OldDesignName = Get<frmDecks>().lstDecks->Text();
     CentreInFrame(*this);
     KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
     if (existingDeck) CopyDeckIn(skipDefaultReversed);
@@ -95,15 +93,14 @@ void DeckScreen::FillDeckFields() {
 }
 
 void DeckScreen::RefreshCardList() {
-    const QSignalBlocker quiet(lstCards);
-    lstCards->clear();
-    for (const CardRecord& card : CurrentDeck.DeckCards) lstCards->addItem(card.CardTitle.Value());
+    lstCards->Clear();
+    for (const CardRecord& card : CurrentDeck.DeckCards) lstCards->AddItem(card.CardTitle.Value());
     UpdateCardButtons();
 }
 
 int DeckScreen::SelectedCardPosition() const {
-    if (ListIndex(lstCards) < 0) return 0;
-    const QString title = TrimField(SelectedLine(lstCards));
+    if (lstCards->ListIndex() < 0) return 0;
+    const QString title = TrimField(lstCards->Text());
     for (int i = 1; i <= CurrentDeck.DeckCards.UBound(); ++i)
         if (CurrentDeck.DeckCards(i).CardTitle.Trimmed() == title) return i;
     return 0;

@@ -8,7 +8,7 @@
 
 class QLabel;
 class QLineEdit;
-class QListWidget;
+class ListBox;
 class QPlainTextEdit;
 class QPushButton;
 
@@ -21,7 +21,7 @@ public:
     QLineEdit* txtDesignerWebPage;
     QPlainTextEdit* txtDeckDescription;
     QLabel* lblModifiedOnDate;
-    QListWidget* lstCards;
+    ListBox* lstCards;
     QPushButton* cmdEditCard;
     QPushButton* cmdProperties;
     QPushButton* cmdComments;

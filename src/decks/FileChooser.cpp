@@ -36,6 +36,7 @@ FileChooser::FileChooser(const QString& kindWord, const QString& pattern, Choose
     connect(drvSelection, &DriveListBox::Change, this, Handler([this] { drvSelection_Change(); }));
     connect(cmdSelect, &QPushButton::clicked, this, Handler([this] { cmdSelect_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
+    setWayOut([this] { cmdCancel_Click(); });
 }
 
 void FileChooser::ShowFor(int code) {
@@ -106,14 +107,9 @@ void FileChooser::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) {
     if (key == Qt::Key_Escape) {
         handled = true;
         cmdCancel_Click();
-    } else if (filSelection->hasFocus() && (key == Qt::Key_Return || key == Qt::Key_Enter) &&
+    } else if (focusWidget() == filSelection && (key == Qt::Key_Return || key == Qt::Key_Enter) &&
                !filSelection->FileName().isEmpty()) {
         handled = true;
         cmdSelect_Click();
     }
-}
-
-// Closing the chooser by its close box is a cancel.
-void FileChooser::Form_QueryUnload(bool&, int unloadMode) {
-    if (unloadMode == vbFormControlMenu) ReportSelected(false);
 }

@@ -44,7 +44,6 @@ protected:
     FileChooser(const QString& kindWord, const QString& pattern, ChooserMemory& memory);
 
     void Form_Load() override;
-    void Form_QueryUnload(bool& cancel, int unloadMode) override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 
     // The selected file is shown (previewed or loaded into the player).

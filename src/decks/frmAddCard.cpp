@@ -1,17 +1,16 @@
 #include "decks/frmAddCard.h"
 
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSignalBlocker>
 
 #include "decks/frmDesignDeck.h"
 #include "decks/frmGetImageFile.h"
 #include "decks/frmGetSoundFile.h"
 #include "decks/mdlDeckDesign.h"
 #include "platform/FileSys.h"
+#include "platform/ListBox.h"
 #include "platform/MediaPlayer.h"
 #include "platform/MsgBox.h"
 #include "shell/ImageBox.h"
@@ -21,7 +20,7 @@
 
 frmAddCard::frmAddCard() : CardScreen(QStringLiteral("Add Card"), true) {
     setObjectName(QStringLiteral("frmAddCard"));
-    lstCardType = new QListWidget(this);
+    lstCardType = new ListBox(this);
     lstCardType->setObjectName(QStringLiteral("lstCardType"));
     lstCardType->setGeometry(At(1560, 720, 4200, 900));
     imgCard->setToolTip(QStringLiteral("Click Here to Edit the Image"));
@@ -33,25 +32,23 @@ frmAddCard::frmAddCard() : CardScreen(QStringLiteral("Add Card"), true) {
     connect(txtCardTitle, &QLineEdit::textChanged, this, Handler([this] { txtCardTitle_Change(); }));
     connect(txtDescription, &QPlainTextEdit::textChanged, this, Handler([this] { txtDescription_Change(); }));
     connect(txtKeywords, &QPlainTextEdit::textChanged, this, Handler([this] { txtKeywords_Change(); }));
-    connect(lstCardType, &QListWidget::itemClicked, this, Handler([this] { lstCardType_Click(); }));
+    connect(lstCardType, &ListBox::Click, this, Handler([this] { lstCardType_Click(); }));
     connect(imgCard, &ImageBox::Click, this, Handler([this] { imgCard_Click(); }));
     connect(cmdEditImage, &QPushButton::clicked, this, Handler([this] { cmdEditImage_Click(); }));
     connect(cmdGetSound, &QPushButton::clicked, this, Handler([this] { cmdGetSound_Click(); }));
     connect(cmdSaveClose, &QPushButton::clicked, this, Handler([this] { cmdSaveClose_Click(); }));
     connect(cmdSaveNew, &QPushButton::clicked, this, Handler([this] { cmdSaveNew_Click(); }));
     connect(cmdBack, &QPushButton::clicked, this, Handler([this] { cmdBack_Click(); }));
+    setWayOut([this] { cmdBack_Click(); });
 }
 
 void frmAddCard::Form_Load() {
     AddTolstCards = true;
     SaveSuccessful = true;
     OpenCard();
-    for (int i = 0; i < 4; ++i) {
-        if (!CurrentDeck.CardTypeUsed[static_cast<std::size_t>(i)]) continue;
-        auto* line = new QListWidgetItem(CurrentDeck.CardTypeName[static_cast<std::size_t>(i)].Trimmed());
-        line->setData(Qt::UserRole, i);
-        lstCardType->addItem(line);
-    }
+    for (int i = 0; i < 4; ++i)
+        if (CurrentDeck.CardTypeUsed[static_cast<std::size_t>(i)])
+            lstCardType->AddItem(CurrentDeck.CardTypeName[static_cast<std::size_t>(i)].Trimmed(), i);
     CentreInFrame(*this);
     Loading = true;
     FillFields();
@@ -68,14 +65,13 @@ int frmAddCard::getCardPositionInTempDeckCards() const {
     return 0;
 }
 
+// Showing the card's type is no change to the card.
 void frmAddCard::ShowCardType() {
-    for (int row = 0; row < lstCardType->count(); ++row) {
-        if (lstCardType->item(row)->data(Qt::UserRole).toInt() == CurrentCard.CardType) {
-            SetListIndex(lstCardType, row);
-            return;
-        }
-    }
-    SetListIndex(lstCardType, -1);
+    const QSignalBlocker quiet(lstCardType);
+    int line = -1;
+    for (int row = 0; row < lstCardType->ListCount() && line < 0; ++row)
+        if (lstCardType->ItemData(row) == CurrentCard.CardType) line = row;
+    lstCardType->setListIndex(line);
 }
 
 void frmAddCard::optPosition_Click() {
@@ -103,9 +99,8 @@ void frmAddCard::txtKeywords_Change() {
 }
 
 void frmAddCard::lstCardType_Click() {
-    const int row = ListIndex(lstCardType);
-    if (row < 0) return;
-    CurrentCard.CardType = static_cast<Integer>(CardTypeIndex(lstCardType->item(row)->text()));
+    if (lstCardType->ListIndex() < 0) return;
+    CurrentCard.CardType = static_cast<Integer>(CardTypeIndex(lstCardType->Text()));
     DesignModified = true;
 }
 
@@ -240,12 +235,6 @@ void frmAddCard::cmdBack_Click() {
     CloseForm = true;
     SetScreenPointer(MousePointer::Arrow);
     Unload();
-}
-
-void frmAddCard::Form_QueryUnload(bool& cancel, int unloadMode) {
-    if (unloadMode != vbFormControlMenu) return;
-    cancel = true;
-    cmdBack_Click();
 }
 
 void frmAddCard::Form_Unload(bool&) {

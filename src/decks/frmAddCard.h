@@ -5,14 +5,14 @@
 // stored.
 #include "decks/CardScreen.h"
 
-class QListWidget;
+class ListBox;
 
 class frmAddCard : public CardScreen {
     Q_OBJECT
 public:
     frmAddCard();
 
-    QListWidget* lstCardType;
+    ListBox* lstCardType;
     QPushButton* cmdEditImage;
     QPushButton* cmdGetSound;
     QPushButton* cmdSaveClose;
@@ -43,7 +43,6 @@ public:
 
 protected:
     void Form_Load() override;
-    void Form_QueryUnload(bool& cancel, int unloadMode) override;
     void Form_Unload(bool& cancel) override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
     void ShowCardType() override;

@@ -1,9 +1,9 @@
 #include "decks/frmBrowseDeck.h"
 
-#include <QListWidget>
 #include <QPushButton>
 
 #include "decks/mdlDeckDesign.h"
+#include "platform/ListBox.h"
 #include "shell/mdlFORM.h"
 #include "store/RecordFile.h"
 #include "store/mdlSubRoutines.h"
@@ -12,14 +12,14 @@ frmBrowseDeck::frmBrowseDeck() {
     setObjectName(QStringLiteral("frmBrowseDeck"));
     resize(TwipsToPixels(4560), TwipsToPixels(4200));
     MakeLabel(this, QStringLiteral("Decks:"), At(240, 120, 2400, 255));
-    lstDecks = new QListWidget(this);
+    lstDecks = new ListBox(this);
     lstDecks->setObjectName(QStringLiteral("lstDecks"));
-    lstDecks->setSortingEnabled(true);
+    lstDecks->setSorted(true);
     lstDecks->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstDecks->setGeometry(At(240, 420, 4080, 2940));
     cmdSelect = MakeButton(this, "cmdSelect", QStringLiteral("&Select"), At(1200, 3540, 1500, 420));
     cmdCancel = MakeButton(this, "cmdCancel", QStringLiteral("&Cancel"), At(2820, 3540, 1500, 420));
-    connect(lstDecks, &QListWidget::itemDoubleClicked, this, Handler([this] { cmdSelect_Click(); }));
+    connect(lstDecks, &ListBox::DblClick, this, Handler([this] { cmdSelect_Click(); }));
     connect(cmdSelect, &QPushButton::clicked, this, Handler([this] { cmdSelect_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
 }
@@ -29,12 +29,12 @@ void frmBrowseDeck::Form_Load() {
     CentreInFrame(*this);
     RecordReader<DeckRecord> reader(DecksPath);
     DeckRecord deck;
-    while (reader.Next(deck)) lstDecks->addItem(deck.DeckName.Value());
+    while (reader.Next(deck)) lstDecks->AddItem(deck.DeckName.Value());
 }
 
 void frmBrowseDeck::cmdSelect_Click() {
-    if (ListIndex(lstDecks) < 0) return;
-    const int recordNumber = FindDeckByName(SelectedLine(lstDecks));
+    if (lstDecks->ListIndex() < 0) return;
+    const int recordNumber = FindDeckByName(lstDecks->Text());
     if (recordNumber < 0 || !GetRecord(DecksPath, recordNumber, ScratchDeck)) return;
     if (DeckChosen) DeckChosen(ScratchDeck.DeckName.Value());
     Unload();

@@ -14,7 +14,7 @@
 
 #include "platform/Form.h"
 
-class QListWidget;
+class ListBox;
 class QPushButton;
 
 class frmBrowseDeck : public Form {
@@ -26,7 +26,7 @@ public:
     // it stands in Decks.dck.
     std::function<void(const QString& deckName)> DeckChosen;
 
-    QListWidget* lstDecks;
+    ListBox* lstDecks;
     QPushButton* cmdSelect;
     QPushButton* cmdCancel;
 

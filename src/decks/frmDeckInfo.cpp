@@ -1,6 +1,5 @@
 #include "decks/frmDeckInfo.h"
 
-#include <QListWidget>
 #include <QPushButton>
 
 #include "decks/frmDeckCardPropertiesInfo.h"
@@ -8,15 +7,17 @@
 #include "decks/frmDecks.h"
 #include "decks/frmViewCard.h"
 #include "decks/mdlDeckDesign.h"
+#include "platform/ListBox.h"
 #include "store/mdlVariables.h"
 
 frmDeckInfo::frmDeckInfo() : DeckScreen(QStringLiteral("Deck View"), false) {
     setObjectName(QStringLiteral("frmDeckInfo"));
-    connect(lstCards, &QListWidget::itemDoubleClicked, this, Handler([this] { cmdEditCard_Click(); }));
+    connect(lstCards, &ListBox::DblClick, this, Handler([this] { cmdEditCard_Click(); }));
     connect(cmdEditCard, &QPushButton::clicked, this, Handler([this] { cmdEditCard_Click(); }));
     connect(cmdProperties, &QPushButton::clicked, this, Handler([this] { cmdProperties_Click(); }));
     connect(cmdComments, &QPushButton::clicked, this, Handler([this] { cmdComments_Click(); }));
     connect(cmdBack, &QPushButton::clicked, this, Handler([this] { cmdBack_Click(); }));
+    setWayOut([this] { cmdBack_Click(); });
 }
 
 // After a New that stored no card DesignMode is still 1: the deck's files
@@ -54,11 +55,4 @@ void frmDeckInfo::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) {
         handled = true;
         cmdEditCard_Click();
     }
-}
-
-// The close box acts as Close.
-void frmDeckInfo::Form_QueryUnload(bool& cancel, int unloadMode) {
-    if (unloadMode != vbFormControlMenu) return;
-    cancel = true;
-    cmdBack_Click();
 }

@@ -3,14 +3,13 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
-#include <QSignalBlocker>
 #include <algorithm>
 
 #include "decks/frmDeckInfo.h"
 #include "decks/frmDesignDeck.h"
 #include "decks/mdlDeckDesign.h"
+#include "platform/ListBox.h"
 #include "platform/MsgBox.h"
 #include "shell/frmMainScreen.h"
 #include "shell/mdlFORM.h"
@@ -28,9 +27,9 @@ frmDecks::frmDecks() {
     resize(TwipsToPixels(7800), TwipsToPixels(5000));
 
     MakeLabel(this, QStringLiteral("Decks:"), At(240, 120, 3600, 285));
-    lstDecks = new QListWidget(this);
+    lstDecks = new ListBox(this);
     lstDecks->setObjectName(QStringLiteral("lstDecks"));
-    lstDecks->setSortingEnabled(true);
+    lstDecks->setSorted(true);
     lstDecks->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstDecks->setGeometry(At(240, 420, 3600, 3600));
 
@@ -60,15 +59,15 @@ frmDecks::frmDecks() {
     cmdDelete = MakeButton(this, "cmdDelete", QStringLiteral("&Delete"), At(4740, 4260, 1320, 420));
     cmdClose = MakeButton(this, "cmdClose", QStringLiteral("&Close"), At(6240, 4260, 1320, 420));
 
-    connect(lstDecks, &QListWidget::itemClicked, this, Handler([this] { lstDecks_Click(); }));
-    connect(lstDecks, &QListWidget::currentRowChanged, this, Handler([this] { lstDecks_Click(); }));
-    connect(lstDecks, &QListWidget::itemDoubleClicked, this, Handler([this] { cmdEdit_Click(); }));
+    connect(lstDecks, &ListBox::Click, this, Handler([this] { lstDecks_Click(); }));
+    connect(lstDecks, &ListBox::DblClick, this, Handler([this] { cmdEdit_Click(); }));
     connect(cboCards, &FocusComboBox::GotFocus, this, Handler([this] { cboCards_GotFocus(); }));
     connect(cmdDesign, &QPushButton::clicked, this, Handler([this] { cmdDesign_Click(); }));
     connect(cmdEdit, &QPushButton::clicked, this, Handler([this] { cmdEdit_Click(); }));
     connect(cmdInfo, &QPushButton::clicked, this, Handler([this] { cmdInfo_Click(); }));
     connect(cmdDelete, &QPushButton::clicked, this, Handler([this] { cmdDelete_Click(); }));
     connect(cmdClose, &QPushButton::clicked, this, Handler([this] { cmdClose_Click(); }));
+    setWayOut([this] { cmdClose_Click(); });
 }
 
 void frmDecks::Form_Load() {
@@ -79,12 +78,9 @@ void frmDecks::Form_Load() {
     StoreListDeck();
     {
         RecordReader<DeckRecord> reader(DecksPath);
-        while (reader.Next(ListDeck)) lstDecks->addItem(ListDeck.DeckName.Value());
+        while (reader.Next(ListDeck)) lstDecks->AddItem(ListDeck.DeckName.Value());
     }
-    if (lstDecks->count() > 0) {
-        SetListIndex(lstDecks, 0);
-        lstDecks_Click();
-    }
+    if (lstDecks->ListCount() > 0) lstDecks->setListIndex(0);
     UpdateButtons();
     SetScreenPointer(MousePointer::Arrow);
 }
@@ -92,7 +88,7 @@ void frmDecks::Form_Load() {
 void frmDecks::Form_Activate() { UpdateButtons(); }
 
 void frmDecks::UpdateButtons() {
-    const bool selected = ListIndex(lstDecks) >= 0;
+    const bool selected = lstDecks->ListIndex() >= 0;
     cmdEdit->setEnabled(selected);
     cmdInfo->setEnabled(selected);
     cmdDelete->setEnabled(selected);
@@ -108,11 +104,11 @@ void frmDecks::ClearBriefInfo() {
 void frmDecks::lstDecks_Click() {
     UpdateButtons();
     cboCards->setEditText(CardsListText);
-    if (ListIndex(lstDecks) < 0) {
+    if (lstDecks->ListIndex() < 0) {
         ClearBriefInfo();
         return;
     }
-    const int recordNumber = FindDeckByName(SelectedLine(lstDecks));
+    const int recordNumber = FindDeckByName(lstDecks->Text());
     if (recordNumber < 0 || !GetRecord(DecksPath, recordNumber, ListDeck)) {
         ClearBriefInfo();
         return;
@@ -124,7 +120,7 @@ void frmDecks::lstDecks_Click() {
 }
 
 void frmDecks::cboCards_GotFocus() {
-    if (ListIndex(lstDecks) < 0) return;
+    if (lstDecks->ListIndex() < 0) return;
     cboCards->clear();
     RecordReader<CardRecord> reader(CardsPath);
     CardRecord card;
@@ -135,9 +131,7 @@ void frmDecks::cboCards_GotFocus() {
 
 void frmDecks::SelectDeck(const QString& deckName) {
     const int line = FindLine(lstDecks, deckName);
-    if (line < 0) return;
-    SetListIndex(lstDecks, line);
-    lstDecks_Click();
+    if (line >= 0) lstDecks->setListIndex(line);
 }
 
 void frmDecks::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) {
@@ -166,9 +160,7 @@ bool frmDecks::LoadSelectedDeck() {
     if (LoadDeck(DeckRemoved)) return true;
     if (DeckRemoved) {
         ClearBriefInfo();
-        const QSignalBlocker quiet(lstDecks);
-        delete lstDecks->takeItem(ListIndex(lstDecks) >= 0 ? ListIndex(lstDecks) : lstDecks->currentRow());
-        SetListIndex(lstDecks, -1);
+        lstDecks->RemoveItem(lstDecks->ListIndex());
         UpdateButtons();
     }
     SetScreenPointer(MousePointer::Arrow);
@@ -176,7 +168,7 @@ bool frmDecks::LoadSelectedDeck() {
 }
 
 void frmDecks::cmdEdit_Click() {
-    if (ListIndex(lstDecks) < 0) return;
+    if (lstDecks->ListIndex() < 0) return;
     ClearTemp();
     SetScreenPointer(MousePointer::Hourglass);
     if (ListDeck.DeckLocked && !CheckPassword(ListDeck.DeckPassword.Value())) {
@@ -193,7 +185,7 @@ void frmDecks::cmdEdit_Click() {
 // Viewing needs no password. DesignMode keeps its value: after a New that
 // stored no card it is still 1, and the viewer then shows default pictures.
 void frmDecks::cmdInfo_Click() {
-    if (ListIndex(lstDecks) < 0) return;
+    if (lstDecks->ListIndex() < 0) return;
     ClearTemp();
     SetScreenPointer(MousePointer::Hourglass);
     if (!LoadSelectedDeck()) return;
@@ -258,12 +250,12 @@ void RemoveDeckFromSpreads(Integer deckId) {
 
 void frmDecks::cmdDelete_Click() {
     ClearTemp();
-    const int line = ListIndex(lstDecks);
+    const int line = lstDecks->ListIndex();
     if (line < 0) {
         UpdateButtons();
         return;
     }
-    const QString deckName = SelectedLine(lstDecks);
+    const QString deckName = lstDecks->Text();
     const int recordNumber = FindDeckByName(deckName);
     DeckRecord deck;
     if (recordNumber < 0 || !GetRecord(DecksPath, recordNumber, deck)) RaiseError(errInputPastEndOfFile);
@@ -273,20 +265,10 @@ void frmDecks::cmdDelete_Click() {
     RemoveDeckFromSpreads(deck.DeckId);
     DeleteDeck(FindDeckByName(deckName));
 
-    {
-        const QSignalBlocker quiet(lstDecks);
-        delete lstDecks->takeItem(line);
-    }
-    SetListIndex(lstDecks, line - 1);
-    if (ListIndex(lstDecks) < 0 && lstDecks->count() > 0) SetListIndex(lstDecks, 0);
-    lstDecks_Click();
+    lstDecks->RemoveItem(line);
+    lstDecks->setListIndex(line - 1);
+    if (lstDecks->ListIndex() < 0 && lstDecks->ListCount() > 0) lstDecks->setListIndex(0);
+    if (lstDecks->ListIndex() < 0) lstDecks_Click();   // nothing left: the brief info empties
     UpdateButtons();
     SetScreenPointer(MousePointer::Arrow);
-}
-
-// The close box acts as Close.
-void frmDecks::Form_QueryUnload(bool& cancel, int unloadMode) {
-    if (unloadMode != vbFormControlMenu) return;
-    cancel = true;
-    cmdClose_Click();
 }

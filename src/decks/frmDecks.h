@@ -7,9 +7,9 @@
 #include "store/mdlTypes.h"
 
 class FocusComboBox;
+class ListBox;
 class QGroupBox;
 class QLabel;
-class QListWidget;
 class QPushButton;
 
 class frmDecks : public Form {
@@ -17,7 +17,7 @@ class frmDecks : public Form {
 public:
     frmDecks();
 
-    QListWidget* lstDecks;
+    ListBox* lstDecks;
     QPushButton* cmdDesign;
     QPushButton* cmdEdit;
     QPushButton* cmdInfo;
@@ -46,7 +46,6 @@ public:
 protected:
     void Form_Load() override;
     void Form_Activate() override;
-    void Form_QueryUnload(bool& cancel, int unloadMode) override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 
 private:

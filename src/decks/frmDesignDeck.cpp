@@ -1,7 +1,6 @@
 #include "decks/frmDesignDeck.h"
 
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -13,6 +12,7 @@
 #include "decks/frmSaveDeck.h"
 #include "decks/mdlDeckDesign.h"
 #include "platform/FileSys.h"
+#include "platform/ListBox.h"
 #include "platform/MsgBox.h"
 #include "store/mdlSubRoutines.h"
 
@@ -38,7 +38,7 @@ frmDesignDeck::frmDesignDeck() : DeckScreen(QStringLiteral("Deck Design"), true)
                 ClipText(txtDeckDescription, 500);
                 StoreDeckField(CurrentDeck.DeckDescription, txtDeckDescription->toPlainText());
             }));
-    connect(lstCards, &QListWidget::itemDoubleClicked, this, Handler([this] { cmdEditCard_Click(); }));
+    connect(lstCards, &ListBox::DblClick, this, Handler([this] { cmdEditCard_Click(); }));
     connect(cmdAddCard, &QPushButton::clicked, this, Handler([this] { cmdAddCard_Click(); }));
     connect(cmdEditCard, &QPushButton::clicked, this, Handler([this] { cmdEditCard_Click(); }));
     connect(cmdDeleteCard, &QPushButton::clicked, this, Handler([this] { cmdDeleteCard_Click(); }));
@@ -46,6 +46,7 @@ frmDesignDeck::frmDesignDeck() : DeckScreen(QStringLiteral("Deck Design"), true)
     connect(cmdProperties, &QPushButton::clicked, this, Handler([this] { cmdProperties_Click(); }));
     connect(cmdComments, &QPushButton::clicked, this, Handler([this] { cmdComments_Click(); }));
     connect(cmdBack, &QPushButton::clicked, this, Handler([this] { cmdBack_Click(); }));
+    setWayOut([this] { cmdBack_Click(); });
 }
 
 void frmDesignDeck::Form_Load() {
@@ -61,7 +62,7 @@ void frmDesignDeck::Form_Load() {
 }
 
 void frmDesignDeck::UpdateCardButtons() {
-    const bool selected = ListIndex(lstCards) >= 0;
+    const bool selected = lstCards->ListIndex() >= 0;
     cmdEditCard->setEnabled(selected);
     cmdDeleteCard->setEnabled(selected);
 }
@@ -128,7 +129,7 @@ void frmDesignDeck::cmdAddCard_Click() {
 }
 
 void frmDesignDeck::cmdEditCard_Click() {
-    if (ListIndex(lstCards) < 0) {
+    if (lstCards->ListIndex() < 0) {
         UpdateCardButtons();
         return;
     }
@@ -143,11 +144,11 @@ void frmDesignDeck::cmdEditCard_Click() {
 }
 
 void frmDesignDeck::cmdDeleteCard_Click() {
-    if (ListIndex(lstCards) < 0) {
+    if (lstCards->ListIndex() < 0) {
         UpdateCardButtons();
         return;
     }
-    const QString title = SelectedLine(lstCards);
+    const QString title = lstCards->Text();
     if (MsgBox(QStringLiteral("Are you sure you want to delete card '") + TrimField(title) + QStringLiteral("' ?"),
                vbYesNo | vbQuestion | vbDefaultButton2) == vbNo)
         return;
@@ -160,11 +161,7 @@ void frmDesignDeck::cmdDeleteCard_Click() {
     for (int i = position; i < count; ++i) CurrentDeck.DeckCards(i) = CurrentDeck.DeckCards(i + 1);
     CurrentDeck.CardCount = static_cast<Integer>(count - 1);
     CurrentDeck.DeckCards.RedimPreserve(count - 1);
-    {
-        const QSignalBlocker quiet(lstCards);
-        delete lstCards->takeItem(ListIndex(lstCards));
-        SetListIndex(lstCards, -1);
-    }
+    lstCards->RemoveItem(lstCards->ListIndex());
     UpdateCardButtons();
     DesignModified = true;
 }
@@ -186,11 +183,4 @@ void frmDesignDeck::cmdBack_Click() {
     Get<frmDecks>().Show();
     SetScreenPointer(MousePointer::Arrow);
     Unload();
-}
-
-// The close box asks the same as Close.
-void frmDesignDeck::Form_QueryUnload(bool& cancel, int unloadMode) {
-    if (unloadMode != vbFormControlMenu) return;
-    cancel = true;
-    cmdBack_Click();
 }

@@ -30,7 +30,6 @@ public:
 
 protected:
     void Form_Load() override;
-    void Form_QueryUnload(bool& cancel, int unloadMode) override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
     void UpdateCardButtons() override;
 

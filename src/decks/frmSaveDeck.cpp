@@ -2,7 +2,6 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 #include <QSet>
 #include <array>
@@ -11,6 +10,7 @@
 #include "decks/frmDesignDeck.h"
 #include "decks/mdlDeckDesign.h"
 #include "platform/FileSys.h"
+#include "platform/ListBox.h"
 #include "platform/MsgBox.h"
 #include "platform/OleDate.h"
 #include "shell/mdlFORM.h"
@@ -27,17 +27,16 @@ frmSaveDeck::frmSaveDeck() {
     txtSaveAs->setMaxLength(50);
     txtSaveAs->setGeometry(At(1440, 120, 3480, 360));
     MakeLabel(this, QStringLiteral("Saved Decks:"), At(240, 600, 2400, 255));
-    lstDeckNames = new QListWidget(this);
+    lstDeckNames = new ListBox(this);
     lstDeckNames->setObjectName(QStringLiteral("lstDeckNames"));
-    lstDeckNames->setSortingEnabled(true);
+    lstDeckNames->setSorted(true);
     lstDeckNames->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstDeckNames->setGeometry(At(240, 900, 4680, 2820));
     cmdSave = MakeButton(this, "cmdSave", QStringLiteral("&Save"), At(1800, 3900, 1500, 420));
     cmdCancel = MakeButton(this, "cmdCancel", QStringLiteral("&Cancel"), At(3420, 3900, 1500, 420));
     cmdSave->setEnabled(false);
 
-    connect(lstDeckNames, &QListWidget::itemClicked, this, Handler([this] { lstDeckNames_Click(); }));
-    connect(lstDeckNames, &QListWidget::currentRowChanged, this, Handler([this] { lstDeckNames_Click(); }));
+    connect(lstDeckNames, &ListBox::Click, this, Handler([this] { lstDeckNames_Click(); }));
     connect(txtSaveAs, &QLineEdit::textChanged, this, Handler([this] { txtSaveAs_Change(); }));
     connect(cmdSave, &QPushButton::clicked, this, Handler([this] { cmdSave_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
@@ -51,15 +50,15 @@ void frmSaveDeck::Form_Load() {
     {
         RecordReader<DeckRecord> reader(DecksPath);
         DeckRecord deck;
-        while (reader.Next(deck)) lstDeckNames->addItem(deck.DeckName.Value());
+        while (reader.Next(deck)) lstDeckNames->AddItem(deck.DeckName.Value());
     }
     const int line = FindLine(lstDeckNames, txtSaveAs->text());
-    if (line >= 0) SetListIndex(lstDeckNames, line);
+    if (line >= 0) lstDeckNames->setListIndex(line);
 }
 
 void frmSaveDeck::lstDeckNames_Click() {
     // The list shows names as stored; the box takes them as typed.
-    if (ListIndex(lstDeckNames) >= 0) txtSaveAs->setText(TrimField(SelectedLine(lstDeckNames)));
+    if (lstDeckNames->ListIndex() >= 0) txtSaveAs->setText(TrimField(lstDeckNames->Text()));
 }
 
 void frmSaveDeck::txtSaveAs_Change() { cmdSave->setEnabled(!txtSaveAs->text().isEmpty()); }

@@ -5,7 +5,7 @@
 #include "platform/Form.h"
 
 class QLineEdit;
-class QListWidget;
+class ListBox;
 class QPushButton;
 
 class frmSaveDeck : public Form {
@@ -14,7 +14,7 @@ public:
     frmSaveDeck();
 
     QLineEdit* txtSaveAs;
-    QListWidget* lstDeckNames;
+    ListBox* lstDeckNames;
     QPushButton* cmdSave;
     QPushButton* cmdCancel;
 

@@ -15,6 +15,7 @@ frmViewCard::frmViewCard() : CardScreen(QStringLiteral("View Card"), false) {
     txtCardType->setReadOnly(true);
     txtCardType->setGeometry(At(1560, 720, 4200, 360));
     connect(cmdBack, &QPushButton::clicked, this, Handler([this] { cmdBack_Click(); }));
+    setWayOut([this] { cmdBack_Click(); });
 }
 
 void frmViewCard::Form_Load() {
@@ -41,11 +42,4 @@ void frmViewCard::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) {
         handled = true;
         cmdBack_Click();
     }
-}
-
-// The close box acts as Close.
-void frmViewCard::Form_QueryUnload(bool& cancel, int unloadMode) {
-    if (unloadMode != vbFormControlMenu) return;
-    cancel = true;
-    cmdBack_Click();
 }

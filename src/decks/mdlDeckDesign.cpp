@@ -53,29 +53,6 @@ QLabel* MakeLabel(QWidget* parent, const QString& caption, const QRect& where, c
     return label;
 }
 
-int ListIndex(const QListWidget* list) {
-    const int row = list->currentRow();
-    if (row < 0) return -1;
-    const QListWidgetItem* item = list->item(row);
-    return item && item->isSelected() ? row : -1;
-}
-
-QString SelectedLine(const QListWidget* list) {
-    const int row = ListIndex(list);
-    return row < 0 ? QString() : list->item(row)->text();
-}
-
-void SetListIndex(QListWidget* list, int index) {
-    const QSignalBlocker quiet(list);
-    if (index < 0 || index >= list->count()) {
-        list->setCurrentRow(-1);
-        list->clearSelection();
-        return;
-    }
-    list->setCurrentRow(index);
-    list->item(index)->setSelected(true);
-}
-
 int FindLine(const QListWidget* list, const QString& name) {
     const QString wanted = TrimField(name);
     for (int i = 0; i < list->count(); ++i)

@@ -57,12 +57,6 @@ inline QRect At(int left, int top, int width, int height) {
 QPushButton* MakeButton(QWidget* parent, const char* name, const QString& caption, const QRect& where);
 QLabel* MakeLabel(QWidget* parent, const QString& caption, const QRect& where, const char* name = nullptr);
 
-// The selected line of a list, -1 when none (the toolkit's ListIndex).
-int ListIndex(const QListWidget* list);
-QString SelectedLine(const QListWidget* list);
-// Selects a line (or none with -1) without running the list's click handler;
-// callers run it themselves where a click is meant.
-void SetListIndex(QListWidget* list, int index);
 // The line whose text, trimmed, equals the name trimmed; -1 when none.
 int FindLine(const QListWidget* list, const QString& name);
 

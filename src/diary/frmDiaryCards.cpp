@@ -3,10 +3,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 
 #include "diary/frmNewDiary.h"
+#include "platform/ListBox.h"
 #include "platform/MsgBox.h"
 #include "platform/Twips.h"
 #include "shell/ClickLabel.h"
@@ -25,8 +25,6 @@ QLabel* MakeNamedCaption(QWidget* parent, const QString& name, const QString& ca
     label->setObjectName(name);
     return label;
 }
-
-int RowCard(const QListWidgetItem* item) { return item->data(Qt::UserRole).toInt(); }
 
 // The card a row of a location's list names: by its number, or by its title
 // for a row that came back without one.
@@ -64,15 +62,16 @@ frmDiaryCards::frmDiaryCards() {
     PlaceControl(cmdCancel, 5835, 900, 1455, 375);
     for (QPushButton* button : {cmdSelect, cmdCancel}) button->setAutoDefault(false);
 
-    connect(lstCardTypes, &QListWidget::itemSelectionChanged, this, Handler([this] { lstCardTypes_ItemCheck(); }));
-    connect(lstCards, &QListWidget::currentRowChanged, this, Handler([this] { lstCards_Click(); }));
+    connect(lstCardTypes, &ListBox::Click, this, Handler([this] { lstCardTypes_ItemCheck(); }));
+    connect(lstCards, &ListBox::Click, this, Handler([this] { lstCards_Click(); }));
+    connect(lstCards, &ListBox::DblClick, this, Handler([this] { cmdSelect_Click(); }));
     connect(chkReserved, &QCheckBox::clicked, this, Handler([this] { chkReserved_Click(); }));
     connect(cmdSelect, &QPushButton::clicked, this, Handler([this] { cmdSelect_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
 }
 
 void frmDiaryCards::Form_Load() {
-    CentreInFrame(*this);
+    PlaceTopLeft(*this, false);
     frmNewDiary& diary = Diary();
     pick_ = diary.PickLocation;
     diary.MarkLocation(pick_, true);
@@ -88,17 +87,16 @@ void frmDiaryCards::Form_Load() {
 }
 
 void frmDiaryCards::ShowCardTypes() {
-    const QSignalBlocker quiet(lstCardTypes);
     for (std::size_t i = 0; i < 4; ++i)
-        if (CurrentDeck.CardTypeUsed[i] != 0) lstCardTypes->addItem(CurrentDeck.CardTypeName[i].Trimmed());
+        if (CurrentDeck.CardTypeUsed[i] != 0) lstCardTypes->AddItem(CurrentDeck.CardTypeName[i].Trimmed());
+    const QSignalBlocker quiet(lstCardTypes);   // the cards are listed next, once
     lstCardTypes->selectAll();
 }
 
 void frmDiaryCards::lstCardTypes_ItemCheck() { UpdateCards(); }
 
 void frmDiaryCards::UpdateCards() {
-    const QSignalBlocker quiet(lstCards);
-    lstCards->clear();
+    lstCards->Clear();
     const QComboBox* list = Diary().cboCardName(pick_);
     for (int r = 0; r < list->count(); ++r) {
         const int number = list->itemData(r).toInt();
@@ -106,11 +104,9 @@ void frmDiaryCards::UpdateCards() {
             // The card's type is taken as the row of the type list, as it
             // always was: a deck that leaves out a type shifts the rows.
             const CardRecord* card = CardOfRow(number, list->itemText(r));
-            const QListWidgetItem* typeRow = card ? lstCardTypes->item(card->CardType) : nullptr;
-            if (!typeRow || !typeRow->isSelected()) continue;
+            if (!card || !lstCardTypes->Selected(card->CardType)) continue;
         }
-        auto* item = new QListWidgetItem(list->itemText(r), lstCards);
-        item->setData(Qt::UserRole, number);
+        lstCards->AddItem(list->itemText(r), number);
     }
     imgCard->ClearPicture();
 }
@@ -120,11 +116,10 @@ void frmDiaryCards::ShowSelectedCard() {
     const QComboBox* list = diary.cboCardName(pick_);
     if (list->currentIndex() < 0 || list->currentIndex() == diary.getIndexOfNONE(pick_)) return;
     const Integer dealt = Element(CurrentDiary.DealtCard, pick_);
-    for (int r = 0; r < lstCards->count(); ++r) {
-        if (RowCard(lstCards->item(r)) != dealt) continue;
+    for (int r = 0; r < lstCards->ListCount(); ++r) {
+        if (lstCards->ItemData(r) != dealt) continue;
         chkReserved->setChecked(Element(CurrentDiary.DealtUpright, pick_) == 0);
-        lstCards->setCurrentRow(r);
-        UpdatePictures();
+        lstCards->setListIndex(r);   // shows the picture through lstCards_Click
         return;
     }
 }
@@ -133,9 +128,8 @@ void frmDiaryCards::lstCards_Click() { UpdatePictures(); }
 
 void frmDiaryCards::UpdatePictures() {
     imgCard->ClearPicture();
-    const QListWidgetItem* item = lstCards->currentItem();
-    if (!item) return;
-    const int n = RowCard(item);
+    if (lstCards->ListIndex() < 0) return;
+    const int n = lstCards->ItemData(lstCards->ListIndex());
     // The row of no card, and a card that came back without its number,
     // have no picture to show.
     if (n < 1 || n > CurrentDeck.CardCount) return;
@@ -144,17 +138,16 @@ void frmDiaryCards::UpdatePictures() {
 }
 
 void frmDiaryCards::chkReserved_Click() {
-    if (lstCards->currentItem()) UpdatePictures();
+    if (lstCards->ListIndex() >= 0) UpdatePictures();
     else chkReserved->setChecked(false);
 }
 
 void frmDiaryCards::cmdSelect_Click() {
-    const QListWidgetItem* item = lstCards->currentItem();
-    if (!item) {
+    if (lstCards->ListIndex() < 0) {
         MsgBox(QStringLiteral("Please select a card from the list."));
         return;
     }
-    const Integer n = static_cast<Integer>(RowCard(item));
+    const Integer n = static_cast<Integer>(lstCards->ItemData(lstCards->ListIndex()));
     const Integer u = Flag(!chkReserved->isChecked());
     Integer& dealt = Element(CurrentDiary.DealtCard, pick_);
     Integer& upright = Element(CurrentDiary.DealtUpright, pick_);
@@ -175,7 +168,11 @@ void frmDiaryCards::Form_Unload(bool& cancel) {
 
 void frmDiaryCards::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) {
     (void)shift;
-    if (key != Qt::Key_Escape) return;
-    handled = true;
-    cmdCancel_Click();
+    if (key == Qt::Key_Escape) {
+        handled = true;
+        cmdCancel_Click();
+    } else if ((key == Qt::Key_Return || key == Qt::Key_Enter) && focusWidget() == lstCards) {
+        handled = true;
+        cmdSelect_Click();
+    }
 }

@@ -8,7 +8,7 @@
 class ImageBox;
 class QCheckBox;
 class QLabel;
-class QListWidget;
+class ListBox;
 class QPushButton;
 
 class frmDiaryCards : public Form {
@@ -17,9 +17,9 @@ public:
     frmDiaryCards();
 
     QLabel* lblCardTypes = nullptr;
-    QListWidget* lstCardTypes = nullptr;
+    ListBox* lstCardTypes = nullptr;
     QLabel* lblCards = nullptr;
-    QListWidget* lstCards = nullptr;
+    ListBox* lstCards = nullptr;
     QLabel* lblCardImage = nullptr;
     ImageBox* imgCard = nullptr;
     QCheckBox* chkReserved = nullptr;   // "Reversed"

@@ -87,8 +87,6 @@ frmNewDiary::frmNewDiary()
     connect(cmdSave, &QPushButton::clicked, this, Handler([this] { cmdSave_Click(); }));
     connect(cmdQuickHelp, &QPushButton::clicked, this, Handler([this] { cmdQuickHelp_Click(); }));
     connect(cmdClose, &QPushButton::clicked, this, Handler([this] { cmdClose_Click(); }));
-    connect(txtIssue, &QLineEdit::editingFinished, this, Handler([this] { txtIssue_LostFocus(); }));
-    connect(txtIssue, &QLineEdit::returnPressed, this, Handler([this] { cmdContinue_Click(); }));
 }
 
 void frmNewDiary::Form_Load() {

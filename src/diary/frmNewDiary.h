@@ -40,7 +40,7 @@ public:
     // Marks a location while a companion screen works on it, or unmarks it.
     void MarkLocation(int location, bool marked);
 
-    void cmdContinue_Click();
+    void cmdContinue_Click() override;
     void cmdInterpret_Click();
     void cmdNotes_Click();
     void cmdPrint_Click();
@@ -52,7 +52,7 @@ public:
     void cboCardName_Click(int Index);
     void cboCardName_KeyUp(int Index, int KeyCode);
     void chkReversed_Click(int Index);
-    void txtIssue_LostFocus();
+    void txtIssue_LostFocus() override;
     void picLocation_Click(int Index) override;
     void imgCard_Click(int Index) override;
     void imgCard_DblClick(int Index) override;

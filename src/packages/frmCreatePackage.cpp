@@ -113,6 +113,7 @@ frmCreatePackage::frmCreatePackage() {
             [this] { txtFilename->setText(txtFilename->text().trimmed()); });
     connect(cmdCreate, &QPushButton::clicked, this, Handler([this] { cmdCreate_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
+    setWayOut([this] { cmdCancel_Click(); });
 }
 
 void frmCreatePackage::Form_Load() {

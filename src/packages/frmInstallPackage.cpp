@@ -67,11 +67,11 @@ frmInstallPackage::frmInstallPackage() {
     connect(drvSelection, &DriveListBox::Change, this, Handler([this] { drvSelection_Change(); }));
     connect(dirSelection, &DirListBox::Change, this, Handler([this] { dirSelection_Change(); }));
     connect(filSelection, &FileListBox::Click, this, Handler([this] { filSelection_Click(); }));
-    connect(filSelection, &QListWidget::currentRowChanged, this, Handler([this] { filSelection_Click(); }));
     connect(cmdInstall, &QPushButton::clicked, this, Handler([this] { cmdInstall_Click(); }));
     connect(cmdInfo, &QPushButton::clicked, this, Handler([this] { cmdInfo_Click(); }));
     connect(cmdDelete, &QPushButton::clicked, this, Handler([this] { cmdDelete_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
+    setWayOut([this] { cmdCancel_Click(); });
 }
 
 void frmInstallPackage::Form_Load() {

@@ -119,11 +119,6 @@ void DirListBox::keyPressEvent(QKeyEvent* e) {
     QListWidget::keyPressEvent(e);
 }
 
-FileListBox::FileListBox(QWidget* parent) : QListWidget(parent) {
-    connect(this, &QListWidget::itemClicked, this, [this] { emit Click(); });
-    connect(this, &QListWidget::itemDoubleClicked, this, [this] { emit DblClick(); });
-}
-
 void FileListBox::setPath(const QString& path) {
     const QString folder = CleanFolder(path);
     const bool changed = folder != path_;
@@ -138,7 +133,7 @@ void FileListBox::setPattern(const QString& pattern) {
 }
 
 void FileListBox::Refresh() {
-    clear();
+    Clear();
     if (path_.isEmpty()) return;
     QStringList names;
     const QString base = path_.endsWith(QLatin1Char('/')) ? path_ : path_ + QLatin1Char('/');
@@ -146,21 +141,6 @@ void FileListBox::Refresh() {
         for (const QString& name : Dir(base + p.trimmed()))
             if (!names.contains(name)) names.append(name);
     names.sort(Qt::CaseInsensitive);
-    addItems(names);
-    setCurrentRow(-1);
-}
-
-QString FileListBox::FileName() const {
-    const QListWidgetItem* item = currentItem();
-    return item && item->isSelected() ? item->text() : QString();
-}
-
-void FileListBox::setListIndex(int index) {
-    setCurrentRow(index);
-    if (index >= 0 && index < count()) emit Click();
-}
-
-QString FileListBox::List(int index) const {
-    const QListWidgetItem* i = item(index);
-    return i ? i->text() : QString();
+    for (const QString& name : names) AddItem(name);
+    setListIndex(-1);
 }

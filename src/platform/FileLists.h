@@ -5,6 +5,8 @@
 #include <QComboBox>
 #include <QListWidget>
 
+#include "platform/ListBox.h"
+
 class DriveListBox : public QComboBox {
     Q_OBJECT
 public:
@@ -38,10 +40,12 @@ private:
     QString path_;
 };
 
-class FileListBox : public QListWidget {
+// A list box of the files in one folder that match the patterns; its Click
+// and DblClick are those of every list box.
+class FileListBox : public ListBox {
     Q_OBJECT
 public:
-    explicit FileListBox(QWidget* parent = nullptr);
+    explicit FileListBox(QWidget* parent = nullptr) : ListBox(parent) {}
     QString Path() const { return path_; }
     void setPath(const QString& path);
     QString Pattern() const { return pattern_; }
@@ -49,14 +53,8 @@ public:
     void setPattern(const QString& pattern);
     void Refresh();
     // The selected file's name, "" when none.
-    QString FileName() const;
-    int ListIndex() const { return currentRow(); }
-    void setListIndex(int index);
-    int ListCount() const { return count(); }
-    QString List(int index) const;
+    QString FileName() const { return Text(); }
 signals:
-    void Click();
-    void DblClick();
     void PathChange();
 
 private:

@@ -308,8 +308,15 @@ void Form::closeEvent(QCloseEvent* e) {
         e->accept();
         return;
     }
-    // The user's close box is a request: the screen decides through its
-    // unload hooks whether it goes.
+    // The user's close box is a request: the screen's way out, or its unload
+    // hooks, decide whether it goes.
     e->ignore();
-    Guarded([&] { RunUnload(vbFormControlMenu); });
+    Guarded([&] {
+        if (!wayOut_) {
+            RunUnload(vbFormControlMenu);
+            return;
+        }
+        const std::function<void()> wayOut = wayOut_;   // the way out may unload the screen
+        wayOut();
+    });
 }

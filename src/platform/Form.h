@@ -54,6 +54,13 @@ public:
     // error box and ends only that handler.
     static std::function<void()> Handler(std::function<void()> body);
 
+    // The screen's own way out, its Close or Cancel. The close box of the
+    // title bar runs it, so that leaving by the frame asks the same questions
+    // and leads back where that button leads. A screen without one is
+    // unloaded by its close box, through Form_QueryUnload with
+    // vbFormControlMenu: enough where the way out does nothing but unload.
+    void setWayOut(std::function<void()> wayOut) { wayOut_ = std::move(wayOut); }
+
     // Internal: set by Get<T>() so that the slot empties when the screen goes.
     void setOnDestroyed(std::function<void()> hook) { onDestroyed_ = std::move(hook); }
     // Internal: the frame tells a screen about (de)activation.
@@ -96,6 +103,7 @@ private:
     QMdiSubWindow* sub_ = nullptr;
     QEventLoop* modalLoop_ = nullptr;
     std::function<void()> onDestroyed_;
+    std::function<void()> wayOut_;
 };
 
 // The frame's area for screens. MDIMainForm registers it; without one (in

@@ -1,11 +1,13 @@
 #include "readings/EntryScreen.h"
 
+#include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QMdiSubWindow>
 #include <QPushButton>
 
+#include "platform/Errors.h"
+#include "platform/ListBox.h"
 #include "platform/MsgBox.h"
 #include "platform/Palette.h"
 #include "platform/Picture.h"
@@ -31,8 +33,8 @@ QLabel* MakeCaption(QWidget* parent, const QString& caption, int left, int top, 
     return label;
 }
 
-QListWidget* MakeList(QWidget* parent, const QString& name, int left, int top, int width, int height) {
-    auto* list = new QListWidget(parent);
+ListBox* MakeList(QWidget* parent, const QString& name, int left, int top, int width, int height) {
+    auto* list = new ListBox(parent);
     list->setObjectName(name);
     PlaceControl(list, left, top, width, height);
     return list;
@@ -105,6 +107,8 @@ EntryScreen::EntryScreen(const QString& caption)
     PlaceControl(txtIssue, 2640, 4560, 6735, 375);
     lblTheIssue = MakeLabel(picIntroduction, QStringLiteral("lblTheIssue"), QString(), 2640, 5040, 6735, 285);
     lblTheIssue->hide();
+    connect(txtIssue, &QLineEdit::returnPressed, this, Handler([this] { txtIssue_Enter(); }));
+    setWayOut([this] { cmdClose_Click(); });
 
     picSpread = new QWidget(this);
     picSpread->setObjectName(QStringLiteral("picSpread"));
@@ -232,10 +236,21 @@ bool EntryScreen::ConfirmClose(bool changed, const QString& question) {
     return true;
 }
 
-void EntryScreen::Form_QueryUnload(bool& cancel, int unloadMode) {
-    if (unloadMode != vbFormControlMenu) return;
-    cancel = true;
-    cmdClose_Click();
+// Enter in the issue box goes on as a click on Continue does: the box loses
+// the focus first, then Continue runs, so that the issue comes out the same.
+void EntryScreen::txtIssue_Enter() {
+    enteringIssue_ = true;
+    cmdContinue->setFocus();
+    enteringIssue_ = false;
+    txtIssue_LostFocus();
+    cmdContinue_Click();
+}
+
+bool EntryScreen::eventFilter(QObject* watched, QEvent* e) {
+    if (watched == txtIssue && e->type() == QEvent::FocusOut && !enteringIssue_ &&
+        static_cast<QFocusEvent*>(e)->reason() != Qt::PopupFocusReason)
+        Guarded([this] { txtIssue_LostFocus(); });
+    return Form::eventFilter(watched, e);
 }
 
 void EntryScreen::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) {

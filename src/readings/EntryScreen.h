@@ -15,7 +15,7 @@ class ClickLabel;
 class ImageBox;
 class QLabel;
 class QLineEdit;
-class QListWidget;
+class ListBox;
 class QPushButton;
 
 // Places a plain control in its container, twips.
@@ -27,7 +27,7 @@ int ControlHeight(const QWidget* control);
 // A one-line caption and a list, placed in twips, as the selection screens
 // of an entry lay them out.
 QLabel* MakeCaption(QWidget* parent, const QString& caption, int left, int top, int width);
-QListWidget* MakeList(QWidget* parent, const QString& name, int left, int top, int width, int height);
+ListBox* MakeList(QWidget* parent, const QString& name, int left, int top, int width, int height);
 
 // Element i (from 1) of a record's array of locations or table positions; an
 // index outside it is a subscript error.
@@ -93,6 +93,10 @@ public:
     virtual void cmdSave_Click() = 0;
     // Asks about unsaved changes and ends the entry.
     virtual void cmdClose_Click() = 0;
+    // Swaps the introduction page and the spread page.
+    virtual void cmdContinue_Click() = 0;
+    // The issue box has lost the focus.
+    virtual void txtIssue_LostFocus() = 0;
 
     bool IntroductionShown() const;
     // The screen's height with its title bar, twips: where a screen that
@@ -125,12 +129,16 @@ protected:
     // save screen did.
     bool ConfirmClose(bool changed, const QString& question);
 
-    // The close box asks what Close asks; Esc is Close.
-    void Form_QueryUnload(bool& cancel, int unloadMode) override;
+    // Esc is Close.
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
+    bool eventFilter(QObject* watched, QEvent* e) override;
 
     // A click on a location's rectangle, and on its picture or labels.
     virtual void picLocation_Click(int Index) = 0;
     virtual void imgCard_Click(int Index) = 0;
     virtual void imgCard_DblClick(int Index) { (void)Index; }
+
+private:
+    void txtIssue_Enter();
+    bool enteringIssue_ = false;   // Enter is moving the focus from the issue box to Continue
 };

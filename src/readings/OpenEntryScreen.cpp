@@ -1,10 +1,10 @@
 #include "readings/OpenEntryScreen.h"
 
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 #include <algorithm>
 
+#include "platform/ListBox.h"
 #include "platform/MsgBox.h"
 #include "platform/Twips.h"
 #include "readings/EntryScreen.h"
@@ -25,9 +25,9 @@ OpenEntryScreen::OpenEntryScreen(const OpenEntryTexts& texts) : texts_(texts) {
     lblEntries = new QLabel(texts.ListLabel, this);
     lblEntries->setObjectName(QStringLiteral("lblEntries"));
     PlaceControl(lblEntries, 120, 120, 4815, 255);
-    lstEntries = new QListWidget(this);
+    lstEntries = new ListBox(this);
     lstEntries->setObjectName(texts.ListName);
-    lstEntries->setSortingEnabled(true);
+    lstEntries->setSorted(true);
     PlaceControl(lstEntries, 120, 420, 4815, 3615);
     cmdOpen = new QPushButton(QStringLiteral("&Open"), this);
     cmdOpen->setObjectName(QStringLiteral("cmdOpen"));
@@ -41,10 +41,11 @@ OpenEntryScreen::OpenEntryScreen(const OpenEntryTexts& texts) : texts_(texts) {
         PlaceControl(button, 5115, top, 1215, 375);
         top += 480;
     }
-    connect(lstEntries, &QListWidget::currentRowChanged, this, Handler([this] { lstEntries_Click(); }));
+    connect(lstEntries, &ListBox::Click, this, Handler([this] { lstEntries_Click(); }));
     connect(cmdOpen, &QPushButton::clicked, this, Handler([this] { cmdOpen_Click(); }));
     connect(cmdDelete, &QPushButton::clicked, this, Handler([this] { cmdDelete_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
+    setWayOut([this] { cmdCancel_Click(); });
 }
 
 void OpenEntryScreen::Form_Load() {
@@ -52,33 +53,31 @@ void OpenEntryScreen::Form_Load() {
     cmdDelete->setEnabled(false);
     cmdOpen->setEnabled(false);
     for (const auto& [savedOn, name] : SavedEntries())
-        lstEntries->addItem(FormatSortDate(savedOn) + QStringLiteral(" - ") + name);
-    if (lstEntries->count() > 0) lstEntries->setCurrentRow(0);
+        lstEntries->AddItem(FormatSortDate(savedOn) + QStringLiteral(" - ") + name);
+    if (lstEntries->ListCount() > 0) lstEntries->setListIndex(0);
 }
 
 void OpenEntryScreen::lstEntries_Click() {
-    if (lstEntries->currentRow() < 0) return;
+    if (lstEntries->ListIndex() < 0) return;
     cmdDelete->setEnabled(true);
     cmdOpen->setEnabled(true);
 }
 
 QString OpenEntryScreen::SelectedName() const {
-    const QListWidgetItem* item = lstEntries->currentItem();
-    return item ? item->text().mid(NameStart) : QString();
+    return lstEntries->Text().mid(NameStart);
 }
 
 void OpenEntryScreen::cmdDelete_Click() {
-    const QListWidgetItem* item = lstEntries->currentItem();
-    if (!item) return;
-    const QString question = texts_.DeleteQuestion + item->text().trimmed() + QStringLiteral("' ?");
+    if (lstEntries->ListIndex() < 0) return;
+    const QString question = texts_.DeleteQuestion + lstEntries->Text().trimmed() + QStringLiteral("' ?");
     if (MsgBox(question, vbYesNo | vbDefaultButton2 | texts_.DeleteIcon) != vbYes) return;
     DeleteEntry(SelectedName());
-    lstEntries->clear();
+    lstEntries->Clear();
     Form_Load();
 }
 
 void OpenEntryScreen::cmdOpen_Click() {
-    if (!lstEntries->currentItem()) return;
+    if (lstEntries->ListIndex() < 0) return;
     EntryHead head;
     if (!ReadEntry(SelectedName(), head)) return;
     if (head.EntryLocked && !CheckPassword(head.EntryPassword)) return;
@@ -91,7 +90,7 @@ void OpenEntryScreen::cmdOpen_Click() {
     AdoptEntry(deck, spread);
     bool removed = false;
     if (!LoadDeck(removed)) {
-        if (removed) delete lstEntries->takeItem(lstEntries->currentRow());
+        if (removed) lstEntries->RemoveItem(lstEntries->ListIndex());
         return;
     }
     ShowEntry();
@@ -143,11 +142,4 @@ void OpenEntryScreen::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& h
         handled = true;
         cmdDelete_Click();
     }
-}
-
-void OpenEntryScreen::Form_QueryUnload(bool& cancel, int unloadMode) {
-    // The close box cancels the entry as Cancel does.
-    if (unloadMode != vbFormControlMenu) return;
-    cancel = true;
-    cmdCancel_Click();
 }

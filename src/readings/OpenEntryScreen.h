@@ -14,7 +14,7 @@
 #include "store/mdlTypes.h"
 
 class QLabel;
-class QListWidget;
+class ListBox;
 class QPushButton;
 
 struct OpenEntryTexts {
@@ -54,7 +54,7 @@ public:
     static constexpr int CheckedLocations = 15;
 
     QLabel* lblEntries = nullptr;
-    QListWidget* lstEntries = nullptr;
+    ListBox* lstEntries = nullptr;
     QPushButton* cmdOpen = nullptr;
     QPushButton* cmdDelete = nullptr;
     QPushButton* cmdCancel = nullptr;
@@ -82,7 +82,6 @@ protected:
     virtual void CloseEntryScreen() = 0;
 
     void Form_Load() override;
-    void Form_QueryUnload(bool& cancel, int unloadMode) override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 
 private:

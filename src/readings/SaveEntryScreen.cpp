@@ -2,9 +2,9 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 
+#include "platform/ListBox.h"
 #include "platform/MsgBox.h"
 #include "platform/Twips.h"
 #include "readings/EntryScreen.h"
@@ -25,9 +25,9 @@ SaveEntryScreen::SaveEntryScreen(const SaveEntryTexts& texts) : texts_(texts) {
     txtSaveAs->setObjectName(QStringLiteral("txtSaveAs"));
     txtSaveAs->setMaxLength(MaxNameLength);
     PlaceControl(txtSaveAs, 120, 420, 3255, 375);
-    lstNames = new QListWidget(this);
+    lstNames = new ListBox(this);
     lstNames->setObjectName(texts.ListName);
-    lstNames->setSortingEnabled(true);
+    lstNames->setSorted(true);
     PlaceControl(lstNames, 120, 900, 3255, 3135);
     cmdSave = new QPushButton(QStringLiteral("&Save"), this);
     cmdSave->setObjectName(QStringLiteral("cmdSave"));
@@ -39,7 +39,7 @@ SaveEntryScreen::SaveEntryScreen(const SaveEntryTexts& texts) : texts_(texts) {
     PlaceControl(cmdCancel, 3555, 900, 1215, 375);
 
     connect(txtSaveAs, &QLineEdit::textChanged, this, Handler([this] { txtSaveAs_Change(); }));
-    connect(lstNames, &QListWidget::itemClicked, this, Handler([this] { lstNames_Click(); }));
+    connect(lstNames, &ListBox::Click, this, Handler([this] { lstNames_Click(); }));
     connect(cmdSave, &QPushButton::clicked, this, Handler([this] { cmdSave_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
 }
@@ -47,7 +47,7 @@ SaveEntryScreen::SaveEntryScreen(const SaveEntryTexts& texts) : texts_(texts) {
 void SaveEntryScreen::Form_Load() {
     CentreInFrame(*this);
     txtSaveAs->setText(ProposedName());
-    for (const QString& name : SavedNames()) lstNames->addItem(name);
+    for (const QString& name : SavedNames()) lstNames->AddItem(name);
     cmdSave->setEnabled(false);
 }
 
@@ -56,10 +56,9 @@ void SaveEntryScreen::txtSaveAs_Change() {
 }
 
 void SaveEntryScreen::lstNames_Click() {
-    QListWidgetItem* item = lstNames->currentItem();
-    if (!item) return;
+    if (lstNames->ListIndex() < 0) return;
     cmdSave->setEnabled(true);
-    txtSaveAs->setText(item->text());
+    txtSaveAs->setText(lstNames->Text());
 }
 
 void SaveEntryScreen::cmdSave_Click() {

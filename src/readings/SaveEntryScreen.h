@@ -6,7 +6,7 @@
 #include "platform/Form.h"
 
 class QLineEdit;
-class QListWidget;
+class ListBox;
 class QPushButton;
 
 struct SaveEntryTexts {
@@ -23,7 +23,7 @@ public:
     static constexpr int MaxNameLength = 30;
 
     QLineEdit* txtSaveAs = nullptr;
-    QListWidget* lstNames = nullptr;
+    ListBox* lstNames = nullptr;
     QPushButton* cmdSave = nullptr;
     QPushButton* cmdCancel = nullptr;
 

@@ -3,9 +3,9 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 
+#include "platform/ListBox.h"
 #include "platform/MsgBox.h"
 #include "platform/Twips.h"
 #include "readings/EntryScreen.h"
@@ -35,10 +35,10 @@ SelectSpreadScreen::SelectSpreadScreen(const QString& caption) {
     resize(TwipsToPixels(6870), TwipsToPixels(5235));
     MakeCaption(this, QStringLiteral("Spreads:"), 120, 120, 3255);
     lstSpreads = MakeList(this, QStringLiteral("lstSpreads"), 120, 420, 3255, 2415);
-    lstSpreads->setSortingEnabled(true);
+    lstSpreads->setSorted(true);
     MakeCaption(this, QStringLiteral("Decks:"), 3495, 120, 3255);
     lstDecks = MakeList(this, QStringLiteral("lstDecks"), 3495, 420, 3255, 2415);
-    lstDecks->setSortingEnabled(true);
+    lstDecks->setSorted(true);
     MakeCaption(this, QStringLiteral("Card Types:"), 120, 2955, 3255);
     lstCardTypes = MakeList(this, QStringLiteral("lstCardTypes"), 120, 3255, 3255, 1215);
     lstCardTypes->setSelectionMode(QAbstractItemView::MultiSelection);
@@ -64,13 +64,14 @@ SelectSpreadScreen::SelectSpreadScreen(const QString& caption) {
     PlaceControl(cmdSelect, 3975, 4740, 1215, 375);
     PlaceControl(cmdCancel, 5415, 4740, 1215, 375);
 
-    connect(lstSpreads, &QListWidget::currentRowChanged, this, Handler([this] { lstSpreads_Click(); }));
-    connect(lstDecks, &QListWidget::currentRowChanged, this, Handler([this] { lstDecks_Click(); }));
+    connect(lstSpreads, &ListBox::Click, this, Handler([this] { lstSpreads_Click(); }));
+    connect(lstDecks, &ListBox::Click, this, Handler([this] { lstDecks_Click(); }));
     connect(chkIssue, &QCheckBox::toggled, this, Handler([this] { chkIssue_Click(); }));
     connect(chkUseReversed, &QCheckBox::toggled, this, Handler([this] { chkUseReversed_Click(); }));
     connect(chkAllowDuplicateCards, &QCheckBox::toggled, this, Handler([this] { chkAllowDuplicateCards_Click(); }));
     connect(cmdSelect, &QPushButton::clicked, this, Handler([this] { cmdSelect_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
+    setWayOut([this] { cmdCancel_Click(); });
 }
 
 void SelectSpreadScreen::Form_Load() {
@@ -83,24 +84,24 @@ void SelectSpreadScreen::Form_Load() {
         while (reader.Next(spread)) usable << spread.SpreadName.Trimmed();
         // The usability test reads the files itself: ask once the list is read.
         for (const QString& name : usable)
-            if (IsSpreadUsable(name)) lstSpreads->addItem(name);
+            if (IsSpreadUsable(name)) lstSpreads->AddItem(name);
     }
-    if (lstSpreads->count() > 0) lstSpreads->setCurrentRow(0);
-    if (lstDecks->currentRow() < 0) lstCardTypes->clear();
+    if (lstSpreads->ListCount() > 0) lstSpreads->setListIndex(0);
+    if (lstDecks->ListIndex() < 0) lstCardTypes->Clear();
 }
 
 bool SelectSpreadScreen::SpreadAndDeckSelected() const {
-    return lstSpreads->currentRow() >= 0 && lstDecks->currentRow() >= 0;
+    return lstSpreads->ListIndex() >= 0 && lstDecks->ListIndex() >= 0;
 }
 
 void SelectSpreadScreen::AddDeck(const QString& name) {
-    if (!name.isEmpty()) lstDecks->addItem(name);
+    if (!name.isEmpty()) lstDecks->AddItem(name);
 }
 
 void SelectSpreadScreen::lstSpreads_Click() {
-    if (lstSpreads->currentRow() < 0) return;
-    lstDecks->clear();
-    GetRecord(SpreadsPath, FindSpreadByName(lstSpreads->currentItem()->text()), CurrentSpread);
+    if (lstSpreads->ListIndex() < 0) return;
+    lstDecks->Clear();
+    GetRecord(SpreadsPath, FindSpreadByName(lstSpreads->Text()), CurrentSpread);
     const int locations = CurrentSpread.LocationCount;
     if (CurrentSpread.AllowedDeckCount >= 0) {
         const int tied = qMin<int>(CurrentSpread.AllowedDeckCount, static_cast<int>(CurrentSpread.AllowedDeckId.size()));
@@ -120,14 +121,14 @@ void SelectSpreadScreen::lstSpreads_Click() {
         for (int i = 0; i < ids.size(); ++i)
             if (IsDeckUsable(ids[i], locations)) AddDeck(names[i]);
     }
-    if (lstDecks->count() > 0) lstDecks->setCurrentRow(0);
+    if (lstDecks->ListCount() > 0) lstDecks->setListIndex(0);
     ShowDeckOptions();
 }
 
 void SelectSpreadScreen::lstDecks_Click() {
-    if (lstDecks->currentRow() < 0) return;
+    if (lstDecks->ListIndex() < 0) return;
     cmdSelect->setEnabled(true);
-    GetRecord(DecksPath, FindDeckByName(lstDecks->currentItem()->text()), ListDeck);
+    GetRecord(DecksPath, FindDeckByName(lstDecks->Text()), ListDeck);
     ShowDeckOptions();
     const bool reversed = ListDeck.IncludesReversed != 0;
     chkUseReversed->setEnabled(reversed);
@@ -135,15 +136,15 @@ void SelectSpreadScreen::lstDecks_Click() {
 }
 
 void SelectSpreadScreen::ShowDeckOptions() {
-    if (lstDecks->currentRow() >= 0) {
-        lstCardTypes->clear();
+    if (lstDecks->ListIndex() >= 0) {
+        lstCardTypes->Clear();
         for (std::size_t i = 0; i < 4; ++i)
-            if (ListDeck.CardTypeUsed[i] != 0) lstCardTypes->addItem(ListDeck.CardTypeName[i].Trimmed());
+            if (ListDeck.CardTypeUsed[i] != 0) lstCardTypes->AddItem(ListDeck.CardTypeName[i].Trimmed());
         lstCardTypes->selectAll();
         if (lstCardTypes->count() > 0) lstCardTypes->setCurrentRow(0, QItemSelectionModel::NoUpdate);
         chkUseReversed->setChecked(ListDeck.IncludesReversed != 0);
     }
-    if (lstSpreads->currentRow() >= 0) {
+    if (lstSpreads->ListIndex() >= 0) {
         const bool asks = CurrentSpread.AskQuestion != 0;
         chkIssue->setChecked(asks);
         lblIssue->setText(asks ? IssueAsked : IssueNotAsked);
@@ -171,20 +172,18 @@ void SelectSpreadScreen::chkAllowDuplicateCards_Click() {
 
 bool SelectSpreadScreen::EnoughCardsSelected() const {
     int cards = 0;
-    for (int row = 0; row < lstCardTypes->count(); ++row) {
-        const QListWidgetItem* item = lstCardTypes->item(row);
-        if (item->isSelected()) cards += CountCardsOfTypeName(item->text());
-    }
+    for (int row = 0; row < lstCardTypes->ListCount(); ++row)
+        if (lstCardTypes->Selected(row)) cards += CountCardsOfTypeName(lstCardTypes->List(row));
     return cards >= CurrentSpread.LocationCount;
 }
 
 void SelectSpreadScreen::cmdSelect_Click() {
-    if (lstDecks->currentRow() < 0) return;
+    if (lstDecks->ListIndex() < 0) return;
     bool removed = false;
     if (!LoadDeck(removed)) {
         if (removed) {
-            lstCardTypes->clear();
-            delete lstDecks->takeItem(lstDecks->currentRow());
+            lstCardTypes->Clear();
+            lstDecks->RemoveItem(lstDecks->ListIndex());
         }
         return;
     }
@@ -197,11 +196,10 @@ void SelectSpreadScreen::cmdSelect_Click() {
     UseReversed = chkUseReversed->isChecked();
     AllowDuplicateCards = chkAllowDuplicateCards->isChecked();
     CardTypeSelected.fill(false);
-    for (int row = 0; row < lstCardTypes->count(); ++row) {
-        const QListWidgetItem* item = lstCardTypes->item(row);
-        const int type = CardTypeIndex(item->text());
+    for (int row = 0; row < lstCardTypes->ListCount(); ++row) {
+        const int type = CardTypeIndex(lstCardTypes->List(row));
         if (type < 0) RaiseError(errSubscriptOutOfRange);
-        CardTypeSelected[static_cast<std::size_t>(type)] = item->isSelected();
+        CardTypeSelected[static_cast<std::size_t>(type)] = lstCardTypes->Selected(row);
     }
     const bool issueAsked = chkIssue->isChecked();
     const QString issue = issueAsked ? txtIssue->text().trimmed() : QString();
@@ -235,9 +233,3 @@ void SelectSpreadScreen::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool
     }
 }
 
-void SelectSpreadScreen::Form_QueryUnload(bool& cancel, int unloadMode) {
-    // The close box cancels the entry as Cancel does.
-    if (unloadMode != vbFormControlMenu) return;
-    cancel = true;
-    cmdCancel_Click();
-}

@@ -12,15 +12,15 @@ class EntryScreen;
 class QCheckBox;
 class QLabel;
 class QLineEdit;
-class QListWidget;
+class ListBox;
 class QPushButton;
 
 class SelectSpreadScreen : public Form {
     Q_OBJECT
 public:
-    QListWidget* lstSpreads = nullptr;
-    QListWidget* lstDecks = nullptr;
-    QListWidget* lstCardTypes = nullptr;
+    ListBox* lstSpreads = nullptr;
+    ListBox* lstDecks = nullptr;
+    ListBox* lstCardTypes = nullptr;
     QCheckBox* chkIssue = nullptr;
     QCheckBox* chkAllowDuplicateCards = nullptr;
     QCheckBox* chkUseReversed = nullptr;
@@ -57,7 +57,6 @@ protected:
     virtual void CloseEntryScreen() = 0;
 
     void Form_Load() override;
-    void Form_QueryUnload(bool& cancel, int unloadMode) override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 
 private:

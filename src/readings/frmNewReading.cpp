@@ -98,8 +98,6 @@ frmNewReading::frmNewReading() : EntryScreen(QStringLiteral("Reading")), lblCard
     connect(cmdClose, &QPushButton::clicked, this, Handler([this] { cmdClose_Click(); }));
     cmdFakeShuffle->Press = Handler([this] { cmdFakeShuffle_Press(); });
     cmdFakeShuffle->Release = Handler([this] { cmdFakeShuffle_Release(); });
-    connect(txtIssue, &QLineEdit::editingFinished, this, Handler([this] { txtIssue_LostFocus(); }));
-    connect(txtIssue, &QLineEdit::returnPressed, this, Handler([this] { cmdContinue_Click(); }));
     connect(Timer1, &QTimer::timeout, this, Handler([this] { Timer1_Timer(); }));
 }
 

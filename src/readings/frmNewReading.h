@@ -54,7 +54,7 @@ public:
     // the reading closes. False then.
     bool OpenSavedReading();
 
-    void cmdContinue_Click();
+    void cmdContinue_Click() override;
     void cmdDeal_Click();
     void cmdNextCard_Click();
     void cmdAllCards_Click();
@@ -66,7 +66,7 @@ public:
     void cmdSave_Click() override;
     void cmdQuickHelp_Click();
     void cmdClose_Click() override;
-    void txtIssue_LostFocus();
+    void txtIssue_LostFocus() override;
     void Timer1_Timer();
     void picLocation_Click(int Index) override;
     void imgCard_Click(int Index) override;

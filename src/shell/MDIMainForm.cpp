@@ -45,6 +45,8 @@ MDIMainForm::MDIMainForm() {
     layout->addWidget(area_);
     resize(FrameWidth, FrameHeight);
     SetFrameArea(area_);
+    // The close box only asks; Yes ends the process from within the question.
+    setWayOut(ExitQuestion);
 }
 
 void MDIMainForm::SetProgramDirectory(const QString& programDir) { TheProgramDirectory() = programDir; }
@@ -74,14 +76,6 @@ void MDIMainForm::Form_Load() {
     Guarded([&package] {
         if (RunStartup(ProgramDirectory(), package.isEmpty()) && !package.isEmpty()) OpenPackageFile(package);
     });
-}
-
-void MDIMainForm::Form_QueryUnload(bool& cancel, int unloadMode) {
-    // The close box only asks; Yes ends the process from within the question.
-    if (unloadMode == vbFormControlMenu) {
-        ExitQuestion();
-        cancel = true;
-    }
 }
 
 void MDIMainForm::Form_Unload(bool&) {

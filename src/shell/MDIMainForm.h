@@ -29,7 +29,6 @@ public:
 
 protected:
     void Form_Load() override;
-    void Form_QueryUnload(bool& cancel, int unloadMode) override;
     void Form_Unload(bool& cancel) override;
     void resizeEvent(QResizeEvent* e) override;
 

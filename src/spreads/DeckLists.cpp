@@ -4,11 +4,11 @@
 #include <QPushButton>
 
 #include "platform/MsgBox.h"
-#include "spreads/SortedListBox.h"
+#include "platform/ListBox.h"
 #include "store/RecordFile.h"
 #include "store/mdlSubRoutines.h"
 
-void RestoreListPosition(SortedListBox* list, int noted) {
+void RestoreListPosition(ListBox* list, int noted) {
     if (noted > list->ListCount() - 1) --noted;
     list->setListIndex(noted);
     if (list->ListIndex() < 0 && list->ListCount() > 0) list->setListIndex(0);
@@ -38,7 +38,7 @@ void DeckLists::AddDeckNames(const SpreadRecord& spread) {
 }
 
 void DeckLists::UpdateDeckButtons() {
-    for (SortedListBox* list : {lstAvailableDecks, lstDecks}) {
+    for (ListBox* list : {lstAvailableDecks, lstDecks}) {
         if (list->ListCount() > 0 && list->ListIndex() < 0) list->setListIndex(0);
     }
     if (chkAnyDeck->isChecked()) {
@@ -50,7 +50,7 @@ void DeckLists::UpdateDeckButtons() {
     cmdDeleteDeck->setEnabled(lstDecks->ListIndex() >= 0);
 }
 
-void DeckLists::Move(SortedListBox* from, SortedListBox* to) {
+void DeckLists::Move(ListBox* from, ListBox* to) {
     if (from->ListIndex() < 0) return;
     const int fromPosition = from->ListIndex();
     const int toPosition = to->ListIndex();

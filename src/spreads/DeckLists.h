@@ -13,15 +13,15 @@
 class QCheckBox;
 class QPushButton;
 class QWidget;
-class SortedListBox;
+class ListBox;
 
 // A spread may work on at most this many named decks.
 constexpr int MaxSpreadDecks = 10;
 
 class DeckLists {
 public:
-    SortedListBox* lstAvailableDecks = nullptr;
-    SortedListBox* lstDecks = nullptr;
+    ListBox* lstAvailableDecks = nullptr;
+    ListBox* lstDecks = nullptr;
     QCheckBox* chkAnyDeck = nullptr;
     QPushButton* cmdAddDeck = nullptr;
     QPushButton* cmdDeleteDeck = nullptr;
@@ -46,11 +46,11 @@ public:
     void WriteChoice(SpreadRecord& spread) const;
 
 private:
-    void Move(SortedListBox* from, SortedListBox* to);
+    void Move(ListBox* from, ListBox* to);
     // The id of the first deck of that name among the decks to choose from.
     Integer DeckIdByName(const QString& name) const;
 };
 
 // Selects position `noted` again after an entry went: one up when it lies
 // past the end now, the first entry when that selects nothing.
-void RestoreListPosition(SortedListBox* list, int noted);
+void RestoreListPosition(ListBox* list, int noted);

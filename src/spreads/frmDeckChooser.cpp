@@ -7,7 +7,7 @@
 #include "platform/MsgBox.h"
 #include "platform/Twips.h"
 #include "shell/mdlFORM.h"
-#include "spreads/SortedListBox.h"
+#include "platform/ListBox.h"
 #include "spreads/frmSpreads.h"
 #include "store/RecordFile.h"
 #include "store/mdlSubRoutines.h"
@@ -36,13 +36,15 @@ frmDeckChooser::frmDeckChooser() {
     lblAvailable = new QLabel(QStringLiteral("Available Decks:"), this);
     lblAvailable->setObjectName(QStringLiteral("lblAvailable"));
     lblAvailable->setGeometry(At(120, 600, 3400, 300));
-    lstAvailableDecks = new SortedListBox(this);
+    lstAvailableDecks = new ListBox(this);
+    lstAvailableDecks->setSorted(true);
     lstAvailableDecks->setObjectName(QStringLiteral("lstAvailableDecks"));
     lstAvailableDecks->setGeometry(At(120, 900, 3400, 3480));
     lblDecks = new QLabel(QStringLiteral("Spread works on the following Decks:"), this);
     lblDecks->setObjectName(QStringLiteral("lblDecks"));
     lblDecks->setGeometry(At(5400, 600, 3480, 300));
-    lstDecks = new SortedListBox(this);
+    lstDecks = new ListBox(this);
+    lstDecks->setSorted(true);
     lstDecks->setObjectName(QStringLiteral("lstDecks"));
     lstDecks->setGeometry(At(5400, 900, 3480, 3480));
     cmdAddDeck = Button(this, QStringLiteral("cmdAddDeck"), QStringLiteral("Add &>>"), At(3720, 1800, 1480, 420));
@@ -66,10 +68,11 @@ frmDeckChooser::frmDeckChooser() {
     connect(cmdDeleteDeck, &QPushButton::clicked, this, Handler([this] { cmdDeleteDeck_Click(); }));
     connect(cmdLink, &QPushButton::clicked, this, Handler([this] { cmdLink_Click(); }));
     connect(cmdClose, &QPushButton::clicked, this, Handler([this] { cmdClose_Click(); }));
+    setWayOut([this] { UnloadThisForm(); });
     connect(chkAnyDeck, &QCheckBox::toggled, this, Handler([this] { chkAnyDeck_Click(); }));
     connect(chkInstallAll, &QCheckBox::toggled, this, Handler([this] { chkInstallAll_Click(); }));
-    connect(lstAvailableDecks, &SortedListBox::Click, this, Handler([this] { UpdateDeckButtons(); }));
-    connect(lstDecks, &SortedListBox::Click, this, Handler([this] { UpdateDeckButtons(); }));
+    connect(lstAvailableDecks, &ListBox::Click, this, Handler([this] { UpdateDeckButtons(); }));
+    connect(lstDecks, &ListBox::Click, this, Handler([this] { UpdateDeckButtons(); }));
 }
 
 void frmDeckChooser::Form_Load() {
@@ -148,14 +151,6 @@ void frmDeckChooser::UnloadThisForm() {
         SetScreenPointer(MousePointer::Default);
     }
     Unload();
-}
-
-void frmDeckChooser::Form_QueryUnload(bool& cancel, int unloadMode) {
-    // The close box goes the way of Close, with its questions.
-    if (unloadMode == vbFormControlMenu) {
-        cancel = true;
-        UnloadThisForm();
-    }
 }
 
 void frmDeckChooser::Form_Unload(bool&) {

@@ -10,7 +10,7 @@
 class QCheckBox;
 class QLabel;
 class QPushButton;
-class SortedListBox;
+class ListBox;
 
 class frmDeckChooser : public Form {
     Q_OBJECT
@@ -25,8 +25,8 @@ public:
     // The spread to select again on the list when the chooser closes.
     QString RememberedSpreadName;
 
-    SortedListBox* lstAvailableDecks;
-    SortedListBox* lstDecks;
+    ListBox* lstAvailableDecks;
+    ListBox* lstDecks;
     QLabel* lblAvailable;
     QLabel* lblDecks;
     QCheckBox* chkAnyDeck;
@@ -48,7 +48,6 @@ public:
 
 protected:
     void Form_Load() override;
-    void Form_QueryUnload(bool& cancel, int unloadMode) override;
     void Form_Unload(bool& cancel) override;
     void Form_KeyUp(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 

@@ -13,7 +13,7 @@
 #include "platform/Twips.h"
 #include "shell/ImageBox.h"
 #include "shell/mdlFORM.h"
-#include "spreads/SortedListBox.h"
+#include "platform/ListBox.h"
 #include "spreads/SpreadCanvas.h"
 #include "spreads/SpreadDetailsPage.h"
 #include "spreads/TextBoxes.h"
@@ -80,13 +80,15 @@ frmDesignSpread::frmDesignSpread() {
     Label1 = new QLabel(QStringLiteral("Available Decks:"), picDecks);
     Label1->setObjectName(QStringLiteral("Label1"));
     Label1->setGeometry(At(240, 600, 3600, 300));
-    lstAvailableDecks = new SortedListBox(picDecks);
+    lstAvailableDecks = new ListBox(picDecks);
+    lstAvailableDecks->setSorted(true);
     lstAvailableDecks->setObjectName(QStringLiteral("lstAvailableDecks"));
     lstAvailableDecks->setGeometry(At(240, 900, 3600, 3600));
     lblDecks = new QLabel(QStringLiteral("Spread works on the following Decks:"), picDecks);
     lblDecks->setObjectName(QStringLiteral("lblDecks"));
     lblDecks->setGeometry(At(5640, 600, 3600, 300));
-    lstDecks = new SortedListBox(picDecks);
+    lstDecks = new ListBox(picDecks);
+    lstDecks->setSorted(true);
     lstDecks->setObjectName(QStringLiteral("lstDecks"));
     lstDecks->setGeometry(At(5640, 900, 3600, 3600));
     chkAnyDeck = new QCheckBox(QStringLiteral("&Allow this spread to use all available decks"), picDecks);
@@ -148,13 +150,14 @@ frmDesignSpread::frmDesignSpread() {
     click(cmdComments, &frmDesignSpread::cmdComments_Click);
     click(cmdSave, &frmDesignSpread::cmdSave_Click);
     click(cmdBack, &frmDesignSpread::cmdBack_Click);
+    setWayOut([this] { cmdBack_Click(); });
     click(cmdAddDeck, &frmDesignSpread::cmdAddDeck_Click);
     click(cmdDeleteDeck, &frmDesignSpread::cmdDeleteDeck_Click);
     click(cmdRemoveDeck, &frmDesignSpread::cmdRemoveDeck_Click);
     click(cmdBrowseDeck, &frmDesignSpread::cmdBrowseDeck_Click);
     connect(chkAnyDeck, &QCheckBox::toggled, this, Handler([this] { chkAnyDeck_Click(); }));
-    connect(lstAvailableDecks, &SortedListBox::Click, this, Handler([this] { UpdateDeckButtons(); }));
-    connect(lstDecks, &SortedListBox::Click, this, Handler([this] { UpdateDeckButtons(); }));
+    connect(lstAvailableDecks, &ListBox::Click, this, Handler([this] { UpdateDeckButtons(); }));
+    connect(lstDecks, &ListBox::Click, this, Handler([this] { UpdateDeckButtons(); }));
 
     // Each box of the details writes its field at every change.
     connect(txtSpreadTitle(), &TextBox::Change, this, Handler([this] { txtSpreadTitle_Change(); }));
@@ -518,14 +521,6 @@ void frmDesignSpread::cmdBack_Click() {
     Get<frmSpreads>().Show();
     SetScreenPointer(MousePointer::Default);
     Unload();
-}
-
-void frmDesignSpread::Form_QueryUnload(bool& cancel, int unloadMode) {
-    // The close box leaves the screen as Close does, question and all.
-    if (unloadMode == vbFormControlMenu) {
-        cancel = true;
-        cmdBack_Click();
-    }
 }
 
 void frmDesignSpread::Form_Unload(bool&) {

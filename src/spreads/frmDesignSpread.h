@@ -15,7 +15,7 @@ class QCheckBox;
 class QLabel;
 class QPushButton;
 class QWidget;
-class SortedListBox;
+class ListBox;
 class SpreadCanvas;
 class TextBox;
 class MultiLineTextBox;
@@ -57,8 +57,8 @@ public:
     QPushButton* cmdCardAttributes(int Index) const;
 
     // ---- Deck page ----
-    SortedListBox* lstAvailableDecks;
-    SortedListBox* lstDecks;
+    ListBox* lstAvailableDecks;
+    ListBox* lstDecks;
     QLabel* Label1;
     QLabel* lblDecks;
     QCheckBox* chkAnyDeck;
@@ -123,7 +123,6 @@ public:
 
 protected:
     void Form_Load() override;
-    void Form_QueryUnload(bool& cancel, int unloadMode) override;
     void Form_Unload(bool& cancel) override;
     void Form_KeyUp(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 

@@ -9,7 +9,7 @@
 #include "platform/OleDate.h"
 #include "platform/Twips.h"
 #include "shell/mdlFORM.h"
-#include "spreads/SortedListBox.h"
+#include "platform/ListBox.h"
 #include "spreads/TextBoxes.h"
 #include "spreads/frmDesignSpread.h"
 #include "store/DesignCommit.h"
@@ -35,7 +35,8 @@ frmSaveSpread::frmSaveSpread() {
     txtSaveAs->setGeometry(At(120, 420, 3600, 330));
     auto* lblNames = new QLabel(QStringLiteral("Saved spreads:"), this);
     lblNames->setGeometry(At(120, 870, 3600, 300));
-    lstSpreadNames = new SortedListBox(this);
+    lstSpreadNames = new ListBox(this);
+    lstSpreadNames->setSorted(true);
     lstSpreadNames->setObjectName(QStringLiteral("lstSpreadNames"));
     lstSpreadNames->setGeometry(At(120, 1170, 3600, 2820));
 
@@ -47,7 +48,7 @@ frmSaveSpread::frmSaveSpread() {
     cmdCancel->setGeometry(At(3900, 960, 1320, 420));
 
     connect(txtSaveAs, &TextBox::Change, this, Handler([this] { txtSaveAs_Change(); }));
-    connect(lstSpreadNames, &SortedListBox::Click, this, Handler([this] { lstSpreadNames_Click(); }));
+    connect(lstSpreadNames, &ListBox::Click, this, Handler([this] { lstSpreadNames_Click(); }));
     connect(cmdSave, &QPushButton::clicked, this, Handler([this] { cmdSave_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
 }

@@ -5,7 +5,7 @@
 #include "platform/Form.h"
 
 class QPushButton;
-class SortedListBox;
+class ListBox;
 class TextBox;
 
 class frmSaveSpread : public Form {
@@ -14,7 +14,7 @@ public:
     frmSaveSpread();
 
     TextBox* txtSaveAs;
-    SortedListBox* lstSpreadNames;
+    ListBox* lstSpreadNames;
     QPushButton* cmdSave;
     QPushButton* cmdCancel;
 

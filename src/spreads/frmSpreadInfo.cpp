@@ -8,7 +8,7 @@
 #include "platform/Twips.h"
 #include "shell/ImageBox.h"
 #include "shell/mdlFORM.h"
-#include "spreads/SortedListBox.h"
+#include "platform/ListBox.h"
 #include "spreads/SpreadCanvas.h"
 #include "spreads/SpreadDetailsPage.h"
 #include "spreads/frmSpreadInfo_LocationAttributes.h"
@@ -52,7 +52,8 @@ frmSpreadInfo::frmSpreadInfo() {
     picDecks->setGeometry(At(PageLeft, PageTop, CanvasWidth, CanvasHeight));
     auto* lblDecks = new QLabel(QStringLiteral("Spread works on the following Decks:"), picDecks);
     lblDecks->setGeometry(At(240, 600, 4800, 300));
-    lstDecks = new SortedListBox(picDecks);
+    lstDecks = new ListBox(picDecks);
+    lstDecks->setSorted(true);
     lstDecks->setObjectName(QStringLiteral("lstDecks"));
     lstDecks->setGeometry(At(240, 900, 4800, 3600));
 
@@ -70,6 +71,7 @@ frmSpreadInfo::frmSpreadInfo() {
     connect(cmdDecks, &QPushButton::clicked, this, Handler([this] { cmdDecks_Click(); }));
     connect(cmdGrid, &QPushButton::clicked, this, Handler([this] { cmdGrid_Click(); }));
     connect(cmdClose, &QPushButton::clicked, this, Handler([this] { cmdClose_Click(); }));
+    setWayOut([this] { cmdClose_Click(); });
     connect(chkQuestion(), &QCheckBox::toggled, this, Handler([this] { chkQuestion_Click(); }));
     connect(picDesignLocations, &SpreadCanvas::AttributesClick, this,
             [this](int i) { Guarded([&] { cmdCardAttributes_Click(i); }); });
@@ -154,14 +156,6 @@ void frmSpreadInfo::cmdClose_Click() {
     Get<frmSpreads>().Show();
     SetScreenPointer(MousePointer::Default);
     Unload();
-}
-
-void frmSpreadInfo::Form_QueryUnload(bool& cancel, int unloadMode) {
-    // The close box returns to the spread list as Close does.
-    if (unloadMode == vbFormControlMenu) {
-        cancel = true;
-        cmdClose_Click();
-    }
 }
 
 void frmSpreadInfo::Form_Unload(bool&) {

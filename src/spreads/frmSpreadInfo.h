@@ -12,7 +12,7 @@ class QCheckBox;
 class QLabel;
 class QPushButton;
 class LocationBox;
-class SortedListBox;
+class ListBox;
 class SpreadCanvas;
 class SpreadDetailsPage;
 
@@ -24,7 +24,7 @@ public:
     SpreadDetailsPage* picDesignInfo;
     SpreadCanvas* picDesignLocations;
     QWidget* picDecks;
-    SortedListBox* lstDecks;
+    ListBox* lstDecks;
     QPushButton* cmdDesignInfo;
     QPushButton* cmdSpread;
     QPushButton* cmdDecks;
@@ -51,7 +51,6 @@ public:
 
 protected:
     void Form_Load() override;
-    void Form_QueryUnload(bool& cancel, int unloadMode) override;
     void Form_Unload(bool& cancel) override;
     void Form_KeyUp(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 

@@ -8,7 +8,7 @@
 #include "platform/Twips.h"
 #include "shell/frmMainScreen.h"
 #include "shell/mdlFORM.h"
-#include "spreads/SortedListBox.h"
+#include "platform/ListBox.h"
 #include "spreads/frmDeckChooser.h"
 #include "spreads/frmDesignSpread.h"
 #include "spreads/frmSpreadInfo.h"
@@ -46,7 +46,8 @@ frmSpreads::frmSpreads() {
 
     auto* lblAvailable = new QLabel(QStringLiteral("Available Spreads:"), this);
     lblAvailable->setGeometry(At(120, 120, 3400, 300));
-    lstSpreads = new SortedListBox(this);
+    lstSpreads = new ListBox(this);
+    lstSpreads->setSorted(true);
     lstSpreads->setObjectName(QStringLiteral("lstSpreads"));
     lstSpreads->setGeometry(At(120, 420, 3400, 3840));
 
@@ -71,13 +72,14 @@ frmSpreads::frmSpreads() {
     cmdClose = MenuButton(this, QStringLiteral("cmdClose"), QStringLiteral("&Close"), 3840);
     for (QPushButton* button : {cmdInfo, cmdEdit, cmdDelete, cmdManager}) button->setEnabled(false);
 
-    connect(lstSpreads, &SortedListBox::Click, this, Handler([this] { lstSpreads_Click(); }));
+    connect(lstSpreads, &ListBox::Click, this, Handler([this] { lstSpreads_Click(); }));
     connect(cmdInfo, &QPushButton::clicked, this, Handler([this] { cmdInfo_Click(); }));
     connect(cmdDesign, &QPushButton::clicked, this, Handler([this] { cmdDesign_Click(); }));
     connect(cmdEdit, &QPushButton::clicked, this, Handler([this] { cmdEdit_Click(); }));
     connect(cmdDelete, &QPushButton::clicked, this, Handler([this] { cmdDelete_Click(); }));
     connect(cmdManager, &QPushButton::clicked, this, Handler([this] { cmdManager_Click(); }));
     connect(cmdClose, &QPushButton::clicked, this, Handler([this] { cmdClose_Click(); }));
+    setWayOut([this] { cmdClose_Click(); });
 }
 
 void frmSpreads::Form_Load() {

@@ -8,14 +8,14 @@
 class QGroupBox;
 class QLabel;
 class QPushButton;
-class SortedListBox;
+class ListBox;
 
 class frmSpreads : public Form {
     Q_OBJECT
 public:
     frmSpreads();
 
-    SortedListBox* lstSpreads;
+    ListBox* lstSpreads;
     QGroupBox* fraQuickInfo;
     QLabel* lblTitleField;
     QLabel* lblDesignerNameField;

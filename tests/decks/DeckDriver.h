@@ -4,7 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QList>
-#include <QListWidget>
+#include "platform/ListBox.h"
 #include <QSet>
 #include <QtTest>
 #include <functional>
@@ -16,20 +16,31 @@
 #include "store/RecordFile.h"
 #include "store/mdlVariables.h"
 
-// Picks a file in a chooser as a user does: opens its folder, clicks it,
-// presses Select. An empty name cancels.
+inline int LineOf(const QListWidget* list, const QString& text) {
+    for (int i = 0; i < list->count(); ++i)
+        if (list->item(i)->text().trimmed() == text) return i;
+    return -1;
+}
+
+// Moves a list's highlight to a line with the keys, as a user does.
+inline void ArrowToLine(ListBox* list, const QString& text) {
+    const int row = LineOf(list, text);
+    QVERIFY2(row >= 0, qPrintable(text));
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Home);
+    for (int i = 0; i < row; ++i) QTest::keyClick(list, Qt::Key_Down);
+}
+
+// Picks a file in a chooser as a user does: opens its folder, arrows to the
+// file, presses Enter. An empty name cancels.
 inline void PickFile(FileChooser& chooser, const QString& folder, const QString& name) {
     if (name.isEmpty()) {
         chooser.cmdCancel_Click();
         return;
     }
     if (chooser.dirSelection->Path() != QDir::cleanPath(folder)) chooser.dirSelection->setPath(folder);
-    int row = -1;
-    for (int i = 0; i < chooser.filSelection->ListCount(); ++i)
-        if (chooser.filSelection->List(i) == name) row = i;
-    QVERIFY2(row >= 0, qPrintable(name));
-    chooser.filSelection->setListIndex(row);
-    chooser.cmdSelect_Click();
+    ArrowToLine(chooser.filSelection, name);
+    QTest::keyClick(chooser.filSelection, Qt::Key_Return);
 }
 
 template <class T>
@@ -55,17 +66,9 @@ inline QSet<QString> FilesNamedByCards() {
     return named;
 }
 
-inline int LineOf(const QListWidget* list, const QString& text) {
-    for (int i = 0; i < list->count(); ++i)
-        if (list->item(i)->text().trimmed() == text) return i;
-    return -1;
-}
-
 // Selects a line as a click does.
-inline void ClickLine(QListWidget* list, const QString& text) {
+inline void ClickLine(ListBox* list, const QString& text) {
     const int row = LineOf(list, text);
     QVERIFY2(row >= 0, qPrintable(text));
-    list->setCurrentRow(row);
-    list->item(row)->setSelected(true);
-    emit list->itemClicked(list->item(row));
+    list->setListIndex(row);
 }

@@ -4,7 +4,7 @@
 // configured, and the questions on leaving.
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QListWidget>
+#include "platform/ListBox.h"
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>

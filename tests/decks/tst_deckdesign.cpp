@@ -5,7 +5,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
+#include "platform/ListBox.h"
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -64,7 +64,7 @@ class TestDeckDesign : public QObject {
     static void FillCard(frmAddCard& editor, const QString& title, const QString& type, const QString& up,
                          const QString& rev) {
         editor.txtCardTitle->setText(title);
-        ClickLine(editor.lstCardType, type);
+        ArrowToLine(editor.lstCardType, type);   // the type chosen by the keys is stored
         editor.txtDescription->setPlainText(up + QStringLiteral(" meaning"));
         editor.txtKeywords->setPlainText(up + QStringLiteral(" words"));
         editor.optReversed->click();
@@ -191,7 +191,7 @@ private slots:
         designer.cmdBack_Click();
         QVERIFY(!IsLoaded<frmDesignDeck>());
         frmDecks& decks = Get<frmDecks>();
-        QCOMPARE(SelectedLine(decks.lstDecks).trimmed(), QStringLiteral("Sea Tarot"));
+        QCOMPARE(decks.lstDecks->Text().trimmed(), QStringLiteral("Sea Tarot"));
         QCOMPARE((QStringList{decks.lblCardsField->text(), decks.lblDesignerNameField->text(), decks.lblTitleField->text()}),
                  (QStringList{"3", "Ann Reader", "Sea Tarot"}));
         decks.cboCards_GotFocus();
@@ -214,7 +214,7 @@ private slots:
         again.cmdEditCard_Click();
         editor = &Get<frmAddCard>();
         QCOMPARE(editor->Caption(), QStringLiteral("Add Card - The Fool"));
-        QCOMPARE(SelectedLine(editor->lstCardType), QStringLiteral("Major Arcana"));
+        QCOMPARE(editor->lstCardType->Text(), QStringLiteral("Major Arcana"));
         QCOMPARE(editor->txtKeywords->toPlainText(), QStringLiteral("fool words"));
         QVERIFY(editor->MediaPlayer1->FileName().endsWith(QLatin1String("MCU00004.wav")));
         QCOMPARE(editor->imgCard->Image().pixelColor(0, 0), FoolUp);
@@ -249,7 +249,7 @@ private slots:
             ModalScript refused;
             refused.On<frmSaveDeck>([](frmSaveDeck& s) {
                 QCOMPARE(s.txtSaveAs->text(), QStringLiteral("Sea Tarot"));
-                QCOMPARE(SelectedLine(s.lstDeckNames).trimmed(), QStringLiteral("Sea Tarot"));
+                QCOMPARE(s.lstDeckNames->Text().trimmed(), QStringLiteral("Sea Tarot"));
                 s.cmdSave_Click();
                 QVERIFY(IsLoaded<frmSaveDeck>());
                 s.cmdCancel_Click();
@@ -281,7 +281,7 @@ private slots:
         QVERIFY(!filesOf[0].intersects(filesOf[1]));
         QCOMPARE(again.Caption(), QStringLiteral("Deck Design - Sea Tarot"));
         again.cmdBack_Click();
-        QCOMPARE(SelectedLine(Get<frmDecks>().lstDecks).trimmed(), QStringLiteral("Sea Tarot Copy"));
+        QCOMPARE(Get<frmDecks>().lstDecks->Text().trimmed(), QStringLiteral("Sea Tarot Copy"));
 
         // ---- Viewed: the first card shows its picture; once a card is
         // closed the working files are gone and the next shows the default.

@@ -4,7 +4,7 @@
 // spread designer.
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
+#include "platform/ListBox.h"
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -58,7 +58,7 @@ private slots:
     void deleteAsksTwiceAndUntiesSpreads() {
         frmDecks& decks = Get<frmDecks>();
         QCOMPARE(decks.lstDecks->count(), 3);
-        QCOMPARE(SelectedLine(decks.lstDecks).trimmed(), QStringLiteral("Alpha"));
+        QCOMPARE(decks.lstDecks->Text().trimmed(), QStringLiteral("Alpha"));
         QCOMPARE(decks.lblCardsField->text(), QStringLiteral("3"));
         QVERIFY(Buttons(decks));
         const QSet<QString> alphaFiles{QStringLiteral("CU00001.bmp"), QStringLiteral("CR00003.bmp")};
@@ -68,7 +68,7 @@ private slots:
         decks.cmdDelete_Click();
         QCOMPARE(CountDecks(), 3);
         QCOMPARE(MsgBoxScript::History()[0].prompt,
-                 QStringLiteral("Are you sure you want to delete deck '") + SelectedLine(decks.lstDecks) +
+                 QStringLiteral("Are you sure you want to delete deck '") + decks.lstDecks->Text() +
                      QStringLiteral("' ?\nBe aware that this deck will be removed from all spreads that use it."));
         QCOMPARE(MsgBoxScript::History()[0].style, vbYesNo | vbQuestion | vbDefaultButton2);
 
@@ -93,7 +93,7 @@ private slots:
         QCOMPARE(mixed.AllowedDeckId[2], -1);
         // The line went; the first line is selected in its place.
         QCOMPARE(decks.lstDecks->count(), 2);
-        QCOMPARE(SelectedLine(decks.lstDecks).trimmed(), QStringLiteral("Beta"));
+        QCOMPARE(decks.lstDecks->Text().trimmed(), QStringLiteral("Beta"));
         QCOMPARE(decks.lblTitleField->text(), QStringLiteral("Beta"));
 
         // Gamma is tied with Beta, never alone: the milder second question.
@@ -127,7 +127,7 @@ private slots:
         QVERIFY(IsLoaded<frmDeckInfo>());
         QCOMPARE(Get<frmDeckInfo>().lstCards->count(), 2);
         Get<frmDeckInfo>().cmdBack_Click();
-        QCOMPARE(SelectedLine(Get<frmDecks>().lstDecks).trimmed(), QStringLiteral("Beta"));
+        QCOMPARE(Get<frmDecks>().lstDecks->Text().trimmed(), QStringLiteral("Beta"));
 
         ModalScript right;
         right.On<frmGetPassword>([](frmGetPassword& p) {
@@ -141,7 +141,7 @@ private slots:
         QCOMPARE(Get<frmDesignDeck>().Caption(), QStringLiteral("Deck Design - Beta"));
         QCOMPARE(DesignMode, 0);
         Get<frmDesignDeck>().cmdBack_Click();
-        QCOMPARE(SelectedLine(Get<frmDecks>().lstDecks).trimmed(), QStringLiteral("Beta"));
+        QCOMPARE(Get<frmDecks>().lstDecks->Text().trimmed(), QStringLiteral("Beta"));
     }
 
     void browseHandsTheChosenDeckToTheSpreadDesigner() {

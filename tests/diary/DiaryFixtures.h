@@ -3,7 +3,7 @@
 // buttons, and the card choice driven as the keeper drives it.
 #include <QCheckBox>
 #include <QComboBox>
-#include <QListWidget>
+#include "platform/ListBox.h"
 #include <QPushButton>
 
 #include "diary/frmDiaryCards.h"

@@ -138,6 +138,7 @@ private slots:
         // Cancel after turning the box leaves the location as it was.
         Choose(diary, 2, QString(), false, [](frmDiaryCards& cards) {
             QCOMPARE(cards.Caption(), QStringLiteral("Select card for location: 2. Position 2"));
+            QVERIFY(cards.Left() < 100 && cards.Top() < 100);   // at the frame's top left
             QVERIFY(!cards.chkReserved->isHidden());
             QCOMPARE(cards.lstCards->currentItem()->text(), CardText(24));
             QCOMPARE(Get<frmNewDiary>().picLocation(2)->BackColor(), QColor(192, 0, 0));
@@ -196,8 +197,11 @@ private slots:
         Choose(diary, 1, CardText(3), false, [](frmDiaryCards& cards) {
             QVERIFY(cards.chkReserved->isHidden());
             cards.lstCards->setCurrentRow(RowOf(cards.lstCards, CardText(3)));
-            cards.cmdSelect->click();
+            cards.lstCards->setFocus();
+            QTest::keyClick(cards.lstCards, Qt::Key_Return);   // Enter in the list selects
+            if (IsLoaded<frmDiaryCards>()) cards.cmdCancel->click();
         });
+        QCOMPARE(CurrentDiary.DealtCard[0], Integer(3));
         // Duplicates on: the card stays in the other lists.
         QVERIFY(Offered(diary, 2).contains(CardText(3)));
         Choose(diary, 2, CardText(3));

@@ -6,7 +6,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
+#include "platform/ListBox.h"
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -23,7 +23,7 @@
 #include "support/InstallAnswers.h"
 #include "support/ModalScript.h"
 #include "readings/ReadingFixtures.h"
-#include "spreads/SortedListBox.h"
+#include "platform/ListBox.h"
 #include "spreads/frmDeckChooser.h"
 #include "store/Startup.h"
 #include "store/frmDesignExists.h"
@@ -453,8 +453,8 @@ private slots:
         QVERIFY(RunStartup(c.path()));
         QVERIFY(IsLoaded<frmInstallPackage>() && Get<frmInstallPackage>().Visible());
         QVERIFY(!Get<frmMainScreen>().Visible());
-        Get<frmInstallPackage>().cmdCancel_Click();
-        QVERIFY(Get<frmMainScreen>().Visible());
+        Get<frmInstallPackage>().close();   // the close box leaves as Close does
+        QVERIFY(!IsLoaded<frmInstallPackage>() && Get<frmMainScreen>().Visible());
         Settle();
     }
 

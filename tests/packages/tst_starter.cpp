@@ -18,8 +18,8 @@
 #include "platform/FileLists.h"
 #include "platform/Picture.h"
 #include "readings/ReadingFixtures.h"
+#include "platform/ListBox.h"
 #include "shell/ClickLabel.h"
-#include "spreads/SortedListBox.h"
 #include "spreads/frmDeckChooser.h"
 
 using namespace ReadingFixtures;

@@ -1,5 +1,5 @@
-// The file choosers and the media player that the design and package screens
-// build on.
+// The list box every screen's lists are, the file choosers and the media
+// player that the design and package screens build on.
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -7,6 +7,7 @@
 #include "platform/Errors.h"
 #include "platform/FileLists.h"
 #include "platform/FileSys.h"
+#include "platform/ListBox.h"
 #include "platform/MediaPlayer.h"
 
 class TestControls : public QObject {
@@ -14,6 +15,62 @@ class TestControls : public QObject {
     QTemporaryDir dir_;
 
 private slots:
+    // Click runs once for each change of the selection, whether the mouse,
+    // the keys or the program made it, and once for a click on the selected
+    // entry; filling and emptying the list run nothing.
+    void listClickRunsOncePerSelection_data() {
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<int>("clicks");
+        QTest::addColumn<int>("selected");
+        QTest::newRow("mouse on another entry") << "mouse 2" << 1 << 2;
+        QTest::newRow("mouse on the selected entry") << "mouse 0" << 1 << 0;
+        QTest::newRow("ctrl and mouse keep the selection") << "ctrl 0" << 1 << 0;
+        QTest::newRow("double click") << "double 1" << 1 << 1;
+        QTest::newRow("arrow down") << "down" << 1 << 1;
+        QTest::newRow("arrow up at the top") << "up" << 0 << 0;
+        QTest::newRow("first arrow with nothing selected") << "focus" << 1 << 0;
+        QTest::newRow("program selects") << "code 2" << 1 << 2;
+        QTest::newRow("program selects the selected") << "code 0" << 1 << 0;
+        QTest::newRow("program clears") << "code -1" << 0 << -1;
+        QTest::newRow("filling and emptying") << "fill" << 0 << -1;
+    }
+    void listClickRunsOncePerSelection() {
+        QFETCH(QString, action);
+        QFETCH(int, clicks);
+        QFETCH(int, selected);
+        ListBox list;
+        list.setSorted(true);
+        for (const char* name : {"b", "C", "a"}) list.AddItem(QLatin1String(name));
+        QCOMPARE(list.List(2), QStringLiteral("C"));   // sorted, capitals among small letters
+        list.show();
+        list.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&list));
+        list.setListIndex(0);
+        QSignalSpy clicked(&list, &ListBox::Click);
+        const QStringList words = action.split(QLatin1Char(' '));
+        const int row = words.value(1).toInt();
+        const QPoint at = row >= 0 ? list.visualItemRect(list.item(row)).center() : QPoint();
+        if (words[0] == QLatin1String("mouse")) QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at);
+        if (words[0] == QLatin1String("ctrl")) QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, at);
+        if (words[0] == QLatin1String("double")) QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at);
+        if (words[0] == QLatin1String("down")) QTest::keyClick(&list, Qt::Key_Down);
+        if (words[0] == QLatin1String("up")) QTest::keyClick(&list, Qt::Key_Up);
+        if (words[0] == QLatin1String("focus")) {
+            list.setListIndex(-1);
+            list.clearFocus();
+            list.setFocus();
+            QTest::keyClick(&list, Qt::Key_Down);
+        }
+        if (words[0] == QLatin1String("code")) list.setListIndex(row);
+        if (words[0] == QLatin1String("fill")) {
+            list.AddItem(QStringLiteral("d"));
+            list.RemoveItem(0);
+            list.Clear();
+        }
+        QCOMPARE(clicked.count(), clicks);
+        QCOMPARE(list.ListIndex(), selected);
+    }
+
     void fileListFollowsPathAndPatterns() {
         for (const char* n : {"b.JPG", "a.bmp", "c.gif", "d.txt", "e.wav"})
             WriteWholeFile(dir_.filePath(QLatin1String(n)), "x");

@@ -2,7 +2,7 @@
 // What the reading tests share: a program directory with a deck and a spread,
 // the way through the main screen's Readings buttons, and the save screens.
 #include <QCheckBox>
-#include <QListWidget>
+#include "platform/ListBox.h"
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <functional>

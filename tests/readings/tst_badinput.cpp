@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
-#include <QListWidget>
+#include "platform/ListBox.h"
 #include <QtTest>
 
 #include "diary/frmSaveDiary.h"

@@ -2,7 +2,7 @@
 // a reversed card, write notes, save, close, reopen; a half-dealt reading that
 // goes on where it stopped; the buttons through the life of the table.
 #include <QLineEdit>
-#include <QListWidget>
+#include "platform/ListBox.h"
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QtTest>
@@ -74,9 +74,10 @@ private slots:
         QCOMPARE(CardTypeSelected, (std::array<bool, 4>{true, true, false, false}));
         QVERIFY(!reading.cmdDeal->isEnabled() && !reading.cmdNextCard->isEnabled() && !reading.cmdSave->isEnabled());
 
-        // Continue: the spread page, and the table 50 twips below the screen.
+        // Enter in the issue box continues as the button does, the issue
+        // padded the same: the spread page, and the table 50 twips below.
         reading.txtIssue->setText(QStringLiteral("  Will it rain?"));
-        reading.cmdContinue->click();
+        QTest::keyClick(reading.txtIssue, Qt::Key_Return);
         QVERIFY(!reading.IntroductionShown());
         QCOMPARE(reading.Caption(), QStringLiteral("Reading - Cross:   Will it rain?  "));
         QVERIFY(reading.frmReadingCardsIsLoaded);

@@ -163,14 +163,23 @@ private slots:
         QCOMPARE(MsgBoxScript::History().at(1).prompt, QStringLiteral("Reading already exists. Overwrite?"));
         QCOMPARE(CountReadings(), 1);
         QVERIFY(IsLoaded<frmSaveReading>());
-        save.txtSaveAs->setText(QStringLiteral("Second"));
-        save.cmdSave_Click();
+        // The arrow key onto the saved entry and Enter overwrite that entry.
+        save.txtSaveAs->setText(QStringLiteral("Other"));
+        save.lstNames->setFocus();
+        QTest::keyClick(save.lstNames, Qt::Key_Down);
+        MsgBoxScript::Answer(vbYes);
+        QTest::keyClick(save.lstNames, Qt::Key_Return);
+        QCOMPARE(MsgBoxScript::History().size(), 3);
+        QCOMPARE(CountReadings(), 1);
+        QVERIFY(!IsLoaded<frmSaveReading>());
+        Get<frmSaveReading>().txtSaveAs->setText(QStringLiteral("Second"));
+        Get<frmSaveReading>().cmdSave_Click();
         QCOMPARE(CountReadings(), 2);
         QVERIFY(!IsLoaded<frmSaveReading>());
         ReadingRecord second;
         GetRecord(ReadingsPath, 2, second);
         QCOMPARE(second.ReadingName.Trimmed(), QStringLiteral("Second"));
-        QCOMPARE(second.SaveCount, Integer(1));
+        QCOMPARE(second.SaveCount, Integer(2));   // the reading in hand, saved twice
     }
 
     void theSelectionListsWhatCanRunAndDefendsItsBoxes() {

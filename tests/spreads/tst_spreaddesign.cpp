@@ -12,7 +12,7 @@
 #include "platform/MsgBox.h"
 #include "platform/Picture.h"
 #include "shell/ImageBox.h"
-#include "spreads/SortedListBox.h"
+#include "platform/ListBox.h"
 #include "spreads/SpreadCanvas.h"
 #include "spreads/TextBoxes.h"
 #include "spreads/frmDeckChooser.h"

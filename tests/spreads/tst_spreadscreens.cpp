@@ -10,7 +10,7 @@
 #include "platform/MsgBox.h"
 #include "platform/OleDate.h"
 #include "shell/frmMainScreen.h"
-#include "spreads/SortedListBox.h"
+#include "platform/ListBox.h"
 #include "spreads/SpreadCanvas.h"
 #include "spreads/SpreadDetailsPage.h"
 #include "spreads/TextBoxes.h"
