@@ -28,27 +28,27 @@
 #include <unistd.h>
 #include <vector>
 
-#include "platform/BinaryFile.h"
-#include "platform/FileSys.h"
-#include "platform/MsgBox.h"
-#include "platform/ProgramLock.h"
-#include "platform/Rnd.h"
-#include "packages/PackageSummary.h"
-#include "packages/frmCreatePackage.h"
-#include "packages/frmInstallPackage.h"
-#include "platform/FileLists.h"
-#include "platform/Printer.h"
-#include "readings/frmNewReading.h"
-#include "readings/frmOpenReading.h"
-#include "readings/frmReadingCards.h"
-#include "readings/frmSelectSpread.h"
-#include "store/DesignCommit.h"
-#include "store/RecordFile.h"
-#include "store/Startup.h"
-#include "store/mdlSubRoutines.h"
-#include "store/mdlTypes.h"
-#include "shell/frmMainScreen.h"
-#include "store/mdlVariables.h"
+#include "core/platform/BinaryFile.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/MsgBox.h"
+#include "core/platform/ProgramLock.h"
+#include "core/platform/Rnd.h"
+#include "screens/packages/PackageSummary.h"
+#include "screens/packages/frmCreatePackage.h"
+#include "screens/packages/frmInstallPackage.h"
+#include "screens/platform/FileLists.h"
+#include "screens/platform/Printer.h"
+#include "screens/readings/frmNewReading.h"
+#include "screens/readings/frmOpenReading.h"
+#include "screens/readings/frmReadingCards.h"
+#include "screens/readings/frmSelectSpread.h"
+#include "core/store/DesignCommit.h"
+#include "core/records/RecordFile.h"
+#include "screens/store/Startup.h"
+#include "core/store/StoreOperations.h"
+#include "core/records/Records.h"
+#include "screens/shell/frmMainScreen.h"
+#include "core/store/RunState.h"
 
 namespace {
 
@@ -293,8 +293,7 @@ int main(int argc, char** argv) {
         MakeDecks(1, 100);
         MakeSpreads(1, 32, true);
         GetRecord(DecksPath, 1, ListDeck);
-        bool removed = false;
-        LoadDeck(removed);
+        LoadDeckCards();
         const double afterDeck = PeakMegabytes();
         GetRecord(SpreadsPath, 1, CurrentSpread);
         LoadSpreadLocations(CurrentSpread.SpreadId, CurrentSpread.LocationCount);
@@ -332,8 +331,7 @@ int main(int argc, char** argv) {
         const double readCards = Time([] { ReadOnce(CardsPath); });
         GetRecord(DecksPath, CountDecks(), ListDeck);
         const double load = Time([] {
-            bool removed = false;
-            LoadDeck(removed);
+            LoadDeckCards();
         });
         Row("LoadDeck, last deck of 32,000 cards", load, "read of Cards.crd", readCards, 1.5);
 

@@ -7,10 +7,10 @@
 #include <QTimer>
 #include <cstdio>
 
-#include "readings/frmNewReading.h"
-#include "readings/frmReadingCards.h"
-#include "store/mdlSubRoutines.h"
-#include "store/mdlVariables.h"
+#include "screens/readings/frmNewReading.h"
+#include "screens/readings/frmReadingCards.h"
+#include "core/store/StoreOperations.h"
+#include "core/store/RunState.h"
 
 namespace {
 

@@ -10,13 +10,13 @@
 #include <cstdio>
 #include <vector>
 
-#include "platform/BinaryFile.h"
-#include "platform/FileSys.h"
-#include "platform/MsgBox.h"
-#include "store/Startup.h"
-#include "store/mdlSubRoutines.h"
-#include "store/mdlTypes.h"
-#include "store/mdlVariables.h"
+#include "core/platform/BinaryFile.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/store/Startup.h"
+#include "core/store/StoreOperations.h"
+#include "core/records/Records.h"
+#include "core/store/RunState.h"
 
 namespace {
 

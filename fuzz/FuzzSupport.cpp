@@ -7,14 +7,13 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "platform/Errors.h"
-#include "platform/FileSys.h"
-#include "platform/MsgBox.h"
-#include "platform/WriteFaults.h"
-#include "platform/Picture.h"
-#include "store/Startup.h"
-#include "store/mdlTypes.h"
-#include "store/mdlVariables.h"
+#include "core/platform/Errors.h"
+#include "core/platform/FileSys.h"
+#include "core/platform/WriteFaults.h"
+#include "core/platform/Picture.h"
+#include "core/store/Housekeeping.h"
+#include "core/records/Records.h"
+#include "core/store/RunState.h"
 
 namespace Fuzz {
 namespace {
@@ -232,7 +231,6 @@ QByteArray PictureBytes() {
 
 void Initialize(int* argc, char*** argv) {
     static QCoreApplication app(*argc, *argv);
-    MsgBoxScript::Enable();
     // The program folder is thrown away after the run: its record files
     // need not wait for the disk, and the fuzzer runs many more inputs.
     WriteFaults::SetSyncs(false);
@@ -300,7 +298,6 @@ void Handled(const std::function<void()>& operation) {
     } catch (const RuntimeError&) {
         // Reported by the program as an error box; the run goes on.
     }
-    MsgBoxScript::Clear();
 }
 
 void CheckNothingOutsideTouched() {

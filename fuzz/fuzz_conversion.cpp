@@ -10,11 +10,11 @@
 #include <algorithm>
 
 #include "FuzzSupport.h"
-#include "platform/FileSys.h"
-#include "store/Conversion.h"
-#include "store/RecordFile.h"
-#include "store/Startup.h"
-#include "store/mdlVariables.h"
+#include "core/platform/FileSys.h"
+#include "core/store/Conversion.h"
+#include "core/records/RecordFile.h"
+#include "core/store/Housekeeping.h"
+#include "core/store/RunState.h"
 
 using Fuzz::Expect;
 

@@ -4,11 +4,10 @@
 #include <QDir>
 
 #include "FuzzSupport.h"
-#include "packages/mdlPackages.h"
-#include "platform/FileSys.h"
-#include "platform/MsgBox.h"
-#include "store/Startup.h"
-#include "store/mdlVariables.h"
+#include "core/packages/PackageFile.h"
+#include "core/platform/FileSys.h"
+#include "core/store/Housekeeping.h"
+#include "core/store/RunState.h"
 
 using Fuzz::Expect;
 
@@ -31,7 +30,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QStringList before = Entries(AppPath, QDir::AllEntries);
     ClearTemp();
     ExtractPackageFile(package, TempDir);
-    MsgBoxScript::Clear();
 
     Expect(Entries(AppPath, QDir::AllEntries) == before, "a member landed beside Temp/");
     Expect(Entries(PackagesDir, QDir::Files) == QStringList{QStringLiteral("p.pck")}, "a member landed in Packages/");

@@ -3,11 +3,11 @@
 // twips or the toolkit's "Invalid picture" error, never a crash and never a
 // picture larger than the reader's allocation limit allows.
 #include "FuzzSupport.h"
-#include "platform/Errors.h"
-#include "platform/FileSys.h"
-#include "platform/Picture.h"
-#include "platform/Twips.h"
-#include "store/mdlVariables.h"
+#include "core/platform/Errors.h"
+#include "core/platform/FileSys.h"
+#include "core/platform/Picture.h"
+#include "core/platform/Twips.h"
+#include "core/store/RunState.h"
 
 using Fuzz::Expect;
 

@@ -11,10 +11,10 @@
 #include <cstdio>
 
 #include "FuzzSupport.h"
-#include "packages/mdlPackages.h"
-#include "platform/FileSys.h"
-#include "store/mdlTypes.h"
-#include "store/mdlVariables.h"
+#include "core/packages/PackageFile.h"
+#include "core/platform/FileSys.h"
+#include "core/records/Records.h"
+#include "core/store/RunState.h"
 
 namespace {
 

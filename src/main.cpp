@@ -3,11 +3,11 @@
 // executable is installed for every user.
 #include <QStringList>
 
-#include "platform/Application.h"
-#include "platform/FileSys.h"
-#include "platform/UserFolders.h"
-#include "shell/MDIMainForm.h"
-#include "shell/ProgramFolder.h"
+#include "screens/platform/Application.h"
+#include "core/platform/FileSys.h"
+#include "core/platform/UserFolders.h"
+#include "screens/shell/MDIMainForm.h"
+#include "screens/shell/ProgramFolder.h"
 
 int main(int argc, char** argv) {
     CartomarApplication app(argc, argv);

@@ -10,7 +10,7 @@
 #include <cmath>
 
 #include "StarterSource.h"
-#include "shell/Emblems.h"
+#include "screens/shell/Emblems.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include <QFile>
 
-#include "platform/CodePage.h"
-#include "spreads/LocationTitle.h"
+#include "core/platform/CodePage.h"
+#include "core/spreads/LocationTitle.h"
 
 namespace {
 

@@ -12,7 +12,7 @@
 #include <QPolygonF>
 #include <QtMath>
 #include <cstdio>
-#include "shell/Emblems.h"
+#include "screens/shell/Emblems.h"
 
 namespace {
 

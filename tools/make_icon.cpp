@@ -16,7 +16,7 @@
 #include <QRadialGradient>
 #include <QtMath>
 #include <cstdio>
-#include "shell/Emblems.h"
+#include "screens/shell/Emblems.h"
 
 namespace {
 

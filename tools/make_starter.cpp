@@ -19,14 +19,14 @@
 #include "StarterPackage.h"
 #include "StarterPictures.h"
 #include "StarterSource.h"
-#include "platform/Errors.h"
-#include "platform/FileSys.h"
-#include "platform/MsgBox.h"
-#include "platform/OleDate.h"
-#include "store/RecordFile.h"
-#include "store/Startup.h"
-#include "store/mdlSubRoutines.h"
-#include "store/mdlVariables.h"
+#include "core/platform/Errors.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/MsgBox.h"
+#include "core/platform/OleDate.h"
+#include "core/records/RecordFile.h"
+#include "screens/store/Startup.h"
+#include "core/store/StoreOperations.h"
+#include "core/store/RunState.h"
 
 namespace {
 

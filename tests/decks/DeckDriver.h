@@ -4,17 +4,17 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QList>
-#include "platform/ListBox.h"
+#include "screens/platform/ListBox.h"
 #include <QSet>
 #include <QtTest>
 #include <functional>
 
-#include "decks/FileChooser.h"
-#include "platform/FileLists.h"
-#include "platform/FileSys.h"
+#include "screens/decks/FileChooser.h"
+#include "screens/platform/FileLists.h"
+#include "core/platform/FileSys.h"
 #include "support/ModalScript.h"
-#include "store/RecordFile.h"
-#include "store/mdlVariables.h"
+#include "core/records/RecordFile.h"
+#include "core/store/RunState.h"
 
 inline int LineOf(const QListWidget* list, const QString& text) {
     for (int i = 0; i < list->count(); ++i)

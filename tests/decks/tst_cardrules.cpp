@@ -4,7 +4,8 @@
 // configured, and the questions on leaving.
 #include <QCheckBox>
 #include <QLineEdit>
-#include "platform/ListBox.h"
+#include "screens/platform/ListBox.h"
+#include "screens/decks/DeckLoadQuestion.h"
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -12,18 +13,18 @@
 #include <QtTest>
 
 #include "DeckDriver.h"
-#include "decks/frmAddCard.h"
-#include "decks/frmDeckCardProperties.h"
-#include "decks/frmDeckCardPropertiesInfo.h"
-#include "decks/frmDeckInfo.h"
-#include "decks/frmDecks.h"
-#include "decks/frmDesignDeck.h"
-#include "decks/frmGetImageFile.h"
-#include "decks/mdlDeckDesign.h"
-#include "platform/MediaPlayer.h"
-#include "platform/MsgBox.h"
-#include "store/Startup.h"
-#include "store/mdlSubRoutines.h"
+#include "screens/decks/frmAddCard.h"
+#include "screens/decks/frmDeckCardProperties.h"
+#include "screens/decks/frmDeckCardPropertiesInfo.h"
+#include "screens/decks/frmDeckInfo.h"
+#include "screens/decks/frmDecks.h"
+#include "screens/decks/frmDesignDeck.h"
+#include "screens/decks/frmGetImageFile.h"
+#include "screens/decks/mdlDeckDesign.h"
+#include "screens/platform/MediaPlayer.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/store/Startup.h"
+#include "core/store/StoreOperations.h"
 #include "support/Fixtures.h"
 
 class TestCardRules : public QObject {

@@ -5,7 +5,8 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include "platform/ListBox.h"
+#include "screens/platform/ListBox.h"
+#include "screens/decks/DeckLoadQuestion.h"
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -13,21 +14,21 @@
 #include <QtTest>
 
 #include "DeckDriver.h"
-#include "decks/frmAddCard.h"
-#include "decks/frmDeckCardProperties.h"
-#include "decks/frmDeckInfo.h"
-#include "decks/frmDecks.h"
-#include "decks/frmDesignDeck.h"
-#include "decks/frmGetImageFile.h"
-#include "decks/frmGetSoundFile.h"
-#include "decks/frmSaveDeck.h"
-#include "decks/frmViewCard.h"
-#include "decks/mdlDeckDesign.h"
-#include "platform/MediaPlayer.h"
-#include "platform/MsgBox.h"
-#include "shell/ImageBox.h"
-#include "store/Startup.h"
-#include "store/mdlSubRoutines.h"
+#include "screens/decks/frmAddCard.h"
+#include "screens/decks/frmDeckCardProperties.h"
+#include "screens/decks/frmDeckInfo.h"
+#include "screens/decks/frmDecks.h"
+#include "screens/decks/frmDesignDeck.h"
+#include "screens/decks/frmGetImageFile.h"
+#include "screens/decks/frmGetSoundFile.h"
+#include "screens/decks/frmSaveDeck.h"
+#include "screens/decks/frmViewCard.h"
+#include "screens/decks/mdlDeckDesign.h"
+#include "screens/platform/MediaPlayer.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/shell/ImageBox.h"
+#include "screens/store/Startup.h"
+#include "core/store/StoreOperations.h"
 #include "support/Fixtures.h"
 #include "support/Prompts.h"
 

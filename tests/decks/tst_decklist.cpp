@@ -4,21 +4,21 @@
 // spread designer.
 #include <QLabel>
 #include <QLineEdit>
-#include "platform/ListBox.h"
+#include "screens/platform/ListBox.h"
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include "DeckDriver.h"
-#include "decks/frmBrowseDeck.h"
-#include "decks/frmDeckInfo.h"
-#include "decks/frmDecks.h"
-#include "decks/frmDesignDeck.h"
-#include "decks/mdlDeckDesign.h"
-#include "platform/MsgBox.h"
-#include "shell/frmMainScreen.h"
-#include "store/frmGetPassword.h"
-#include "store/mdlSubRoutines.h"
+#include "screens/decks/frmBrowseDeck.h"
+#include "screens/decks/frmDeckInfo.h"
+#include "screens/decks/frmDecks.h"
+#include "screens/decks/frmDesignDeck.h"
+#include "screens/decks/mdlDeckDesign.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/shell/frmMainScreen.h"
+#include "screens/store/frmGetPassword.h"
+#include "core/store/StoreOperations.h"
 #include "support/Fixtures.h"
 #include "support/Prompts.h"
 

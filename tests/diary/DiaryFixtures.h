@@ -3,16 +3,16 @@
 // buttons, and the card choice driven as the keeper drives it.
 #include <QCheckBox>
 #include <QComboBox>
-#include "platform/ListBox.h"
+#include "screens/platform/ListBox.h"
 #include <QPushButton>
 
-#include "diary/frmDiaryCards.h"
-#include "diary/frmDiaryInterpretLocation.h"
-#include "diary/frmDiaryNotes.h"
-#include "diary/frmNewDiary.h"
-#include "diary/frmOpenDiary.h"
-#include "diary/frmSaveDiary.h"
-#include "diary/frmSelectSpreadforDiary.h"
+#include "screens/diary/frmDiaryCards.h"
+#include "screens/diary/frmDiaryInterpretLocation.h"
+#include "screens/diary/frmDiaryNotes.h"
+#include "screens/diary/frmNewDiary.h"
+#include "screens/diary/frmOpenDiary.h"
+#include "screens/diary/frmSaveDiary.h"
+#include "screens/diary/frmSelectSpreadforDiary.h"
 #include "readings/ReadingFixtures.h"
 
 namespace DiaryFixtures {

@@ -7,8 +7,8 @@
 #include <QPlainTextEdit>
 #include <QtTest>
 
-#include "shell/ClickLabel.h"
-#include "shell/ImageBox.h"
+#include "screens/shell/ClickLabel.h"
+#include "screens/shell/ImageBox.h"
 #include "DiaryFixtures.h"
 
 using namespace DiaryFixtures;

@@ -6,9 +6,9 @@
 #include <QLineEdit>
 #include <QtTest>
 
-#include "platform/FileSys.h"
-#include "shell/ClickLabel.h"
-#include "store/frmGetPassword.h"
+#include "core/platform/FileSys.h"
+#include "screens/shell/ClickLabel.h"
+#include "screens/store/frmGetPassword.h"
 #include "DiaryFixtures.h"
 
 using namespace DiaryFixtures;

@@ -6,12 +6,12 @@
 #include <QtEndian>
 #include <QtTest>
 
-#include "packages/mdlPackages.h"
-#include "platform/Errors.h"
-#include "platform/FileSys.h"
-#include "platform/MsgBox.h"
-#include "store/Startup.h"
-#include "store/mdlVariables.h"
+#include "core/packages/PackageFile.h"
+#include "core/platform/Errors.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/store/Startup.h"
+#include "core/store/RunState.h"
 #include "support/Fixtures.h"
 #include "support/Prompts.h"
 
@@ -101,15 +101,15 @@ private slots:
         const QString source = outer_->path() + QStringLiteral("/stage/");
         QDir().mkpath(source);
         WriteWholeFile(source + QStringLiteral("Temp.crd"), QByteArray());
-        QVERIFY(!CreatePackageFile(source, outer_->path() + QStringLiteral("/out.pck")));
-        QCOMPARE(Prompts(), QStringList{QStringLiteral("Unable to create package.  Error9: ") + ErrorDescription(9)});
-        QCOMPARE(MsgBoxScript::History()[0].style, int(vbCritical));
+        RuntimeError failure(0, QStringLiteral("none"));
+        QVERIFY(!CreatePackageFile(source, outer_->path() + QStringLiteral("/out.pck"), &failure));
+        QCOMPARE(failure.Number(), 9);
+        QCOMPARE(failure.Description(), ErrorDescription(9));
         // The head written before the failure stays.
         QCOMPARE(FileLen(outer_->path() + QStringLiteral("/out.pck")), 2 + source.size() + 8 + 4);
 
-        MsgBoxScript::Clear();
-        QVERIFY(!CreatePackageFile(source, outer_->path() + QStringLiteral("/no such folder/out.pck")));
-        QVERIFY(MsgBoxScript::History()[0].prompt.startsWith(QStringLiteral("Unable to create package.  Error76: ")));
+        QVERIFY(!CreatePackageFile(source, outer_->path() + QStringLiteral("/no such folder/out.pck"), &failure));
+        QCOMPARE(failure.Number(), 76);
     }
 
     void cutShortAndOddPackagesYieldWhatIsWhole() {
@@ -138,10 +138,7 @@ private slots:
         // A member of no bytes has no buffer: the package cannot be opened.
         ClearTemp();
         QVERIFY(!ExtractPackageFile(WritePackage(first + Member("empty", QByteArray())), TempDir));
-        QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Unable to open package"));
-        QCOMPARE(MsgBoxScript::History().last().style, int(vbCritical));
         QVERIFY(!ExtractPackageFile(outer_->path() + QStringLiteral("/missing.pck"), TempDir));
-        QCOMPARE(MsgBoxScript::History().size(), 2);
     }
 
     void hostilePackagesNeverWriteOutsideTempNorAllocateWhatTheyClaim() {
@@ -158,17 +155,13 @@ private slots:
                                            QStringLiteral("evil3.txt"), QStringLiteral("evil4.txt"),
                                            QStringLiteral("evil5.txt"), QStringLiteral("ok.txt")}));
 
-        // Names that are no file name end the unpacking with the message.
+        // Names that are no file name end the unpacking as a failure.
         for (const QByteArray& name : {QByteArray(), QByteArray("."), QByteArray(".."), QByteArray("x\\.."),
-                                       QByteArray("x/.. "), QByteArray("x/"), QByteArray("bad\0name", 8)}) {
-            MsgBoxScript::Clear();
+                                       QByteArray("x/.. "), QByteArray("x/"), QByteArray("bad\0name", 8)})
             QVERIFY2(!ExtractPackageFile(WritePackage(good + Member(name, "payload")), TempDir), name.constData());
-            QCOMPARE(MsgBoxScript::History().size(), 1);
-        }
 
         // Sizes and lengths past the end, or below 0, end the reading quietly
         // with what came before, as a cut-short member does.
-        MsgBoxScript::Clear();
         for (const QByteArray& tail :
              {Member("huge", "abc", 0x7fffffff), Member("negative", "abc", -5), Member("past", "abc", 4),
               QByteArray("\x10\x00short", 7), QByteArray("\xff\xff", 2) + QByteArray(20, 'n')}) {
@@ -176,7 +169,6 @@ private slots:
             QVERIFY(ExtractPackageFile(WritePackage(good + tail), TempDir));
             QCOMPARE(TempNames(), QStringList{QStringLiteral("ok.txt")});
         }
-        QVERIFY(MsgBoxScript::History().isEmpty());
 
         // Thousands of members.
         ClearTemp();

@@ -6,28 +6,29 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include "platform/ListBox.h"
+#include "screens/platform/ListBox.h"
+#include "screens/decks/DeckLoadQuestion.h"
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
 #include <deque>
 
-#include "packages/PackageStaging.h"
-#include "packages/PackageSummary.h"
-#include "packages/frmCreatePackage.h"
-#include "packages/frmInstallPackage.h"
-#include "packages/mdlPackages.h"
-#include "platform/CommonDialog.h"
-#include "platform/FileLists.h"
+#include "core/packages/PackageStaging.h"
+#include "screens/packages/PackageSummary.h"
+#include "screens/packages/frmCreatePackage.h"
+#include "screens/packages/frmInstallPackage.h"
+#include "core/packages/PackageFile.h"
+#include "screens/platform/CommonDialog.h"
+#include "screens/platform/FileLists.h"
 #include "support/InstallAnswers.h"
 #include "support/ModalScript.h"
 #include "readings/ReadingFixtures.h"
-#include "platform/ListBox.h"
-#include "spreads/frmDeckChooser.h"
-#include "store/Startup.h"
-#include "store/frmDesignExists.h"
-#include "store/frmSetPassword.h"
+#include "screens/platform/ListBox.h"
+#include "screens/spreads/frmDeckChooser.h"
+#include "screens/store/Startup.h"
+#include "screens/store/frmDesignExists.h"
+#include "screens/store/frmSetPassword.h"
 #include "support/Prompts.h"
 
 using namespace ReadingFixtures;

@@ -12,15 +12,15 @@
 #include "support/ModalScript.h"
 #include "StarterPictures.h"
 #include "StarterSource.h"
-#include "packages/PackageSummary.h"
-#include "packages/frmInstallPackage.h"
-#include "platform/CommonDialog.h"
-#include "platform/FileLists.h"
-#include "platform/Picture.h"
+#include "screens/packages/PackageSummary.h"
+#include "screens/packages/frmInstallPackage.h"
+#include "screens/platform/CommonDialog.h"
+#include "screens/platform/FileLists.h"
+#include "core/platform/Picture.h"
 #include "readings/ReadingFixtures.h"
-#include "platform/ListBox.h"
-#include "shell/ClickLabel.h"
-#include "spreads/frmDeckChooser.h"
+#include "screens/platform/ListBox.h"
+#include "screens/shell/ClickLabel.h"
+#include "screens/spreads/frmDeckChooser.h"
 
 using namespace ReadingFixtures;
 

@@ -3,12 +3,12 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include "platform/CommonDialog.h"
-#include "platform/Errors.h"
-#include "platform/FileLists.h"
-#include "platform/FileSys.h"
-#include "platform/ListBox.h"
-#include "platform/MediaPlayer.h"
+#include "screens/platform/CommonDialog.h"
+#include "core/platform/Errors.h"
+#include "screens/platform/FileLists.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/ListBox.h"
+#include "screens/platform/MediaPlayer.h"
 
 class TestControls : public QObject {
     Q_OBJECT

@@ -7,10 +7,10 @@
 #include <QTimer>
 #include <QtTest>
 
-#include "platform/Errors.h"
-#include "platform/Form.h"
-#include "platform/MsgBox.h"
-#include "platform/Twips.h"
+#include "core/platform/Errors.h"
+#include "screens/platform/Form.h"
+#include "screens/platform/MsgBox.h"
+#include "core/platform/Twips.h"
 
 namespace {
 int gLoads = 0;

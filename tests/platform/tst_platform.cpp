@@ -7,14 +7,15 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include "platform/Arrays.h"
-#include "platform/CodePage.h"
-#include "platform/Errors.h"
-#include "platform/FileSys.h"
-#include "platform/MsgBox.h"
-#include "platform/OleDate.h"
-#include "platform/Picture.h"
-#include "platform/Rnd.h"
+#include "core/platform/Arrays.h"
+#include "core/platform/CodePage.h"
+#include "core/platform/Errors.h"
+#include "screens/platform/ErrorReport.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/MsgBox.h"
+#include "core/platform/OleDate.h"
+#include "core/platform/Picture.h"
+#include "core/platform/Rnd.h"
 #include "support/Prompts.h"
 
 class TestPlatform : public QObject {

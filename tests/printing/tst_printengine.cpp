@@ -4,10 +4,10 @@
 #include <QImage>
 #include <QtTest>
 
-#include "platform/MsgBox.h"
-#include "platform/OleDate.h"
-#include "platform/RecordingPrinter.h"
-#include "printing/mdlPrinting.h"
+#include "screens/platform/MsgBox.h"
+#include "core/platform/OleDate.h"
+#include "support/RecordingPrinter.h"
+#include "screens/printing/PrintLayout.h"
 #include "support/Prompts.h"
 
 namespace {

@@ -10,17 +10,17 @@
 #include <QStandardPaths>
 #include <QtTest>
 
-#include "platform/OleDate.h"
-#include "platform/Picture.h"
-#include "platform/RecordingPrinter.h"
-#include "printing/PrintEntry.h"
-#include "printing/frmPrintingReading.h"
-#include "printing/mdlPrinting.h"
+#include "core/platform/OleDate.h"
+#include "core/platform/Picture.h"
+#include "support/RecordingPrinter.h"
+#include "screens/printing/PrintEntry.h"
+#include "screens/printing/frmPrintingReading.h"
+#include "screens/printing/PrintLayout.h"
 #include "diary/DiaryFixtures.h"
 #include "readings/ReadingFixtures.h"
-#include "shell/ClickLabel.h"
-#include "shell/ImageBox.h"
-#include "store/Startup.h"
+#include "screens/shell/ClickLabel.h"
+#include "screens/shell/ImageBox.h"
+#include "screens/store/Startup.h"
 
 using namespace ReadingFixtures;
 

@@ -2,27 +2,27 @@
 // What the reading tests share: a program directory with a deck and a spread,
 // the way through the main screen's Readings buttons, and the save screens.
 #include <QCheckBox>
-#include "platform/ListBox.h"
+#include "screens/platform/ListBox.h"
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <functional>
 #include <memory>
 #include <type_traits>
 
-#include "platform/MediaPlayer.h"
-#include "platform/Palette.h"
-#include "platform/MsgBox.h"
-#include "platform/Rnd.h"
-#include "readings/frmNewReading.h"
-#include "readings/frmOpenReading.h"
-#include "readings/frmReadingCards.h"
-#include "readings/frmSelectSpread.h"
-#include "shell/MDIMainForm.h"
-#include "shell/frmMainScreen.h"
-#include "platform/FileSys.h"
-#include "store/RecordFile.h"
-#include "store/mdlSubRoutines.h"
-#include "store/mdlVariables.h"
+#include "screens/platform/MediaPlayer.h"
+#include "core/platform/Palette.h"
+#include "screens/platform/MsgBox.h"
+#include "core/platform/Rnd.h"
+#include "screens/readings/frmNewReading.h"
+#include "screens/readings/frmOpenReading.h"
+#include "screens/readings/frmReadingCards.h"
+#include "screens/readings/frmSelectSpread.h"
+#include "screens/shell/MDIMainForm.h"
+#include "screens/shell/frmMainScreen.h"
+#include "core/platform/FileSys.h"
+#include "core/records/RecordFile.h"
+#include "core/store/StoreOperations.h"
+#include "core/store/RunState.h"
 #include "support/Fixtures.h"
 #include "support/ModalScript.h"
 #include "support/Prompts.h"

@@ -4,13 +4,13 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
-#include "platform/ListBox.h"
+#include "screens/platform/ListBox.h"
 #include <QtTest>
 
-#include "diary/frmSaveDiary.h"
-#include "platform/FileSys.h"
-#include "readings/frmReadingNotes.h"
-#include "readings/frmSaveReading.h"
+#include "screens/diary/frmSaveDiary.h"
+#include "core/platform/FileSys.h"
+#include "screens/readings/frmReadingNotes.h"
+#include "screens/readings/frmSaveReading.h"
 #include "support/BadInput.h"
 #include "ReadingFixtures.h"
 

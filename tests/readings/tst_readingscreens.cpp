@@ -2,19 +2,19 @@
 // a reversed card, write notes, save, close, reopen; a half-dealt reading that
 // goes on where it stopped; the buttons through the life of the table.
 #include <QLineEdit>
-#include "platform/ListBox.h"
+#include "screens/platform/ListBox.h"
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QtTest>
 
-#include "platform/OleDate.h"
-#include "platform/Palette.h"
-#include "readings/frmReadingInterpretLocation.h"
-#include "readings/frmReadingNotes.h"
-#include "readings/frmSaveReading.h"
-#include "platform/FileSys.h"
-#include "shell/ClickLabel.h"
-#include "shell/ImageBox.h"
+#include "core/platform/OleDate.h"
+#include "core/platform/Palette.h"
+#include "screens/readings/frmReadingInterpretLocation.h"
+#include "screens/readings/frmReadingNotes.h"
+#include "screens/readings/frmSaveReading.h"
+#include "core/platform/FileSys.h"
+#include "screens/shell/ClickLabel.h"
+#include "screens/shell/ImageBox.h"
 #include "ReadingFixtures.h"
 
 using namespace ReadingFixtures;

@@ -5,9 +5,9 @@
 #include <QLineEdit>
 #include <QtTest>
 
-#include "platform/FileSys.h"
-#include "readings/frmSaveReading.h"
-#include "store/frmGetPassword.h"
+#include "core/platform/FileSys.h"
+#include "screens/readings/frmSaveReading.h"
+#include "screens/store/frmGetPassword.h"
 #include "ReadingFixtures.h"
 
 using namespace ReadingFixtures;

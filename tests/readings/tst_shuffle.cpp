@@ -4,7 +4,7 @@
 // and when its table goes).
 #include <QtTest>
 
-#include "shell/ClickLabel.h"
+#include "screens/shell/ClickLabel.h"
 #include "ReadingFixtures.h"
 
 using namespace ReadingFixtures;

@@ -16,11 +16,11 @@
 #include <QTextImageFormat>
 #include <QtTest>
 
-#include "platform/FileSys.h"
-#include "platform/MsgBox.h"
-#include "shell/frmHelpViewer.h"
-#include "shell/frmMainScreen.h"
-#include "store/Startup.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/shell/frmHelpViewer.h"
+#include "screens/shell/frmMainScreen.h"
+#include "screens/store/Startup.h"
 #include "support/Fixtures.h"
 
 namespace {

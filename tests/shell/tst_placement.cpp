@@ -6,15 +6,15 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include "platform/Form.h"
-#include "platform/MsgBox.h"
-#include "platform/Picture.h"
-#include "platform/Twips.h"
-#include "shell/FitPicture.h"
-#include "shell/ImageBox.h"
-#include "shell/mdlFORM.h"
-#include "store/Startup.h"
-#include "store/mdlVariables.h"
+#include "screens/platform/Form.h"
+#include "screens/platform/MsgBox.h"
+#include "core/platform/Picture.h"
+#include "core/platform/Twips.h"
+#include "screens/shell/FitPicture.h"
+#include "screens/shell/ImageBox.h"
+#include "screens/shell/ScreenPlacement.h"
+#include "screens/store/Startup.h"
+#include "core/store/RunState.h"
 #include "support/Fixtures.h"
 #include "support/Prompts.h"
 

@@ -8,16 +8,16 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include "packages/frmInstallPackage.h"
-#include "platform/FileLists.h"
-#include "platform/MsgBox.h"
-#include "platform/ProgramLock.h"
-#include "platform/UserFolders.h"
-#include "shell/MDIMainForm.h"
-#include "shell/ProgramFolder.h"
-#include "shell/frmMainScreen.h"
-#include "store/Startup.h"
-#include "store/mdlVariables.h"
+#include "screens/packages/frmInstallPackage.h"
+#include "screens/platform/FileLists.h"
+#include "screens/platform/MsgBox.h"
+#include "core/platform/ProgramLock.h"
+#include "core/platform/UserFolders.h"
+#include "screens/shell/MDIMainForm.h"
+#include "screens/shell/ProgramFolder.h"
+#include "screens/shell/frmMainScreen.h"
+#include "screens/store/Startup.h"
+#include "core/store/RunState.h"
 
 namespace {
 

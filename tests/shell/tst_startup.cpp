@@ -10,14 +10,14 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "platform/FileSys.h"
-#include "platform/MsgBox.h"
-#include "platform/Picture.h"
-#include "platform/ProgramLock.h"
-#include "shell/frmMainScreen.h"
-#include "store/Startup.h"
-#include "store/mdlTypes.h"
-#include "store/mdlVariables.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/MsgBox.h"
+#include "core/platform/Picture.h"
+#include "core/platform/ProgramLock.h"
+#include "screens/shell/frmMainScreen.h"
+#include "screens/store/Startup.h"
+#include "core/records/Records.h"
+#include "core/store/RunState.h"
 #include "support/Prompts.h"
 
 namespace {

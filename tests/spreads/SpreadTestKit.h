@@ -5,8 +5,8 @@
 #include <QApplication>
 #include <QMouseEvent>
 
-#include "platform/FileSys.h"
-#include "platform/Twips.h"
+#include "core/platform/FileSys.h"
+#include "core/platform/Twips.h"
 #include "support/ModalScript.h"
 
 namespace SpreadTestKit {

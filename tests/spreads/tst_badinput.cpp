@@ -6,14 +6,14 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include "platform/MsgBox.h"
-#include "spreads/TextBoxes.h"
-#include "spreads/frmDesignSpread.h"
-#include "spreads/frmGetSpreadBackground.h"
-#include "spreads/frmSaveSpread.h"
-#include "spreads/frmSpreads.h"
-#include "store/RecordFile.h"
-#include "store/mdlSubRoutines.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/spreads/TextBoxes.h"
+#include "screens/spreads/frmDesignSpread.h"
+#include "screens/spreads/frmGetSpreadBackground.h"
+#include "screens/spreads/frmSaveSpread.h"
+#include "screens/spreads/frmSpreads.h"
+#include "core/records/RecordFile.h"
+#include "core/store/StoreOperations.h"
 #include "support/BadInput.h"
 #include "support/Fixtures.h"
 #include "SpreadTestKit.h"

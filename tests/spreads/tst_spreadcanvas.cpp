@@ -6,14 +6,14 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include "platform/MsgBox.h"
-#include "shell/ImageBox.h"
-#include "spreads/SpreadCanvas.h"
-#include "spreads/TextBoxes.h"
-#include "spreads/frmDesignSpread.h"
-#include "spreads/frmLocationAttributes.h"
-#include "spreads/frmSpreads.h"
-#include "store/mdlSubRoutines.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/shell/ImageBox.h"
+#include "screens/spreads/SpreadCanvas.h"
+#include "screens/spreads/TextBoxes.h"
+#include "screens/spreads/frmDesignSpread.h"
+#include "screens/spreads/frmLocationAttributes.h"
+#include "screens/spreads/frmSpreads.h"
+#include "core/store/StoreOperations.h"
 #include "support/Fixtures.h"
 #include "SpreadTestKit.h"
 

@@ -12,10 +12,10 @@
 #include <cstring>
 #include <functional>
 
-#include "platform/FileSys.h"
-#include "platform/MsgBox.h"
-#include "store/frmConvert.h"
-#include "store/mdlVariables.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/store/frmConvert.h"
+#include "core/store/RunState.h"
 #include "support/Fixtures.h"
 #include "support/ModalScript.h"
 

@@ -3,10 +3,11 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include "platform/FileSys.h"
-#include "platform/MsgBox.h"
-#include "store/RecordFile.h"
-#include "store/mdlSubRoutines.h"
+#include "screens/decks/DeckLoadQuestion.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/MsgBox.h"
+#include "core/records/RecordFile.h"
+#include "core/store/StoreOperations.h"
 #include "support/Fixtures.h"
 #include "support/Prompts.h"
 

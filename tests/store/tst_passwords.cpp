@@ -4,12 +4,12 @@
 #include <QPushButton>
 #include <QtTest>
 
-#include "platform/MsgBox.h"
-#include "store/Passwords.h"
-#include "store/frmDesignExists.h"
-#include "store/frmGetPassword.h"
-#include "store/frmSetPassword.h"
-#include "store/mdlVariables.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/store/PasswordPrompts.h"
+#include "screens/store/frmDesignExists.h"
+#include "screens/store/frmGetPassword.h"
+#include "screens/store/frmSetPassword.h"
+#include "core/store/RunState.h"
 #include "support/ModalScript.h"
 #include "support/Prompts.h"
 

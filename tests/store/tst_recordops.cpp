@@ -5,9 +5,9 @@
 #include <QtTest>
 #include <cstring>
 
-#include "platform/FileSys.h"
-#include "store/RecordFile.h"
-#include "store/mdlSubRoutines.h"
+#include "core/platform/FileSys.h"
+#include "core/records/RecordFile.h"
+#include "core/store/StoreOperations.h"
 #include "support/Fixtures.h"
 
 namespace {

@@ -5,8 +5,8 @@
 #include <QtTest>
 #include <cstring>
 
-#include "platform/FileSys.h"
-#include "store/RecordFile.h"
+#include "core/platform/FileSys.h"
+#include "core/records/RecordFile.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <QPlainTextEdit>
 #include <QtTest>
 
-#include "platform/CodePage.h"
-#include "spreads/TextBoxes.h"
+#include "core/platform/CodePage.h"
+#include "screens/spreads/TextBoxes.h"
 
 namespace BadInput {
 

@@ -2,14 +2,14 @@
 
 #include <QImage>
 
-#include "platform/FileSys.h"
-#include "platform/OleDate.h"
-#include "platform/Picture.h"
-#include "shell/MDIMainForm.h"
-#include "store/RecordFile.h"
-#include "store/Startup.h"
-#include "store/mdlSubRoutines.h"
-#include "store/mdlVariables.h"
+#include "core/platform/FileSys.h"
+#include "core/platform/OleDate.h"
+#include "core/platform/Picture.h"
+#include "screens/shell/MDIMainForm.h"
+#include "core/records/RecordFile.h"
+#include "screens/store/Startup.h"
+#include "core/store/StoreOperations.h"
+#include "core/store/RunState.h"
 
 namespace Fixtures {
 

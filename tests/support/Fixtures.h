@@ -7,7 +7,7 @@
 #include <QList>
 #include <QString>
 
-#include "store/mdlTypes.h"
+#include "core/records/Records.h"
 
 namespace Fixtures {
 

@@ -4,8 +4,8 @@
 // Offered, and any other question is left unanswered.
 #include <QStringList>
 
-#include "packages/PackageInstallation.h"
-#include "store/mdlVariables.h"
+#include "core/packages/PackageInstallation.h"
+#include "core/store/RunState.h"
 
 struct InstallAnswers : InstallationQuestions {
     QStringList Chosen;

@@ -9,7 +9,7 @@
 #include <functional>
 #include <vector>
 
-#include "platform/Form.h"
+#include "screens/platform/Form.h"
 
 class ModalScript {
 public:

@@ -3,7 +3,7 @@
 // in order.
 #include <QStringList>
 
-#include "platform/MsgBox.h"
+#include "screens/platform/MsgBox.h"
 
 inline QStringList Prompts() {
     QStringList prompts;

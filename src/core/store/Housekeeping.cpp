@@ -1,0 +1,83 @@
+// The program folder's housekeeping: the path table, the record files and
+// folders made when missing, what a killed process left half-written, the
+// default card picture, and the emptying of Temp/.
+#include "core/store/Housekeeping.h"
+
+#include "core/platform/BinaryFile.h"
+#include "core/platform/FileSys.h"
+#include "core/platform/Picture.h"
+#include "core/store/DesignCommit.h"
+#include "core/store/RunState.h"
+#include "core/store/StoreOperations.h"
+
+namespace {
+
+// A record file that cannot be opened for reading is taken as missing and
+// made empty; if even that fails, the error stops the start-up.
+void MakeRecordFileIfMissing(const QString& path) {
+    if (!FileExists(path)) WriteWholeFile(path, QByteArray());
+}
+
+// A process that died while replacing a record file leaves the new file it
+// was building beside the real one, which stayed whole. Nothing reads it.
+// A design save that died after writing down its plan is finished first,
+// as the plan says, from the files it had prepared.
+void RemoveUnfinishedWrites() {
+    FinishUnfinishedCommit();
+    for (const QString* path : {&ReadingsPath, &DiaryPath, &SpreadsPath, &LocationsPath, &DecksPath, &CardsPath})
+        KillIgnoringErrors(NewFileBeside(*path));
+    RemoveUnfinishedRewrites();
+    RemoveUnfinishedCopies(CardsDir);
+}
+
+}  // namespace
+
+void FormPaths(const QString& programDir) {
+    AppPath = WithSlash(programDir);
+    SettingsPath = AppPath + QStringLiteral("Settings.dat");
+    SpreadsPath = AppPath + QStringLiteral("Spreads.spr");
+    LocationsPath = AppPath + QStringLiteral("Location.loc");
+    DecksPath = AppPath + QStringLiteral("Decks.dck");
+    CardsDir = AppPath + QStringLiteral("Cards/");
+    PackagesDir = AppPath + QStringLiteral("Packages/");
+    AttachmentsDir = PackagesDir + QStringLiteral("Attachments/");
+    CardsPath = AppPath + QStringLiteral("Cards.crd");
+    ReadingsPath = AppPath + QStringLiteral("Readings.red");
+    DiaryPath = AppPath + QStringLiteral("Diary.dry");
+    DefaultPicturePath = CardsDir + DefaultPictureName;
+    // Formed before TempDir has its value, so it holds the bare file name.
+    // Nothing reads it.
+    TempFilePath = QStringLiteral("temp.tmp");
+    TempDir = AppPath + QStringLiteral("Temp/");
+    TempCardsPath = TempDir + QStringLiteral("Cards.crd");
+}
+
+void ClearTemp() {
+    // Without a formed TempDir the pattern would reach the working folder.
+    if (TempDir.isEmpty()) return;
+    KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
+}
+
+void InitDatabase() {
+    MkDirIgnoringErrors(TempDir);
+    ClearTemp();
+    // The attachment folder lives inside Packages/, which is made only
+    // below: on the very first start this fails quietly and the folder comes
+    // at the next start.
+    MkDirIgnoringErrors(AttachmentsDir);
+    // Location.loc is left out on purpose: its absence is what marks a
+    // database of the old format.
+    for (const QString* path : {&ReadingsPath, &DiaryPath, &SpreadsPath, &DecksPath, &CardsPath})
+        MakeRecordFileIfMissing(*path);
+    RemoveUnfinishedWrites();
+    MkDirIgnoringErrors(CardsDir);
+    MkDirIgnoringErrors(PackagesDir);
+    SavePictureAsBmp(DefaultCardPicture(), DefaultPicturePath);
+}
+
+QImage DefaultCardPicture() {
+    // The picture sits in the program's static library, whose resources are
+    // registered only when asked for by name.
+    Q_INIT_RESOURCE(cartomar);
+    return QImage(QStringLiteral(":/cartomar/C000000.bmp"));
+}

@@ -1,5 +1,0 @@
-#include "decks/frmDeckCommentsInfo.h"
-
-frmDeckCommentsInfo::frmDeckCommentsInfo() : DeckNotesPanel(false) {
-    setObjectName(QStringLiteral("frmDeckCommentsInfo"));
-}

@@ -1,9 +1,0 @@
-#pragma once
-// The deck's notes for the viewer, read-only.
-#include "decks/DeckNotesPanel.h"
-
-class frmDeckCommentsInfo : public DeckNotesPanel {
-    Q_OBJECT
-public:
-    frmDeckCommentsInfo();
-};

@@ -1,0 +1,110 @@
+#include "screens/decks/CardScreen.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "screens/decks/mdlDeckDesign.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/MediaPlayer.h"
+#include "screens/shell/FitPicture.h"
+#include "screens/shell/ImageBox.h"
+#include "screens/shell/ScreenPlacement.h"
+#include "core/store/StoreOperations.h"
+
+CardScreen::CardScreen(const QString& captionStem, bool editing) : captionStem_(captionStem) {
+    resize(TwipsToPixels(9600), TwipsToPixels(6840));
+
+    MakeLabel(this, QStringLiteral("Card Title:"), At(240, 285, 1300, 285));
+    txtCardTitle = new QLineEdit(this);
+    txtCardTitle->setObjectName(QStringLiteral("txtCardTitle"));
+    txtCardTitle->setMaxLength(50);
+    txtCardTitle->setReadOnly(!editing);
+    txtCardTitle->setGeometry(At(1560, 240, 4200, 360));
+    MakeLabel(this, QStringLiteral("Card Type:"), At(240, 765, 1300, 285));
+
+    fraPosition = new QGroupBox(QStringLiteral(" Position "), this);
+    fraPosition->setObjectName(QStringLiteral("fraPosition"));
+    fraPosition->setGeometry(At(240, 1740, 5520, 660));
+    optUpright = new QRadioButton(QStringLiteral("&Upright"), fraPosition);
+    optUpright->setObjectName(QStringLiteral("optUpright"));
+    optUpright->setGeometry(At(240, 270, 2000, 300));
+    optUpright->setChecked(true);
+    optReversed = new QRadioButton(QStringLiteral("&Reversed"), fraPosition);
+    optReversed->setObjectName(QStringLiteral("optReversed"));
+    optReversed->setGeometry(At(2760, 270, 2000, 300));
+
+    auto textBox = [this, editing](const char* name, const QString& caption, int top, int height) {
+        MakeLabel(this, caption, At(240, top, 2000, 285));
+        auto* box = new QPlainTextEdit(this);
+        box->setObjectName(QLatin1String(name));
+        box->setReadOnly(!editing);
+        box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        box->setGeometry(At(240, top + 300, 5520, height));
+        return box;
+    };
+    txtDescription = textBox("txtDescription", QStringLiteral("Description:"), 2520, 1980);
+    txtKeywords = textBox("txtKeywords", QStringLiteral("Keywords:"), 4860, 1080);
+
+    imgCard = new ImageBox(this);
+    imgCard->setObjectName(QStringLiteral("imgCard"));
+    imgCard->Move(6000, 240, 3360, 4680);
+    MediaPlayer1 = new MediaPlayer(this);
+    MediaPlayer1->setObjectName(QStringLiteral("MediaPlayer1"));
+    MediaPlayer1->setGeometry(At(6000, 5040, 3360, 480));
+
+    cmdBack = MakeButton(this, "cmdBack", QStringLiteral("&Close"), At(7860, 6240, 1500, 420));
+
+    connect(optUpright, &QRadioButton::clicked, this, Handler([this] { optPosition_Click(); }));
+    connect(optReversed, &QRadioButton::clicked, this, Handler([this] { optPosition_Click(); }));
+}
+
+int CardScreen::CheckedSide() const { return optUpright->isChecked() ? 0 : 1; }
+
+void CardScreen::OpenCard() {
+    IMGTop = imgCard->Top();
+    IMGLeft = imgCard->Left();
+    IMGHeight = imgCard->Height();
+    IMGWidth = imgCard->Width();
+    UprightPictureFile = CurrentCard.CardPicture[0].Value();
+    if (CurrentDeck.IncludesReversed) ReversedPictureFile = CurrentCard.CardPicture[1].Value();
+    else CurrentCard.CardPicture[1] = DefaultPictureName;
+    UpdateSound();
+}
+
+void CardScreen::FillFields() {
+    const QString title = CurrentCard.CardTitle.Trimmed();
+    setCaption(title.isEmpty() ? captionStem_ : captionStem_ + QStringLiteral(" - ") + title);
+    txtCardTitle->setText(title);
+    ShowCardType();
+    optReversed->setEnabled(CurrentDeck.IncludesReversed != 0);
+    FillSide();
+}
+
+void CardScreen::FillSide() {
+    const auto side = static_cast<std::size_t>(CheckedSide());
+    txtDescription->setPlainText(CurrentCard.CardDescription[side].Trimmed());
+    txtKeywords->setPlainText(CurrentCard.CardKeywords[side].Trimmed());
+    UpdatePictures();
+}
+
+void CardScreen::UpdatePictures() {
+    imgCard->ClearPicture();
+    imgCard->Move(IMGLeft, IMGTop, IMGWidth, IMGHeight);
+    const QString& file = CheckedSide() == 0 ? UprightPictureFile : ReversedPictureFile;
+    FitPicture(*imgCard, TempDir + file, true, false);
+}
+
+void CardScreen::UpdateSound() {
+    MediaPlayer1->Stop();
+    const auto& sound = CurrentCard.CardSound[static_cast<std::size_t>(CheckedSide())];
+    MediaPlayer1->Open(sound.IsBlank() ? QString() : NativePath(TempDir + sound.Value()), false);
+}
+
+void CardScreen::optPosition_Click() {
+    UpdateSound();
+    FillSide();
+}

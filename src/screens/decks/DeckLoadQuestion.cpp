@@ -1,0 +1,18 @@
+#include "screens/decks/DeckLoadQuestion.h"
+
+#include "core/store/RunState.h"
+#include "core/store/StoreOperations.h"
+#include "screens/platform/MsgBox.h"
+
+bool LoadDeck(bool& DeckRemoved) {
+    DeckRemoved = false;
+    if (LoadDeckCards()) return true;
+    const int answer = MsgBox(QStringLiteral("This deck is missing some pictures. Cannot continue loading.\n"
+                                             "Do you want to remove it?"),
+                              vbYesNo | vbCritical);
+    if (answer == vbYes) {
+        DeleteDeck(FindDeckByName(ListDeck.DeckName.Value()));
+        DeckRemoved = true;
+    }
+    return false;
+}

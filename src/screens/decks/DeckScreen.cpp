@@ -1,0 +1,111 @@
+#include "screens/decks/DeckScreen.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "screens/decks/frmDecks.h"
+#include "screens/decks/mdlDeckDesign.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/ListBox.h"
+#include "screens/shell/ScreenPlacement.h"
+#include "core/records/RecordFile.h"
+#include "core/store/StoreOperations.h"
+
+DeckScreen::DeckScreen(const QString& captionStem, bool designing) : captionStem_(captionStem) {
+    resize(TwipsToPixels(9120), TwipsToPixels(6240));
+
+    auto box = [this, designing](const char* name, const QString& caption, int top, int limit) {
+        MakeLabel(this, caption, At(240, top + 45, 1500, 285));
+        auto* edit = new QLineEdit(this);
+        edit->setObjectName(QLatin1String(name));
+        edit->setMaxLength(limit);
+        edit->setReadOnly(!designing);
+        edit->setGeometry(At(1800, top, 3600, 360));
+        return edit;
+    };
+    txtDeckTitle = box("txtDeckTitle", QStringLiteral("Deck Title:"), 240, 50);
+    txtDeckDesigner = box("txtDeckDesigner", QStringLiteral("Designer:"), 720, 40);
+    txtDesignerEmail = box("txtDesignerEmail", QStringLiteral("E-mail:"), 1200, 40);
+    txtDesignerWebPage = box("txtDesignerWebPage", QStringLiteral("Web Page:"), 1680, 50);
+    MakeLabel(this, QStringLiteral("Modified On:"), At(240, 2205, 1500, 285));
+    lblModifiedOnDate = MakeLabel(this, QString(), At(1800, 2205, 3600, 285), "lblModifiedOnDate");
+    MakeLabel(this, QStringLiteral("Description:"), At(240, 2640, 1500, 285));
+    txtDeckDescription = new QPlainTextEdit(this);
+    txtDeckDescription->setObjectName(QStringLiteral("txtDeckDescription"));
+    txtDeckDescription->setReadOnly(!designing);
+    txtDeckDescription->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    txtDeckDescription->setGeometry(At(240, 2940, 5160, 2400));
+
+    MakeLabel(this, QStringLiteral("Cards:"), At(5640, 240, 3240, 285));
+    lstCards = new ListBox(this);
+    lstCards->setObjectName(QStringLiteral("lstCards"));
+    lstCards->setSorted(true);
+    lstCards->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    lstCards->setGeometry(At(5640, 540, 3240, 3960));
+
+    cmdEditCard = MakeButton(this, "cmdEditCard", designing ? QStringLiteral("&Edit") : QStringLiteral("&View"),
+                             At(designing ? 6720 : 5640, 4620, 1020, 420));
+    cmdProperties = MakeButton(this, "cmdProperties", QStringLiteral("&Properties"), At(240, 5580, 1500, 420));
+    cmdComments = MakeButton(this, "cmdComments", QStringLiteral("No&tes"), At(1920, 5580, 1500, 420));
+    cmdBack = MakeButton(this, "cmdBack", QStringLiteral("&Close"), At(7380, 5580, 1500, 420));
+
+    connect(lstCards, &ListBox::Click, this, Handler([this] { UpdateCardButtons(); }));
+}
+
+void DeckScreen::UpdateCardButtons() { cmdEditCard->setEnabled(lstCards->ListIndex() >= 0); }
+
+void DeckScreen::OpenDeck(bool existingDeck, bool skipDefaultReversed) {
+    if (IsLoaded<frmDecks>()) OldDesignName = Get<frmDecks>().lstDecks->Text();
+    CentreInFrame(*this);
+    KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
+    if (existingDeck) CopyDeckIn(skipDefaultReversed);
+    FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
+    FillDeckFields();
+    RefreshCardList();
+}
+
+void DeckScreen::CopyDeckIn(bool skipDefaultReversed) {
+    RecordReader<CardRecord> reader(CardsPath);
+    CardRecord card;
+    int seen = 0;
+    while (seen < CurrentDeck.CardCount && reader.Next(card)) {
+        if (card.CardDeckId != CurrentDeck.DeckId) continue;
+        ++seen;
+        FileCopy(CardsDir + card.CardPicture[0].Value(), TempDir + card.CardPicture[0].Value());
+        if (!skipDefaultReversed || card.CardPicture[1].Value() != DefaultPictureName)
+            FileCopy(CardsDir + card.CardPicture[1].Value(), TempDir + card.CardPicture[1].Value());
+        for (const auto& sound : card.CardSound)
+            if (!sound.IsBlank()) FileCopy(CardsDir + sound.Value(), TempDir + sound.Value());
+    }
+}
+
+void DeckScreen::FillDeckFields() {
+    const QString name = CurrentDeck.DeckName.Trimmed();
+    setCaption(name.isEmpty() ? captionStem_ : captionStem_ + QStringLiteral(" - ") + name);
+    txtDeckTitle->setText(CurrentDeck.DeckTitle.Trimmed());
+    txtDeckDesigner->setText(CurrentDeck.DeckDesigner.DesignerName.Trimmed());
+    txtDesignerEmail->setText(CurrentDeck.DeckDesigner.DesignerEmail.Trimmed());
+    txtDesignerWebPage->setText(CurrentDeck.DeckDesigner.DesignerWebPage.Trimmed());
+    txtDeckDescription->setPlainText(CurrentDeck.DeckDescription.Trimmed());
+    lblModifiedOnDate->setText(FormatLongDate(CurrentDeck.ModifiedOn));
+}
+
+void DeckScreen::RefreshCardList() {
+    lstCards->Clear();
+    for (const CardRecord& card : CurrentDeck.DeckCards) lstCards->AddItem(card.CardTitle.Value());
+    UpdateCardButtons();
+}
+
+int DeckScreen::SelectedCardPosition() const {
+    if (lstCards->ListIndex() < 0) return 0;
+    const QString title = TrimField(lstCards->Text());
+    for (int i = 1; i <= CurrentDeck.DeckCards.UBound(); ++i)
+        if (CurrentDeck.DeckCards(i).CardTitle.Trimmed() == title) return i;
+    return 0;
+}
+
+void DeckScreen::Form_Unload(bool&) {
+    if (IsLoaded<frmDecks>()) Get<frmDecks>().SelectDeck(OldDesignName);
+}

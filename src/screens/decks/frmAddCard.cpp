@@ -1,0 +1,252 @@
+#include "screens/decks/frmAddCard.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "screens/decks/frmDesignDeck.h"
+#include "screens/decks/frmGetImageFile.h"
+#include "screens/decks/frmGetSoundFile.h"
+#include "screens/decks/mdlDeckDesign.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/ListBox.h"
+#include "screens/platform/MediaPlayer.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/shell/ImageBox.h"
+#include "screens/shell/ScreenPlacement.h"
+#include "screens/store/Startup.h"
+#include "core/store/StoreOperations.h"
+
+frmAddCard::frmAddCard() : CardScreen(QStringLiteral("Add Card"), true) {
+    setObjectName(QStringLiteral("frmAddCard"));
+    lstCardType = new ListBox(this);
+    lstCardType->setObjectName(QStringLiteral("lstCardType"));
+    lstCardType->setGeometry(At(1560, 720, 4200, 900));
+    imgCard->setToolTip(QStringLiteral("Click Here to Edit the Image"));
+    cmdEditImage = MakeButton(this, "cmdEditImage", QStringLiteral("Edit &Image"), At(6000, 5640, 1620, 420));
+    cmdGetSound = MakeButton(this, "cmdGetSound", QStringLiteral("Edit &Sound"), At(7740, 5640, 1620, 420));
+    cmdSaveClose = MakeButton(this, "cmdSaveClose", QStringLiteral("&Save-Close"), At(4260, 6240, 1500, 420));
+    cmdSaveNew = MakeButton(this, "cmdSaveNew", QStringLiteral("Save-&New"), At(6000, 6240, 1620, 420));
+
+    connect(txtCardTitle, &QLineEdit::textChanged, this, Handler([this] { txtCardTitle_Change(); }));
+    connect(txtDescription, &QPlainTextEdit::textChanged, this, Handler([this] { txtDescription_Change(); }));
+    connect(txtKeywords, &QPlainTextEdit::textChanged, this, Handler([this] { txtKeywords_Change(); }));
+    connect(lstCardType, &ListBox::Click, this, Handler([this] { lstCardType_Click(); }));
+    connect(imgCard, &ImageBox::Click, this, Handler([this] { imgCard_Click(); }));
+    connect(cmdEditImage, &QPushButton::clicked, this, Handler([this] { cmdEditImage_Click(); }));
+    connect(cmdGetSound, &QPushButton::clicked, this, Handler([this] { cmdGetSound_Click(); }));
+    connect(cmdSaveClose, &QPushButton::clicked, this, Handler([this] { cmdSaveClose_Click(); }));
+    connect(cmdSaveNew, &QPushButton::clicked, this, Handler([this] { cmdSaveNew_Click(); }));
+    connect(cmdBack, &QPushButton::clicked, this, Handler([this] { cmdBack_Click(); }));
+    setWayOut([this] { cmdBack_Click(); });
+}
+
+void frmAddCard::Form_Load() {
+    AddTolstCards = true;
+    SaveSuccessful = true;
+    OpenCard();
+    for (int i = 0; i < 4; ++i)
+        if (CurrentDeck.CardTypeUsed[static_cast<std::size_t>(i)])
+            lstCardType->AddItem(CurrentDeck.CardTypeName[static_cast<std::size_t>(i)].Trimmed(), i);
+    CentreInFrame(*this);
+    Loading = true;
+    FillFields();
+    DesignModified = false;
+    CardTitle = CurrentCard.CardTitle.Trimmed();
+    CardPositionBeingEdited = getCardPositionInTempDeckCards();
+    Loading = false;
+}
+
+// The card's place in DeckCards by its title as stored, all 50 characters.
+int frmAddCard::getCardPositionInTempDeckCards() const {
+    for (int i = 1; i <= CurrentDeck.DeckCards.UBound(); ++i)
+        if (CurrentDeck.DeckCards(i).CardTitle == CurrentCard.CardTitle) return i;
+    return 0;
+}
+
+// Showing the card's type is no change to the card.
+void frmAddCard::ShowCardType() {
+    const QSignalBlocker quiet(lstCardType);
+    int line = -1;
+    for (int row = 0; row < lstCardType->ListCount() && line < 0; ++row)
+        if (lstCardType->ItemData(row) == CurrentCard.CardType) line = row;
+    lstCardType->setListIndex(line);
+}
+
+void frmAddCard::optPosition_Click() {
+    // Showing the other side is no change to the card.
+    const bool modified = DesignModified;
+    CardScreen::optPosition_Click();
+    DesignModified = modified;
+}
+
+void frmAddCard::txtCardTitle_Change() {
+    CurrentCard.CardTitle = TrimField(txtCardTitle->text());
+    DesignModified = true;
+}
+
+void frmAddCard::txtDescription_Change() {
+    ClipText(txtDescription, 1500);
+    CurrentCard.CardDescription[static_cast<std::size_t>(CheckedSide())] = TrimField(txtDescription->toPlainText());
+    DesignModified = true;
+}
+
+void frmAddCard::txtKeywords_Change() {
+    ClipText(txtKeywords, 1000);
+    CurrentCard.CardKeywords[static_cast<std::size_t>(CheckedSide())] = TrimField(txtKeywords->toPlainText());
+    DesignModified = true;
+}
+
+void frmAddCard::lstCardType_Click() {
+    if (lstCardType->ListIndex() < 0) return;
+    CurrentCard.CardType = static_cast<Integer>(CardTypeIndex(lstCardType->Text()));
+    DesignModified = true;
+}
+
+void frmAddCard::imgCard_Click() { cmdEditImage_Click(); }
+
+void frmAddCard::cmdEditImage_Click() {
+    Get<frmGetImageFile>().ShowFor(optUpright->isChecked() ? 1 : 2);
+}
+
+void frmAddCard::cmdGetSound_Click() {
+    MediaPlayer1->Close();
+    Get<frmGetSoundFile>().ShowFor(optUpright->isChecked() ? 1 : 2);
+    UpdateSound();
+}
+
+void frmAddCard::TakeWorkingSound(int side, const QString& workingName) {
+    CurrentCard.CardSound[static_cast<std::size_t>(side)] = workingName;
+    DesignModified = true;
+}
+
+namespace {
+
+// Gives a working file its final name in Temp/. A copy that fails leaves the
+// card with a name that no file answers to; the store goes on regardless.
+void RenameWorkingFile(const QString& workingName, const QString& finalName, bool keepWorkingFile = false) {
+    try {
+        FileCopy(TempDir + workingName, TempDir + finalName);
+    } catch (const RuntimeError&) {
+    }
+    if (!keepWorkingFile) KillIgnoringErrors(TempDir + workingName);
+}
+
+}  // namespace
+
+void frmAddCard::StoreCard() {
+    if (CurrentCard.CardTitle.IsBlank()) {
+        MsgBox(QStringLiteral("Please enter a title for this card."), vbInformation);
+        SaveSuccessful = false;
+        return;
+    }
+    if (DesignMode == 1) {
+        const QString title = CurrentCard.CardTitle.Trimmed();
+        for (const CardRecord& card : CurrentDeck.DeckCards) {
+            if (card.CardTitle.Trimmed() == title) {
+                MsgBox(QStringLiteral("You already have a card with the same title. Please change the title."),
+                       vbInformation);
+                SaveSuccessful = false;
+                return;
+            }
+        }
+    }
+    CurrentCard.CardReserved = 0;
+    if (DesignMode == 1) AddTolstCards = true;
+    else if (DesignMode == 0) AddTolstCards = false;
+    else {
+        FatalError();
+        return;
+    }
+
+    if (UprightPictureFile.startsWith(UprightPictureStem)) {
+        CurrentCard.CardPicture[0] = CardUprightName(FreeCardNumber(0, {TempDir})) + UprightPictureFile.right(4);
+        RenameWorkingFile(UprightPictureFile, CurrentCard.CardPicture[0].Value());
+    }
+    if (ReversedPictureFile.startsWith(ReversedPictureStem)) {
+        CurrentCard.CardPicture[1] = CardReversedName(FreeCardNumber(1, {TempDir})) + ReversedPictureFile.right(4);
+        RenameWorkingFile(ReversedPictureFile, CurrentCard.CardPicture[1].Value(),
+                          ReversedPictureFile == DefaultPicturePath);
+    }
+    const QString soundFiles[2] = {UprightSoundFile, ReversedSoundFile};
+    const QString soundStems[2] = {UprightSoundStem, ReversedSoundStem};
+    for (std::size_t side = 0; side < 2; ++side) {
+        if (!soundFiles[side].startsWith(soundStems[side])) continue;
+        CurrentCard.CardSound[side] =
+            QStringLiteral("M") + CurrentCard.CardPicture[side].Value().left(7) + soundFiles[side].right(4);
+        MediaPlayer1->Close();
+        RenameWorkingFile(soundFiles[side], CurrentCard.CardSound[side].Value());
+    }
+
+    UpdateThisCartoDeck_frmDesignDeck();
+    DesignModified = false;
+    Get<frmDesignDeck>().DesignModified = true;
+    DesignMode = 0;
+    SaveSuccessful = true;
+    UprightPictureFile.clear();
+    ReversedPictureFile.clear();
+    UprightSoundFile.clear();
+    ReversedSoundFile.clear();
+}
+
+void frmAddCard::UpdateThisCartoDeck_frmDesignDeck() {
+    int position = CardPositionBeingEdited;
+    if (AddTolstCards) {
+        CurrentDeck.CardCount = static_cast<Integer>(CurrentDeck.CardCount + 1);
+        CurrentDeck.DeckCards.RedimPreserve(CurrentDeck.CardCount);
+        position = CurrentDeck.CardCount;
+        CardPositionBeingEdited = position;
+    }
+    CurrentDeck.DeckCards(position) = CurrentCard;
+    Get<frmDesignDeck>().RefreshCardList();
+}
+
+void frmAddCard::cmdSaveClose_Click() {
+    StoreCard();
+    if (SaveSuccessful) cmdBack_Click();
+}
+
+void frmAddCard::cmdSaveNew_Click() {
+    StoreCard();
+    if (!SaveSuccessful) return;
+    cmdBack_Click();
+    if (CloseForm) Get<frmDesignDeck>().cmdAddCard_Click();
+}
+
+void frmAddCard::cmdBack_Click() {
+    if (DesignModified) {
+        const int answer = MsgBox(QStringLiteral("Save changes to the card?"), vbYesNoCancel | vbQuestion);
+        if (answer == vbCancel) {
+            CloseForm = false;
+            return;
+        }
+        if (answer == vbYes) {
+            StoreCard();
+            if (!SaveSuccessful) {
+                CloseForm = false;
+                return;
+            }
+        }
+    }
+    MediaPlayer1->Close();
+    for (const QString& stem : {UprightPictureStem, ReversedPictureStem, UprightSoundStem, ReversedSoundStem})
+        KillIgnoringErrors(TempDir + stem + QStringLiteral(".*"));
+    CloseForm = true;
+    SetScreenPointer(MousePointer::Arrow);
+    Unload();
+}
+
+void frmAddCard::Form_Unload(bool&) {
+    if (!IsLoaded<frmDesignDeck>()) return;
+    frmDesignDeck& designer = Get<frmDesignDeck>();
+    designer.Show();
+    designer.lstCards->setFocus();
+}
+
+void frmAddCard::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) {
+    if (key == Qt::Key_Escape) {
+        handled = true;
+        cmdBack_Click();
+    }
+}

@@ -1,0 +1,53 @@
+#include "screens/decks/frmBrowseDeck.h"
+
+#include <QPushButton>
+
+#include "screens/decks/mdlDeckDesign.h"
+#include "screens/platform/ListBox.h"
+#include "screens/shell/ScreenPlacement.h"
+#include "core/records/RecordFile.h"
+#include "core/store/StoreOperations.h"
+
+frmBrowseDeck::frmBrowseDeck() {
+    setObjectName(QStringLiteral("frmBrowseDeck"));
+    resize(TwipsToPixels(4560), TwipsToPixels(4200));
+    MakeLabel(this, QStringLiteral("Decks:"), At(240, 120, 2400, 255));
+    lstDecks = new ListBox(this);
+    lstDecks->setObjectName(QStringLiteral("lstDecks"));
+    lstDecks->setSorted(true);
+    lstDecks->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    lstDecks->setGeometry(At(240, 420, 4080, 2940));
+    cmdSelect = MakeButton(this, "cmdSelect", QStringLiteral("&Select"), At(1200, 3540, 1500, 420));
+    cmdCancel = MakeButton(this, "cmdCancel", QStringLiteral("&Cancel"), At(2820, 3540, 1500, 420));
+    connect(lstDecks, &ListBox::DblClick, this, Handler([this] { cmdSelect_Click(); }));
+    connect(cmdSelect, &QPushButton::clicked, this, Handler([this] { cmdSelect_Click(); }));
+    connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
+}
+
+void frmBrowseDeck::Form_Load() {
+    setCaption(QStringLiteral("Browse Decks"));
+    CentreInFrame(*this);
+    RecordReader<DeckRecord> reader(DecksPath);
+    DeckRecord deck;
+    while (reader.Next(deck)) lstDecks->AddItem(deck.DeckName.Value());
+}
+
+void frmBrowseDeck::cmdSelect_Click() {
+    if (lstDecks->ListIndex() < 0) return;
+    const int recordNumber = FindDeckByName(lstDecks->Text());
+    if (recordNumber < 0 || !GetRecord(DecksPath, recordNumber, ScratchDeck)) return;
+    if (DeckChosen) DeckChosen(ScratchDeck.DeckName.Value());
+    Unload();
+}
+
+void frmBrowseDeck::cmdCancel_Click() { Unload(); }
+
+void frmBrowseDeck::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) {
+    if (key == Qt::Key_Escape) {
+        handled = true;
+        cmdCancel_Click();
+    } else if (lstDecks->hasFocus() && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        handled = true;
+        cmdSelect_Click();
+    }
+}

@@ -1,0 +1,20 @@
+#include "screens/decks/frmDeckComments.h"
+
+#include <QPlainTextEdit>
+
+#include "screens/decks/frmDesignDeck.h"
+#include "screens/decks/mdlDeckDesign.h"
+#include "core/store/RunState.h"
+
+frmDeckComments::frmDeckComments() : DeckNotesPanel(true) {
+    setObjectName(QStringLiteral("frmDeckComments"));
+    connect(txtComments, &QPlainTextEdit::textChanged, this, Handler([this] { txtComments_Change(); }));
+}
+
+// Opening the panel fills the box; only what the designer types afterwards
+// counts as a change of the deck.
+void frmDeckComments::txtComments_Change() {
+    ClipText(txtComments, 200);
+    CurrentDeck.DeckComments = txtComments->toPlainText();
+    if (!Loading && IsLoaded<frmDesignDeck>()) Get<frmDesignDeck>().DesignModified = true;
+}

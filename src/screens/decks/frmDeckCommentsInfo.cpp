@@ -1,0 +1,5 @@
+#include "screens/decks/frmDeckCommentsInfo.h"
+
+frmDeckCommentsInfo::frmDeckCommentsInfo() : DeckNotesPanel(false) {
+    setObjectName(QStringLiteral("frmDeckCommentsInfo"));
+}

@@ -1,0 +1,275 @@
+#include "screens/decks/frmDecks.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <algorithm>
+
+#include "screens/decks/frmDeckInfo.h"
+#include "screens/decks/frmDesignDeck.h"
+#include "screens/decks/mdlDeckDesign.h"
+#include "screens/platform/ListBox.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/shell/frmMainScreen.h"
+#include "screens/shell/ScreenPlacement.h"
+#include "screens/store/PasswordPrompts.h"
+#include "core/records/RecordFile.h"
+#include "screens/store/Startup.h"
+#include "core/store/StoreOperations.h"
+#include "screens/decks/DeckLoadQuestion.h"
+
+namespace {
+const QString CardsListText = QStringLiteral("Cards List");
+}
+
+frmDecks::frmDecks() {
+    setObjectName(QStringLiteral("frmDecks"));
+    resize(TwipsToPixels(7800), TwipsToPixels(5000));
+
+    MakeLabel(this, QStringLiteral("Decks:"), At(240, 120, 3600, 285));
+    lstDecks = new ListBox(this);
+    lstDecks->setObjectName(QStringLiteral("lstDecks"));
+    lstDecks->setSorted(true);
+    lstDecks->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    lstDecks->setGeometry(At(240, 420, 3600, 3600));
+
+    fraQuickInfo = new QGroupBox(QStringLiteral(" Brief Info "), this);
+    fraQuickInfo->setObjectName(QStringLiteral("fraQuickInfo"));
+    fraQuickInfo->setGeometry(At(4080, 300, 3480, 3720));
+    const QStringList captions{QStringLiteral("Title:"), QStringLiteral("Modified On:"), QStringLiteral("Designer:"),
+                               QStringLiteral("Cards:")};
+    const char* names[] = {"lblTitleField", "lblDesignDateField", "lblDesignerNameField", "lblCardsField"};
+    QLabel** fields[] = {&lblTitleField, &lblDesignDateField, &lblDesignerNameField, &lblCardsField};
+    for (int i = 0; i < 4; ++i) {
+        MakeLabel(fraQuickInfo, captions[i], At(120, 360 + i * 600, 3240, 255));
+        *fields[i] = MakeLabel(fraQuickInfo, QString(), At(240, 615 + i * 600, 3120, 285), names[i]);
+        (*fields[i])->setTextFormat(Qt::PlainText);
+    }
+    cboCards = new FocusComboBox(fraQuickInfo);
+    cboCards->setObjectName(QStringLiteral("cboCards"));
+    cboCards->setEditable(true);
+    cboCards->lineEdit()->setReadOnly(true);
+    cboCards->setInsertPolicy(QComboBox::NoInsert);
+    cboCards->setGeometry(At(120, 3000, 3240, 360));
+    cboCards->setEditText(CardsListText);
+
+    cmdDesign = MakeButton(this, "cmdDesign", QStringLiteral("&New"), At(240, 4260, 1320, 420));
+    cmdEdit = MakeButton(this, "cmdEdit", QStringLiteral("&Edit"), At(1740, 4260, 1320, 420));
+    cmdInfo = MakeButton(this, "cmdInfo", QStringLiteral("&View"), At(3240, 4260, 1320, 420));
+    cmdDelete = MakeButton(this, "cmdDelete", QStringLiteral("&Delete"), At(4740, 4260, 1320, 420));
+    cmdClose = MakeButton(this, "cmdClose", QStringLiteral("&Close"), At(6240, 4260, 1320, 420));
+
+    connect(lstDecks, &ListBox::Click, this, Handler([this] { lstDecks_Click(); }));
+    connect(lstDecks, &ListBox::DblClick, this, Handler([this] { cmdEdit_Click(); }));
+    connect(cboCards, &FocusComboBox::GotFocus, this, Handler([this] { cboCards_GotFocus(); }));
+    connect(cmdDesign, &QPushButton::clicked, this, Handler([this] { cmdDesign_Click(); }));
+    connect(cmdEdit, &QPushButton::clicked, this, Handler([this] { cmdEdit_Click(); }));
+    connect(cmdInfo, &QPushButton::clicked, this, Handler([this] { cmdInfo_Click(); }));
+    connect(cmdDelete, &QPushButton::clicked, this, Handler([this] { cmdDelete_Click(); }));
+    connect(cmdClose, &QPushButton::clicked, this, Handler([this] { cmdClose_Click(); }));
+    setWayOut([this] { cmdClose_Click(); });
+}
+
+void frmDecks::Form_Load() {
+    setCaption(QStringLiteral("Decks' Menu"));
+    SetScreenPointer(MousePointer::Hourglass);
+    CentreInFrame(*this);
+    ResetDeck();
+    StoreListDeck();
+    {
+        RecordReader<DeckRecord> reader(DecksPath);
+        while (reader.Next(ListDeck)) lstDecks->AddItem(ListDeck.DeckName.Value());
+    }
+    if (lstDecks->ListCount() > 0) lstDecks->setListIndex(0);
+    UpdateButtons();
+    SetScreenPointer(MousePointer::Arrow);
+}
+
+void frmDecks::Form_Activate() { UpdateButtons(); }
+
+void frmDecks::UpdateButtons() {
+    const bool selected = lstDecks->ListIndex() >= 0;
+    cmdEdit->setEnabled(selected);
+    cmdInfo->setEnabled(selected);
+    cmdDelete->setEnabled(selected);
+}
+
+void frmDecks::ClearBriefInfo() {
+    lblCardsField->clear();
+    lblDesignDateField->clear();
+    lblDesignerNameField->clear();
+    lblTitleField->clear();
+}
+
+void frmDecks::lstDecks_Click() {
+    UpdateButtons();
+    cboCards->setEditText(CardsListText);
+    if (lstDecks->ListIndex() < 0) {
+        ClearBriefInfo();
+        return;
+    }
+    const int recordNumber = FindDeckByName(lstDecks->Text());
+    if (recordNumber < 0 || !GetRecord(DecksPath, recordNumber, ListDeck)) {
+        ClearBriefInfo();
+        return;
+    }
+    lblCardsField->setText(QString::number(ListDeck.CardCount));
+    lblDesignDateField->setText(FormatLongDate(ListDeck.ModifiedOn));
+    lblDesignerNameField->setText(ListDeck.DeckDesigner.DesignerName.Trimmed());
+    lblTitleField->setText(ListDeck.DeckTitle.Trimmed());
+}
+
+void frmDecks::cboCards_GotFocus() {
+    if (lstDecks->ListIndex() < 0) return;
+    cboCards->clear();
+    RecordReader<CardRecord> reader(CardsPath);
+    CardRecord card;
+    while (reader.Next(card))
+        if (card.CardDeckId == ListDeck.DeckId) cboCards->addItem(card.CardTitle.Trimmed());
+    cboCards->setEditText(CardsListText);
+}
+
+void frmDecks::SelectDeck(const QString& deckName) {
+    const int line = FindLine(lstDecks, deckName);
+    if (line >= 0) lstDecks->setListIndex(line);
+}
+
+void frmDecks::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) {
+    if (key == Qt::Key_Escape) {
+        handled = true;
+        cmdClose_Click();
+    } else if (lstDecks->hasFocus() && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        handled = true;
+        cmdEdit_Click();
+    } else if (lstDecks->hasFocus() && key == Qt::Key_Delete) {
+        handled = true;
+        cmdDelete_Click();
+    }
+}
+
+void frmDecks::cmdDesign_Click() {
+    ClearTemp();
+    DesignMode = 1;
+    ResetDeck();
+    Get<frmDesignDeck>().Show();
+    Unload();
+}
+
+bool frmDecks::LoadSelectedDeck() {
+    bool DeckRemoved = false;
+    if (LoadDeck(DeckRemoved)) return true;
+    if (DeckRemoved) {
+        ClearBriefInfo();
+        lstDecks->RemoveItem(lstDecks->ListIndex());
+        UpdateButtons();
+    }
+    SetScreenPointer(MousePointer::Arrow);
+    return false;
+}
+
+void frmDecks::cmdEdit_Click() {
+    if (lstDecks->ListIndex() < 0) return;
+    ClearTemp();
+    SetScreenPointer(MousePointer::Hourglass);
+    if (ListDeck.DeckLocked && !CheckPassword(ListDeck.DeckPassword.Value())) {
+        SetScreenPointer(MousePointer::Arrow);
+        return;
+    }
+    if (!LoadSelectedDeck()) return;
+    DesignMode = 0;
+    Get<frmDesignDeck>().Show();
+    SetScreenPointer(MousePointer::Arrow);
+    Unload();
+}
+
+// Viewing needs no password. DesignMode keeps its value: after a New that
+// stored no card it is still 1, and the viewer then shows default pictures.
+void frmDecks::cmdInfo_Click() {
+    if (lstDecks->ListIndex() < 0) return;
+    ClearTemp();
+    SetScreenPointer(MousePointer::Hourglass);
+    if (!LoadSelectedDeck()) return;
+    Get<frmDeckInfo>().Show();
+    SetScreenPointer(MousePointer::Arrow);
+    Unload();
+}
+
+void frmDecks::cmdClose_Click() {
+    ResetDeck();
+    Get<frmMainScreen>().Show();
+    Unload();
+}
+
+bool frmDecks::AskDeleteQuestions(const QString& deckName, Integer deckId) {
+    if (MsgBox(QStringLiteral("Are you sure you want to delete deck '") + deckName +
+                   QStringLiteral("' ?\nBe aware that this deck will be removed from all spreads that use it."),
+               vbYesNo | vbQuestion | vbDefaultButton2) == vbNo)
+        return false;
+    bool soleDeckSomewhere = false;
+    {
+        RecordReader<SpreadRecord> reader(SpreadsPath);
+        SpreadRecord spread;
+        while (!soleDeckSomewhere && reader.Next(spread))
+            soleDeckSomewhere = spread.AllowedDeckCount == 1 && spread.AllowedDeckId[0] == deckId;
+    }
+    const QString question =
+        soleDeckSomewhere
+            ? QStringLiteral("At least one spread uses solely this deck. Further, any readings or diaries that\n"
+                             "use this deck will not be able to be opened. Proceed anyway?")
+            : QStringLiteral("Any readings or diaries using this deck will not be able to be opened.\n"
+                             "Proceed anyway?");
+    return MsgBox(question, vbYesNo | vbQuestion | vbDefaultButton2) == vbYes;
+}
+
+namespace {
+
+// Unties the deck from every spread: the entries behind it move up, the
+// freed place is -1, and the changed spreads are written back together.
+void RemoveDeckFromSpreads(Integer deckId) {
+    RecordEdit<SpreadRecord> changed(SpreadsPath);
+    {
+        RecordReader<SpreadRecord> reader(SpreadsPath);
+        while (reader.Next(ScratchSpread)) {
+            auto& ids = ScratchSpread.AllowedDeckId;
+            const int allowed = ScratchSpread.AllowedDeckCount;
+            const int used = allowed > 0 ? std::min<int>(allowed, 10) : 0;
+            int at = -1;
+            for (int i = 0; i < used && at < 0; ++i)
+                if (ids[static_cast<std::size_t>(i)] == deckId) at = i;
+            if (at < 0) continue;
+            for (int i = at; i < 9; ++i) ids[static_cast<std::size_t>(i)] = ids[static_cast<std::size_t>(i + 1)];
+            ids[9] = -1;
+            ScratchSpread.AllowedDeckCount = static_cast<Integer>(ScratchSpread.AllowedDeckCount - 1);
+            changed.Put(reader.Current(), ScratchSpread);
+        }
+    }
+    changed.Commit();
+}
+
+}  // namespace
+
+void frmDecks::cmdDelete_Click() {
+    ClearTemp();
+    const int line = lstDecks->ListIndex();
+    if (line < 0) {
+        UpdateButtons();
+        return;
+    }
+    const QString deckName = lstDecks->Text();
+    const int recordNumber = FindDeckByName(deckName);
+    DeckRecord deck;
+    if (recordNumber < 0 || !GetRecord(DecksPath, recordNumber, deck)) RaiseError(errInputPastEndOfFile);
+    if (!AskDeleteQuestions(deckName, deck.DeckId)) return;
+
+    SetScreenPointer(MousePointer::Hourglass);
+    RemoveDeckFromSpreads(deck.DeckId);
+    DeleteDeck(FindDeckByName(deckName));
+
+    lstDecks->RemoveItem(line);
+    lstDecks->setListIndex(line - 1);
+    if (lstDecks->ListIndex() < 0 && lstDecks->ListCount() > 0) lstDecks->setListIndex(0);
+    if (lstDecks->ListIndex() < 0) lstDecks_Click();   // nothing left: the brief info empties
+    UpdateButtons();
+    SetScreenPointer(MousePointer::Arrow);
+}

@@ -1,0 +1,186 @@
+#include "screens/decks/frmDesignDeck.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "screens/decks/frmAddCard.h"
+#include "screens/decks/frmDeckCardProperties.h"
+#include "screens/decks/frmDeckComments.h"
+#include "screens/decks/frmDecks.h"
+#include "screens/decks/frmGetImageFile.h"
+#include "screens/decks/frmSaveDeck.h"
+#include "screens/decks/mdlDeckDesign.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/ListBox.h"
+#include "screens/platform/MsgBox.h"
+#include "core/store/StoreOperations.h"
+
+frmDesignDeck::frmDesignDeck() : DeckScreen(QStringLiteral("Deck Design"), true) {
+    setObjectName(QStringLiteral("frmDesignDeck"));
+    cmdAddCard = MakeButton(this, "cmdAddCard", QStringLiteral("&Add"), At(5640, 4620, 1020, 420));
+    cmdDeleteCard = MakeButton(this, "cmdDeleteCard", QStringLiteral("Dele&te"), At(7860, 4620, 1020, 420));
+    cmdSave = MakeButton(this, "cmdSave", QStringLiteral("&Save"), At(5700, 5580, 1500, 420));
+
+    connect(txtDeckTitle, &QLineEdit::textChanged, this, Handler([this] { txtDeckTitle_Change(); }));
+    // Each of the other boxes stores its own field and marks the deck changed.
+    auto& designer = CurrentDeck.DeckDesigner;
+    const std::pair<QLineEdit*, FixedText<40>*> narrow[] = {{txtDeckDesigner, &designer.DesignerName},
+                                                            {txtDesignerEmail, &designer.DesignerEmail}};
+    for (const auto& [box, field] : narrow)
+        connect(box, &QLineEdit::textChanged, this, Handler([this, box = box, field = field] {
+                    StoreDeckField(*field, box->text());
+                }));
+    connect(txtDesignerWebPage, &QLineEdit::textChanged, this, Handler([this] {
+                StoreDeckField(CurrentDeck.DeckDesigner.DesignerWebPage, txtDesignerWebPage->text());
+            }));
+    connect(txtDeckDescription, &QPlainTextEdit::textChanged, this, Handler([this] {
+                ClipText(txtDeckDescription, 500);
+                StoreDeckField(CurrentDeck.DeckDescription, txtDeckDescription->toPlainText());
+            }));
+    connect(lstCards, &ListBox::DblClick, this, Handler([this] { cmdEditCard_Click(); }));
+    connect(cmdAddCard, &QPushButton::clicked, this, Handler([this] { cmdAddCard_Click(); }));
+    connect(cmdEditCard, &QPushButton::clicked, this, Handler([this] { cmdEditCard_Click(); }));
+    connect(cmdDeleteCard, &QPushButton::clicked, this, Handler([this] { cmdDeleteCard_Click(); }));
+    connect(cmdSave, &QPushButton::clicked, this, Handler([this] { cmdSave_Click(); }));
+    connect(cmdProperties, &QPushButton::clicked, this, Handler([this] { cmdProperties_Click(); }));
+    connect(cmdComments, &QPushButton::clicked, this, Handler([this] { cmdComments_Click(); }));
+    connect(cmdBack, &QPushButton::clicked, this, Handler([this] { cmdBack_Click(); }));
+    setWayOut([this] { cmdBack_Click(); });
+}
+
+void frmDesignDeck::Form_Load() {
+    Loading = true;
+    // A new deck has reversed cards unless its designer turns them off.
+    if (DesignMode == 1) CurrentDeck.IncludesReversed = True16;
+    OpenDeck(DesignMode == 0, true);
+    DesignModified = false;
+    DeckCardProperties_Configured = DesignMode == 0;
+    Show();
+    if (DesignMode == 1) Get<frmDeckCardProperties>().Show(true);
+    Loading = false;
+}
+
+void frmDesignDeck::UpdateCardButtons() {
+    const bool selected = lstCards->ListIndex() >= 0;
+    cmdEditCard->setEnabled(selected);
+    cmdDeleteCard->setEnabled(selected);
+}
+
+void frmDesignDeck::txtDeckTitle_Change() {
+    const QString text = TrimField(txtDeckTitle->text());
+    if (text != CurrentDeck.DeckTitle.Trimmed()) DesignModified = true;
+    CurrentDeck.DeckTitle = text;
+}
+
+template <int N>
+void frmDesignDeck::StoreDeckField(FixedText<N>& field, const QString& text) {
+    field = TrimField(text);
+    DesignModified = true;
+}
+
+void frmDesignDeck::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) {
+    if (key == Qt::Key_Escape) {
+        handled = true;
+        cmdBack->setFocus();
+        cmdBack_Click();
+        return;
+    }
+    if (!lstCards->hasFocus()) return;
+    if (key == Qt::Key_Delete) {
+        handled = true;
+        cmdDeleteCard_Click();
+    } else if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        handled = true;
+        cmdEditCard_Click();
+    } else if (key == Qt::Key_Insert) {
+        handled = true;
+        cmdAddCard_Click();
+    }
+}
+
+void frmDesignDeck::cmdAddCard_Click() {
+    if (CurrentDeck.CardCount >= MaxDeckCards) {
+        MsgBox(QStringLiteral("The number of cards in a deck cannot exceed ") + QString::number(MaxDeckCards) +
+                   QStringLiteral("."),
+               vbCritical);
+        return;
+    }
+    DesignMode = 1;
+    ResetCard(CurrentCard);
+    Get<frmAddCard>().Show();
+    // The upright picture is asked at once, over the card editor.
+    Get<frmGetImageFile>().ShowFor(1);
+    bool picked = ImageSelected;
+    if (picked) {
+        if (!CurrentDeck.IncludesReversed) {
+            ReversedPictureFile = DefaultPicturePath;
+            CurrentCard.CardPicture[1] = DefaultPictureName;
+            FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
+        } else {
+            Get<frmGetImageFile>().ShowFor(2);
+            picked = ImageSelected;
+        }
+    }
+    if (!picked) {
+        Hide();
+        UnloadScreen<frmAddCard>();
+    }
+}
+
+void frmDesignDeck::cmdEditCard_Click() {
+    if (lstCards->ListIndex() < 0) {
+        UpdateCardButtons();
+        return;
+    }
+    const int position = SelectedCardPosition();
+    if (position < 1) return;
+    CurrentCard = CurrentDeck.DeckCards(position);
+    DesignMode = 0;
+    Hide();
+    frmAddCard& editor = Get<frmAddCard>();
+    editor.Show();
+    editor.CardPositionBeingEdited = position;
+}
+
+void frmDesignDeck::cmdDeleteCard_Click() {
+    if (lstCards->ListIndex() < 0) {
+        UpdateCardButtons();
+        return;
+    }
+    const QString title = lstCards->Text();
+    if (MsgBox(QStringLiteral("Are you sure you want to delete card '") + TrimField(title) + QStringLiteral("' ?"),
+               vbYesNo | vbQuestion | vbDefaultButton2) == vbNo)
+        return;
+    const int position = SelectedCardPosition();
+    if (position < 1) return;
+    // Its sounds stay in Temp/ until the designer closes; nothing saves them.
+    for (const auto& picture : CurrentDeck.DeckCards(position).CardPicture)
+        if (picture.Value() != DefaultPictureName) KillIgnoringErrors(TempDir + picture.Value());
+    const int count = CurrentDeck.CardCount;
+    for (int i = position; i < count; ++i) CurrentDeck.DeckCards(i) = CurrentDeck.DeckCards(i + 1);
+    CurrentDeck.CardCount = static_cast<Integer>(count - 1);
+    CurrentDeck.DeckCards.RedimPreserve(count - 1);
+    lstCards->RemoveItem(lstCards->ListIndex());
+    UpdateCardButtons();
+    DesignModified = true;
+}
+
+void frmDesignDeck::cmdSave_Click() { Get<frmSaveDeck>().Show(true); }
+
+void frmDesignDeck::cmdProperties_Click() { Get<frmDeckCardProperties>().Show(true); }
+
+void frmDesignDeck::cmdComments_Click() { Get<frmDeckComments>().Show(); }
+
+void frmDesignDeck::cmdBack_Click() {
+    if (DesignModified) {
+        const int answer = MsgBox(QStringLiteral("Save changes to the deck?"), vbYesNoCancel | vbQuestion);
+        if (answer == vbCancel) return;
+        if (answer == vbYes) cmdSave_Click();
+    }
+    KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
+    SetScreenPointer(MousePointer::Hourglass);
+    Get<frmDecks>().Show();
+    SetScreenPointer(MousePointer::Arrow);
+    Unload();
+}

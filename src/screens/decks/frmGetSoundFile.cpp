@@ -1,0 +1,33 @@
+#include "screens/decks/frmGetSoundFile.h"
+
+#include "screens/decks/frmAddCard.h"
+#include "screens/decks/mdlDeckDesign.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/MediaPlayer.h"
+#include "core/store/RunState.h"
+
+frmGetSoundFile::frmGetSoundFile()
+    : FileChooser(QStringLiteral("Sound"), QStringLiteral("*.mp3;*.wav"), RememberedSoundFolder()) {
+    setObjectName(QStringLiteral("frmGetSoundFile"));
+    MakeLabel(this, QStringLiteral("Play Sound"), At(6000, 120, 2160, 255));
+    MediaPlayer1 = new MediaPlayer(this);
+    MediaPlayer1->setObjectName(QStringLiteral("MediaPlayer1"));
+    MediaPlayer1->setGeometry(At(6000, 420, 2160, 480));
+}
+
+void frmGetSoundFile::ShowSelectedFile(const QString& path) { MediaPlayer1->Open(path, false); }
+
+void frmGetSoundFile::ClearSelectedFile() { MediaPlayer1->Close(); }
+
+void frmGetSoundFile::TakeFile(int side, const QString& source) {
+    MediaPlayer1->Close();
+    // The working name changes only once the copy is there: a file that
+    // vanished since it was listed leaves the card as it was.
+    const QString name = (side == 0 ? UprightSoundStem : ReversedSoundStem) + source.right(4);
+    FileCopy(source, TempDir + name);
+    QString& working = side == 0 ? UprightSoundFile : ReversedSoundFile;
+    working = name;
+    if (IsLoaded<frmAddCard>()) Get<frmAddCard>().TakeWorkingSound(side, working);
+}
+
+void frmGetSoundFile::ReportSelected(bool selected) { SoundSelected = selected; }

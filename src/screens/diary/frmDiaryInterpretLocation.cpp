@@ -1,0 +1,26 @@
+#include "screens/diary/frmDiaryInterpretLocation.h"
+
+#include <QComboBox>
+
+#include "screens/diary/frmNewDiary.h"
+#include "core/store/RunState.h"
+
+// The sound player stays up while the picture is enlarged.
+frmDiaryInterpretLocation::frmDiaryInterpretLocation() : InterpretLocationScreen(false) {
+    setObjectName(QStringLiteral("frmDiaryInterpretLocation"));
+}
+
+int frmDiaryInterpretLocation::Location() const { return Get<frmNewDiary>().PickLocation; }
+
+bool frmDiaryInterpretLocation::CardLiesThere() const {
+    frmNewDiary& diary = Get<frmNewDiary>();
+    return diary.cboCardName(Location())->currentIndex() != diary.getIndexOfNONE(Location());
+}
+
+int frmDiaryInterpretLocation::CardNumber() const { return Element(CurrentDiary.DealtCard, Location()); }
+
+bool frmDiaryInterpretLocation::CardUpright() const { return Element(CurrentDiary.DealtUpright, Location()) != 0; }
+
+void frmDiaryInterpretLocation::MarkLocation(int location, bool marked) {
+    if (frmNewDiary* diary = ScreenSlot<frmNewDiary>()) diary->MarkLocation(location, marked);
+}

@@ -1,0 +1,16 @@
+#include "screens/diary/frmDiaryNotes.h"
+
+#include "screens/diary/frmNewDiary.h"
+#include "core/store/RunState.h"
+
+frmDiaryNotes::frmDiaryNotes() : EntryNotesScreen(QStringLiteral("Diary Summary and Notes")) {
+    setObjectName(QStringLiteral("frmDiaryNotes"));
+}
+
+QString frmDiaryNotes::Notes() const { return CurrentDiary.DiaryNotes.Trimmed(); }
+
+void frmDiaryNotes::SetNotes(const QString& notes) { CurrentDiary.DiaryNotes = notes; }
+
+void frmDiaryNotes::MarkEntryChanged() {
+    if (frmNewDiary* diary = ScreenSlot<frmNewDiary>()) diary->DiaryChanged = true;
+}

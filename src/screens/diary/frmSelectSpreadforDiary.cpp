@@ -1,0 +1,28 @@
+#include "screens/diary/frmSelectSpreadforDiary.h"
+
+#include "screens/diary/frmNewDiary.h"
+#include "screens/shell/frmMainScreen.h"
+#include "core/store/RunState.h"
+
+frmSelectSpreadforDiary::frmSelectSpreadforDiary()
+    : SelectSpreadScreen(QStringLiteral("Select a Spread for the Diary")) {
+    setObjectName(QStringLiteral("frmSelectSpreadforDiary"));
+}
+
+void frmSelectSpreadforDiary::StoreEntryOptions(bool issueAsked, const QString& issue, bool useReversed,
+                                                bool allowDuplicates) {
+    CurrentDiary.Issue = issue;
+    CurrentDiary.IssueAsked = Flag(issueAsked);
+    CurrentDiary.UseReversed = Flag(useReversed);
+    CurrentDiary.AllowDuplicateCards = Flag(allowDuplicates);
+    // The entry carries its card types from the start: its lists are built
+    // from them before any save.
+    for (std::size_t t = 0; t < 4; ++t) CurrentDiary.CardTypeSelected[t] = Flag(CardTypeSelected[t]);
+}
+
+EntryScreen& frmSelectSpreadforDiary::Entry() { return Get<frmNewDiary>(); }
+
+void frmSelectSpreadforDiary::CloseEntryScreen() {
+    UnloadScreen<frmNewDiary>();
+    Get<frmMainScreen>().Show();
+}

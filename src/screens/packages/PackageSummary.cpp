@@ -1,0 +1,83 @@
+#include "screens/packages/PackageSummary.h"
+
+#include <QFont>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "core/platform/Twips.h"
+#include "screens/shell/ScreenPlacement.h"
+
+namespace {
+QRect At(int left, int top, int width, int height) {
+    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
+}
+constexpr int RowPitch = 480;
+constexpr int FirstFieldTop = 720;
+}  // namespace
+
+PackageSummaryScreen::PackageSummaryScreen(const QString& caption, const QString& message, int firstRow) {
+    setCaption(caption);
+    Label1 = new QLabel(message, this);
+    Label1->setObjectName(QStringLiteral("Label1"));
+    Label1->setGeometry(At(240, 240, 5400, 330));
+    txtDecksCount = AddField(QStringLiteral("Decks:"), "txtDecksCount", firstRow);
+    txtSpreadsCount = AddField(QStringLiteral("Spreads:"), "txtSpreadsCount", firstRow + 1);
+    txtAttachment = AddField(QStringLiteral("Attachment:"), "txtAttachment", firstRow + 2);
+    const int bottom = FirstFieldTop + (firstRow + 3) * RowPitch;
+    cmdCancel = new QPushButton(QStringLiteral("&Close"), this);
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    cmdCancel->setGeometry(At(4200, bottom + 120, 1440, 400));
+    resize(TwipsToPixels(5880), TwipsToPixels(bottom + 720));
+    connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
+}
+
+QLineEdit* PackageSummaryScreen::AddField(const QString& label, const char* name, int row) {
+    const int top = FirstFieldTop + row * RowPitch;
+    auto* caption = new QLabel(label, this);
+    caption->setGeometry(At(240, top, 1200, 330));
+    auto* box = new QLineEdit(this);
+    box->setObjectName(QLatin1String(name));
+    box->setReadOnly(true);
+    box->setGeometry(At(1440, top, 4200, 330));
+    return box;
+}
+
+void PackageSummaryScreen::Form_Load() { CentreInFrame(*this); }
+
+void PackageSummaryScreen::SetAttachment(bool present, const QString& name) {
+    QFont font = txtAttachment->font();
+    font.setItalic(!present);
+    txtAttachment->setFont(font);
+    txtAttachment->setText(present ? name : QStringLiteral("NONE"));
+}
+
+void PackageSummaryScreen::cmdCancel_Click() { Unload(); }
+
+void PackageSummaryScreen::Form_KeyUp(int key, Qt::KeyboardModifiers, bool& handled) {
+    if (key != Qt::Key_Escape) return;
+    handled = true;
+    cmdCancel_Click();
+}
+
+frmPackageSummary::frmPackageSummary()
+    : PackageSummaryScreen(QStringLiteral("Package Summary"), QStringLiteral("The package was successfully installed."),
+                           0) {
+    setObjectName(QStringLiteral("frmPackageSummary"));
+}
+
+void frmPackageSummary::UpdateInfo() {
+    if (txtDecksCount->text() != QLatin1String("0") || txtSpreadsCount->text() != QLatin1String("0")) return;
+    QPalette p = Label1->palette();
+    p.setColor(QPalette::WindowText, QColor(255, 0, 0));
+    Label1->setPalette(p);
+    Label1->setText(QStringLiteral("No elements of this package were installed."));
+}
+
+frmCreatePackageSummary::frmCreatePackageSummary()
+    : PackageSummaryScreen(QStringLiteral("Package Summary"), QStringLiteral("The package was successfully created."),
+                           2) {
+    setObjectName(QStringLiteral("frmCreatePackageSummary"));
+    txtLocation = AddField(QStringLiteral("Location:"), "txtLocation", 0);
+    txtFilename = AddField(QStringLiteral("File name:"), "txtFilename", 1);
+}

@@ -1,0 +1,146 @@
+#include "screens/readings/OpenEntryScreen.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <algorithm>
+
+#include "screens/platform/ListBox.h"
+#include "screens/platform/MsgBox.h"
+#include "core/platform/Twips.h"
+#include "screens/readings/EntryScreen.h"
+#include "screens/shell/ScreenPlacement.h"
+#include "screens/store/PasswordPrompts.h"
+#include "core/records/RecordFile.h"
+#include "core/store/StoreOperations.h"
+#include "core/store/RunState.h"
+#include "screens/decks/DeckLoadQuestion.h"
+
+namespace {
+// Date, separator: the name begins after them.
+constexpr int NameStart = 13;
+}  // namespace
+
+OpenEntryScreen::OpenEntryScreen(const OpenEntryTexts& texts) : texts_(texts) {
+    setCaption(texts.Caption);
+    resize(TwipsToPixels(6495), TwipsToPixels(4215));
+    lblEntries = new QLabel(texts.ListLabel, this);
+    lblEntries->setObjectName(QStringLiteral("lblEntries"));
+    PlaceControl(lblEntries, 120, 120, 4815, 255);
+    lstEntries = new ListBox(this);
+    lstEntries->setObjectName(texts.ListName);
+    lstEntries->setSorted(true);
+    PlaceControl(lstEntries, 120, 420, 4815, 3615);
+    cmdOpen = new QPushButton(QStringLiteral("&Open"), this);
+    cmdOpen->setObjectName(QStringLiteral("cmdOpen"));
+    cmdDelete = new QPushButton(QStringLiteral("&Delete"), this);
+    cmdDelete->setObjectName(QStringLiteral("cmdDelete"));
+    cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    int top = 420;
+    for (QPushButton* button : {cmdOpen, cmdDelete, cmdCancel}) {
+        button->setAutoDefault(false);
+        PlaceControl(button, 5115, top, 1215, 375);
+        top += 480;
+    }
+    connect(lstEntries, &ListBox::Click, this, Handler([this] { lstEntries_Click(); }));
+    connect(cmdOpen, &QPushButton::clicked, this, Handler([this] { cmdOpen_Click(); }));
+    connect(cmdDelete, &QPushButton::clicked, this, Handler([this] { cmdDelete_Click(); }));
+    connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
+    setWayOut([this] { cmdCancel_Click(); });
+}
+
+void OpenEntryScreen::Form_Load() {
+    CentreInFrame(*this);
+    cmdDelete->setEnabled(false);
+    cmdOpen->setEnabled(false);
+    for (const auto& [savedOn, name] : SavedEntries())
+        lstEntries->AddItem(FormatSortDate(savedOn) + QStringLiteral(" - ") + name);
+    if (lstEntries->ListCount() > 0) lstEntries->setListIndex(0);
+}
+
+void OpenEntryScreen::lstEntries_Click() {
+    if (lstEntries->ListIndex() < 0) return;
+    cmdDelete->setEnabled(true);
+    cmdOpen->setEnabled(true);
+}
+
+QString OpenEntryScreen::SelectedName() const {
+    return lstEntries->Text().mid(NameStart);
+}
+
+void OpenEntryScreen::cmdDelete_Click() {
+    if (lstEntries->ListIndex() < 0) return;
+    const QString question = texts_.DeleteQuestion + lstEntries->Text().trimmed() + QStringLiteral("' ?");
+    if (MsgBox(question, vbYesNo | vbDefaultButton2 | texts_.DeleteIcon) != vbYes) return;
+    DeleteEntry(SelectedName());
+    lstEntries->Clear();
+    Form_Load();
+}
+
+void OpenEntryScreen::cmdOpen_Click() {
+    if (lstEntries->ListIndex() < 0) return;
+    EntryHead head;
+    if (!ReadEntry(SelectedName(), head)) return;
+    if (head.EntryLocked && !CheckPassword(head.EntryPassword)) return;
+
+    DeckRecord deck;
+    if (!DeckAllowsOpening(head, deck)) return;
+    SpreadRecord spread;
+    if (!SpreadAllowsOpening(head, spread)) return;
+
+    AdoptEntry(deck, spread);
+    bool removed = false;
+    if (!LoadDeck(removed)) {
+        if (removed) lstEntries->RemoveItem(lstEntries->ListIndex());
+        return;
+    }
+    ShowEntry();
+}
+
+bool OpenEntryScreen::DeckAllowsOpening(const EntryHead& head, DeckRecord& deck) {
+    const int deckNumber = FindDeckRecordById(head.DeckId);
+    if (deckNumber == -1) {
+        MsgBox(texts_.DeckGone, vbInformation);
+        return false;
+    }
+    GetRecord(DecksPath, deckNumber, deck);
+    if (deck.DeckRevision == head.DeckRevision) return true;
+    // A changed deck: the cards of the first locations must still be there.
+    const auto first = head.DealtCard.begin();
+    const Integer highest = *std::max_element(first, first + CheckedLocations);
+    if (highest > deck.CardCount) {
+        MsgBox(texts_.TooManyCardsRemoved, vbInformation);
+        return false;
+    }
+    return MsgBox(texts_.DeckChanged, vbYesNo | vbQuestion) == vbYes;
+}
+
+bool OpenEntryScreen::SpreadAllowsOpening(const EntryHead& head, SpreadRecord& spread) {
+    const int spreadNumber = FindSpreadRecordById(head.SpreadId);
+    if (spreadNumber == -1) {
+        MsgBox(texts_.SpreadGone, vbInformation);
+        return false;
+    }
+    GetRecord(SpreadsPath, spreadNumber, spread);
+    if (spread.SpreadRevision == head.SpreadRevision) return true;
+    return MsgBox(texts_.SpreadChanged, vbYesNo | vbQuestion) == vbYes;
+}
+
+void OpenEntryScreen::cmdCancel_Click() {
+    Unload();
+    CloseEntryScreen();
+}
+
+void OpenEntryScreen::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) {
+    (void)shift;
+    if (key == Qt::Key_Escape) {
+        handled = true;
+        cmdCancel_Click();
+    } else if (focusWidget() == lstEntries && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        handled = true;
+        cmdOpen_Click();
+    } else if (focusWidget() == lstEntries && key == Qt::Key_Delete) {
+        handled = true;
+        cmdDelete_Click();
+    }
+}

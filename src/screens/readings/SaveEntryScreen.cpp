@@ -1,0 +1,94 @@
+#include "screens/readings/SaveEntryScreen.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "screens/platform/ListBox.h"
+#include "screens/platform/MsgBox.h"
+#include "core/platform/Twips.h"
+#include "screens/readings/EntryScreen.h"
+#include "screens/shell/ScreenPlacement.h"
+
+QString FirstNonBlank(std::initializer_list<QString> texts) {
+    for (const QString& text : texts)
+        if (!text.trimmed().isEmpty()) return text.trimmed();
+    return QString();
+}
+
+SaveEntryScreen::SaveEntryScreen(const SaveEntryTexts& texts) : texts_(texts) {
+    setCaption(texts.Caption);
+    resize(TwipsToPixels(4935), TwipsToPixels(4215));
+    auto* label = new QLabel(QStringLiteral("Save As:"), this);
+    PlaceControl(label, 120, 120, 3255, 255);
+    txtSaveAs = new QLineEdit(this);
+    txtSaveAs->setObjectName(QStringLiteral("txtSaveAs"));
+    txtSaveAs->setMaxLength(MaxNameLength);
+    PlaceControl(txtSaveAs, 120, 420, 3255, 375);
+    lstNames = new ListBox(this);
+    lstNames->setObjectName(texts.ListName);
+    lstNames->setSorted(true);
+    PlaceControl(lstNames, 120, 900, 3255, 3135);
+    cmdSave = new QPushButton(QStringLiteral("&Save"), this);
+    cmdSave->setObjectName(QStringLiteral("cmdSave"));
+    cmdSave->setAutoDefault(false);
+    PlaceControl(cmdSave, 3555, 420, 1215, 375);
+    cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    cmdCancel->setAutoDefault(false);
+    PlaceControl(cmdCancel, 3555, 900, 1215, 375);
+
+    connect(txtSaveAs, &QLineEdit::textChanged, this, Handler([this] { txtSaveAs_Change(); }));
+    connect(lstNames, &ListBox::Click, this, Handler([this] { lstNames_Click(); }));
+    connect(cmdSave, &QPushButton::clicked, this, Handler([this] { cmdSave_Click(); }));
+    connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
+}
+
+void SaveEntryScreen::Form_Load() {
+    CentreInFrame(*this);
+    txtSaveAs->setText(ProposedName());
+    for (const QString& name : SavedNames()) lstNames->AddItem(name);
+    cmdSave->setEnabled(false);
+}
+
+void SaveEntryScreen::txtSaveAs_Change() {
+    if (!txtSaveAs->text().isEmpty()) cmdSave->setEnabled(true);
+}
+
+void SaveEntryScreen::lstNames_Click() {
+    if (lstNames->ListIndex() < 0) return;
+    cmdSave->setEnabled(true);
+    txtSaveAs->setText(lstNames->Text());
+}
+
+void SaveEntryScreen::cmdSave_Click() {
+    const QString text = txtSaveAs->text();
+    // Empty, or nothing but blanks, is no name.
+    if (QString::compare(QString(31, QLatin1Char(' ')), text, Qt::CaseInsensitive) > 0) {
+        MsgBox(texts_.NoNameMessage, vbExclamation);
+        return;
+    }
+    int recordNumber = FindEntryByName(text);
+    if (recordNumber > 0) {
+        if (MsgBox(texts_.ExistsQuestion, vbYesNo | vbDefaultButton2 | vbQuestion) != vbYes) return;
+    } else {
+        recordNumber = CountEntries() + 1;
+    }
+    WriteEntry(recordNumber, text.trimmed());
+    MarkEntrySaved();
+    Unload();
+}
+
+void SaveEntryScreen::cmdCancel_Click() { Unload(); }
+
+void SaveEntryScreen::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) {
+    (void)shift;
+    if (key == Qt::Key_Escape) {
+        handled = true;
+        cmdCancel_Click();
+    } else if ((key == Qt::Key_Return || key == Qt::Key_Enter) &&
+               (focusWidget() == txtSaveAs || focusWidget() == lstNames)) {
+        handled = true;
+        cmdSave_Click();
+    }
+}

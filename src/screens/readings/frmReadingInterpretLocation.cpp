@@ -1,0 +1,31 @@
+#include "screens/readings/frmReadingInterpretLocation.h"
+
+#include "core/platform/Palette.h"
+#include "screens/readings/frmNewReading.h"
+#include "screens/shell/ClickLabel.h"
+#include "core/store/RunState.h"
+
+namespace {
+// The bright red of the location under interpretation.
+const QColor MarkedLocationColour(192, 0, 0);
+}  // namespace
+
+frmReadingInterpretLocation::frmReadingInterpretLocation() : InterpretLocationScreen(true) {
+    setObjectName(QStringLiteral("frmReadingInterpretLocation"));
+}
+
+int frmReadingInterpretLocation::Location() const { return Get<frmNewReading>().QueryLocation; }
+
+bool frmReadingInterpretLocation::CardLiesThere() const {
+    return Location() < Get<frmNewReading>().ThisLocationNumber;
+}
+
+int frmReadingInterpretLocation::CardNumber() const { return Element(CurrentReading.DealtCard, Location()); }
+
+bool frmReadingInterpretLocation::CardUpright() const { return Element(CurrentReading.DealtUpright, Location()) != 0; }
+
+void frmReadingInterpretLocation::MarkLocation(int location, bool marked) {
+    frmNewReading* reading = ScreenSlot<frmNewReading>();
+    if (!reading || location < 1 || location > EntryScreen::MaxLocations) return;
+    reading->picLocation(location)->setBackColor(marked ? MarkedLocationColour : QBColor(CurrentLocationColour));
+}

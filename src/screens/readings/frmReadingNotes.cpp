@@ -1,0 +1,16 @@
+#include "screens/readings/frmReadingNotes.h"
+
+#include "screens/readings/frmNewReading.h"
+#include "core/store/RunState.h"
+
+frmReadingNotes::frmReadingNotes() : EntryNotesScreen(QStringLiteral("Reading Summary and Notes")) {
+    setObjectName(QStringLiteral("frmReadingNotes"));
+}
+
+QString frmReadingNotes::Notes() const { return CurrentReading.ReadingNotes.Trimmed(); }
+
+void frmReadingNotes::SetNotes(const QString& notes) { CurrentReading.ReadingNotes = notes; }
+
+void frmReadingNotes::MarkEntryChanged() {
+    if (frmNewReading* reading = ScreenSlot<frmNewReading>()) reading->ReadingChanged = true;
+}

@@ -1,0 +1,24 @@
+#include "screens/readings/frmSelectSpread.h"
+
+#include "screens/readings/frmNewReading.h"
+#include "screens/shell/frmMainScreen.h"
+#include "core/store/RunState.h"
+
+frmSelectSpread::frmSelectSpread() : SelectSpreadScreen(QStringLiteral("Select a Spread for the Reading")) {
+    setObjectName(QStringLiteral("frmSelectSpread"));
+}
+
+void frmSelectSpread::StoreEntryOptions(bool issueAsked, const QString& issue, bool useReversed,
+                                        bool allowDuplicates) {
+    CurrentReading.Issue = issue;
+    CurrentReading.IssueAsked = Flag(issueAsked);
+    CurrentReading.UseReversed = Flag(useReversed);
+    CurrentReading.AllowDuplicateCards = Flag(allowDuplicates);
+}
+
+EntryScreen& frmSelectSpread::Entry() { return Get<frmNewReading>(); }
+
+void frmSelectSpread::CloseEntryScreen() {
+    UnloadScreen<frmNewReading>();
+    Get<frmMainScreen>().Show();
+}

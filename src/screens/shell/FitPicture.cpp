@@ -1,0 +1,76 @@
+#include "screens/shell/FitPicture.h"
+
+#include <QtMath>
+
+#include "core/platform/Errors.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/MsgBox.h"
+#include "core/platform/Picture.h"
+#include "screens/shell/ImageBox.h"
+#include "screens/store/Startup.h"
+#include "core/store/RunState.h"
+
+int FitBoxToPicture(int pictureHeight, int pictureWidth, BoxGeometry& box, bool CentrePicture, bool KeepTop) {
+    const int PH = pictureHeight;
+    const int PW = pictureWidth;
+    const double aspect = static_cast<double>(PH) / PW;
+    const int BH = box.Height;
+    const int BW = box.Width;
+
+    int fitCase;
+    if (PH > BH && PW > BW) {
+        fitCase = 1;
+        if (static_cast<double>(BH) / BW >= aspect) box.Height = qRound(BW * aspect);
+        else box.Width = qRound(BH / aspect);
+    } else if (PH <= BH && PW >= BW) {
+        fitCase = 2;
+        box.Height = qRound(BW * aspect);
+    } else if (PH >= BH && PW <= BW) {
+        fitCase = 3;
+        box.Width = qRound(BH / aspect);
+    } else if (PH <= BH && PW <= BW) {
+        fitCase = 4;
+        box.Height = PH;
+        box.Width = PW;
+    } else {
+        return 0;
+    }
+
+    if (CentrePicture) {
+        if (!KeepTop) box.Top += qRound((BH - box.Height) / 2.0);
+        box.Left += qRound((BW - box.Width) / 2.0);
+    }
+    return fitCase;
+}
+
+namespace {
+
+// A broken picture file never stops a screen: the default card picture
+// stands in for it.
+Picture LoadPictureOrDefault(const QString& path) {
+    const QString source = FileExists(path) ? path : DefaultPicturePath;
+    try {
+        return LoadPicture(source);
+    } catch (const RuntimeError&) {
+        MsgBox(QStringLiteral("Error while loading the picture. A default picture is selected instead.\n"
+                              "Please save all your work, exit Cartomar, and then run it again"),
+               vbCritical);
+    }
+    return LoadPicture(DefaultPicturePath);
+}
+
+}  // namespace
+
+void FitPicture(ImageBox& box, const QString& path, bool CentrePicture, bool KeepTop) {
+    const Picture picture = LoadPictureOrDefault(path);
+    box.ClearPicture();
+    BoxGeometry geometry{box.Top(), box.Left(), box.Width(), box.Height()};
+    box.setStretch(true);
+    if (FitBoxToPicture(picture.Height, picture.Width, geometry, CentrePicture, KeepTop) == 0) {
+        MsgBox(QStringLiteral("Error. Please contact Ondine Software Inc."));
+        EndProcess(1);
+        return;
+    }
+    box.Move(geometry.Left, geometry.Top, geometry.Width, geometry.Height);
+    box.setPicture(picture.Image);
+}

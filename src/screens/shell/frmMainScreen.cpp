@@ -1,0 +1,268 @@
+#include "screens/shell/frmMainScreen.h"
+
+#include <QFont>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+#include "core/platform/FileSys.h"
+#include "screens/platform/MsgBox.h"
+#include "core/platform/Palette.h"
+#include "core/platform/Twips.h"
+#include "screens/diary/frmNewDiary.h"
+#include "screens/diary/frmOpenDiary.h"
+#include "screens/diary/frmSelectSpreadforDiary.h"
+#include "screens/readings/frmNewReading.h"
+#include "screens/readings/frmOpenReading.h"
+#include "screens/readings/frmSelectSpread.h"
+#include "screens/decks/frmDecks.h"
+#include "screens/packages/frmCreatePackage.h"
+#include "screens/packages/frmInstallPackage.h"
+#include "screens/shell/ClickLabel.h"
+#include "screens/shell/DecorativePictures.h"
+#include "screens/shell/ImageBox.h"
+#include "screens/shell/MDIMainForm.h"
+#include "screens/shell/frmHelpViewer.h"
+#include "screens/shell/ScreenPlacement.h"
+#include "screens/spreads/frmSpreads.h"
+#include "screens/store/Startup.h"
+#include "core/store/StoreOperations.h"
+#include "core/store/RunState.h"
+
+namespace {
+
+constexpr int ScreenWidth = 640;    // pixels
+constexpr int ScreenHeight = 480;
+
+const QColor Gold(222, 184, 92);
+const QColor PaleGold(240, 222, 170);
+
+struct ButtonDesign {
+    int Index;
+    int Column;   // 0 Readings, 1 Diary, 2 Design, 3 Package, 4 File Menu
+    int Row;
+    const char* Caption;
+    const char* ToolTip;
+};
+
+// The diary buttons carry the tooltips of the reading buttons; their group
+// heading tells what they work on.
+constexpr ButtonDesign Buttons[] = {
+    {1, 0, 0, "New", "Make a New Reading"},
+    {2, 0, 1, "Past", "Open a Saved Reading"},
+    {3, 1, 0, "New", "Make a New Reading"},
+    {4, 1, 1, "Past", "Open a Saved Reading"},
+    {5, 2, 0, "Decks", "Create, Edit or View Decks"},
+    {6, 2, 1, "Spreads", "Create, Edit, View or Manage Spreads"},
+    {7, 3, 0, "Install", "Install a Package"},
+    {8, 3, 1, "Create", "Create a New Package"},
+    {9, 4, 0, "Help", "Display Help"},
+    {11, 4, 1, "Exit", "Exit Cartomar"},
+};
+
+constexpr int ColumnWidth = 112;
+constexpr int ColumnGap = 12;
+constexpr int FirstColumnLeft = (ScreenWidth - 5 * ColumnWidth - 4 * ColumnGap) / 2;
+constexpr int HeadingTop = 256;
+constexpr int FirstButtonTop = 290;
+constexpr int ButtonHeight = 28;
+constexpr int ButtonPitch = 38;
+
+int ColumnLeft(int column) { return FirstColumnLeft + column * (ColumnWidth + ColumnGap); }
+
+QLabel* MakeCaption(QWidget* parent, const QString& text, const QRect& where, int pointSize, bool bold,
+                    const QColor& colour) {
+    auto* label = new QLabel(text, parent);
+    QFont font(QStringLiteral("DejaVu Serif"));
+    font.setPointSize(pointSize);
+    font.setBold(bold);
+    label->setFont(font);
+    QPalette p = label->palette();
+    p.setColor(QPalette::WindowText, colour);
+    label->setPalette(p);
+    label->setAlignment(Qt::AlignCenter);
+    label->setGeometry(where);
+    return label;
+}
+
+// The program directory as the user knows it: without the closing '/'.
+QString ProgramDirectoryShown() {
+    QString dir = AppPath;
+    if (dir.size() > 1 && dir.endsWith(QLatin1Char('/'))) dir.chop(1);
+    return dir;
+}
+
+}  // namespace
+
+frmMainScreen::frmMainScreen() {
+    setCaption(QStringLiteral("Cartomar"));
+    setFixedSize(ScreenWidth, ScreenHeight);
+
+    imgMainScreen = new ImageBox(this);
+    imgMainScreen->Move(0, 0, PixelsToTwips(ScreenWidth), PixelsToTwips(ScreenHeight));
+    imgMainScreen->setPicture(MainScreenPicture(ScreenWidth, ScreenHeight));
+
+    lblProductName = MakeCaption(this, QString(), QRect(0, 70, ScreenWidth, 72), 40, true, Gold);
+
+    const QStringList headings = {QStringLiteral("Readings"), QStringLiteral("Diary"), QStringLiteral("Design"),
+                                  QStringLiteral("Package"), QStringLiteral("File Menu")};
+    QLabel** headingLabels[] = {&lblReadings, &lblDiary, &lblTools, &lblPackage, &lblFileMenu};
+    for (int column = 0; column < 5; ++column)
+        *headingLabels[column] = MakeCaption(this, headings[column],
+                                             QRect(ColumnLeft(column), HeadingTop, ColumnWidth, 26), 13, true, PaleGold);
+
+    for (const ButtonDesign& b : Buttons) {
+        auto* label = new ClickLabel(this);
+        label->setText(QString::fromLatin1(b.Caption));
+        label->setToolTip(QString::fromLatin1(b.ToolTip));
+        label->setAlignment(Qt::AlignCenter);
+        QFont font(QStringLiteral("DejaVu Sans"));
+        font.setPointSize(11);
+        font.setBold(true);
+        label->setFont(font);
+        label->setBackColor(QBColor(0));
+        label->setForeColor(Gold);
+        label->setCursor(Qt::PointingHandCursor);
+        label->setGeometry(ColumnLeft(b.Column), FirstButtonTop + b.Row * ButtonPitch, ColumnWidth, ButtonHeight);
+        const int i = b.Index;
+        lblButton_[i] = label;
+        connect(label, &ClickLabel::MouseDown, this, [this, i] { lblButton_MouseDown(i); });
+        connect(label, &ClickLabel::MouseMove, this,
+                [this, i](Qt::MouseButtons buttons, Qt::KeyboardModifiers, int x, int y) {
+                    lblButton_MouseMove(i, buttons, x, y);
+                });
+        connect(label, &ClickLabel::MouseUp, this, [this, i] { lblButton_MouseUp(i); });
+        connect(label, &ClickLabel::Click, this, Handler([this, i] { lblButton_Click(i); }));
+    }
+
+    Label2 = MakeCaption(this, MakerWebAddress, QRect(0, 404, ScreenWidth, 20), 9, false, PaleGold);
+    Label1 = MakeCaption(this, SupportAddress, QRect(0, 424, ScreenWidth, 20), 9, false, PaleGold);
+}
+
+void frmMainScreen::Form_Load() {
+    CentreInFrame(*this);
+    ButtonDownColour_ = QBColor(15);
+    lblProductName->setText(QStringLiteral("Cartomar"));
+    lblTools->setText(QStringLiteral("Design"));
+    lblButton(5)->setToolTip(QStringLiteral("Create, Edit or View Decks"));
+    lblButton(6)->setToolTip(QStringLiteral("Create, Edit, View or Manage Spreads"));
+    lblButton(8)->setVisible(true);
+    lblButton(7)->setEnabled(true);
+    ClearTemp();
+}
+
+void frmMainScreen::Show(bool modal) {
+    Form::Show(modal);
+    auto* sub = qobject_cast<QMdiSubWindow*>(parentWidget());
+    if (!sub || (sub->windowFlags() & Qt::FramelessWindowHint)) return;
+    sub->setWindowFlags(Qt::SubWindow | Qt::FramelessWindowHint);
+    sub->adjustSize();
+    Move(Left(), Top());
+    sub->show();
+    if (QMdiArea* area = FrameArea()) area->setActiveSubWindow(sub);
+}
+
+ClickLabel* frmMainScreen::lblButton(int Index) const {
+    const auto found = lblButton_.find(Index);
+    return found == lblButton_.end() ? nullptr : found->second;
+}
+
+void frmMainScreen::Form_QueryUnload(bool& cancel, int unloadMode) {
+    // The hub stays for the whole run; only the exit question ends it.
+    if (unloadMode == vbFormControlMenu) cancel = true;
+}
+
+void frmMainScreen::Form_KeyUp(int key, Qt::KeyboardModifiers, bool& handled) {
+    // Esc closes every other screen; here it only flashes the hourglass.
+    if (key == Qt::Key_Escape) {
+        lblButton_Click(12);
+        handled = true;
+    }
+}
+
+void frmMainScreen::lblButton_Click(int Index) {
+    setMousePointer(MousePointer::Hourglass);
+    if (Index >= 1 && Index <= 8) OpenFirstLevelScreen(Index);
+    else if (Index == 9) LaunchHelp();
+    else if (Index == 11) ExitQuestion();
+    setMousePointer(MousePointer::Arrow);
+}
+
+// The first screen of each subsystem. The main screen hides before it opens
+// and is shown again by that screen's Close.
+void frmMainScreen::OpenFirstLevelScreen(int Index) {
+    switch (Index) {
+    case 1:   // a new reading: frmNewReading, with frmSelectSpread over it
+        ResetSpread(CurrentSpread);
+        ResetReading(CurrentReading);
+        Hide();
+        Get<frmNewReading>().Show();
+        Get<frmSelectSpread>().Show(true);
+        break;
+    case 2:   // a saved reading: frmNewReading, with frmOpenReading over it
+        ResetSpread(CurrentSpread);
+        ResetReading(CurrentReading);
+        Hide();
+        Get<frmNewReading>().Show();
+        Get<frmOpenReading>().Show(true);
+        break;
+    case 3:   // a new diary entry: frmNewDiary, with frmSelectSpreadforDiary over it
+        ResetSpread(CurrentSpread);
+        ResetDiary(CurrentDiary);
+        Hide();
+        Get<frmNewDiary>().Show();
+        Get<frmSelectSpreadforDiary>().Show(true);
+        break;
+    case 4:   // a saved diary entry: frmNewDiary, with frmOpenDiary over it
+        ResetSpread(CurrentSpread);
+        ResetDiary(CurrentDiary);
+        Hide();
+        Get<frmNewDiary>().Show();
+        Get<frmOpenDiary>().Show(true);
+        break;
+    case 5:   // frmDecks
+        Hide();
+        Get<frmDecks>().Show();
+        break;
+    case 6:   // frmSpreads
+        Hide();
+        Get<frmSpreads>().Show();
+        break;
+    case 7:   // frmInstallPackage
+        Hide();
+        Get<frmInstallPackage>().Show();
+        break;
+    case 8:   // frmCreatePackage
+        Hide();
+        Get<frmCreatePackage>().Show();
+        break;
+    default:
+        break;
+    }
+}
+
+void frmMainScreen::LaunchHelp() {
+    const QString helpFile = AppPath + QStringLiteral("Cartomar.hlp");
+    if (FileExists(helpFile)) {
+        ShowHelpFile(helpFile);
+        return;
+    }
+    MsgBox(QStringLiteral("Unable to locate help file. The file is longer in the '") + ProgramDirectoryShown() +
+               QStringLiteral("' directory. Recopy the help file or reinstall Cartomar."),
+           vbCritical);
+}
+
+void frmMainScreen::lblButton_MouseDown(int Index) {
+    lblButton(Index)->setBackColor(ButtonDownColour_);
+}
+
+void frmMainScreen::lblButton_MouseMove(int Index, Qt::MouseButtons buttons, int x, int y) {
+    if (buttons != Qt::LeftButton) return;
+    ClickLabel* label = lblButton(Index);
+    const bool inside = x >= 0 && x < PixelsToTwips(label->width()) && y >= 0 && y < PixelsToTwips(label->height());
+    label->setBackColor(inside ? ButtonDownColour_ : QBColor(0));
+}
+
+void frmMainScreen::lblButton_MouseUp(int Index) {
+    lblButton(Index)->setBackColor(QBColor(0));
+}

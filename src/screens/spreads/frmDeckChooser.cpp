@@ -1,0 +1,166 @@
+#include "screens/spreads/frmDeckChooser.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include "screens/platform/MsgBox.h"
+#include "core/platform/Twips.h"
+#include "screens/shell/ScreenPlacement.h"
+#include "screens/platform/ListBox.h"
+#include "screens/spreads/frmSpreads.h"
+#include "core/records/RecordFile.h"
+#include "core/store/StoreOperations.h"
+
+namespace {
+QRect At(int left, int top, int width, int height) {
+    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
+}
+
+QPushButton* Button(QWidget* parent, const QString& name, const QString& caption, const QRect& where) {
+    auto* button = new QPushButton(caption, parent);
+    button->setObjectName(name);
+    button->setGeometry(where);
+    return button;
+}
+}  // namespace
+
+frmDeckChooser::frmDeckChooser() {
+    setObjectName(QStringLiteral("frmDeckChooser"));
+    setCaption(QStringLiteral("Decks Available"));
+    resize(TwipsToPixels(9000), TwipsToPixels(5700));
+
+    chkAnyDeck = new QCheckBox(QStringLiteral("&Allow this spread to use all available decks"), this);
+    chkAnyDeck->setObjectName(QStringLiteral("chkAnyDeck"));
+    chkAnyDeck->setGeometry(At(120, 120, 6000, 330));
+    lblAvailable = new QLabel(QStringLiteral("Available Decks:"), this);
+    lblAvailable->setObjectName(QStringLiteral("lblAvailable"));
+    lblAvailable->setGeometry(At(120, 600, 3400, 300));
+    lstAvailableDecks = new ListBox(this);
+    lstAvailableDecks->setSorted(true);
+    lstAvailableDecks->setObjectName(QStringLiteral("lstAvailableDecks"));
+    lstAvailableDecks->setGeometry(At(120, 900, 3400, 3480));
+    lblDecks = new QLabel(QStringLiteral("Spread works on the following Decks:"), this);
+    lblDecks->setObjectName(QStringLiteral("lblDecks"));
+    lblDecks->setGeometry(At(5400, 600, 3480, 300));
+    lstDecks = new ListBox(this);
+    lstDecks->setSorted(true);
+    lstDecks->setObjectName(QStringLiteral("lstDecks"));
+    lstDecks->setGeometry(At(5400, 900, 3480, 3480));
+    cmdAddDeck = Button(this, QStringLiteral("cmdAddDeck"), QStringLiteral("Add &>>"), At(3720, 1800, 1480, 420));
+    cmdDeleteDeck =
+        Button(this, QStringLiteral("cmdDeleteDeck"), QStringLiteral("&<< Delete"), At(3720, 2400, 1480, 420));
+    chkInstallAll = new QCheckBox(QStringLiteral("&Install all spreads in the package with selected decks"), this);
+    chkInstallAll->setObjectName(QStringLiteral("chkInstallAll"));
+    chkInstallAll->setGeometry(At(120, 4560, 5400, 330));
+    cmdLink = Button(this, QStringLiteral("cmdLink"), QStringLiteral("&Save"), At(5760, 5040, 1440, 420));
+    cmdClose = Button(this, QStringLiteral("cmdClose"), QStringLiteral("&Close"), At(7440, 5040, 1440, 420));
+
+    decks_.lstAvailableDecks = lstAvailableDecks;
+    decks_.lstDecks = lstDecks;
+    decks_.chkAnyDeck = chkAnyDeck;
+    decks_.cmdAddDeck = cmdAddDeck;
+    decks_.cmdDeleteDeck = cmdDeleteDeck;
+    decks_.NamedDeckControls = {lstDecks, lblDecks, lstAvailableDecks, lblAvailable, cmdAddDeck, cmdDeleteDeck};
+    decks_.MarkDirty = [this] { ChooserDirty = true; };
+
+    connect(cmdAddDeck, &QPushButton::clicked, this, Handler([this] { cmdAddDeck_Click(); }));
+    connect(cmdDeleteDeck, &QPushButton::clicked, this, Handler([this] { cmdDeleteDeck_Click(); }));
+    connect(cmdLink, &QPushButton::clicked, this, Handler([this] { cmdLink_Click(); }));
+    connect(cmdClose, &QPushButton::clicked, this, Handler([this] { cmdClose_Click(); }));
+    setWayOut([this] { UnloadThisForm(); });
+    connect(chkAnyDeck, &QCheckBox::toggled, this, Handler([this] { chkAnyDeck_Click(); }));
+    connect(chkInstallAll, &QCheckBox::toggled, this, Handler([this] { chkInstallAll_Click(); }));
+    connect(lstAvailableDecks, &ListBox::Click, this, Handler([this] { UpdateDeckButtons(); }));
+    connect(lstDecks, &ListBox::Click, this, Handler([this] { UpdateDeckButtons(); }));
+}
+
+void frmDeckChooser::Form_Load() {
+    CentreInFrame(*this);
+    setCaption(QStringLiteral("Choose decks to work with spread: ") + CurrentSpread.SpreadName.Trimmed());
+    RememberedSpreadName = CurrentSpread.SpreadName.Value();
+    decks_.Decks = ChooserManageMode ? nullptr : DecksOnOffer;
+    decks_.ShowDeckLists();
+    if (ChooserManageMode) {
+        cmdLink->show();
+        cmdClose->setText(QStringLiteral("&Close"));
+        chkInstallAll->hide();
+        AddDeckNames();
+    } else {
+        cmdLink->hide();
+        chkInstallAll->show();
+        chkInstallAll->setChecked(InstallAllSpreads);
+        cmdClose->setText(QStringLiteral("&Continue"));
+        // What the package said about decks does not count here.
+        CurrentSpread.AllowedDeckCount = 0;
+        CurrentSpread.AllowedDeckId.fill(0);
+    }
+    ChooserDirty = false;
+}
+
+void frmDeckChooser::AddDeckNames() {
+    if (CurrentSpread.AllowedDeckCount < 0) chkAnyDeck->setChecked(true);
+    decks_.AddDeckNames(CurrentSpread);
+}
+
+void frmDeckChooser::UpdateDeckButtons() { decks_.UpdateDeckButtons(); }
+void frmDeckChooser::cmdAddDeck_Click() { decks_.cmdAddDeck_Click(); }
+void frmDeckChooser::cmdDeleteDeck_Click() { decks_.cmdDeleteDeck_Click(); }
+
+void frmDeckChooser::chkAnyDeck_Click() {
+    ChooserDirty = true;
+    if (chkAnyDeck->isChecked()) CurrentSpread.AllowedDeckCount = -1;
+    decks_.EnableForAnyDeck();
+    UpdateDeckButtons();
+}
+
+void frmDeckChooser::chkInstallAll_Click() { InstallAllSpreads = chkInstallAll->isChecked(); }
+
+void frmDeckChooser::cmdLink_Click() {
+    decks_.WriteChoice(CurrentSpread);
+    if (!ChooserManageMode) {
+        ChooserDirty = false;
+        return;
+    }
+    // Tying a spread to other decks is not a new revision of its design:
+    // the date and the revision stay as they are.
+    const int n = FindSpreadByName(CurrentSpread.SpreadName.Trimmed());
+    if (n < 0) {
+        MsgBox(QStringLiteral("Unable to find this spread. Please 'close' and select another spread."));
+        return;
+    }
+    PutRecord(SpreadsPath, n, CurrentSpread);
+    ChooserDirty = false;
+}
+
+void frmDeckChooser::cmdClose_Click() { UnloadThisForm(); }
+
+void frmDeckChooser::UnloadThisForm() {
+    if (!ChooserManageMode) cmdLink_Click();
+    if (ChooserDirty) {
+        const int answer = MsgBox(QStringLiteral("Save changes to the spread?"), vbYesNoCancel | vbQuestion);
+        if (answer == vbCancel) return;
+        if (answer == vbYes) cmdLink_Click();
+    }
+    if (!chkAnyDeck->isChecked() && lstDecks->ListCount() == 0 &&
+        MsgBox(QStringLiteral("No decks have been selected.  Are you sure you want to continue?"), vbYesNo) == vbNo)
+        return;
+    if (ChooserManageMode) {
+        SetScreenPointer(MousePointer::Hourglass);
+        Get<frmSpreads>().Show();
+        SetScreenPointer(MousePointer::Default);
+    }
+    Unload();
+}
+
+void frmDeckChooser::Form_Unload(bool&) {
+    // Back on the list, the spread worked on is selected again, which reads
+    // it afresh from disk.
+    if (ChooserManageMode && IsLoaded<frmSpreads>()) Get<frmSpreads>().SelectSpread(RememberedSpreadName);
+}
+
+void frmDeckChooser::Form_KeyUp(int key, Qt::KeyboardModifiers, bool& handled) {
+    if (key != Qt::Key_Escape) return;
+    handled = true;
+    cmdClose_Click();
+}

@@ -1,0 +1,144 @@
+#include "screens/spreads/frmGetSpreadBackground.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include "core/platform/Errors.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/MsgBox.h"
+#include "core/platform/Picture.h"
+#include "core/platform/Twips.h"
+#include "screens/shell/ImageBox.h"
+#include "screens/shell/ScreenPlacement.h"
+#include "screens/spreads/TextBoxes.h"
+#include "screens/spreads/frmDesignSpread.h"
+#include "core/store/RunState.h"
+
+namespace {
+const QString WorkingStem = QStringLiteral("sprpic");
+
+QRect At(int left, int top, int width, int height) {
+    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
+}
+
+bool IsSupportedType(const QString& fileName) {
+    const QString type = TrimField(fileName.right(4)).toUpper();
+    return type == QLatin1String(".JPG") || type == QLatin1String(".BMP") || type == QLatin1String(".GIF");
+}
+}  // namespace
+
+QString WorkingBackgroundName(const QString& fileName) { return WorkingStem + TrimField(fileName).right(4); }
+
+frmGetSpreadBackground::frmGetSpreadBackground() {
+    setObjectName(QStringLiteral("frmGetSpreadBackground"));
+    setCaption(QStringLiteral("Set Spread Background"));
+    resize(TwipsToPixels(6600), TwipsToPixels(3300));
+
+    auto* label = new QLabel(QStringLiteral("Picture file:"), this);
+    label->setGeometry(At(120, 120, 4200, 270));
+    txtFilename = new TextBox(this);
+    txtFilename->setObjectName(QStringLiteral("txtFilename"));
+    txtFilename->setGeometry(At(120, 390, 4800, 330));
+    cmdBrowse = new QPushButton(QStringLiteral("&Browse..."), this);
+    cmdBrowse->setObjectName(QStringLiteral("cmdBrowse"));
+    cmdBrowse->setGeometry(At(5040, 360, 1440, 400));
+    chkStretchPicture = new QCheckBox(QStringLiteral("Stretch picture to fit"), this);
+    chkStretchPicture->setObjectName(QStringLiteral("chkStretchPicture"));
+    chkStretchPicture->setGeometry(At(120, 900, 3600, 330));
+    Image1 = new ImageBox(this);
+    Image1->setObjectName(QStringLiteral("Image1"));
+    Image1->setStretch(true);
+    Image1->Move(120, 1380, 2400, 1560);
+    cmdOK = new QPushButton(QStringLiteral("&OK"), this);
+    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK->setGeometry(At(5040, 2040, 1440, 400));
+    cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    cmdCancel->setGeometry(At(5040, 2560, 1440, 400));
+
+    connect(cmdBrowse, &QPushButton::clicked, this, Handler([this] { cmdBrowse_Click(); }));
+    connect(cmdOK, &QPushButton::clicked, this, Handler([this] { cmdOK_Click(); }));
+    connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
+}
+
+void frmGetSpreadBackground::Form_Load() {
+    CentreInFrame(*this);
+    // Whatever the spread holds, the screen starts empty and stretching.
+    txtFilename->setText(QString());
+    chkStretchPicture->setChecked(true);
+}
+
+void frmGetSpreadBackground::cmdBrowse_Click() {
+    CommonDialog1.Filter = QStringLiteral(
+        "Bitmaps (*.bmp)|*.bmp|Joint Photographic Experts Group (*.jpg)|*.jpg|Graphics Interchange Format "
+        "(*.gif)|*.gif|All Supported Types (*.bmp; *.jpg; *.gif)|*.bmp;*.jpg;*.gif");
+    CommonDialog1.FilterIndex = 4;
+    CommonDialog1.DialogTitle = QStringLiteral("Select Background Picture");
+    CommonDialog1.Flags = CommonDialog::cdlOFNHideReadOnly;
+    CommonDialog1.ShowOpen();
+    txtFilename->setText(CommonDialog1.FileName);
+}
+
+bool frmGetSpreadBackground::Validate(const QString& fileName) {
+    if (!FileExists(fileName)) {
+        MsgBox(QStringLiteral("There is no file with the name you provided!"), vbCritical);
+        return false;
+    }
+    if (!IsSupportedType(fileName)) {
+        MsgBox(QStringLiteral("Unsupported file type. Only files of type BMP, JPG and GIF are currently supported."),
+               vbCritical);
+        return false;
+    }
+    try {
+        Image1->setPicture(LoadPicture(fileName).Image);
+    } catch (const RuntimeError&) {
+        MsgBox(QStringLiteral("Unable to open the file you selected. Please make sure it is of a valid type."),
+               vbCritical);
+        return false;
+    }
+    return true;
+}
+
+void frmGetSpreadBackground::cmdOK_Click() {
+    frmDesignSpread* designer = IsLoaded<frmDesignSpread>() ? &Get<frmDesignSpread>() : nullptr;
+    const QString typed = txtFilename->Text();
+    if (TrimField(typed).isEmpty()) {
+        if (CurrentSpread.BackgroundFile.Value().contains(QLatin1Char('.')) &&
+            MsgBox(QStringLiteral("Are you sure you want to remove the currently selected background picture?"),
+                   vbYesNo | vbQuestion) == vbNo)
+            return;
+        KillIgnoringErrors(TempDir + WorkingStem);
+        CurrentSpread.StretchBackground = Flag(chkStretchPicture->isChecked());
+        CurrentSpread.BackgroundFile = QString();
+        if (designer) designer->ClearBackground();
+    } else {
+        if (!Validate(typed)) return;
+        const QString fileName = TrimField(typed);
+        // The spread takes the picture only once the copy is there: a file
+        // that vanished since it was listed leaves the spread as it was.
+        const QString working = WorkingBackgroundName(fileName);
+        const QString copy = TempDir + working;
+        FileCopy(fileName, copy);
+        CurrentSpread.StretchBackground = Flag(chkStretchPicture->isChecked());
+        CurrentSpread.BackgroundFile = working;
+        if (designer) designer->ShowBackground(copy, CurrentSpread.StretchBackground != 0);
+    }
+    if (designer) designer->SpreadDirty = true;
+    Unload();
+}
+
+void frmGetSpreadBackground::cmdCancel_Click() { Unload(); }
+
+void frmGetSpreadBackground::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) {
+    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && focusWidget() == txtFilename) {
+        handled = true;
+        cmdOK_Click();
+    }
+}
+
+void frmGetSpreadBackground::Form_KeyUp(int key, Qt::KeyboardModifiers, bool& handled) {
+    if (key != Qt::Key_Escape) return;
+    handled = true;
+    cmdCancel_Click();
+}

@@ -1,0 +1,112 @@
+#include "screens/store/Startup.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "core/platform/BinaryFile.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/MsgBox.h"
+#include "core/platform/ProgramLock.h"
+#include "core/platform/Picture.h"
+#include "screens/shell/MDIMainForm.h"
+#include "screens/shell/frmMainScreen.h"
+#include "core/store/DesignCommit.h"
+#include "screens/store/frmConvert.h"
+#include "core/store/StoreOperations.h"
+#include "core/store/RunState.h"
+
+namespace {
+
+EndProcessHook& TheEndProcessHook() {
+    static EndProcessHook hook;
+    return hook;
+}
+
+ConversionScreenHook& TheConversionScreenHook() {
+    static ConversionScreenHook hook;
+    return hook;
+}
+
+void ShowConversionScreen() {
+    if (const ConversionScreenHook& hook = TheConversionScreenHook()) hook();
+    else RunConversionScreen();
+}
+
+}  // namespace
+
+void FatalError() {
+    MsgBox(QStringLiteral("Cartomar Error. If this problem persists, please contact Ondine Software Inc."),
+           vbCritical);
+    EndProcess(1);
+}
+
+bool RunStartup(const QString& programDir, bool offerInstall) {
+    FormPaths(programDir);
+    // Before anything is touched: a second copy on the same folder would
+    // empty the first one's Temp/ under its feet.
+    if (!TakeProgramLock(programDir)) {
+        MsgBox(QStringLiteral("Cartomar is already running from the folder '") + programDir +
+                   QStringLiteral("'. Only one copy can work on the same designs at a time."),
+               vbExclamation);
+        EndProcess(1);
+        return false;
+    }
+    CurrentLocationColour = 4;
+    OtherLocationColour = 14;
+    SpreadLocations.Redim(1, 1);
+    DesignExistsChoice = 0;
+    InitDatabase();
+    ClearTemp();
+
+    if (!FileExists(LocationsPath)) {
+        if (FileExists(DecksPath + QStringLiteral(".bkp"))) {
+            // A conversion was begun here before; doing it again would
+            // overwrite the only copies of the old data.
+            MsgBox(QStringLiteral("Unable to convert to new database format as existing backups exist.  "
+                                  "Please reinstall in a new directory or contact ") +
+                   SupportAddress + QLatin1Char('.'));
+            EndProcess(1);
+            return false;
+        }
+        // The converter stands over the frame, so the frame comes up first.
+        ShowFrameIfLoaded();
+        ShowConversionScreen();
+    }
+
+    const int spreadCount = CountSpreads();
+    const int deckCount = CountDecks();
+    ShowMainScreen();
+    if (offerInstall && spreadCount == 0 && deckCount == 0) {
+        const int answer = MsgBox(QStringLiteral("You don't have any designs installed. Do you want install any now?"),
+                                  vbYesNo | vbInformation);
+        if (answer == vbYes) {
+            frmMainScreen& mainScreen = Get<frmMainScreen>();
+            mainScreen.Hide();
+            mainScreen.lblButton_Click(7);
+        }
+    }
+    return true;
+}
+
+void EndProcess(int exitCode) {
+    if (const EndProcessHook& hook = TheEndProcessHook()) {
+        hook(exitCode);
+        return;
+    }
+    // The toolkit's End: no further event runs and no screen gets to object.
+    // Every file is closed after each operation, so nothing is left unwritten.
+    std::fflush(nullptr);
+    std::_Exit(exitCode);
+}
+
+EndProcessHook SetEndProcessHook(EndProcessHook hook) {
+    EndProcessHook previous = std::move(TheEndProcessHook());
+    TheEndProcessHook() = std::move(hook);
+    return previous;
+}
+
+ConversionScreenHook SetConversionScreenHook(ConversionScreenHook hook) {
+    ConversionScreenHook previous = std::move(TheConversionScreenHook());
+    TheConversionScreenHook() = std::move(hook);
+    return previous;
+}

@@ -1,0 +1,48 @@
+#include "support/RecordingPrinter.h"
+
+#include <QWidget>
+
+RecordingPrinter::RecordingPrinter(int width, int height, int charWidth, int lineHeight)
+    : width_(width), height_(height), charWidth_(charWidth), lineHeight_(lineHeight) {}
+
+int RecordingPrinter::TextWidth(const QString& text) const {
+    int count = 0;
+    for (QChar c : text)
+        if (c != QLatin1Char('\r') && c != QLatin1Char('\n')) ++count;
+    return count * charWidth_;
+}
+
+void RecordingPrinter::Record(const QString& op, const QString& text, int x, int y, int w, int h) {
+    Calls.append({op, text, x, y, w, h, FontBold, FontSize, ForeColor});
+}
+
+void RecordingPrinter::DrawText(const QString& text) { Record(QStringLiteral("Print"), text, CurrentX, CurrentY); }
+
+void RecordingPrinter::PaintPicture(const QImage& picture, int x, int y, int width, int height) {
+    (void)picture;
+    Record(QStringLiteral("PaintPicture"), QString(), x, y, width, height);
+}
+
+void RecordingPrinter::NewPage() { Record(QStringLiteral("NewPage")); }
+void RecordingPrinter::EndDoc() { Record(QStringLiteral("EndDoc")); }
+void RecordingPrinter::KillDoc() { Record(QStringLiteral("KillDoc")); }
+void RecordingPrinter::Close() { Record(QStringLiteral("Close")); }
+
+void RecordingPrinter::PrintForm(QWidget& form) {
+    Record(QStringLiteral("PrintForm"), form.objectName());
+    if (OnPrintForm) OnPrintForm(form);
+}
+
+QStringList RecordingPrinter::Texts() const {
+    QStringList texts;
+    for (const PrinterCall& call : Calls)
+        if (call.Op == QLatin1String("Print")) texts.append(call.Text);
+    return texts;
+}
+
+QList<PrinterCall> RecordingPrinter::CallsOf(const QString& op) const {
+    QList<PrinterCall> out;
+    for (const PrinterCall& call : Calls)
+        if (call.Op == op) out.append(call);
+    return out;
+}
