@@ -33,23 +33,23 @@ void RemoveUnfinishedWrites() {
 }  // namespace
 
 void FormPaths(const QString& programDir) {
-    AppPath = WithSlash(programDir);
-    SettingsPath = AppPath + QStringLiteral("Settings.dat");
-    SpreadsPath = AppPath + QStringLiteral("Spreads.spr");
-    LocationsPath = AppPath + QStringLiteral("Location.loc");
-    DecksPath = AppPath + QStringLiteral("Decks.dck");
-    CardsDir = AppPath + QStringLiteral("Cards/");
-    PackagesDir = AppPath + QStringLiteral("Packages/");
-    AttachmentsDir = PackagesDir + QStringLiteral("Attachments/");
-    CardsPath = AppPath + QStringLiteral("Cards.crd");
-    ReadingsPath = AppPath + QStringLiteral("Readings.red");
-    DiaryPath = AppPath + QStringLiteral("Diary.dry");
-    DefaultPicturePath = CardsDir + DefaultPictureName;
+    TheRun.Paths.AppPath = WithSlash(programDir);
+    TheRun.Paths.SettingsPath = AppPath + QStringLiteral("Settings.dat");
+    TheRun.Paths.SpreadsPath = AppPath + QStringLiteral("Spreads.spr");
+    TheRun.Paths.LocationsPath = AppPath + QStringLiteral("Location.loc");
+    TheRun.Paths.DecksPath = AppPath + QStringLiteral("Decks.dck");
+    TheRun.Paths.CardsDir = AppPath + QStringLiteral("Cards/");
+    TheRun.Paths.PackagesDir = AppPath + QStringLiteral("Packages/");
+    TheRun.Paths.AttachmentsDir = PackagesDir + QStringLiteral("Attachments/");
+    TheRun.Paths.CardsPath = AppPath + QStringLiteral("Cards.crd");
+    TheRun.Paths.ReadingsPath = AppPath + QStringLiteral("Readings.red");
+    TheRun.Paths.DiaryPath = AppPath + QStringLiteral("Diary.dry");
+    TheRun.Paths.DefaultPicturePath = CardsDir + DefaultPictureName;
     // Formed before TempDir has its value, so it holds the bare file name.
     // Nothing reads it.
-    TempFilePath = QStringLiteral("temp.tmp");
-    TempDir = AppPath + QStringLiteral("Temp/");
-    TempCardsPath = TempDir + QStringLiteral("Cards.crd");
+    TheRun.Paths.TempFilePath = QStringLiteral("temp.tmp");
+    TheRun.Paths.TempDir = AppPath + QStringLiteral("Temp/");
+    TheRun.Paths.TempCardsPath = TempDir + QStringLiteral("Cards.crd");
 }
 
 void ClearTemp() {

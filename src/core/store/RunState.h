@@ -1,28 +1,38 @@
 #pragma once
-// The run-wide values: paths formed at start-up, the records that screens hand
-// to each other, and the options of the entry in hand.
+// The run-wide state: one value, RunState, owned by this file and put back
+// whole between runs. The names the program uses for its parts (CardsDir,
+// CurrentDeck, DesignMode, ...) are references into it. Who may change what:
+// - the paths are one ProgramPaths value, formed by FormPaths at start-up and
+//   read-only to everyone else;
+// - the records in hand are handed from screen to screen: the screen that
+//   opens a design or an entry fills them, the screens it opens read and
+//   change them, and its save writes them;
+// - the options of the run are set by the screen that asks for them and read
+//   by the ones that follow.
 #include <QString>
 #include <array>
 
 #include "core/platform/Arrays.h"
 #include "core/records/Records.h"
 
-// Paths. Directories end in '/'. Formed once by FormPaths at start-up.
-extern QString AppPath;
-extern QString SettingsPath;
-extern QString SpreadsPath;
-extern QString LocationsPath;
-extern QString DecksPath;
-extern QString CardsDir;
-extern QString PackagesDir;
-extern QString AttachmentsDir;
-extern QString CardsPath;
-extern QString ReadingsPath;
-extern QString DiaryPath;
-extern QString DefaultPicturePath;
-extern QString TempFilePath;
-extern QString TempDir;
-extern QString TempCardsPath;
+// Where everything lives. Directories end in '/'.
+struct ProgramPaths {
+    QString AppPath;
+    QString SettingsPath;
+    QString SpreadsPath;
+    QString LocationsPath;
+    QString DecksPath;
+    QString CardsDir;
+    QString PackagesDir;
+    QString AttachmentsDir;
+    QString CardsPath;
+    QString ReadingsPath;
+    QString DiaryPath;
+    QString DefaultPicturePath;
+    QString TempFilePath;
+    QString TempDir;
+    QString TempCardsPath;
+};
 
 // The name under which records know the shared default picture: 12
 // characters, the last a space, exactly filling a picture field.
@@ -33,26 +43,81 @@ struct DeckInMemory : DeckRecord {
     BoundedArray<CardRecord> DeckCards;
 };
 
-extern DeckInMemory CurrentDeck;
-extern DeckRecord ListDeck;
-extern CardRecord CurrentCard;
-extern SpreadRecord CurrentSpread;
-extern BoundedArray<LocationRecord> SpreadLocations;  // indexed by LocationNumber
-extern ReadingRecord CurrentReading;
-extern DiaryRecord CurrentDiary;
-extern CardRecord ScratchCard;
-extern DeckRecord ScratchDeck;
-extern SpreadRecord ScratchSpread;
+struct RunState {
+    ProgramPaths Paths;
 
-// State of the run.
-extern int DesignMode;                 // 1: designer opened for a new design, 0: existing
-extern bool UseReversed;
-extern bool AllowDuplicateCards;
-extern std::array<bool, 4> CardTypeSelected;
-extern int SelectedLocation;
-extern bool ChooserManageMode;
-extern bool InstallAllSpreads;
-extern int DesignExistsChoice;         // a DesignExistsAnswer
+    // The records in hand.
+    DeckInMemory CurrentDeck;
+    DeckRecord ListDeck;   // the deck chosen on a list, before it is loaded
+    CardRecord CurrentCard;
+    SpreadRecord CurrentSpread;
+    BoundedArray<LocationRecord> SpreadLocations;   // indexed by LocationNumber
+    ReadingRecord CurrentReading;
+    DiaryRecord CurrentDiary;
+    // Records read only to be looked at and dropped.
+    CardRecord ScratchCard;
+    DeckRecord ScratchDeck;
+    SpreadRecord ScratchSpread;
+
+    // The options of the run.
+    int DesignMode = 0;   // 1: designer opened for a new design, 0: existing
+    bool UseReversed = false;
+    bool AllowDuplicateCards = false;
+    std::array<bool, 4> CardTypeSelected{};
+    int SelectedLocation = 0;
+    bool ChooserManageMode = false;
+    bool InstallAllSpreads = false;
+    int DesignExistsChoice = 0;   // a DesignExistsAnswer
+    // Palette entries that mark locations on the reading and diary screens.
+    int CurrentLocationColour = 4;
+    int OtherLocationColour = 14;
+};
+
+// The one run-wide state. Change it through the names below; only FormPaths
+// writes TheRun.Paths.
+extern RunState TheRun;
+
+// Puts every run-wide value back to its state before start-up (tests start
+// several runs in one process).
+void ResetRunState();
+
+inline const QString& AppPath = TheRun.Paths.AppPath;
+inline const QString& SettingsPath = TheRun.Paths.SettingsPath;
+inline const QString& SpreadsPath = TheRun.Paths.SpreadsPath;
+inline const QString& LocationsPath = TheRun.Paths.LocationsPath;
+inline const QString& DecksPath = TheRun.Paths.DecksPath;
+inline const QString& CardsDir = TheRun.Paths.CardsDir;
+inline const QString& PackagesDir = TheRun.Paths.PackagesDir;
+inline const QString& AttachmentsDir = TheRun.Paths.AttachmentsDir;
+inline const QString& CardsPath = TheRun.Paths.CardsPath;
+inline const QString& ReadingsPath = TheRun.Paths.ReadingsPath;
+inline const QString& DiaryPath = TheRun.Paths.DiaryPath;
+inline const QString& DefaultPicturePath = TheRun.Paths.DefaultPicturePath;
+inline const QString& TempFilePath = TheRun.Paths.TempFilePath;
+inline const QString& TempDir = TheRun.Paths.TempDir;
+inline const QString& TempCardsPath = TheRun.Paths.TempCardsPath;
+
+inline DeckInMemory& CurrentDeck = TheRun.CurrentDeck;
+inline DeckRecord& ListDeck = TheRun.ListDeck;
+inline CardRecord& CurrentCard = TheRun.CurrentCard;
+inline SpreadRecord& CurrentSpread = TheRun.CurrentSpread;
+inline BoundedArray<LocationRecord>& SpreadLocations = TheRun.SpreadLocations;
+inline ReadingRecord& CurrentReading = TheRun.CurrentReading;
+inline DiaryRecord& CurrentDiary = TheRun.CurrentDiary;
+inline CardRecord& ScratchCard = TheRun.ScratchCard;
+inline DeckRecord& ScratchDeck = TheRun.ScratchDeck;
+inline SpreadRecord& ScratchSpread = TheRun.ScratchSpread;
+
+inline int& DesignMode = TheRun.DesignMode;
+inline bool& UseReversed = TheRun.UseReversed;
+inline bool& AllowDuplicateCards = TheRun.AllowDuplicateCards;
+inline std::array<bool, 4>& CardTypeSelected = TheRun.CardTypeSelected;
+inline int& SelectedLocation = TheRun.SelectedLocation;
+inline bool& ChooserManageMode = TheRun.ChooserManageMode;
+inline bool& InstallAllSpreads = TheRun.InstallAllSpreads;
+inline int& DesignExistsChoice = TheRun.DesignExistsChoice;
+inline int& CurrentLocationColour = TheRun.CurrentLocationColour;
+inline int& OtherLocationColour = TheRun.OtherLocationColour;
 
 // The kinds of design the design-exists question names.
 enum DesignKind : int { DesignCard = 0, DesignDeck = 1, DesignSpread = 2 };
@@ -66,11 +131,3 @@ enum DesignExistsAnswer : int {
     DesignExistsOverwriteAll = 4,
     DesignExistsSkipAll = 5,
 };
-
-// Palette entries that mark locations on the reading and diary screens.
-extern int CurrentLocationColour;
-extern int OtherLocationColour;
-
-// Puts every run-wide value back to its state before start-up (tests start
-// several runs in one process).
-void ResetRunState();
