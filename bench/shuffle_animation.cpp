@@ -9,7 +9,7 @@
 
 #include "screens/readings/frmNewReading.h"
 #include "screens/readings/frmReadingCards.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
 
 namespace {

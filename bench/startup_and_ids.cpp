@@ -14,7 +14,7 @@
 #include "core/platform/FileSys.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/store/Startup.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
 #include "core/records/Records.h"
 #include "core/store/RunState.h"
 

@@ -16,7 +16,11 @@
 #include "FuzzSupport.h"
 #include "core/platform/FileSys.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/platform/OleDate.h"
+#include "core/store/DeckLoading.h"
+#include "core/store/DeletePasses.h"
+#include "core/store/Lookups.h"
+#include "core/store/Usability.h"
 #include "core/store/RunState.h"
 
 // The record file the input stands for, given by each target.

@@ -25,7 +25,10 @@
 #include "core/platform/OleDate.h"
 #include "core/records/RecordFile.h"
 #include "screens/store/Startup.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/DeckLoading.h"
+#include "core/store/DeletePasses.h"
+#include "core/store/Lookups.h"
+#include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
 
 namespace {

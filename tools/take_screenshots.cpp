@@ -58,7 +58,9 @@
 #include "screens/spreads/frmSpreads.h"
 #include "core/records/RecordFile.h"
 #include "screens/store/Startup.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/DeckLoading.h"
+#include "core/store/Lookups.h"
+#include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
 #include "screens/shell/Emblems.h"
 

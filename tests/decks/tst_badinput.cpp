@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include "core/store/RunState.h"
 #include "screens/decks/frmAddCard.h"
 #include "screens/decks/frmDeckCardProperties.h"
 #include "screens/decks/frmDecks.h"
@@ -19,7 +20,7 @@
 #include "screens/platform/MediaPlayer.h"
 #include "screens/platform/MsgBox.h"
 #include "core/platform/Rnd.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
 #include "support/BadInput.h"
 #include "support/Fixtures.h"
 #include "DeckDriver.h"

@@ -4,6 +4,7 @@
 // configured, and the questions on leaving.
 #include <QCheckBox>
 #include <QLineEdit>
+#include "core/store/RunState.h"
 #include "screens/platform/ListBox.h"
 #include "screens/decks/DeckLoadQuestion.h"
 #include <QPlainTextEdit>
@@ -24,7 +25,7 @@
 #include "screens/platform/MediaPlayer.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/store/Startup.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
 #include "support/Fixtures.h"
 
 class TestCardRules : public QObject {

@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include "core/store/RunState.h"
 #include "screens/platform/ListBox.h"
 #include "screens/decks/DeckLoadQuestion.h"
 #include <QPlainTextEdit>
@@ -28,7 +29,8 @@
 #include "screens/platform/MsgBox.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/store/Startup.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
+#include "core/store/Usability.h"
 #include "support/Fixtures.h"
 #include "support/Prompts.h"
 

@@ -4,6 +4,7 @@
 // spread designer.
 #include <QLabel>
 #include <QLineEdit>
+#include "core/store/RunState.h"
 #include "screens/platform/ListBox.h"
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -18,7 +19,7 @@
 #include "screens/platform/MsgBox.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/store/frmGetPassword.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
 #include "support/Fixtures.h"
 #include "support/Prompts.h"
 

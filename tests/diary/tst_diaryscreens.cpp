@@ -10,6 +10,7 @@
 #include "screens/shell/ClickLabel.h"
 #include "screens/shell/ImageBox.h"
 #include "DiaryFixtures.h"
+#include "core/store/Lookups.h"
 
 using namespace DiaryFixtures;
 

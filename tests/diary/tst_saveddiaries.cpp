@@ -10,6 +10,8 @@
 #include "screens/shell/ClickLabel.h"
 #include "screens/store/frmGetPassword.h"
 #include "DiaryFixtures.h"
+#include "core/store/Lookups.h"
+#include "core/store/DeletePasses.h"
 
 using namespace DiaryFixtures;
 

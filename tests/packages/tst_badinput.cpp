@@ -17,7 +17,6 @@
 #include "screens/store/PasswordPrompts.h"
 #include "screens/store/frmGetPassword.h"
 #include "screens/store/frmSetPassword.h"
-#include "core/store/StoreOperations.h"
 #include "core/store/RunState.h"
 #include "support/BadInput.h"
 #include "support/Fixtures.h"

@@ -30,6 +30,8 @@
 #include "screens/store/frmDesignExists.h"
 #include "screens/store/frmSetPassword.h"
 #include "support/Prompts.h"
+#include "core/store/Lookups.h"
+#include "core/store/Usability.h"
 
 using namespace ReadingFixtures;
 

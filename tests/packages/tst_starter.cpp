@@ -21,6 +21,7 @@
 #include "screens/platform/ListBox.h"
 #include "screens/shell/ClickLabel.h"
 #include "screens/spreads/frmDeckChooser.h"
+#include "core/store/Lookups.h"
 
 using namespace ReadingFixtures;
 

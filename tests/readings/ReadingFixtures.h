@@ -21,7 +21,7 @@
 #include "screens/shell/frmMainScreen.h"
 #include "core/platform/FileSys.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
 #include "support/Fixtures.h"
 #include "support/ModalScript.h"

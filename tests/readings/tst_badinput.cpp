@@ -13,6 +13,9 @@
 #include "screens/readings/frmSaveReading.h"
 #include "support/BadInput.h"
 #include "ReadingFixtures.h"
+#include "core/store/Lookups.h"
+#include "core/store/DeletePasses.h"
+#include "core/store/NewDesigns.h"
 
 using namespace ReadingFixtures;
 

@@ -16,6 +16,7 @@
 #include "screens/shell/ClickLabel.h"
 #include "screens/shell/ImageBox.h"
 #include "ReadingFixtures.h"
+#include "core/store/Lookups.h"
 
 using namespace ReadingFixtures;
 

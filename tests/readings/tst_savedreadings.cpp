@@ -9,6 +9,9 @@
 #include "screens/readings/frmSaveReading.h"
 #include "screens/store/frmGetPassword.h"
 #include "ReadingFixtures.h"
+#include "core/platform/OleDate.h"
+#include "core/store/Lookups.h"
+#include "core/store/DeletePasses.h"
 
 using namespace ReadingFixtures;
 

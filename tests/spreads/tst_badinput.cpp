@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/spreads/TextBoxes.h"
 #include "screens/spreads/frmDesignSpread.h"
@@ -13,7 +14,7 @@
 #include "screens/spreads/frmSaveSpread.h"
 #include "screens/spreads/frmSpreads.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
 #include "support/BadInput.h"
 #include "support/Fixtures.h"
 #include "SpreadTestKit.h"

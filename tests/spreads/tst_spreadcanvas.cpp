@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/spreads/SpreadCanvas.h"
@@ -13,7 +14,7 @@
 #include "screens/spreads/frmDesignSpread.h"
 #include "screens/spreads/frmLocationAttributes.h"
 #include "screens/spreads/frmSpreads.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/NewDesigns.h"
 #include "support/Fixtures.h"
 #include "SpreadTestKit.h"
 

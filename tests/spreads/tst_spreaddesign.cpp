@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
 #include "core/platform/Picture.h"
 #include "screens/shell/ImageBox.h"
@@ -23,7 +24,7 @@
 #include "screens/spreads/frmSpreadComments.h"
 #include "screens/spreads/frmSpreads.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
 #include "support/Fixtures.h"
 #include "SpreadTestKit.h"
 

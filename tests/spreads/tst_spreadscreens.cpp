@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
 #include "core/platform/OleDate.h"
 #include "screens/shell/frmMainScreen.h"
@@ -21,7 +22,9 @@
 #include "screens/spreads/frmSpreads.h"
 #include "core/records/RecordFile.h"
 #include "screens/store/frmGetPassword.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/DeletePasses.h"
+#include "core/store/Lookups.h"
+#include "core/store/Usability.h"
 #include "support/Fixtures.h"
 #include "SpreadTestKit.h"
 

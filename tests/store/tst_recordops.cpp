@@ -7,7 +7,11 @@
 
 #include "core/platform/FileSys.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/RunState.h"
+#include "core/store/DeletePasses.h"
+#include "core/store/Lookups.h"
+#include "core/store/NewDesigns.h"
+#include "core/store/Usability.h"
 #include "support/Fixtures.h"
 
 namespace {

@@ -8,7 +8,9 @@
 #include "screens/shell/MDIMainForm.h"
 #include "core/records/RecordFile.h"
 #include "screens/store/Startup.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/DeckLoading.h"
+#include "core/store/Lookups.h"
+#include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
 
 namespace Fixtures {

@@ -9,7 +9,6 @@
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
 #include "core/platform/WriteFaults.h"
-#include "core/store/StoreOperations.h"
 #include "core/store/RunState.h"
 
 PackageMemberHeader PackageHeader;

@@ -252,3 +252,8 @@ QString FileNameOf(const QString& path) {
     const qsizetype cut = std::max(path.lastIndexOf(QLatin1Char('/')), path.lastIndexOf(QLatin1Char('\\')));
     return path.mid(cut + 1);
 }
+
+QString AddTrailingBackslash(const QString& path) {
+    if (path.endsWith(QLatin1Char('/')) || path.endsWith(QLatin1Char('\\'))) return path;
+    return path + QLatin1Char('/');
+}

@@ -64,3 +64,5 @@ QString WithSlash(const QString& folder);
 QString FolderOf(const QString& path);
 // The part after the last '/' or '\'.
 QString FileNameOf(const QString& path);
+
+QString AddTrailingBackslash(const QString& path);   // ends the path in '/'

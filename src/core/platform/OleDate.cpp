@@ -73,3 +73,7 @@ QString FormatTimeHmsAmPm(double oleDate) {
         .arg(t.second())
         .arg(t.hour() < 12 ? QStringLiteral("AM") : QStringLiteral("PM"));
 }
+
+QString FormatLongDate(double oleDate) { return FormatDdMmmYyyy(oleDate); }
+
+QString FormatSortDate(double oleDate) { return FormatYyyyMmDd(oleDate); }

@@ -20,3 +20,6 @@ QString FormatTimeHmsAmPm(double oleDate);     // "h:m:s AMPM"       3:7:9 PM
 // Tests fix "now" so that dates in records are predictable; an invalid
 // QDateTime returns to the clock.
 void SetClockForTests(const QDateTime& now);
+
+QString FormatLongDate(double oleDate);              // "dd-mmm-yyyy"
+QString FormatSortDate(double oleDate);              // "yyyy/mm/dd"

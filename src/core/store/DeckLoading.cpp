@@ -6,7 +6,9 @@
 
 #include "core/platform/FileSys.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/RunState.h"
+#include "core/store/DeckLoading.h"
+#include "core/store/Lookups.h"
 
 bool LoadDeckCards() {
     static_cast<DeckRecord&>(CurrentDeck) = ListDeck;

@@ -11,7 +11,6 @@
 #include "core/platform/BinaryFile.h"
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
-#include "core/store/StoreOperations.h"
 #include "core/store/RunState.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include "core/platform/Picture.h"
 #include "core/store/DesignCommit.h"
 #include "core/store/RunState.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/DeletePasses.h"
 
 namespace {
 

@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/decks/CardScreen.h"
 
 #include <QGroupBox>
@@ -13,7 +14,6 @@
 #include "screens/shell/FitPicture.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/shell/ScreenPlacement.h"
-#include "core/store/StoreOperations.h"
 
 CardScreen::CardScreen(const QString& captionStem, bool editing) : captionStem_(captionStem) {
     resize(TwipsToPixels(9600), TwipsToPixels(6840));

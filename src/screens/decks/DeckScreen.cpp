@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/decks/DeckScreen.h"
 
 #include <QLabel>
@@ -11,7 +12,7 @@
 #include "screens/platform/ListBox.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/platform/OleDate.h"
 
 DeckScreen::DeckScreen(const QString& captionStem, bool designing) : captionStem_(captionStem) {
     resize(TwipsToPixels(9120), TwipsToPixels(6240));

@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/decks/FileChooser.h"
 
 #include <QDir>
@@ -8,7 +9,7 @@
 #include "screens/platform/MsgBox.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/store/Startup.h"
-#include "core/store/StoreOperations.h"
+#include "core/platform/FileSys.h"
 
 FileChooser::FileChooser(const QString& kindWord, const QString& pattern, ChooserMemory& memory)
     : kindWord_(kindWord), memory_(memory) {

@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/decks/frmAddCard.h"
 
 #include <QLineEdit>
@@ -16,7 +17,7 @@
 #include "screens/shell/ImageBox.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/store/Startup.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/DeckLoading.h"
 
 frmAddCard::frmAddCard() : CardScreen(QStringLiteral("Add Card"), true) {
     setObjectName(QStringLiteral("frmAddCard"));

@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/decks/frmBrowseDeck.h"
 
 #include <QPushButton>
@@ -6,7 +7,7 @@
 #include "screens/platform/ListBox.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
 
 frmBrowseDeck::frmBrowseDeck() {
     setObjectName(QStringLiteral("frmBrowseDeck"));

@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/decks/frmDecks.h"
 
 #include <QGroupBox>
@@ -16,7 +17,11 @@
 #include "screens/store/PasswordPrompts.h"
 #include "core/records/RecordFile.h"
 #include "screens/store/Startup.h"
-#include "core/store/StoreOperations.h"
+#include "core/platform/OleDate.h"
+#include "core/store/DeckLoading.h"
+#include "core/store/DeletePasses.h"
+#include "core/store/Lookups.h"
+#include "core/store/NewDesigns.h"
 #include "screens/decks/DeckLoadQuestion.h"
 
 namespace {

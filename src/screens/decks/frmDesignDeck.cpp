@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/decks/frmDesignDeck.h"
 
 #include <QLineEdit>
@@ -14,7 +15,7 @@
 #include "core/platform/FileSys.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/NewDesigns.h"
 
 frmDesignDeck::frmDesignDeck() : DeckScreen(QStringLiteral("Deck Design"), true) {
     setObjectName(QStringLiteral("frmDesignDeck"));

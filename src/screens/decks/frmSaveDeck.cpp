@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/decks/frmSaveDeck.h"
 
 #include <QLabel>
@@ -16,7 +17,9 @@
 #include "screens/shell/ScreenPlacement.h"
 #include "core/store/DesignCommit.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/DeckLoading.h"
+#include "core/store/DeletePasses.h"
+#include "core/store/Lookups.h"
 
 frmSaveDeck::frmSaveDeck() {
     setObjectName(QStringLiteral("frmSaveDeck"));

@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/decks/mdlDeckDesign.h"
 
 #include <QFocusEvent>
@@ -8,7 +9,6 @@
 #include <QSignalBlocker>
 
 #include "core/platform/FileSys.h"
-#include "core/store/StoreOperations.h"
 
 QString UprightPictureFile;
 QString ReversedPictureFile;

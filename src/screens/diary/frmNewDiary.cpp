@@ -18,7 +18,7 @@
 #include "screens/shell/frmDiaryHelp.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/shell/ScreenPlacement.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 
 namespace {

@@ -4,7 +4,8 @@
 #include "screens/platform/MsgBox.h"
 #include "screens/shell/frmMainScreen.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/DeletePasses.h"
+#include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 
 frmOpenDiary::frmOpenDiary()

@@ -3,7 +3,7 @@
 #include "screens/diary/frmNewDiary.h"
 #include "core/platform/OleDate.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 
 frmSaveDiary::frmSaveDiary()

@@ -20,7 +20,7 @@
 #include "screens/store/PasswordPrompts.h"
 #include "core/records/RecordFile.h"
 #include "screens/store/Startup.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 
 namespace {

@@ -20,7 +20,6 @@
 #include "core/records/RecordFile.h"
 #include "screens/store/Startup.h"
 #include "screens/store/frmDesignExists.h"
-#include "core/store/StoreOperations.h"
 #include "core/store/RunState.h"
 
 namespace {

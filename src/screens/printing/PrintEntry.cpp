@@ -14,7 +14,7 @@
 #include "screens/shell/ClickLabel.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/store/Startup.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 
 namespace {

@@ -11,7 +11,8 @@
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/store/PasswordPrompts.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/platform/OleDate.h"
+#include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 #include "screens/decks/DeckLoadQuestion.h"
 

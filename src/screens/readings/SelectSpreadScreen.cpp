@@ -11,7 +11,9 @@
 #include "screens/readings/EntryScreen.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/DeckLoading.h"
+#include "core/store/Lookups.h"
+#include "core/store/Usability.h"
 #include "core/store/RunState.h"
 #include "screens/decks/DeckLoadQuestion.h"
 

@@ -19,7 +19,8 @@
 #include "screens/shell/frmMainScreen.h"
 #include "screens/shell/frmQuickHelp.h"
 #include "screens/shell/ScreenPlacement.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
+#include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
 #include "screens/platform/ErrorReport.h"
 

@@ -12,7 +12,7 @@
 #include "screens/readings/frmNewReading.h"
 #include "screens/shell/ClickLabel.h"
 #include "screens/shell/ImageBox.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/DeckLoading.h"
 #include "core/store/RunState.h"
 #include "screens/platform/ErrorReport.h"
 

@@ -3,7 +3,7 @@
 #include "core/platform/OleDate.h"
 #include "screens/readings/frmNewReading.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 
 frmSaveReading::frmSaveReading()

@@ -26,7 +26,7 @@
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/spreads/frmSpreads.h"
 #include "screens/store/Startup.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
 
 namespace {

@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/spreads/DeckLists.h"
 
 #include <QCheckBox>
@@ -6,7 +7,7 @@
 #include "screens/platform/MsgBox.h"
 #include "screens/platform/ListBox.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
 
 void RestoreListPosition(ListBox* list, int noted) {
     if (noted > list->ListCount() - 1) --noted;

@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/spreads/LocationAttributesForm.h"
 
 #include <QLabel>
@@ -6,7 +7,6 @@
 #include "core/platform/Twips.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/spreads/TextBoxes.h"
-#include "core/store/StoreOperations.h"
 
 namespace {
 QRect At(int left, int top, int width, int height) {

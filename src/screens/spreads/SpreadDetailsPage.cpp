@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/spreads/SpreadDetailsPage.h"
 
 #include <QCheckBox>
@@ -6,7 +7,7 @@
 
 #include "core/platform/Twips.h"
 #include "screens/spreads/TextBoxes.h"
-#include "core/store/StoreOperations.h"
+#include "core/platform/OleDate.h"
 
 namespace {
 QRect At(int left, int top, int width, int height) {

@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/spreads/frmDeckChooser.h"
 
 #include <QCheckBox>
@@ -10,7 +11,7 @@
 #include "screens/platform/ListBox.h"
 #include "screens/spreads/frmSpreads.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
 
 namespace {
 QRect At(int left, int top, int width, int height) {

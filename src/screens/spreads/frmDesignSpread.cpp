@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/spreads/frmDesignSpread.h"
 
 #include <QCheckBox>
@@ -25,7 +26,8 @@
 #include "screens/spreads/frmSpreadComments.h"
 #include "screens/spreads/frmSpreads.h"
 #include "screens/store/Startup.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
+#include "core/store/NewDesigns.h"
 
 namespace {
 constexpr int PageLeft = 120;

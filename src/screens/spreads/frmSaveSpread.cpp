@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/spreads/frmSaveSpread.h"
 
 #include <QLabel>
@@ -14,7 +15,9 @@
 #include "screens/spreads/frmDesignSpread.h"
 #include "core/store/DesignCommit.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/DeckLoading.h"
+#include "core/store/DeletePasses.h"
+#include "core/store/Lookups.h"
 
 namespace {
 QRect At(int left, int top, int width, int height) {

@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/spreads/frmSpreadInfo.h"
 
 #include <QCheckBox>
@@ -13,7 +14,7 @@
 #include "screens/spreads/SpreadDetailsPage.h"
 #include "screens/spreads/frmSpreadInfo_LocationAttributes.h"
 #include "screens/spreads/frmSpreads.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
 #include "screens/platform/ErrorReport.h"
 
 namespace {

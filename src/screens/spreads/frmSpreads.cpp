@@ -1,3 +1,4 @@
+#include "core/store/RunState.h"
 #include "screens/spreads/frmSpreads.h"
 
 #include <QGroupBox>
@@ -14,7 +15,10 @@
 #include "screens/spreads/frmSpreadInfo.h"
 #include "screens/store/PasswordPrompts.h"
 #include "core/records/RecordFile.h"
-#include "core/store/StoreOperations.h"
+#include "core/platform/OleDate.h"
+#include "core/store/DeletePasses.h"
+#include "core/store/Lookups.h"
+#include "core/store/NewDesigns.h"
 
 namespace {
 QRect At(int left, int top, int width, int height) {

@@ -12,7 +12,7 @@
 #include "screens/shell/frmMainScreen.h"
 #include "core/store/DesignCommit.h"
 #include "screens/store/frmConvert.h"
-#include "core/store/StoreOperations.h"
+#include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 
 namespace {

@@ -1,0 +1,14 @@
+#pragma once
+// The values of a new design or entry before the user gives it any.
+#include <QString>
+
+#include "core/records/Records.h"
+#include "core/store/RunState.h"
+
+void ResetSpread(SpreadRecord& spread = CurrentSpread);
+void ResetReading(ReadingRecord& reading = CurrentReading);
+void ResetDiary(DiaryRecord& diary = CurrentDiary);
+void ResetCard(CardRecord& card = CurrentCard);
+void ResetLocation(LocationRecord& location);
+void ResetDesigner(Designer& designer);
+void ResetDeck();   // CurrentDeck, with an empty card array
