@@ -37,7 +37,7 @@
 #include "screens/packages/frmCreatePackage.h"
 #include "screens/packages/frmInstallPackage.h"
 #include "screens/platform/FileLists.h"
-#include "screens/platform/Printer.h"
+#include "screens/platform/QtPrinter.h"
 #include "screens/readings/frmNewReading.h"
 #include "screens/readings/frmOpenReading.h"
 #include "screens/readings/frmReadingCards.h"

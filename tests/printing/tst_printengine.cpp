@@ -4,19 +4,11 @@
 #include <QImage>
 #include <QtTest>
 
-#include "screens/platform/MsgBox.h"
 #include "core/platform/OleDate.h"
+#include "core/printing/PrintLayout.h"
 #include "support/RecordingPrinter.h"
-#include "screens/printing/PrintLayout.h"
-#include "support/Prompts.h"
 
 namespace {
-
-std::shared_ptr<RecordingPrinter> UsePrinter(int width = 12240, int height = 15840) {
-    auto printer = std::make_shared<RecordingPrinter>(width, height, 100, 240);
-    SetCurrentPrinter(printer);
-    return printer;
-}
 
 // "text@x,y" of every Print from the n-th call on.
 QStringList Prints(const RecordingPrinter& printer, int from = 0) {
@@ -40,26 +32,34 @@ QString Numbered(int count) {
 class TestPrintEngine : public QObject {
     Q_OBJECT
 
-private slots:
-    void init() {
-        PrintActive = false;
-        MsgBoxScript::Enable();
-        MsgBoxScript::Clear();
+    std::unique_ptr<RecordingPrinter> printer_;
+    std::unique_ptr<PrintLayout> layout_;
+
+    // A new job on a fresh printer.
+    RecordingPrinter* UsePrinter(int width = 12240, int height = 15840) {
+        layout_.reset();
+        printer_ = std::make_unique<RecordingPrinter>(width, height, 100, 240);
+        layout_ = std::make_unique<PrintLayout>(*printer_);
+        return printer_.get();
     }
+    PrintLayout& L() { return *layout_; }
+    PrintJob& Job() { return layout_->Job(); }
+
+private slots:
 
     void startPrintSetsUpTheJobAndItsFirstHeader() {
         auto printer = UsePrinter();
-        QVERIFY(!StartPrint(0, QStringLiteral("title"), QString(), QString()));
+        QVERIFY(!L().StartPrint(0, QStringLiteral("title"), QString(), QString()));
         QCOMPARE(Prints(*printer), QStringList{QStringLiteral("KillDoc")});
-        QVERIFY(!PrintActive);
+        QVERIFY(!Job().PrintActive);
 
         printer->Calls.clear();
         printer->FontBold = false;
-        QVERIFY(StartPrint(10, QStringLiteral("  www.example  "), QStringLiteral("S"), QStringLiteral("D")));
-        QVERIFY(PrintActive);
-        QCOMPARE(BlocksPerPage, Integer(4));        // 15040 / 3500 = 4.3
-        QCOMPARE(PageNumber, Integer(2));
-        QCOMPARE(TotalPages, Integer(4));           // 11 / 4 -> 2, a remainder, and page 1
+        QVERIFY(L().StartPrint(10, QStringLiteral("  www.example  "), QStringLiteral("S"), QStringLiteral("D")));
+        QVERIFY(Job().PrintActive);
+        QCOMPARE(Job().BlocksPerPage, Integer(4));        // 15040 / 3500 = 4.3
+        QCOMPARE(Job().PageNumber, Integer(2));
+        QCOMPARE(Job().TotalPages, Integer(4));           // 11 / 4 -> 2, a remainder, and page 1
         QCOMPARE(Prints(*printer), (QStringList{QStringLiteral("KillDoc"), QStringLiteral("www.example@1000,400"),
                                                 QStringLiteral("Page 2@10640,400")}));
         QVERIFY(printer->Calls[1].Bold && printer->Calls[2].Bold);
@@ -67,81 +67,79 @@ private slots:
         QCOMPARE(printer->CurrentX, 1000);
         QCOMPARE(printer->CurrentY, 1000);
         // A job is never restarted while it runs.
-        QVERIFY(!StartPrint(3, QStringLiteral("again"), QString(), QString()));
+        QVERIFY(!L().StartPrint(3, QStringLiteral("again"), QString(), QString()));
         QCOMPARE(printer->Calls.size(), 3);
 
-        for (int slot = 1; slot <= 4; ++slot) QCOMPARE(SlotY(slot), 1000 + (slot - 1) * 3500);
-        PageNumber = 1;   // below the first page's longer header
-        QCOMPARE(QList<int>({SlotY(1), SlotY(2)}), QList<int>({1000, 2700}));
+        for (int slot = 1; slot <= 4; ++slot) QCOMPARE(L().SlotY(slot), 1000 + (slot - 1) * 3500);
+        Job().PageNumber = 1;   // below the first page's longer header
+        QCOMPARE(QList<int>({L().SlotY(1), L().SlotY(2)}), QList<int>({1000, 2700}));
 
         // The first-page form of the header names spread, deck and time.
         SetClockForTests(QDateTime(QDate(2026, 3, 5), QTime(15, 7, 9)));
         printer->Calls.clear();
-        QVERIFY(PrintHeader());
+        QVERIFY(L().PrintHeader());
         SetClockForTests(QDateTime());
         QCOMPARE(Prints(*printer),
                  (QStringList{QStringLiteral("www.example@1000,400"), QStringLiteral("Page 1@10640,400"),
                               QStringLiteral("Spread: S@1000,1000"), QStringLiteral("Deck: D@1000,1240"),
                               QStringLiteral("@0,1480"),
                               QStringLiteral("Date & Time: Thursday, 5 Mar 2026 - 3:7:9 PM@1000,1720")}));
-        QCOMPARE(BlockSlot, Integer(1));
+        QCOMPARE(Job().BlockSlot, Integer(1));
         QCOMPARE(printer->CurrentY, 2700);
-        QVERIFY(EndPrint());
-        QVERIFY(!EndPrint());
+        QVERIFY(L().EndPrint());
+        QVERIFY(!L().EndPrint());
     }
 
     void blocksPerPageRoundHalvesToEven() {
         for (auto [height, blocks] : {std::pair{9550, 2}, std::pair{13050, 4}, std::pair{16838, 5}}) {
             UsePrinter(12240, height);
-            PrintActive = false;
-            QVERIFY(StartPrint(1, QStringLiteral("t"), QString(), QString()));
-            QCOMPARE(int(BlocksPerPage), blocks);
-            EndPrint();
+            QVERIFY(L().StartPrint(1, QStringLiteral("t"), QString(), QString()));
+            QCOMPARE(int(Job().BlocksPerPage), blocks);
+            L().EndPrint();
         }
     }
 
     void unreadyPrinterIsReportedAndNothingStarts() {
         auto printer = UsePrinter();
         printer->LastError = 1;
-        QVERIFY(!StartPrint(2, QStringLiteral("t"), QString(), QString()));
-        QVERIFY(!PrintActive);
-        QCOMPARE(Prompts(), QStringList{QStringLiteral("Unable to initialize printer.")});
-        QCOMPARE(MsgBoxScript::History()[0].style, int(vbExclamation));
+        QVERIFY(!L().StartPrint(2, QStringLiteral("t"), QString(), QString()));
+        QVERIFY(!Job().PrintActive);
+        QCOMPARE(int(Job().Fault), int(PrintFault::PrinterNotReady));
         // Without a job nothing reaches the printer.
         printer->Calls.clear();
-        QVERIFY(!PrintBlock(QImage(), QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("d")));
-        QVERIFY(!PrintSummary(QStringLiteral("x")));
-        QVERIFY(!NewPrintPage());
+        QVERIFY(!L().PrintBlock(QImage(), QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("d")));
+        QVERIFY(!L().PrintSummary(QStringLiteral("x")));
+        QVERIFY(!L().NewPrintPage());
         QVERIFY(printer->Calls.isEmpty());
     }
 
     void wrappingFollowsWidthsBlanksAndLineEnds() {
         UsePrinter();
         // A paragraph of exactly the width stays whole; one twip less breaks it.
-        QCOMPARE(WrapText(QStringLiteral("abc def"), 700), QStringLiteral("abc def\r"));
-        QCOMPARE(WrapText(QStringLiteral("abc def"), 699), QStringLiteral("abc\rdef\r"));
+        QCOMPARE(L().WrapText(QStringLiteral("abc def"), 700), QStringLiteral("abc def\r"));
+        QCOMPARE(L().WrapText(QStringLiteral("abc def"), 699), QStringLiteral("abc\rdef\r"));
         // A word ending exactly at the width goes to the next line: the test
         // on blanks is strict.
-        QCOMPARE(WrapText(QStringLiteral("abc def ghi"), 700), QStringLiteral("abc\rdef ghi\r"));
-        QCOMPARE(NextLine(QStringLiteral("abc def ghi\r"), 5, 700), QStringLiteral("def ghi"));
-        QCOMPARE(NextLine(QStringLiteral("abc\r"), 5, 700), QString());
+        QCOMPARE(L().WrapText(QStringLiteral("abc def ghi"), 700), QStringLiteral("abc\rdef ghi\r"));
+        QCOMPARE(L().NextLine(QStringLiteral("abc def ghi\r"), 5, 700), QStringLiteral("def ghi"));
+        QCOMPARE(L().NextLine(QStringLiteral("abc\r"), 5, 700), QString());
         // A CR LF pair keeps its line feed for the printing to drop.
-        QCOMPARE(WrapText(QStringLiteral("ab\r\ncd"), 700), QStringLiteral("ab\r\ncd\r"));
+        QCOMPARE(L().WrapText(QStringLiteral("ab\r\ncd"), 700), QStringLiteral("ab\r\ncd\r"));
         // A word wider than the line is broken at the width.
-        QCOMPARE(WrapText(QStringLiteral("abcdefghij xy"), 450), QStringLiteral("abcd\refgh\rij\rxy\r"));
-        QCOMPARE(WrapText(QStringLiteral("abcdefghij"), 50), QStringLiteral("a\rb\rc\rd\re\rf\rg\rh\ri\rj\r"));
-        QCOMPARE(WrapText(QString(), 700), QString());
+        QCOMPARE(L().WrapText(QStringLiteral("abcdefghij xy"), 450), QStringLiteral("abcd\refgh\rij\rxy\r"));
+        QCOMPARE(L().WrapText(QStringLiteral("abcdefghij"), 50), QStringLiteral("a\rb\rc\rd\re\rf\rg\rh\ri\rj\r"));
+        QCOMPARE(L().WrapText(QString(), 700), QString());
         // Several lines of one paragraph.
-        QCOMPARE(WrapText(QStringLiteral("aa bb cc dd ee"), 550), QStringLiteral("aa bb\rcc dd\ree\r"));
+        QCOMPARE(L().WrapText(QStringLiteral("aa bb cc dd ee"), 550), QStringLiteral("aa bb\rcc dd\ree\r"));
     }
 
     void wrappedTextPrintsLineByLine() {
         auto printer = UsePrinter();
-        QVERIFY(StartPrint(1, QStringLiteral("t"), QString(), QString()));
+        QVERIFY(L().StartPrint(1, QStringLiteral("t"), QString(), QString()));
         const int from = printer->Calls.size();
         // x 2000: 9240 twips of line, 92 characters.
         const QString word = QStringLiteral("word ");
-        QVERIFY(PrintWrapped(word.repeated(30).trimmed() + QStringLiteral("\r\nnext\nlast"), 2000, 3000));
+        QVERIFY(L().PrintWrapped(word.repeated(30).trimmed() + QStringLiteral("\r\nnext\nlast"), 2000, 3000));
         QCOMPARE(Prints(*printer, from),
                  (QStringList{QStringLiteral("%1@2000,3000").arg(word.repeated(18).trimmed()),
                               QStringLiteral("%1@2000,3240").arg(word.repeated(12).trimmed()),
@@ -150,16 +148,16 @@ private slots:
 
         // An empty text prints one empty line.
         const int before = printer->Calls.size();
-        QVERIFY(PrintWrapped(QString(), 1000, 5000));
+        QVERIFY(L().PrintWrapped(QString(), 1000, 5000));
         QCOMPARE(Prints(*printer, before), QStringList{QStringLiteral("@1000,5000")});
-        EndPrint();
+        L().EndPrint();
     }
 
     void longTextGoesOnOnANewPageAtTheSameX() {
         auto printer = UsePrinter();
-        QVERIFY(StartPrint(1, QStringLiteral("t"), QString(), QString()));
+        QVERIFY(L().StartPrint(1, QStringLiteral("t"), QString(), QString()));
         const int from = printer->Calls.size();
-        QVERIFY(PrintWrapped(Numbered(60), 4100, 1000));
+        QVERIFY(L().PrintWrapped(Numbered(60), 4100, 1000));
         const QStringList prints = Prints(*printer, from);
         // A line is moved over when its top + 1300 reaches the paper's
         // 15840: the 57th line stands at 14440, the 58th would at 14680.
@@ -167,16 +165,16 @@ private slots:
         QCOMPARE(prints.mid(57, 4), (QStringList{QStringLiteral("NewPage"), QStringLiteral("t@1000,400"),
                                                  QStringLiteral("Page 3@10640,400"), QStringLiteral("L58@4100,1000")}));
         QCOMPARE(prints.last(), QStringLiteral("L60@4100,1480"));
-        QCOMPARE(PageNumber, Integer(3));
-        EndPrint();
+        QCOMPARE(Job().PageNumber, Integer(3));
+        L().EndPrint();
     }
 
     void blocksStandInSlotsAndPushOnWhenLong() {
         auto printer = UsePrinter();
-        QVERIFY(StartPrint(5, QStringLiteral("t"), QString(), QString()));
+        QVERIFY(L().StartPrint(5, QStringLiteral("t"), QString(), QString()));
         const QImage tall(100, 200, QImage::Format_RGB32);   // 1500 by 3000 twips
         int from = printer->Calls.size();
-        QVERIFY(PrintBlock(tall, QStringLiteral(" Past "), QStringLiteral("What was"), QStringLiteral("Fool(Upright)"),
+        QVERIFY(L().PrintBlock(tall, QStringLiteral(" Past "), QStringLiteral("What was"), QStringLiteral("Fool(Upright)"),
                            QStringLiteral(" A beginning ")));
         const PrinterCall picture = printer->Calls[from];
         QCOMPARE(picture.Op, QStringLiteral("PaintPicture"));
@@ -187,39 +185,39 @@ private slots:
                               QStringLiteral("@0,1980"), QStringLiteral("@0,2220"),
                               QStringLiteral("Card: Fool(Upright)@2600,2460"),
                               QStringLiteral("A beginning@2600,2700")}));
-        QCOMPARE(BlockSlot, Integer(1));
+        QCOMPARE(Job().BlockSlot, Integer(1));
 
         // The second block stands in its slot; a long card text runs past the
         // third slot and pushes that block 500 below its end.
         from = printer->Calls.size();
-        QVERIFY(PrintBlock(QImage(), QStringLiteral("B"), QString(), QStringLiteral("C"), Numbered(12)));
+        QVERIFY(L().PrintBlock(QImage(), QStringLiteral("B"), QString(), QStringLiteral("C"), Numbered(12)));
         QCOMPARE(printer->Calls[from].Y, 4500);
         QCOMPARE(printer->Calls[from].W, 0);
         QCOMPARE(Prints(*printer, from + 1).first(), QStringLiteral("Location: B@1100,4500"));
         QCOMPARE(Prints(*printer, from + 1).last(), QStringLiteral("L12@1100,8340"));
         QCOMPARE(printer->CurrentY, 8580);
         from = printer->Calls.size();
-        QVERIFY(PrintBlock(QImage(), QStringLiteral("Third"), QString(), QString(), QString()));
+        QVERIFY(L().PrintBlock(QImage(), QStringLiteral("Third"), QString(), QString(), QString()));
         QCOMPARE(printer->Calls[from].Y, 9080);
         // The fourth fits in its slot: 11500 + 3900 <= 15840.
         from = printer->Calls.size();
-        QVERIFY(PrintBlock(QImage(), QStringLiteral("Fourth"), QString(), QString(), QString()));
+        QVERIFY(L().PrintBlock(QImage(), QStringLiteral("Fourth"), QString(), QString(), QString()));
         QCOMPARE(printer->Calls[from].Y, 11500);
         // The fifth would stand at 15000: a new page, where it takes the top.
         from = printer->Calls.size();
-        QVERIFY(PrintBlock(QImage(), QStringLiteral("Fifth"), QString(), QString(), QString()));
+        QVERIFY(L().PrintBlock(QImage(), QStringLiteral("Fifth"), QString(), QString(), QString()));
         QCOMPARE(Prints(*printer, from).mid(0, 3), (QStringList{QStringLiteral("NewPage"), QStringLiteral("t@1000,400"),
                                                                QStringLiteral("Page 3@10640,400")}));
         QCOMPARE(printer->Calls[from + 3].Op, QStringLiteral("PaintPicture"));
         QCOMPARE(printer->Calls[from + 3].Y, 1000);
-        QCOMPARE(BlockSlot, Integer(1));
-        QVERIFY(EndPrint());
+        QCOMPARE(Job().BlockSlot, Integer(1));
+        QVERIFY(L().EndPrint());
         QCOMPARE(printer->Calls.last().Op, QStringLiteral("EndDoc"));
     }
 
     void picturesAreFittedIntoTheBox() {
         auto printer = UsePrinter();
-        QVERIFY(StartPrint(1, QStringLiteral("t"), QString(), QString()));
+        QVERIFY(L().StartPrint(1, QStringLiteral("t"), QString(), QString()));
         struct Case {
             int w, h;        // pixels
             int W, H;        // twips drawn
@@ -229,22 +227,22 @@ private slots:
                               Case{100, 400, 750, 3000}, Case{100, 60, 1500, 900}}) {
             printer->CurrentX = 1000;
             printer->CurrentY = 2000;
-            const int right = PrintFittedPicture(QImage(c.w, c.h, QImage::Format_RGB32));
+            const int right = L().PrintFittedPicture(QImage(c.w, c.h, QImage::Format_RGB32));
             const PrinterCall call = printer->Calls.last();
             QCOMPARE(QList<int>({call.W, call.H}), QList<int>({c.W, c.H}));
             QCOMPARE(right, 1000 + c.W);
             QCOMPARE(printer->CurrentY, 2000);
         }
-        EndPrint();
+        L().EndPrint();
     }
 
     void summaryTakesItsOwnPages() {
         auto printer = UsePrinter();
         printer->FontSize = 10;
         printer->ForeColor = 0;
-        QVERIFY(StartPrint(1, QStringLiteral("t"), QString(), QString()));
+        QVERIFY(L().StartPrint(1, QStringLiteral("t"), QString(), QString()));
         int from = printer->Calls.size();
-        QVERIFY(PrintSummary(QStringLiteral("All is well")));
+        QVERIFY(L().PrintSummary(QStringLiteral("All is well")));
         const QList<PrinterCall> calls = printer->Calls.mid(from);
         QCOMPARE(Prints(*printer, from),
                  (QStringList{QStringLiteral("Summary@1000,1600"), QStringLiteral("@0,1840"), QStringLiteral("@0,2080"),
@@ -254,10 +252,10 @@ private slots:
         QCOMPARE(QList<int>({calls[3].Size, calls[3].Colour}), QList<int>({10, 0}));
         // The first block then begins on the new page.
         from = printer->Calls.size();
-        QVERIFY(PrintBlock(QImage(), QStringLiteral("A"), QString(), QString(), QString()));
+        QVERIFY(L().PrintBlock(QImage(), QStringLiteral("A"), QString(), QString(), QString()));
         QCOMPARE(printer->Calls[from].Y, 1500);
-        QVERIFY(EndPrint());
-        QVERIFY(!PrintActive);
+        QVERIFY(L().EndPrint());
+        QVERIFY(!Job().PrintActive);
     }
 };
 

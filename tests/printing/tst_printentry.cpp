@@ -1,7 +1,6 @@
 // Printing a reading and a diary entry: the printer dialogue, page 1 with the
 // spread as it lies, then the summary and one block per card; on a recording
 // printer, and through Qt's printer into PDF files read back with poppler.
-#include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -13,13 +12,8 @@
 #include "core/platform/OleDate.h"
 #include "core/platform/Picture.h"
 #include "support/RecordingPrinter.h"
-#include "screens/printing/PrintEntry.h"
-#include "screens/printing/frmPrintingReading.h"
-#include "screens/printing/PrintLayout.h"
 #include "diary/DiaryFixtures.h"
 #include "readings/ReadingFixtures.h"
-#include "screens/shell/ClickLabel.h"
-#include "screens/shell/ImageBox.h"
 #include "screens/store/Startup.h"
 
 using namespace ReadingFixtures;
@@ -34,10 +28,14 @@ std::shared_ptr<RecordingPrinter> RecorderChosen() {
     return printer;
 }
 
+// The job control of a print: the drawing between is left out.
 QStringList Ops(const RecordingPrinter& printer) {
     QStringList ops;
     for (const PrinterCall& call : printer.Calls)
-        if (call.Op != QLatin1String("Print")) ops << call.Op;
+        if (QStringList{QStringLiteral("NewPage"), QStringLiteral("EndDoc"), QStringLiteral("KillDoc"),
+                        QStringLiteral("Close")}
+                .contains(call.Op))
+            ops << call.Op;
     return ops;
 }
 
@@ -48,12 +46,34 @@ QStringList Starting(const QStringList& texts, const QString& prefix) {
     return out;
 }
 
-// The order of the locations' rectangles on the page, bottom first.
-QList<int> Stacking(frmPrintingReading& page) {
+// Page 1: the calls between the EndDoc that clears the printer and the one
+// that sends the page.
+QList<PrinterCall> PageOne(const RecordingPrinter& printer) {
+    QList<PrinterCall> page;
+    int ends = 0;
+    for (const PrinterCall& call : printer.Calls) {
+        if (call.Op == QLatin1String("EndDoc") && ++ends == 2) break;
+        if (ends == 1) page << call;
+    }
+    return page;
+}
+
+QStringList BoxTexts(const QList<PrinterCall>& page) {
+    QStringList texts;
+    for (const PrinterCall& call : page)
+        if (call.Op == QLatin1String("PrintInBox")) texts << call.Text;
+    return texts;
+}
+
+int Count(const QList<PrinterCall>& page, const QString& op) {
+    return static_cast<int>(std::count_if(page.begin(), page.end(), [&](const PrinterCall& c) { return c.Op == op; }));
+}
+
+// The locations by their titles, in the order they are drawn: bottom first.
+QList<int> Stacking(const QList<PrinterCall>& page) {
     QList<int> order;
-    for (QObject* child : page.picSpread->children())
-        if (child->objectName() == QLatin1String("picLocation") && qobject_cast<QWidget*>(child)->isVisibleTo(&page))
-            order << child->property("Index").toInt();
+    for (const QString& text : Starting(BoxTexts(page), QStringLiteral("Position ")))
+        order << text.section(QLatin1Char(' '), 1).toInt();
     return order;
 }
 
@@ -146,7 +166,6 @@ private slots:
     void init() {
         FreshRun(NewDir());
         PrinterDialogScript::Clear();
-        PrintActive = false;
         MakeDesigns(Locations);
     }
 
@@ -159,46 +178,47 @@ private slots:
         QCOMPARE(PrinterDialogScript::Shown(), QList<int>{28});
         QVERIFY(printer->Calls.isEmpty());
         QVERIFY(MsgBoxScript::History().isEmpty());
-        QVERIFY(!IsLoaded<frmPrintingReading>());
     }
 
     void readingPrintsTheSpreadPageThenSummaryAndBlocks() {
         frmNewReading& reading = Reading(Locations);
         CurrentReading.ReadingNotes = QStringLiteral("Line one\nLine two");
         auto printer = RecorderChosen();
-        bool looked = false;
-        printer->OnPrintForm = [&](QWidget& form) {
-            auto& page = static_cast<frmPrintingReading&>(form);
-            looked = true;
-            QCOMPARE((QStringList{page.lblPageNumber->text(), page.lblTheIssue->text(), page.Label2->text(),
-                                  page.Label3->text(), page.lblTitle->text(), page.lblCpyS->text(), page.lblCpyD->text()}),
-                     (QStringList{QStringLiteral("Page 1"), MakerWebAddress, QStringLiteral("Cross"), QStringLiteral("Tarot"),
-                                  QStringLiteral("Will it rain?"), QStringLiteral("Spread \u00a9 Copyright 2001 By Iris Vane."),
-                                  QStringLiteral("Deck \u00a9 Copyright 2001 By Odo Marl.")}));
-            QVERIFY(QRegularExpression(QStringLiteral("^\\w+day, \\d{1,2} \\w{3} \\d{4} - \\d{1,2}:\\d{1,2}:\\d{1,2} [AP]M$"))
-                        .match(page.lblNow->text())
-                        .hasMatch());
-            // Positions scale from the screen's canvas (9615 by 5895) to the
-            // page's (10095 by 5895): across by 1.05, down unchanged.
-            const LocationRecord& ninth = SpreadLocations(9);
-            QVERIFY(Near(ControlLeft(page.picLocation(9)), qRound(ninth.LocationLeft * 10095.0 / 9615.0)));
-            QVERIFY(Near(ControlTop(page.picLocation(9)), ninth.LocationTop));
-            for (int i = 1; i <= Locations; ++i) {
-                QVERIFY(!page.lblCardNumber(i)->isVisibleTo(&page));
-                QCOMPARE(page.lblCardName(i)->text(), DeckCard(CurrentReading.DealtCard[i - 1]).CardTitle.Trimmed());
-                QCOMPARE(page.lblCardTitle(i)->text(), QStringLiteral("Position %1").arg(i));
-                QVERIFY(page.imgCard(i)->HasPicture());
-            }
-            QCOMPARE(Stacking(page), (QList<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
-        };
         reading.cmdPrint->click();
-        QVERIFY(looked);
-        QVERIFY(!IsLoaded<frmPrintingReading>());
         QVERIFY(MsgBoxScript::History().isEmpty());
-        QCOMPARE(Ops(*printer).mid(0, 3), (QStringList{QStringLiteral("EndDoc"), QStringLiteral("PrintForm"),
+        QCOMPARE(Ops(*printer).mid(0, 3), (QStringList{QStringLiteral("EndDoc"), QStringLiteral("EndDoc"),
                                                        QStringLiteral("KillDoc")}));
         QCOMPARE(Ops(*printer).mid(Ops(*printer).size() - 2),
                  (QStringList{QStringLiteral("EndDoc"), QStringLiteral("Close")}));
+
+        const QList<PrinterCall> page = PageOne(*printer);
+        const QStringList boxes = BoxTexts(page);
+        QCOMPARE(boxes.mid(0, 3), (QStringList{MakerWebAddress, QStringLiteral("Page 1"), QStringLiteral("Cartomar")}));
+        QCOMPARE(boxes.mid(boxes.size() - 10, 7),
+                 (QStringList{QStringLiteral("Spread:"), QStringLiteral("Cross"), QStringLiteral("Deck:"),
+                              QStringLiteral("Tarot"), QStringLiteral("Date & Time:"), boxes[boxes.size() - 5],
+                              QStringLiteral("Title:")}));
+        QCOMPARE(boxes.mid(boxes.size() - 3),
+                 (QStringList{QStringLiteral("Will it rain?"), QStringLiteral("Spread \u00a9 Copyright 2001 By Iris Vane."),
+                              QStringLiteral("Deck \u00a9 Copyright 2001 By Odo Marl.")}));
+        QVERIFY(QRegularExpression(QStringLiteral("^\\w+day, \\d{1,2} \\w{3} \\d{4} - \\d{1,2}:\\d{1,2}:\\d{1,2} [AP]M$"))
+                    .match(boxes[boxes.size() - 5])
+                    .hasMatch());
+        // Each card lies in its location with its picture and name, no number.
+        QCOMPARE(Stacking(page), (QList<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
+        QCOMPARE(Count(page, QStringLiteral("PaintPicture")), Locations);
+        for (int i = 1; i <= Locations; ++i) {
+            QVERIFY(boxes.contains(DeckCard(CurrentReading.DealtCard[i - 1]).CardTitle.Trimmed()));
+            QVERIFY(!boxes.contains(QString::number(i)));
+        }
+        // Positions scale from the screen's canvas (9615 by 5895) to the
+        // page's (10095 by 5895 at 840, 2880): across by 1.05, down unchanged.
+        const LocationRecord& ninth = SpreadLocations(9);
+        const PrinterCall ninthTitle = *std::find_if(page.begin(), page.end(), [](const PrinterCall& c) {
+            return c.Text == QLatin1String("Position 9");
+        });
+        QVERIFY(Near(ninthTitle.X - 720 - 840, qRound(ninth.LocationLeft * 10095.0 / 9615.0)));
+        QCOMPARE(ninthTitle.Y - 2880, int(ninth.LocationTop));
 
         const QStringList texts = printer->Texts();
         QCOMPARE(texts.mid(0, 7), (QStringList{MakerWebAddress, QStringLiteral("Page 2"), QStringLiteral("Summary"),
@@ -229,21 +249,14 @@ private slots:
     void beforeTheFirstCardOnlyPageOnePrints() {
         frmNewReading& reading = Reading(0);
         auto printer = RecorderChosen();
-        printer->OnPrintForm = [&](QWidget& form) {
-            auto& page = static_cast<frmPrintingReading&>(form);
-            for (int i = 1; i <= Locations; ++i) {
-                QVERIFY(page.picLocation(i)->isVisibleTo(&page));
-                QVERIFY(page.lblCardNumber(i)->isVisibleTo(&page));
-                QCOMPARE(page.lblCardNumber(i)->text(), QString::number(i));
-                QVERIFY(page.lblCardName(i)->text().isEmpty());
-                QVERIFY(!page.imgCard(i)->HasPicture());
-            }
-            for (int i = Locations + 1; i <= frmPrintingReading::MaxLocations; ++i)
-                QVERIFY(!page.picLocation(i)->isVisibleTo(&page));
-        };
         reading.cmdPrint->click();
-        QCOMPARE(Ops(*printer), (QStringList{QStringLiteral("EndDoc"), QStringLiteral("PrintForm"),
+        QCOMPARE(Ops(*printer), (QStringList{QStringLiteral("EndDoc"), QStringLiteral("EndDoc"),
                                              QStringLiteral("KillDoc"), QStringLiteral("Close")}));
+        // Every location is a numbered empty place; none beyond the spread's.
+        const QList<PrinterCall> page = PageOne(*printer);
+        QCOMPARE(Stacking(page), (QList<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
+        for (int i = 1; i <= Locations; ++i) QVERIFY(BoxTexts(page).contains(QString::number(i)));
+        QCOMPARE(Count(page, QStringLiteral("PaintPicture")), 0);
         QVERIFY(printer->Texts().isEmpty());
         QVERIFY(MsgBoxScript::History().isEmpty());
     }
@@ -255,19 +268,14 @@ private slots:
         CurrentDiary.DealtUpright[4] = False16;
         CurrentDiary.DealtCard[1] = 5;     // location 2, upright
         CurrentDiary.DealtUpright[1] = True16;
-        screen.ShowCardInLocation(5, 7, false);
-        screen.ShowCardInLocation(2, 5, true);
         SetClockForTests(QDateTime(QDate(2026, 3, 5), QTime(9, 5, 3)));
         auto printer = RecorderChosen();
-        printer->OnPrintForm = [&](QWidget& form) {
-            auto& page = static_cast<frmPrintingReading&>(form);
-            QCOMPARE(page.lblNow->text(), QStringLiteral("Thursday, 5 Mar 2026 - 09:05:03 AM"));
-            // The cards lie above the empty places, the higher number on top.
-            QCOMPARE(Stacking(page), (QList<int>{1, 3, 4, 6, 7, 8, 9, 10, 2, 5}));
-            QVERIFY(!page.lblCardNumber(5)->isVisibleTo(&page));
-            QVERIFY(page.lblCardNumber(4)->isVisibleTo(&page));
-        };
-        PrintEntry(screen, DiaryPrintout());
+        screen.PrintEntry(DiaryPrintout());
+        const QList<PrinterCall> page = PageOne(*printer);
+        QVERIFY(BoxTexts(page).contains(QStringLiteral("Thursday, 5 Mar 2026 - 09:05:03 AM")));
+        // The cards lie above the empty places, the higher number on top.
+        QCOMPARE(Stacking(page), (QList<int>{1, 3, 4, 6, 7, 8, 9, 10, 2, 5}));
+        QVERIFY(!BoxTexts(page).contains(QStringLiteral("5")) && BoxTexts(page).contains(QStringLiteral("4")));
         SetClockForTests(QDateTime());
         const QStringList texts = printer->Texts();
         QVERIFY(!texts.contains(QStringLiteral("Summary")));
@@ -282,9 +290,10 @@ private slots:
         MsgBoxScript::Clear();
         auto broken = RecorderChosen();
         broken->LastError = 1;
-        PrintEntry(screen, DiaryPrintout());
+        screen.PrintEntry(DiaryPrintout());
         QCOMPARE(MsgBoxScript::History().size(), 2);
         QCOMPARE(MsgBoxScript::History()[0].prompt, QStringLiteral("Unable to initialize printer."));
+        QCOMPARE(MsgBoxScript::History()[0].style, int(vbExclamation));
         QCOMPARE(MsgBoxScript::History()[1].prompt,
                  QStringLiteral("Could not print the diary properly. Please make sure that the selected printer is ready."));
         QCOMPARE(MsgBoxScript::History()[1].style, int(vbCritical));

@@ -1,7 +1,5 @@
 #include "support/RecordingPrinter.h"
 
-#include <QWidget>
-
 RecordingPrinter::RecordingPrinter(int width, int height, int charWidth, int lineHeight)
     : width_(width), height_(height), charWidth_(charWidth), lineHeight_(lineHeight) {}
 
@@ -28,9 +26,14 @@ void RecordingPrinter::EndDoc() { Record(QStringLiteral("EndDoc")); }
 void RecordingPrinter::KillDoc() { Record(QStringLiteral("KillDoc")); }
 void RecordingPrinter::Close() { Record(QStringLiteral("Close")); }
 
-void RecordingPrinter::PrintForm(QWidget& form) {
-    Record(QStringLiteral("PrintForm"), form.objectName());
-    if (OnPrintForm) OnPrintForm(form);
+void RecordingPrinter::FillRect(int x, int y, int width, int height, int colour) {
+    Record(QStringLiteral("FillRect"), QString(), x, y, width, height);
+    Calls.last().Colour = colour;
+}
+
+void RecordingPrinter::PrintInBox(const QString& text, int x, int y, int width, int height, int flags) {
+    (void)flags;
+    Record(QStringLiteral("PrintInBox"), text, x, y, width, height);
 }
 
 QStringList RecordingPrinter::Texts() const {

@@ -6,18 +6,17 @@
 #include <QImage>
 #include <QList>
 #include <QString>
-#include <functional>
 
-#include "screens/platform/Printer.h"
+#include "screens/platform/QtPrinter.h"
 
 struct PrinterCall {
-    QString Op;            // "Print", "PaintPicture", "NewPage", "EndDoc", "KillDoc", "PrintForm", "Close"
-    QString Text;          // the text printed, or the form's object name
-    int X = 0, Y = 0;      // the print position (Print) or the picture's corner
-    int W = 0, H = 0;      // the picture's size
+    QString Op;            // "Print", "PrintInBox", "FillRect", "PaintPicture", "NewPage", "EndDoc", "KillDoc", "Close"
+    QString Text;          // the text printed
+    int X = 0, Y = 0;      // the print position (Print) or the box's corner
+    int W = 0, H = 0;      // the box's size
     bool Bold = false;
     int Size = 0;
-    int Colour = 0;
+    int Colour = 0;        // the font's colour, or the fill's
 };
 
 class RecordingPrinter : public Printer {
@@ -33,12 +32,11 @@ public:
     void NewPage() override;
     void EndDoc() override;
     void KillDoc() override;
-    void PrintForm(QWidget& form) override;
+    void FillRect(int x, int y, int width, int height, int colour) override;
+    void PrintInBox(const QString& text, int x, int y, int width, int height, int flags) override;
     void Close() override;
 
     QList<PrinterCall> Calls;
-    // Runs while a form is printed, so that a test can look at it whole.
-    std::function<void(QWidget&)> OnPrintForm;
 
     // The texts printed, in order.
     QStringList Texts() const;

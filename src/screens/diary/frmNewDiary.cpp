@@ -9,7 +9,6 @@
 #include "screens/diary/frmDiaryCards.h"
 #include "screens/diary/frmDiaryInterpretLocation.h"
 #include "screens/diary/frmDiaryNotes.h"
-#include "screens/printing/PrintEntry.h"
 #include "screens/diary/frmSaveDiary.h"
 #include "screens/platform/MsgBox.h"
 #include "core/platform/Palette.h"
@@ -327,7 +326,7 @@ void frmNewDiary::cmdInterpret_Click() {
 
 void frmNewDiary::cmdNotes_Click() { Get<frmDiaryNotes>().Show(); }
 
-void frmNewDiary::cmdPrint_Click() { PrintEntry(*this, DiaryPrintout()); }
+void frmNewDiary::cmdPrint_Click() { PrintEntry(DiaryPrintout()); }
 
 void frmNewDiary::cmdQuickHelp_Click() { Get<frmDiaryHelp>().Show(); }
 

@@ -4,24 +4,19 @@
 #include <QApplication>
 #include <QFontMetricsF>
 #include <QImage>
-#include <QLabel>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPointer>
 #include <QPrintDialog>
-#include <QWidget>
 #include <QtMath>
 
 #include "screens/platform/CommonDialog.h"
 #include "core/platform/Errors.h"
-#include "core/platform/Twips.h"
 
 namespace {
 
 constexpr double TwipsPerPoint = 20.0;
 constexpr double TwipsPerInch = 1440.0;
-// Pictures of a form are drawn at this many device pixels to a screen pixel.
-constexpr int FormPictureScale = 4;
 
 QColor FromLongColour(int colour) {
     return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
@@ -34,69 +29,7 @@ QFont TwipsFont(QFont font, double points, bool bold) {
     return font;
 }
 
-QRectF TwipsRect(const QRect& pixels, const QPointF& origin) {
-    return QRectF(origin.x() + PixelsToTwips(pixels.x()), origin.y() + PixelsToTwips(pixels.y()),
-                  PixelsToTwips(pixels.width()), PixelsToTwips(pixels.height()));
-}
-
-void AddWidget(QWidget& form, QWidget& widget, const QPointF& origin, QList<std::function<void(QPainter&)>>& page) {
-    const QRectF rect = TwipsRect(widget.geometry(), origin);
-    if (widget.autoFillBackground()) {
-        const QColor back = widget.palette().color(widget.backgroundRole());
-        page.append([rect, back](QPainter& p) { p.fillRect(rect, back); });
-    }
-    if (auto* label = qobject_cast<QLabel*>(&widget)) {
-        const QString text = label->text();
-        if (!text.isEmpty()) {
-            const QFont source = label->font();
-            const double points = source.pointSizeF() > 0 ? source.pointSizeF()
-                                                          : source.pixelSize() * TwipsPerPixel / TwipsPerPoint;
-            const QFont font = TwipsFont(source, points, source.bold());
-            const QColor colour = label->palette().color(label->foregroundRole());
-            int flags = static_cast<int>(label->alignment());
-            if (label->wordWrap()) flags |= Qt::TextWordWrap;
-            page.append([rect, font, colour, flags, text](QPainter& p) {
-                p.save();
-                p.setClipRect(rect);
-                p.setFont(font);
-                p.setPen(colour);
-                p.drawText(rect, flags, text);
-                p.restore();
-            });
-        }
-    } else if (widget.findChildren<QWidget*>(Qt::FindDirectChildrenOnly).isEmpty() && !widget.size().isEmpty()) {
-        // A control without controls inside (a picture): its own painting,
-        // at a finer grain than the screen's.
-        QImage image(widget.size() * FormPictureScale, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        {
-            QPainter painter(&image);
-            painter.scale(FormPictureScale, FormPictureScale);
-            widget.render(&painter, QPoint(), QRegion(), QWidget::RenderFlags());
-        }
-        page.append([rect, image](QPainter& p) { p.drawImage(rect, image); });
-    }
-    for (QObject* child : widget.children()) {
-        auto* inner = qobject_cast<QWidget*>(child);
-        if (!inner || inner->isWindow() || !inner->isVisibleTo(&form)) continue;
-        AddWidget(form, *inner, rect.topLeft(), page);
-    }
-}
-
 }  // namespace
-
-void AddFormDrawing(QWidget& form, QList<std::function<void(QPainter&)>>& page) {
-    if (form.autoFillBackground()) {
-        const QRectF rect(0, 0, PixelsToTwips(form.width()), PixelsToTwips(form.height()));
-        const QColor back = form.palette().color(form.backgroundRole());
-        page.append([rect, back](QPainter& p) { p.fillRect(rect, back); });
-    }
-    for (QObject* child : form.children()) {
-        auto* inner = qobject_cast<QWidget*>(child);
-        if (!inner || inner->isWindow() || !inner->isVisibleTo(&form)) continue;
-        AddWidget(form, *inner, QPointF(0, 0), page);
-    }
-}
 
 QtPrinter::QtPrinter() : printer_(QPrinter::HighResolution) {
     // Positions are measured from the paper's edge, as the pages are laid out.
@@ -172,10 +105,24 @@ void QtPrinter::KillDoc() {
     pageOpen_ = false;
 }
 
-void QtPrinter::PrintForm(QWidget& form) {
-    Page page;
-    AddFormDrawing(form, page);
-    Send({page});
+void QtPrinter::FillRect(int x, int y, int width, int height, int colour) {
+    const QRectF rect(x, y, width, height);
+    const QColor fill = FromLongColour(colour);
+    OpenPage().append([rect, fill](QPainter& p) { p.fillRect(rect, fill); });
+}
+
+void QtPrinter::PrintInBox(const QString& text, int x, int y, int width, int height, int flags) {
+    const QFont font = Font();
+    const QColor colour = FromLongColour(ForeColor);
+    const QRectF rect(x, y, width, height);
+    OpenPage().append([font, colour, rect, flags, text](QPainter& p) {
+        p.save();
+        p.setClipRect(rect);
+        p.setFont(font);
+        p.setPen(colour);
+        p.drawText(rect, flags, text);
+        p.restore();
+    });
 }
 
 void QtPrinter::Send(const QList<Page>& pages) {
@@ -225,12 +172,6 @@ std::shared_ptr<Printer>& ThePrinter() {
 }
 
 }  // namespace
-
-void Printer::Print(const QString& text) {
-    DrawText(text);
-    CurrentY += TextHeight();
-    CurrentX = 0;
-}
 
 Printer& CurrentPrinter() {
     std::shared_ptr<Printer>& printer = ThePrinter();

@@ -10,6 +10,7 @@
 #include "screens/platform/ErrorReport.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
+#include "screens/printing/PrintEntry.h"
 #include "core/platform/Palette.h"
 #include "core/platform/Picture.h"
 #include "core/platform/Twips.h"
@@ -270,3 +271,11 @@ void EntryScreen::ShowCardInLocation(int location, int cardNumber, bool upright)
 }
 
 void EntryScreen::ClearLocationCard(int location) { imgCard(location)->ClearPicture(); }
+
+void EntryScreen::PrintEntry(EntryPrintout entry) const {
+    entry.Issue = lblTheIssue->text();
+    entry.CanvasWidth = ControlWidth(picSpread);
+    entry.CanvasHeight = ControlHeight(picSpread);
+    entry.CardFrame = BoxGeometry{IMGTop, IMGLeft, IMGWidth, IMGHeight};
+    ::PrintEntry(entry);
+}

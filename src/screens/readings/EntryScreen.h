@@ -8,6 +8,7 @@
 #include <array>
 
 #include "core/platform/Arrays.h"
+#include "core/printing/EntryPrintout.h"
 #include "screens/platform/Form.h"
 #include "core/records/Records.h"
 
@@ -107,6 +108,11 @@ public:
     // card frame, fitted.
     void ShowCardInLocation(int location, int cardNumber, bool upright);
     void ClearLocationCard(int location);
+
+    // Prints the entry from its record, with what only the screen holds: the
+    // issue in hand, the canvas the locations are placed on and the frame a
+    // card picture is fitted into.
+    void PrintEntry(EntryPrintout entry) const;
 
 protected:
     explicit EntryScreen(const QString& caption);

@@ -9,7 +9,6 @@
 
 #include "screens/platform/MsgBox.h"
 #include "core/platform/Palette.h"
-#include "screens/printing/PrintEntry.h"
 #include "screens/readings/frmReadingCards.h"
 #include "screens/readings/frmReadingInterpretLocation.h"
 #include "screens/readings/frmReadingNotes.h"
@@ -272,7 +271,7 @@ void frmNewReading::ShowInterpretation() {
 
 void frmNewReading::cmdNotes_Click() { Get<frmReadingNotes>().Show(); }
 
-void frmNewReading::cmdPrint_Click() { PrintEntry(*this, ReadingPrintout(ThisLocationNumber)); }
+void frmNewReading::cmdPrint_Click() { PrintEntry(ReadingPrintout(ThisLocationNumber)); }
 
 void frmNewReading::cmdQuickHelp_Click() { Get<frmQuickHelp>().Show(); }
 

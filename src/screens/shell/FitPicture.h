@@ -6,21 +6,9 @@
 // before each fit.
 #include <QString>
 
+#include "core/platform/PictureFit.h"
+
 class ImageBox;
-
-// The box's place and size, twips.
-struct BoxGeometry {
-    int Top = 0;
-    int Left = 0;
-    int Width = 0;
-    int Height = 0;
-};
-
-// The shape the box takes for a picture of pictureHeight x pictureWidth.
-// Picture and box sizes are compared as they stand, number against number.
-// Returns which of the four cases held (1 to 4), or 0 if none did, which
-// cannot arise with whole numbers.
-int FitBoxToPicture(int pictureHeight, int pictureWidth, BoxGeometry& box, bool CentrePicture, bool KeepTop);
 
 // Loads the picture at path into the box and fits the box to it. A missing
 // file shows the default card picture; a file that is not a picture shows a

@@ -6,11 +6,7 @@
 #include <functional>
 
 #include "core/store/Housekeeping.h"
-
-// The maker's addresses, shown on the main screen and in the message that
-// sends a user with a half-converted database to support.
-inline const QString MakerWebAddress = QStringLiteral("www.ondinesoftware.com");
-inline const QString SupportAddress = QStringLiteral("support@ondinesoftware.com");
+#include "core/store/MakerAddresses.h"
 
 // For a state the program holds impossible: the critical message, then the
 // end of the process.

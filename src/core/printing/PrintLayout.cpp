@@ -1,25 +1,11 @@
-#include "screens/printing/PrintLayout.h"
+#include "core/printing/PrintLayout.h"
 
 #include <cmath>
 
-#include "screens/platform/MsgBox.h"
 #include "core/platform/OleDate.h"
-#include "screens/platform/Printer.h"
+#include "core/platform/PictureFit.h"
+#include "core/platform/Printer.h"
 #include "core/platform/Twips.h"
-#include "screens/shell/FitPicture.h"
-#include "screens/store/Startup.h"
-
-bool PrintActive = false;
-Integer PageNumber = 0;
-Integer TotalPages = 0;
-Integer BlockCount = 0;
-Integer BlocksPerPage = 0;
-Integer BlockSlot = 0;
-QString PageTitle;
-QString HeaderSpread;
-QString HeaderDeck;
-Integer PictureBoxHeight = 3000;
-Integer PictureBoxWidth = 3000;
 
 namespace {
 
@@ -39,8 +25,6 @@ constexpr int SummaryColour = 128; // a dark red
 const QChar CR = QLatin1Char('\r');
 const QChar LF = QLatin1Char('\n');
 const QChar Blank = QLatin1Char(' ');
-
-Printer& P() { return CurrentPrinter(); }
 
 // Halves go to the even neighbour, as the toolkit's conversion to a whole
 // number does.
@@ -64,56 +48,60 @@ int Find(const QString& text, QChar ch, int position) {
 }
 
 QString Mid(const QString& text, int position, int length) { return text.mid(position - 1, length); }
-
-int Width(const QString& text) { return P().TextWidth(text); }
-
 }  // namespace
 
-bool StartPrint(int blockCount, const QString& pageTitle, const QString& spreadText, const QString& deckText) {
+void PrintLayout::Fail(PrintFault fault) {
+    if (job_.Fault == PrintFault::None) job_.Fault = fault;
+}
+
+bool PrintLayout::StartPrint(int blockCount, const QString& pageTitle, const QString& spreadText,
+                             const QString& deckText) {
     if (blockCount < 1) {
-        P().KillDoc();
-        PrintActive = false;
+        printer_.KillDoc();
+        job_.PrintActive = false;
         return false;
     }
     // A job is never restarted while it runs.
-    if (PrintActive) return false;
-    P().KillDoc();
-    BlockCount = static_cast<Integer>(blockCount);
-    PageTitle = pageTitle.trimmed();
-    HeaderSpread = spreadText;
-    HeaderDeck = deckText;
-    PictureBoxHeight = 3000;
-    PictureBoxWidth = 3000;
-    BlocksPerPage = static_cast<Integer>(ToNearest((P().Height() - BottomRoom) / static_cast<double>(BlockPitch)));
-    PageNumber = 2;
-    if (BlocksPerPage > 0) {
-        const int blocks = BlockCount + 1;
-        TotalPages = static_cast<Integer>(blocks / BlocksPerPage + (blocks % BlocksPerPage != 0 ? 1 : 0) + 1);
+    if (job_.PrintActive) return false;
+    printer_.KillDoc();
+    job_.BlockCount = static_cast<Integer>(blockCount);
+    job_.PageTitle = pageTitle.trimmed();
+    job_.HeaderSpread = spreadText;
+    job_.HeaderDeck = deckText;
+    job_.PictureBoxHeight = 3000;
+    job_.PictureBoxWidth = 3000;
+    job_.BlocksPerPage =
+        static_cast<Integer>(ToNearest((printer_.Height() - BottomRoom) / static_cast<double>(BlockPitch)));
+    job_.PageNumber = 2;
+    if (job_.BlocksPerPage > 0) {
+        const int blocks = job_.BlockCount + 1;
+        job_.TotalPages =
+            static_cast<Integer>(blocks / job_.BlocksPerPage + (blocks % job_.BlocksPerPage != 0 ? 1 : 0) + 1);
     }
-    PrintActive = PrintHeader();
-    return PrintActive;
+    job_.PrintActive = PrintHeader();
+    return job_.PrintActive;
 }
 
-QString PageText() { return QStringLiteral("Page ") + QString::number(PageNumber); }
+QString PrintLayout::PageText() const { return QStringLiteral("Page ") + QString::number(job_.PageNumber); }
 
-int SlotY(int n) {
+int PrintLayout::SlotY(int n) const {
     int y = (n - 1) * BlockPitch + FirstBlockY;
-    if (n >= 2 && PageNumber == 1) y -= FirstPageSaving;
+    if (n >= 2 && job_.PageNumber == 1) y -= FirstPageSaving;
     return y;
 }
 
-bool PrintHeader() {
-    Printer& printer = P();
+bool PrintLayout::PrintHeader() {
+    Printer& printer = printer_;
     if (printer.LastError == 1) {
-        MsgBox(QStringLiteral("Unable to initialize printer."), vbExclamation);
+        Fail(PrintFault::PrinterNotReady);
         return false;
     }
-    BlockSlot = 0;
+    job_.BlockSlot = 0;
     const bool bold = printer.FontBold;
     printer.FontBold = true;
     printer.CurrentX = LeftMargin;
     printer.CurrentY = HeaderY;
-    printer.Print(PageTitle);
+    printer.Print(job_.PageTitle);
     const QString page = PageText();
     printer.CurrentX = printer.Width() - RightMargin - printer.TextWidth(page);
     printer.CurrentY = HeaderY;
@@ -121,39 +109,39 @@ bool PrintHeader() {
     printer.FontBold = bold;
     printer.CurrentX = LeftMargin;
     printer.CurrentY = SlotY(1);
-    if (PageNumber == 1) {
-        printer.Print(QStringLiteral("Spread: ") + HeaderSpread);
+    if (job_.PageNumber == 1) {
+        printer.Print(QStringLiteral("Spread: ") + job_.HeaderSpread);
         printer.CurrentX = LeftMargin;
-        printer.Print(QStringLiteral("Deck: ") + HeaderDeck);
+        printer.Print(QStringLiteral("Deck: ") + job_.HeaderDeck);
         printer.Print();
         printer.CurrentX = LeftMargin;
         const double now = OleNow();
         printer.Print(QStringLiteral("Date & Time: ") + FormatLongDayDate(now) + QStringLiteral(" - ") +
                       FormatTimeHmsAmPm(now));
-        ++BlockSlot;
+        ++job_.BlockSlot;
         printer.CurrentX = LeftMargin;
         printer.CurrentY = SlotY(2);
     }
     return true;
 }
 
-bool NewPrintPage() {
-    if (!PrintActive) return false;
-    P().NewPage();
-    ++PageNumber;
+bool PrintLayout::NewPrintPage() {
+    if (!job_.PrintActive) return false;
+    printer_.NewPage();
+    ++job_.PageNumber;
     return PrintHeader();
 }
 
-bool EndPrint() {
-    if (!PrintActive) return false;
-    P().EndDoc();
-    PrintActive = false;
+bool PrintLayout::EndPrint() {
+    if (!job_.PrintActive) return false;
+    printer_.EndDoc();
+    job_.PrintActive = false;
     return true;
 }
 
-bool PrintSummary(const QString& text) {
-    if (!PrintActive) return false;
-    Printer& printer = P();
+bool PrintLayout::PrintSummary(const QString& text) {
+    if (!job_.PrintActive) return false;
+    Printer& printer = printer_;
     printer.CurrentX = LeftMargin;
     printer.CurrentY = SummaryY;
     const int size = printer.FontSize;
@@ -171,20 +159,22 @@ bool PrintSummary(const QString& text) {
     return true;
 }
 
-bool PrintBlock(const QImage& picture, const QString& locationTitle, const QString& locationText,
+bool PrintLayout::PrintBlock(const QImage& picture, const QString& locationTitle, const QString& locationText,
                 const QString& cardTitle, const QString& cardText) {
-    if (!PrintActive) return false;
-    Printer& printer = P();
+    if (!job_.PrintActive) return false;
+    Printer& printer = printer_;
     printer.CurrentX = LeftMargin;
     // A block starts at its slot, or a gap below the end of the block
     // before it when that one ran past the slot.
-    const int y = SlotY(BlockSlot + 1);
+    const int y = SlotY(job_.BlockSlot + 1);
     if (printer.CurrentY + BlockGap < y) printer.CurrentY = y;
     else printer.CurrentY += BlockGap;
-    if (printer.CurrentY + PictureBoxHeight + BlockGap + HeaderRoom > printer.Height()) NewPrintPage();
+    if (printer.CurrentY + job_.PictureBoxHeight + BlockGap + HeaderRoom > printer.Height()) NewPrintPage();
 
     const int top = printer.CurrentY;
-    const int x = PrintFittedPicture(picture) + PictureGap;
+    const int right = PrintFittedPicture(picture);
+    if (right < 0) return false;
+    const int x = right + PictureGap;
     printer.CurrentX = x;
     printer.CurrentY = top;
     printer.Print(QStringLiteral("Location: ") + locationTitle.trimmed());
@@ -196,30 +186,30 @@ bool PrintBlock(const QImage& picture, const QString& locationTitle, const QStri
     printer.Print(QStringLiteral("Card: ") + cardTitle.trimmed());
     printer.CurrentX = x;
     PrintWrapped(cardText.trimmed(), printer.CurrentX, printer.CurrentY);
-    ++BlockSlot;
+    ++job_.BlockSlot;
     return true;
 }
 
-int PrintFittedPicture(const QImage& picture) {
-    Printer& printer = P();
+int PrintLayout::PrintFittedPicture(const QImage& picture) {
+    Printer& printer = printer_;
     // The picture's own size (twips at its natural size) is set against the
     // box as it stands, number against number.
     BoxGeometry box;
-    box.Width = PictureBoxWidth;
-    box.Height = PictureBoxHeight;
+    box.Width = job_.PictureBoxWidth;
+    box.Height = job_.PictureBoxHeight;
     const int pictureHeight = PixelsToTwips(picture.height());
     const int pictureWidth = PixelsToTwips(picture.width());
     if (FitBoxToPicture(pictureHeight, pictureWidth, box, false, false) == 0) {
-        MsgBox(QStringLiteral("Error. Please contact Ondine Software Inc."), vbCritical);
-        FatalError();
+        Fail(PrintFault::PictureUnfit);
+        return -1;
     }
     printer.PaintPicture(picture, printer.CurrentX, printer.CurrentY, box.Width, box.Height);
     return printer.CurrentX + box.Width;
 }
 
-bool PrintWrapped(const QString& text, int x, int y) {
-    if (!PrintActive) return false;
-    Printer& printer = P();
+bool PrintLayout::PrintWrapped(const QString& text, int x, int y) {
+    if (!job_.PrintActive) return false;
+    Printer& printer = printer_;
     const int width = printer.Width() - x - RightMargin;
     const QString wrapped = WrapText(WithLineEnds(text), width);
     printer.CurrentY = y;
@@ -242,7 +232,7 @@ bool PrintWrapped(const QString& text, int x, int y) {
     return true;
 }
 
-QString WrapText(QString text, int width) {
+QString PrintLayout::WrapText(QString text, int width) const {
     text += CR;
     int position = 1;
     QString result;
@@ -259,17 +249,17 @@ QString WrapText(QString text, int width) {
     return result;
 }
 
-QString NextLine(const QString& text, int position, int width) {
+QString PrintLayout::NextLine(const QString& text, int position, int width) const {
     if (position > text.size()) return QString();
     // A paragraph that fits stays whole.
     const int c = Find(text, CR, position);
     const int end = c != 0 ? c : static_cast<int>(text.size()) + 1;
     const QString paragraph = Mid(text, position, end - position);
-    if (Width(paragraph) <= width) return paragraph;
+    if (printer_.TextWidth(paragraph) <= width) return paragraph;
 
     int s = Find(text, Blank, position + 1);
     int last = 0;
-    while (s != 0 && Width(Mid(text, position, s - position)) < width) {
+    while (s != 0 && printer_.TextWidth(Mid(text, position, s - position)) < width) {
         last = s;
         s = Find(text, Blank, s + 1);
     }
@@ -278,6 +268,6 @@ QString NextLine(const QString& text, int position, int width) {
     // A single word wider than the line: it is broken at the width, with at
     // least one character on each line so the text always moves on.
     int length = 1;
-    while (length < paragraph.size() && Width(paragraph.left(length + 1)) <= width) ++length;
+    while (length < paragraph.size() && printer_.TextWidth(paragraph.left(length + 1)) <= width) ++length;
     return paragraph.left(length);
 }

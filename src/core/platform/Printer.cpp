@@ -1,0 +1,7 @@
+#include "core/platform/Printer.h"
+
+void Printer::Print(const QString& text) {
+    DrawText(text);
+    CurrentY += TextHeight();
+    CurrentX = 0;
+}

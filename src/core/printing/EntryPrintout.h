@@ -1,0 +1,64 @@
+#pragma once
+// What a printed reading or diary entry holds, built from the records: page 1
+// with the spread as it lies (the maker's address, "Page 1", the program's
+// name, the spread with its cards, the spread, deck, date and time, the
+// issue, the designers' lines), then through the layout engine the summary
+// and one block for each location that has a card. The reading and the diary
+// print alike; an EntryPrintout says what differs between them.
+#include <QList>
+#include <QString>
+#include <array>
+
+#include "core/platform/PictureFit.h"
+#include "core/printing/PrintLayout.h"
+#include "core/records/Records.h"
+
+class Printer;
+
+enum class EntryKind { Reading, Diary };
+
+struct EntryPrintout {
+    EntryKind Kind = EntryKind::Reading;
+    // The time of day on page 1.
+    QString (*FormatTime)(double oleDate) = nullptr;
+    // Put straight behind a card's title, by its side.
+    QString ReversedWord;
+    QString UprightWord;
+    // The locations that have a card, rising.
+    QList<int> CardLocations;
+    // The card number and side of each location (index 0 is location 1).
+    std::array<Integer, 32> DealtCard{};
+    std::array<Integer, 32> DealtUpright{};
+    QString Notes;
+
+    // From the screen the entry is on. The issue in hand: after a new deal
+    // the screen keeps it until the next save returns it to the record.
+    QString Issue;
+    // The screen's canvas, twips, from which page 1 scales the locations'
+    // places, and the frame inside a location that a card picture is fitted
+    // into.
+    int CanvasWidth = 0;
+    int CanvasHeight = 0;
+    BoxGeometry CardFrame;
+};
+
+// The reading in CurrentReading, whose cards lie in locations 1 to
+// thisLocationNumber - 1.
+EntryPrintout ReadingPrintout(int thisLocationNumber);
+// The diary entry in CurrentDiary, whose cards lie wherever they were chosen.
+EntryPrintout DiaryPrintout();
+
+// "h:m:s AMPM" is the reading's; the diary's is "hh:mm:ss AMPM".
+QString FormatTimeHhMmSsAmPm(double oleDate);
+
+// What came of a print: Ok is false when a page could not be printed
+// properly; Fault says what the engine met first.
+struct PrintOutcome {
+    bool Ok = true;
+    PrintFault Fault = PrintFault::None;
+};
+
+// Prints the entry on the printer chosen: page 1 as a job of its own, then
+// the text pages. Before the first card there is nothing to print beyond
+// page 1, and that is no failure.
+PrintOutcome PrintEntryPages(Printer& printer, const EntryPrintout& entry);
