@@ -3,7 +3,8 @@
 #include <QDir>
 #include <QPushButton>
 
-#include "screens/decks/mdlDeckDesign.h"
+#include "core/decks/CardEditing.h"
+#include "screens/decks/DeckControls.h"
 #include "screens/platform/FileLists.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/shell/ScreenPlacement.h"

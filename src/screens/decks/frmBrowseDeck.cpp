@@ -2,7 +2,7 @@
 
 #include <QPushButton>
 
-#include "screens/decks/mdlDeckDesign.h"
+#include "screens/decks/DeckControls.h"
 #include "screens/platform/ListBox.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "core/records/RecordFile.h"

@@ -107,6 +107,12 @@ public:
     // card frame, fitted.
     void ShowCardInLocation(int location, int cardNumber, bool upright);
     void ClearLocationCard(int location);
+    // Marks a location while a companion screen works on it, or unmarks it.
+    virtual void MarkLocation(int location, bool marked);
+    // The issue the selection screen took, and the keys to its box when it
+    // shows.
+    void TakeIssue(const QString& issue);
+    void FocusIssue();
 
 protected:
     explicit EntryScreen(const QString& caption);

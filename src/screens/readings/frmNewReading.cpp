@@ -217,6 +217,42 @@ void frmNewReading::cmdDeal_Click() {
     Table().Show();
 }
 
+void frmNewReading::TableLoaded(bool loaded) {
+    frmReadingCardsIsLoaded = loaded;
+    if (loaded) Timer1->start();
+    else Timer1->stop();
+}
+
+void frmNewReading::TableUp() {
+    cmdAllCards->setEnabled(true);
+    cmdNextCard->setEnabled(true);
+    cmdDeal->setEnabled(false);
+    if (DeckCardsLeft > 1) cmdFakeShuffle->setEnabled(true);
+}
+
+void frmNewReading::TableGone() {
+    cmdAllCards->setEnabled(false);
+    cmdNextCard->setEnabled(false);
+    cmdDeal->setEnabled(true);
+    cmdFakeShuffle->setEnabled(false);
+}
+
+void frmNewReading::EnableShuffle(bool enabled) { cmdFakeShuffle->setEnabled(enabled); }
+
+void frmNewReading::DealCard(Integer card, Integer upright) {
+    ReadingChanged = true;
+    cmdContinue->setEnabled(false);
+    const int L = ThisLocationNumber;
+    ShowCardInLocation(L, card, upright == True16);
+    lblCardNumber(L)->hide();
+    lblCardName(L)->setText(DeckCard(card).CardTitle.Trimmed());
+    Element(CurrentReading.DealtCard, L) = card;
+    Element(CurrentReading.DealtUpright, L) = upright;
+    ThisLocationNumber = static_cast<Integer>(L + 1);
+    cmdInterpret->setEnabled(true);
+    Show();
+}
+
 void frmNewReading::cmdNextCard_Click() { Table().PickRandomCard(); }
 
 void frmNewReading::cmdAllCards_Click() {

@@ -86,10 +86,7 @@ void frmSaveSpread::cmdSave_Click() {
     SaveSpread(name, n >= 0 ? n : CountSpreads() + 1);
 
     if (IsLoaded<frmDesignSpread>()) {
-        frmDesignSpread& designer = Get<frmDesignSpread>();
-        designer.lblModifiedOnDate()->setText(FormatLongDate(CurrentSpread.ModifiedOn));
-        designer.SpreadDirty = false;
-        designer.RememberedSpreadName = CurrentSpread.SpreadName.Value();
+        Get<frmDesignSpread>().SpreadSaved();
     }
     Unload();
 }

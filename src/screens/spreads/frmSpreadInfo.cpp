@@ -86,7 +86,7 @@ QPushButton* frmSpreadInfo::cmdCardAttributes(int Index) const {
 }
 
 void frmSpreadInfo::Form_Load() {
-    RememberedSpreadName = IsLoaded<frmSpreads>() ? Get<frmSpreads>().lstSpreads->Text() : QString();
+    RememberedSpreadName = IsLoaded<frmSpreads>() ? Get<frmSpreads>().ChosenSpreadName() : QString();
     picDesignLocations->imgBackground->Move(0, 0, picDesignLocations->Width(), picDesignLocations->Height());
     CentreInFrame(*this);
     ShowPage(SpreadPages::ShowDetails);

@@ -138,6 +138,8 @@ void frmSpreads::SpreadMenuButtons() {
     for (QPushButton* button : {cmdDelete, cmdInfo, cmdEdit, cmdManager}) button->setEnabled(selected);
 }
 
+QString frmSpreads::ChosenSpreadName() const { return lstSpreads->Text(); }
+
 void frmSpreads::lstSpreads_Click() {
     BriefInfo();
     for (QPushButton* button : {cmdEdit, cmdDelete, cmdInfo, cmdManager}) button->setEnabled(true);

@@ -1,4 +1,4 @@
-#include "screens/decks/mdlDeckDesign.h"
+#include "screens/decks/DeckControls.h"
 
 #include <QFocusEvent>
 #include <QLabel>
@@ -9,34 +9,6 @@
 
 #include "core/platform/FileSys.h"
 #include "core/store/StoreOperations.h"
-
-QString UprightPictureFile;
-QString ReversedPictureFile;
-QString UprightSoundFile;
-QString ReversedSoundFile;
-bool ImageSelected = false;
-bool SoundSelected = false;
-
-ChooserMemory& RememberedPictureFolder() {
-    static ChooserMemory memory;
-    return memory;
-}
-
-ChooserMemory& RememberedSoundFolder() {
-    static ChooserMemory memory;
-    return memory;
-}
-
-void ResetDeckDesignState() {
-    UprightPictureFile.clear();
-    ReversedPictureFile.clear();
-    UprightSoundFile.clear();
-    ReversedSoundFile.clear();
-    ImageSelected = false;
-    SoundSelected = false;
-    RememberedPictureFolder() = ChooserMemory{};
-    RememberedSoundFolder() = ChooserMemory{};
-}
 
 QPushButton* MakeButton(QWidget* parent, const char* name, const QString& caption, const QRect& where) {
     auto* button = new QPushButton(caption, parent);
