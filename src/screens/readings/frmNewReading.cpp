@@ -315,7 +315,7 @@ void frmNewReading::cmdSave_Click() {
     const bool onTable = DeckCardsLeft != 0 && ThisLocationNumber <= CurrentSpread.LocationCount;
     frmReadingCards* table = ScreenSlot<frmReadingCards>();
     for (int i = 1; i <= frmReadingCards::TableSize; ++i) {
-        const bool visible = onTable && table && !table->picCard(i)->isHidden();
+        const bool visible = onTable && table && table->IsFaceDown(i);
         Element(CurrentReading.TableCardVisible, i) = Flag(visible);
     }
     CurrentReading.DealtCount = static_cast<Integer>(ThisLocationNumber - 1);
@@ -409,7 +409,7 @@ void frmNewReading::FillFields() {
         frmReadingCards& table = Table();
         table.Show();
         for (int i = 1; i <= CurrentDeck.CardCount; ++i)
-            table.picCard(i)->setVisible(Element(CurrentReading.TableCardVisible, i) != 0);
+            table.SetFaceDown(i, Element(CurrentReading.TableCardVisible, i) != 0);
     } else {
         UnloadScreen<frmReadingCards>();
     }
@@ -425,8 +425,8 @@ void frmNewReading::FillFields() {
     frmReadingCards::MaxCardsUsed = 0;
     if (frmReadingCards* table = ScreenSlot<frmReadingCards>()) {
         for (int i = 1; i <= frmReadingCards::TableSize; ++i) {
-            table->picCard(i)->setBackColor(table->CardBackColor);
-            if (table->picCard(i)->isHidden()) continue;
+            table->PaintBack(i);
+            if (!table->IsFaceDown(i)) continue;
             ++frmReadingCards::MaxCardsUsed;
             ++DeckCardsLeft;
         }

@@ -219,6 +219,10 @@ void frmReadingCards::EliminateDeckCard(Integer card) {
     if (reading.DeckCardsLeft == 0) Form_Load();
 }
 
+bool frmReadingCards::IsFaceDown(int index) const { return !picCard(index)->isHidden(); }
+void frmReadingCards::SetFaceDown(int index, bool faceDown) { picCard(index)->setVisible(faceDown); }
+void frmReadingCards::PaintBack(int index) { picCard(index)->setBackColor(CardBackColor); }
+
 Integer frmReadingCards::getLocationCard(int index) const { return LocationCard()(index); }
 Integer frmReadingCards::getLocationIsUpright(int index) const { return LocationIsUpright()(index); }
 void frmReadingCards::setLocationCard(int index, Integer card) { LocationCard()(index) = card; }
