@@ -16,7 +16,8 @@
 #include "screens/decks/frmGetImageFile.h"
 #include "screens/decks/frmGetSoundFile.h"
 #include "screens/decks/frmSaveDeck.h"
-#include "screens/decks/mdlDeckDesign.h"
+#include "core/decks/CardEditing.h"
+#include "screens/decks/DeckControls.h"
 #include "screens/platform/MediaPlayer.h"
 #include "screens/platform/MsgBox.h"
 #include "core/platform/Rnd.h"
@@ -90,8 +91,8 @@ private slots:
     // reports the missing file, the chooser stays for another pick, and the
     // card's working files are as they were.
     void aFileThatVanishedAfterListingIsNotTaken() {
-        const QString before = UprightPictureFile;
-        const QString soundBefore = UprightSoundFile;
+        const QString before = WorkingFiles().Picture[0];
+        const QString soundBefore = WorkingFiles().Sound[0];
         for (FileChooser* chooser : {static_cast<FileChooser*>(&Get<frmGetImageFile>()),
                                      static_cast<FileChooser*>(&Get<frmGetSoundFile>())}) {
             const QString name = chooser == ScreenSlot<frmGetImageFile>() ? QStringLiteral("gone.bmp")
@@ -111,8 +112,8 @@ private slots:
             QVERIFY(chooser->IsLoadedForm());
             ++tried_;
         }
-        QCOMPARE(UprightPictureFile, before);
-        QCOMPARE(UprightSoundFile, soundBefore);
+        QCOMPARE(WorkingFiles().Picture[0], before);
+        QCOMPARE(WorkingFiles().Sound[0], soundBefore);
         QVERIFY(!AnyFileMatches(TempDir + QStringLiteral("TempUp.*")));
         QVERIFY(!AnyFileMatches(TempDir + QStringLiteral("TsndUp.*")));
         UnloadScreen<frmGetImageFile>();

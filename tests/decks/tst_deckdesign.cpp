@@ -24,7 +24,8 @@
 #include "screens/decks/frmGetSoundFile.h"
 #include "screens/decks/frmSaveDeck.h"
 #include "screens/decks/frmViewCard.h"
-#include "screens/decks/mdlDeckDesign.h"
+#include "core/decks/CardEditing.h"
+#include "screens/decks/DeckControls.h"
 #include "screens/platform/MediaPlayer.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/shell/ImageBox.h"
@@ -154,7 +155,7 @@ private slots:
             });
             designer.cmdAddCard_Click();
             editor = &Get<frmAddCard>();
-            QCOMPARE(UprightPictureFile, QStringLiteral("TempUp.bmp"));
+            QCOMPARE(WorkingFiles().Picture[0], QStringLiteral("TempUp.bmp"));
             QVERIFY(FileExists(TempDir + QStringLiteral("TempRev.bmp")));
             FillCard(*editor, QStringLiteral("The Fool"), QStringLiteral("Major Arcana"), QStringLiteral("fool"),
                      QStringLiteral("fool reversed"));

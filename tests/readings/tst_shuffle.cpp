@@ -1,9 +1,10 @@
-// The table of face-down cards: the seeded shuffle against a sequence worked
-// out here from the generator's formula, the reversal rule, the geometry, and
-// the animation (it yields, restores the homes of nested runs, stops when told
-// and when its table goes).
+// The shuffle and the draw against a sequence worked out here from the
+// generator's formula, and the table of face-down cards: the deal of a click,
+// the geometry, and the animation (it yields, restores the homes of nested
+// runs, stops when told and when its table goes).
 #include <QtTest>
 
+#include "core/readings/Shuffle.h"
 #include "screens/shell/ClickLabel.h"
 #include "ReadingFixtures.h"
 
@@ -26,6 +27,14 @@ std::uint32_t StateBefore(std::uint32_t after) {
     std::uint32_t inverse = 1140671485u;   // Newton's steps for the inverse modulo 2^32
     for (int i = 0; i < 5; ++i) inverse *= 2u - 1140671485u * inverse;
     return ((after - 12820163u) * inverse) & 0xFFFFFFu;
+}
+
+// Cards 2, 4, .. before 1, 3, ..: the pool of a deck whose types alternate.
+QList<Integer> GroupedByType(int cards) {
+    QList<Integer> list;
+    for (int first = 2; first >= 1; --first)
+        for (int c = first; c <= cards; c += 2) list << Integer(c);
+    return list;
 }
 
 struct Expected {
@@ -77,54 +86,58 @@ private slots:
         SelectSpreadScreen::LastAllowDuplicateCards = false;
     }
 
-    void theSeededShuffleIsTheFormulaWorkedByHand() {
+    void theShuffleIsTheFormulaWorkedByHand_data() {
+        QTest::addColumn<std::uint32_t>("seed");
+        QTest::addColumn<bool>("useReversed");
+        QTest::newRow("with reversals") << std::uint32_t(0x3A5F21) << true;
+        // The orientation draws still happen: the same order as with them.
+        QTest::newRow("without reversals") << std::uint32_t(0x3A5F21) << false;
+        // The second number drawn (the orientation of position 1) is 0.5.
+        const std::uint32_t half = StateBefore(StateBefore(1u << 23));
+        HandGenerator g{half};
+        g.Next();
+        QCOMPARE(g.Next(), 0.5f);
+        QTest::newRow("exactly one half reverses") << half << true;
+    }
+
+    void theShuffleIsTheFormulaWorkedByHand() {
+        QFETCH(std::uint32_t, seed);
+        QFETCH(bool, useReversed);
+        BoundedArray<CardRecord> deck(1, 20);
+        for (int n = 1; n <= 20; ++n) deck(n).CardType = static_cast<Integer>(n % 2);
+        CardTypeSelected = {true, true, false, false};
+        BoundedArray<Integer> cards(1, frmReadingCards::TableSize);
+        BoundedArray<Integer> upright(1, frmReadingCards::TableSize);
+        QCOMPARE(PoolSize(deck, 20), 20);
+        ListPool(cards, deck, 20);
+        SetRandomizeSeedForTests(seed);
+        ShuffleTable(cards, upright, 20, useReversed);
+        const Expected e = HandShuffle(GroupedByType(20), seed, useReversed);
+        for (int i = 1; i <= 20; ++i) {
+            QCOMPARE(cards(i), e.cards[i - 1]);
+            QCOMPARE(upright(i), e.upright[i - 1]);
+        }
+    }
+
+    void thePickDrawsOnlyFaceDownPositions() {
+        SetRandomizeSeedForTests(7);
+        Randomize();
+        QCOMPARE(PickFaceDownPosition(5, 100, [](int at) { return at == 4; }), 4);
+        QCOMPARE(PickFaceDownPosition(5, 100, [](int) { return false; }), 0);
+    }
+
+    void aClickDealsTheCardTheShuffleLeftThere() {
         const std::uint32_t seed = 0x3A5F21;
         frmNewReading& reading = LayTable(20, seed, true);
         reading.cmdContinue->click();
-
-        // Grouped by type (even cards are type 0), in deck order within a type.
-        QList<Integer> list;
-        for (int c = 2; c <= 20; c += 2) list << Integer(c);
-        for (int c = 1; c <= 20; c += 2) list << Integer(c);
-        const Expected e = HandShuffle(list, seed, true);
+        const Expected e = HandShuffle(GroupedByType(20), seed, true);
         for (int i = 1; i <= 20; ++i) {
             QCOMPARE(frmReadingCards::LocationCard()(i), e.cards[i - 1]);
-            QCOMPARE(frmReadingCards::LocationIsUpright()(i), e.upright[i - 1]);
-            QCOMPARE(CurrentReading.LocationCard[std::size_t(i - 1)], e.cards[i - 1]);
             QCOMPARE(CurrentReading.LocationIsUpright[std::size_t(i - 1)], e.upright[i - 1]);
         }
-        QVERIFY(e.upright.contains(False16) && e.upright.contains(True16));
-
-        // A click deals the card of that position, as the shuffle left it.
         Get<frmReadingCards>().picCard_Click(5);
         QCOMPARE(CurrentReading.DealtCard[0], e.cards[4]);
         QCOMPARE(CurrentReading.DealtUpright[0], e.upright[4]);
-    }
-
-    void withoutReversalsTheGeneratorStillStepsTwice() {
-        const std::uint32_t seed = 0x3A5F21;
-        frmNewReading& reading = LayTable(20, seed, false);
-        reading.cmdContinue->click();
-        QList<Integer> list;
-        for (int c = 2; c <= 20; c += 2) list << Integer(c);
-        for (int c = 1; c <= 20; c += 2) list << Integer(c);
-        // The same order as with reversals: the orientation draws still happen.
-        const Expected e = HandShuffle(list, seed, false);
-        for (int i = 1; i <= 20; ++i) {
-            QCOMPARE(frmReadingCards::LocationCard()(i), e.cards[i - 1]);
-            QCOMPARE(frmReadingCards::LocationIsUpright()(i), True16);
-        }
-    }
-
-    void exactlyOneHalfReverses() {
-        // The second number drawn (the orientation of position 1) is 0.5.
-        const std::uint32_t seed = StateBefore(StateBefore(1u << 23));
-        HandGenerator g{seed};
-        g.Next();
-        QCOMPARE(g.Next(), 0.5f);
-        frmNewReading& reading = LayTable(12, seed, true);
-        reading.cmdContinue->click();
-        QCOMPARE(frmReadingCards::LocationIsUpright()(1), False16);
     }
 
     void theTableFansOutAndFollowsThePool() {

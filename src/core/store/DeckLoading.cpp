@@ -1,5 +1,7 @@
 // The deck in memory, its card types, and the names of the picture files in
 // Cards/.
+#include "core/store/DeckLoading.h"
+
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -7,7 +9,6 @@
 #include "core/platform/FileSys.h"
 #include "core/records/RecordFile.h"
 #include "core/store/RunState.h"
-#include "core/store/DeckLoading.h"
 #include "core/store/Lookups.h"
 
 bool LoadDeckCards() {

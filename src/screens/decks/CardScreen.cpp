@@ -1,5 +1,6 @@
-#include "core/store/RunState.h"
 #include "screens/decks/CardScreen.h"
+
+#include "core/store/RunState.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -8,7 +9,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "screens/decks/mdlDeckDesign.h"
+#include "core/decks/CardEditing.h"
+#include "screens/decks/DeckControls.h"
 #include "core/platform/FileSys.h"
 #include "screens/platform/MediaPlayer.h"
 #include "screens/shell/FitPicture.h"
@@ -69,8 +71,8 @@ void CardScreen::OpenCard() {
     IMGLeft = imgCard->Left();
     IMGHeight = imgCard->Height();
     IMGWidth = imgCard->Width();
-    UprightPictureFile = CurrentCard.CardPicture[0].Value();
-    if (CurrentDeck.IncludesReversed) ReversedPictureFile = CurrentCard.CardPicture[1].Value();
+    WorkingFiles().Picture[0] = CurrentCard.CardPicture[0].Value();
+    if (CurrentDeck.IncludesReversed) WorkingFiles().Picture[1] = CurrentCard.CardPicture[1].Value();
     else CurrentCard.CardPicture[1] = DefaultPictureName;
     UpdateSound();
 }
@@ -94,7 +96,7 @@ void CardScreen::FillSide() {
 void CardScreen::UpdatePictures() {
     imgCard->ClearPicture();
     imgCard->Move(IMGLeft, IMGTop, IMGWidth, IMGHeight);
-    const QString& file = CheckedSide() == 0 ? UprightPictureFile : ReversedPictureFile;
+    const QString& file = WorkingFiles().Picture[static_cast<std::size_t>(CheckedSide())];
     FitPicture(*imgCard, TempDir + file, true, false);
 }
 

@@ -1,5 +1,6 @@
-#include "core/store/RunState.h"
 #include "screens/decks/DeckScreen.h"
+
+#include "core/store/RunState.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -7,7 +8,7 @@
 #include <QPushButton>
 
 #include "screens/decks/frmDecks.h"
-#include "screens/decks/mdlDeckDesign.h"
+#include "screens/decks/DeckControls.h"
 #include "core/platform/FileSys.h"
 #include "screens/platform/ListBox.h"
 #include "screens/shell/ScreenPlacement.h"
@@ -58,7 +59,7 @@ DeckScreen::DeckScreen(const QString& captionStem, bool designing) : captionStem
 void DeckScreen::UpdateCardButtons() { cmdEditCard->setEnabled(lstCards->ListIndex() >= 0); }
 
 void DeckScreen::OpenDeck(bool existingDeck, bool skipDefaultReversed) {
-    if (IsLoaded<frmDecks>()) OldDesignName = Get<frmDecks>().lstDecks->Text();
+    if (IsLoaded<frmDecks>()) OldDesignName = Get<frmDecks>().ChosenDeckName();
     CentreInFrame(*this);
     KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
     if (existingDeck) CopyDeckIn(skipDefaultReversed);

@@ -1,10 +1,12 @@
-#include "core/store/RunState.h"
 #include "screens/decks/FileChooser.h"
+
+#include "core/store/RunState.h"
 
 #include <QDir>
 #include <QPushButton>
 
-#include "screens/decks/mdlDeckDesign.h"
+#include "core/decks/CardEditing.h"
+#include "screens/decks/DeckControls.h"
 #include "screens/platform/FileLists.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/shell/ScreenPlacement.h"

@@ -1,5 +1,6 @@
-#include "core/store/RunState.h"
 #include "screens/decks/frmAddCard.h"
+
+#include "core/store/RunState.h"
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -9,7 +10,8 @@
 #include "screens/decks/frmDesignDeck.h"
 #include "screens/decks/frmGetImageFile.h"
 #include "screens/decks/frmGetSoundFile.h"
-#include "screens/decks/mdlDeckDesign.h"
+#include "core/decks/CardEditing.h"
+#include "screens/decks/DeckControls.h"
 #include "core/platform/FileSys.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MediaPlayer.h"
@@ -161,16 +163,16 @@ void frmAddCard::StoreCard() {
         return;
     }
 
-    if (UprightPictureFile.startsWith(UprightPictureStem)) {
-        CurrentCard.CardPicture[0] = CardUprightName(FreeCardNumber(0, {TempDir})) + UprightPictureFile.right(4);
-        RenameWorkingFile(UprightPictureFile, CurrentCard.CardPicture[0].Value());
+    CardWorkingFiles& files = WorkingFiles();
+    if (files.Picture[0].startsWith(UprightPictureStem)) {
+        CurrentCard.CardPicture[0] = CardUprightName(FreeCardNumber(0, {TempDir})) + files.Picture[0].right(4);
+        RenameWorkingFile(files.Picture[0], CurrentCard.CardPicture[0].Value());
     }
-    if (ReversedPictureFile.startsWith(ReversedPictureStem)) {
-        CurrentCard.CardPicture[1] = CardReversedName(FreeCardNumber(1, {TempDir})) + ReversedPictureFile.right(4);
-        RenameWorkingFile(ReversedPictureFile, CurrentCard.CardPicture[1].Value(),
-                          ReversedPictureFile == DefaultPicturePath);
+    if (files.Picture[1].startsWith(ReversedPictureStem)) {
+        CurrentCard.CardPicture[1] = CardReversedName(FreeCardNumber(1, {TempDir})) + files.Picture[1].right(4);
+        RenameWorkingFile(files.Picture[1], CurrentCard.CardPicture[1].Value(), files.Picture[1] == DefaultPicturePath);
     }
-    const QString soundFiles[2] = {UprightSoundFile, ReversedSoundFile};
+    const std::array<QString, 2> soundFiles = files.Sound;
     const QString soundStems[2] = {UprightSoundStem, ReversedSoundStem};
     for (std::size_t side = 0; side < 2; ++side) {
         if (!soundFiles[side].startsWith(soundStems[side])) continue;
@@ -185,10 +187,8 @@ void frmAddCard::StoreCard() {
     Get<frmDesignDeck>().DesignModified = true;
     DesignMode = 0;
     SaveSuccessful = true;
-    UprightPictureFile.clear();
-    ReversedPictureFile.clear();
-    UprightSoundFile.clear();
-    ReversedSoundFile.clear();
+    files.Picture = {};
+    files.Sound = {};
 }
 
 void frmAddCard::UpdateThisCartoDeck_frmDesignDeck() {
@@ -242,7 +242,7 @@ void frmAddCard::Form_Unload(bool&) {
     if (!IsLoaded<frmDesignDeck>()) return;
     frmDesignDeck& designer = Get<frmDesignDeck>();
     designer.Show();
-    designer.lstCards->setFocus();
+    designer.FocusCardList();
 }
 
 void frmAddCard::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) {

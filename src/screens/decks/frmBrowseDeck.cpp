@@ -1,9 +1,10 @@
-#include "core/store/RunState.h"
 #include "screens/decks/frmBrowseDeck.h"
+
+#include "core/store/RunState.h"
 
 #include <QPushButton>
 
-#include "screens/decks/mdlDeckDesign.h"
+#include "screens/decks/DeckControls.h"
 #include "screens/platform/ListBox.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "core/records/RecordFile.h"

@@ -3,7 +3,7 @@
 #include <QPlainTextEdit>
 
 #include "screens/decks/frmDesignDeck.h"
-#include "screens/decks/mdlDeckDesign.h"
+#include "screens/decks/DeckControls.h"
 #include "core/store/RunState.h"
 
 frmDeckComments::frmDeckComments() : DeckNotesPanel(true) {

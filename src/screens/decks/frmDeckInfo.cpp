@@ -6,7 +6,7 @@
 #include "screens/decks/frmDeckCommentsInfo.h"
 #include "screens/decks/frmDecks.h"
 #include "screens/decks/frmViewCard.h"
-#include "screens/decks/mdlDeckDesign.h"
+#include "screens/decks/DeckControls.h"
 #include "screens/platform/ListBox.h"
 #include "core/store/RunState.h"
 

@@ -1,5 +1,6 @@
-#include "core/store/RunState.h"
 #include "screens/decks/frmDecks.h"
+
+#include "core/store/RunState.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -9,13 +10,14 @@
 
 #include "screens/decks/frmDeckInfo.h"
 #include "screens/decks/frmDesignDeck.h"
-#include "screens/decks/mdlDeckDesign.h"
+#include "screens/decks/DeckControls.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/store/PasswordPrompts.h"
 #include "core/records/RecordFile.h"
+#include "core/spreads/AllowedDecks.h"
 #include "screens/store/Startup.h"
 #include "core/platform/OleDate.h"
 #include "core/store/DeckLoading.h"
@@ -211,15 +213,8 @@ bool frmDecks::AskDeleteQuestions(const QString& deckName, Integer deckId) {
                    QStringLiteral("' ?\nBe aware that this deck will be removed from all spreads that use it."),
                vbYesNo | vbQuestion | vbDefaultButton2) == vbNo)
         return false;
-    bool soleDeckSomewhere = false;
-    {
-        RecordReader<SpreadRecord> reader(SpreadsPath);
-        SpreadRecord spread;
-        while (!soleDeckSomewhere && reader.Next(spread))
-            soleDeckSomewhere = spread.AllowedDeckCount == 1 && spread.AllowedDeckId[0] == deckId;
-    }
     const QString question =
-        soleDeckSomewhere
+        IsSoleDeckOfASpread(deckId)
             ? QStringLiteral("At least one spread uses solely this deck. Further, any readings or diaries that\n"
                              "use this deck will not be able to be opened. Proceed anyway?")
             : QStringLiteral("Any readings or diaries using this deck will not be able to be opened.\n"
@@ -227,32 +222,7 @@ bool frmDecks::AskDeleteQuestions(const QString& deckName, Integer deckId) {
     return MsgBox(question, vbYesNo | vbQuestion | vbDefaultButton2) == vbYes;
 }
 
-namespace {
-
-// Unties the deck from every spread: the entries behind it move up, the
-// freed place is -1, and the changed spreads are written back together.
-void RemoveDeckFromSpreads(Integer deckId) {
-    RecordEdit<SpreadRecord> changed(SpreadsPath);
-    {
-        RecordReader<SpreadRecord> reader(SpreadsPath);
-        while (reader.Next(ScratchSpread)) {
-            auto& ids = ScratchSpread.AllowedDeckId;
-            const int allowed = ScratchSpread.AllowedDeckCount;
-            const int used = allowed > 0 ? std::min<int>(allowed, 10) : 0;
-            int at = -1;
-            for (int i = 0; i < used && at < 0; ++i)
-                if (ids[static_cast<std::size_t>(i)] == deckId) at = i;
-            if (at < 0) continue;
-            for (int i = at; i < 9; ++i) ids[static_cast<std::size_t>(i)] = ids[static_cast<std::size_t>(i + 1)];
-            ids[9] = -1;
-            ScratchSpread.AllowedDeckCount = static_cast<Integer>(ScratchSpread.AllowedDeckCount - 1);
-            changed.Put(reader.Current(), ScratchSpread);
-        }
-    }
-    changed.Commit();
-}
-
-}  // namespace
+QString frmDecks::ChosenDeckName() const { return lstDecks->Text(); }
 
 void frmDecks::cmdDelete_Click() {
     ClearTemp();

@@ -42,6 +42,8 @@ public:
     // not in the list leaves the selection as it is. The designer and the
     // viewer come back to the deck they left.
     void SelectDeck(const QString& deckName);
+    // The name on the selected line, as listed; "" when none is selected.
+    QString ChosenDeckName() const;
 
 protected:
     void Form_Load() override;

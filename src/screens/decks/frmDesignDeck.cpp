@@ -1,6 +1,9 @@
-#include "core/store/RunState.h"
 #include "screens/decks/frmDesignDeck.h"
 
+#include "core/platform/OleDate.h"
+#include "core/store/RunState.h"
+
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -11,7 +14,8 @@
 #include "screens/decks/frmDecks.h"
 #include "screens/decks/frmGetImageFile.h"
 #include "screens/decks/frmSaveDeck.h"
-#include "screens/decks/mdlDeckDesign.h"
+#include "core/decks/CardEditing.h"
+#include "screens/decks/DeckControls.h"
 #include "core/platform/FileSys.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
@@ -112,15 +116,15 @@ void frmDesignDeck::cmdAddCard_Click() {
     Get<frmAddCard>().Show();
     // The upright picture is asked at once, over the card editor.
     Get<frmGetImageFile>().ShowFor(1);
-    bool picked = ImageSelected;
+    bool picked = WorkingFiles().ImageSelected;
     if (picked) {
         if (!CurrentDeck.IncludesReversed) {
-            ReversedPictureFile = DefaultPicturePath;
+            WorkingFiles().Picture[1] = DefaultPicturePath;
             CurrentCard.CardPicture[1] = DefaultPictureName;
             FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
         } else {
             Get<frmGetImageFile>().ShowFor(2);
-            picked = ImageSelected;
+            picked = WorkingFiles().ImageSelected;
         }
     }
     if (!picked) {
@@ -143,6 +147,14 @@ void frmDesignDeck::cmdEditCard_Click() {
     editor.Show();
     editor.CardPositionBeingEdited = position;
 }
+
+void frmDesignDeck::DeckSaved(const QString& name) {
+    lblModifiedOnDate->setText(FormatLongDate(CurrentDeck.ModifiedOn));
+    DesignModified = false;
+    OldDesignName = name;
+}
+
+void frmDesignDeck::FocusCardList() { lstCards->setFocus(); }
 
 void frmDesignDeck::cmdDeleteCard_Click() {
     if (lstCards->ListIndex() < 0) {

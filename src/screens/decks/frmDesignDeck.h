@@ -8,6 +8,10 @@
 class frmDesignDeck : public DeckScreen {
     Q_OBJECT
 public:
+    // The deck was saved under that name: nothing is left unsaved.
+    void DeckSaved(const QString& name);
+    // Back from the card editor: the card list takes the keys again.
+    void FocusCardList();
     frmDesignDeck();
 
     QPushButton* cmdAddCard;

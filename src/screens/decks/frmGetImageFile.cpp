@@ -3,7 +3,8 @@
 #include <QCheckBox>
 
 #include "screens/decks/frmAddCard.h"
-#include "screens/decks/mdlDeckDesign.h"
+#include "core/decks/CardEditing.h"
+#include "screens/decks/DeckControls.h"
 #include "screens/platform/FileLists.h"
 #include "core/platform/FileSys.h"
 #include "screens/shell/FitPicture.h"
@@ -53,7 +54,7 @@ void frmGetImageFile::TakeFile(int side, const QString& source) {
     // vanished since it was listed leaves the card as it was.
     const QString name = (side == 0 ? UprightPictureStem : ReversedPictureStem) + source.right(4);
     FileCopy(source, TempDir + name);
-    QString& working = side == 0 ? UprightPictureFile : ReversedPictureFile;
+    QString& working = WorkingFiles().Picture[static_cast<std::size_t>(side)];
     working = name;
     if (IsLoaded<frmAddCard>()) {
         frmAddCard& editor = Get<frmAddCard>();
@@ -62,4 +63,4 @@ void frmGetImageFile::TakeFile(int side, const QString& source) {
     }
 }
 
-void frmGetImageFile::ReportSelected(bool selected) { ImageSelected = selected; }
+void frmGetImageFile::ReportSelected(bool selected) { WorkingFiles().ImageSelected = selected; }

@@ -1,7 +1,8 @@
 #include "screens/decks/frmGetSoundFile.h"
 
 #include "screens/decks/frmAddCard.h"
-#include "screens/decks/mdlDeckDesign.h"
+#include "core/decks/CardEditing.h"
+#include "screens/decks/DeckControls.h"
 #include "core/platform/FileSys.h"
 #include "screens/platform/MediaPlayer.h"
 #include "core/store/RunState.h"
@@ -25,9 +26,9 @@ void frmGetSoundFile::TakeFile(int side, const QString& source) {
     // vanished since it was listed leaves the card as it was.
     const QString name = (side == 0 ? UprightSoundStem : ReversedSoundStem) + source.right(4);
     FileCopy(source, TempDir + name);
-    QString& working = side == 0 ? UprightSoundFile : ReversedSoundFile;
+    QString& working = WorkingFiles().Sound[static_cast<std::size_t>(side)];
     working = name;
     if (IsLoaded<frmAddCard>()) Get<frmAddCard>().TakeWorkingSound(side, working);
 }
 
-void frmGetSoundFile::ReportSelected(bool selected) { SoundSelected = selected; }
+void frmGetSoundFile::ReportSelected(bool selected) { WorkingFiles().SoundSelected = selected; }

@@ -1,5 +1,6 @@
-#include "core/store/RunState.h"
 #include "screens/decks/frmSaveDeck.h"
+
+#include "core/store/RunState.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -9,7 +10,7 @@
 #include <vector>
 
 #include "screens/decks/frmDesignDeck.h"
-#include "screens/decks/mdlDeckDesign.h"
+#include "screens/decks/DeckControls.h"
 #include "core/platform/FileSys.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
@@ -96,10 +97,7 @@ void frmSaveDeck::cmdSave_Click() {
     SaveDeck(name, existing);
 
     if (IsLoaded<frmDesignDeck>()) {
-        frmDesignDeck& designer = Get<frmDesignDeck>();
-        designer.lblModifiedOnDate->setText(FormatLongDate(CurrentDeck.ModifiedOn));
-        designer.DesignModified = false;
-        designer.OldDesignName = name;
+        Get<frmDesignDeck>().DeckSaved(name);
     }
     SetScreenPointer(MousePointer::Arrow);
     Unload();

@@ -3,7 +3,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "screens/decks/mdlDeckDesign.h"
+#include "screens/decks/DeckControls.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/store/Startup.h"
 #include "core/store/RunState.h"

@@ -75,7 +75,7 @@ void frmDiaryCards::Form_Load() {
     frmNewDiary& diary = Diary();
     pick_ = diary.PickLocation;
     diary.MarkLocation(pick_, true);
-    setCaption(QStringLiteral("Select card for location: ") + diary.lblCardTitle(pick_)->text());
+    setCaption(QStringLiteral("Select card for location: ") + diary.LocationTitle(pick_));
     CardFrameTop = imgCard->Top();
     CardFrameLeft = imgCard->Left();
     CardFrameWidth = imgCard->Width();
@@ -97,24 +97,22 @@ void frmDiaryCards::lstCardTypes_ItemCheck() { UpdateCards(); }
 
 void frmDiaryCards::UpdateCards() {
     lstCards->Clear();
-    const QComboBox* list = Diary().cboCardName(pick_);
-    for (int r = 0; r < list->count(); ++r) {
-        const int number = list->itemData(r).toInt();
+    const QList<QPair<QString, int>> rows = Diary().CardRows(pick_);
+    for (int r = 0; r < rows.size(); ++r) {
+        const auto& [text, number] = rows[r];
         if (r > 0) {
             // The card's type is taken as the row of the type list, as it
             // always was: a deck that leaves out a type shifts the rows.
-            const CardRecord* card = CardOfRow(number, list->itemText(r));
+            const CardRecord* card = CardOfRow(number, text);
             if (!card || !lstCardTypes->Selected(card->CardType)) continue;
         }
-        lstCards->AddItem(list->itemText(r), number);
+        lstCards->AddItem(text, number);
     }
     imgCard->ClearPicture();
 }
 
 void frmDiaryCards::ShowSelectedCard() {
-    frmNewDiary& diary = Diary();
-    const QComboBox* list = diary.cboCardName(pick_);
-    if (list->currentIndex() < 0 || list->currentIndex() == diary.getIndexOfNONE(pick_)) return;
+    if (!Diary().HasCardIn(pick_)) return;
     const Integer dealt = Element(CurrentDiary.DealtCard, pick_);
     for (int r = 0; r < lstCards->ListCount(); ++r) {
         if (lstCards->ItemData(r) != dealt) continue;

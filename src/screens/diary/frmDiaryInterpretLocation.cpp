@@ -13,8 +13,7 @@ frmDiaryInterpretLocation::frmDiaryInterpretLocation() : InterpretLocationScreen
 int frmDiaryInterpretLocation::Location() const { return Get<frmNewDiary>().PickLocation; }
 
 bool frmDiaryInterpretLocation::CardLiesThere() const {
-    frmNewDiary& diary = Get<frmNewDiary>();
-    return diary.cboCardName(Location())->currentIndex() != diary.getIndexOfNONE(Location());
+    return Get<frmNewDiary>().HasCardIn(Location());
 }
 
 int frmDiaryInterpretLocation::CardNumber() const { return Element(CurrentDiary.DealtCard, Location()); }

@@ -23,8 +23,6 @@
 namespace {
 
 const QString DiaryCaption = QStringLiteral("Diary - ");
-// The bright red of a location that a companion screen works on.
-const QColor MarkedLocationColour(192, 0, 0);
 // The key code of Delete in a location's list.
 constexpr int KeyDelete = 46;
 
@@ -154,6 +152,20 @@ void frmNewDiary::FillCardLists() {
 }
 
 int frmNewDiary::getIndexOfNONE(int index) const { return cboCardName(index)->findText(SelectPrompt); }
+
+bool frmNewDiary::HasCardIn(int location) const {
+    const int row = cboCardName(location)->currentIndex();
+    return row >= 0 && row != getIndexOfNONE(location);
+}
+
+QString frmNewDiary::LocationTitle(int location) const { return lblCardTitle(location)->text(); }
+
+QList<QPair<QString, int>> frmNewDiary::CardRows(int location) const {
+    const QComboBox* box = cboCardName(location);
+    QList<QPair<QString, int>> rows;
+    for (int r = 0; r < box->count(); ++r) rows.append({box->itemText(r), box->itemData(r).toInt()});
+    return rows;
+}
 
 void frmNewDiary::GiveFocusToCard(int index) {
     cboCardName(FocusLocation)->hide();
@@ -312,9 +324,8 @@ void frmNewDiary::chkReversed_Click(int Index) {
 
 void frmNewDiary::MarkLocation(int location, bool marked) {
     if (location < 1 || location > MaxLocations) return;
-    const QColor back = marked ? MarkedLocationColour : QBColor(CurrentLocationColour);
-    picLocation(location)->setBackColor(back);
-    SetBoxColours(chkReversed(location), back, QBColor(OtherLocationColour));
+    EntryScreen::MarkLocation(location, marked);
+    SetBoxColours(chkReversed(location), picLocation(location)->BackColor(), QBColor(OtherLocationColour));
 }
 
 void frmNewDiary::cmdInterpret_Click() {

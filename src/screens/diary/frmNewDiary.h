@@ -35,10 +35,17 @@ public:
     void FillFields();
     void GiveFocusToCard(int index);
     int getIndexOfNONE(int index) const;
+    // Whether a card is selected for the location.
+    bool HasCardIn(int location) const;
+    // The location's title as its label shows it.
+    QString LocationTitle(int location) const;
+    // The rows of the location's card box: the text and the card number
+    // (0 for the row of no card).
+    QList<QPair<QString, int>> CardRows(int location) const;
     // The card number a location's selected row stands for, 0 for none.
     int CardNumberOfRow(int index) const;
-    // Marks a location while a companion screen works on it, or unmarks it.
-    void MarkLocation(int location, bool marked);
+    // The reversal box is marked with its location.
+    void MarkLocation(int location, bool marked) override;
 
     void cmdContinue_Click() override;
     void cmdInterpret_Click();

@@ -45,6 +45,17 @@ QLineEdit* PackageSummaryScreen::AddField(const QString& label, const char* name
 
 void PackageSummaryScreen::Form_Load() { CentreInFrame(*this); }
 
+void PackageSummaryScreen::ShowCounts(int decks, int spreads) {
+    txtDecksCount->setText(QString::number(decks));
+    txtSpreadsCount->setText(QString::number(spreads));
+}
+
+void frmCreatePackageSummary::ShowPackageFile(const QString& fileName, const QString& folder) {
+    txtFilename->setText(fileName);
+    txtLocation->setText(folder);
+    setCaption(QStringLiteral("Package Summary - ") + fileName);
+}
+
 void PackageSummaryScreen::SetAttachment(bool present, const QString& name) {
     QFont font = txtAttachment->font();
     font.setItalic(!present);

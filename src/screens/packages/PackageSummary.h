@@ -17,6 +17,8 @@ public:
     QLineEdit* txtAttachment;
     QPushButton* cmdCancel;
 
+    // How many decks and spreads went in.
+    void ShowCounts(int decks, int spreads);
     // The attachment's name, or "NONE" in italics when there is none.
     void SetAttachment(bool present, const QString& name);
     void cmdCancel_Click();
@@ -43,6 +45,8 @@ class frmCreatePackageSummary : public PackageSummaryScreen {
     Q_OBJECT
 public:
     frmCreatePackageSummary();
+    // The package file made: its name, also in the caption, and its folder.
+    void ShowPackageFile(const QString& fileName, const QString& folder);
     QLineEdit* txtLocation;
     QLineEdit* txtFilename;
 };

@@ -378,11 +378,8 @@ void frmCreatePackage::StageAttachment() {
 
 void frmCreatePackage::ShowSummary() {
     frmCreatePackageSummary& summary = Get<frmCreatePackageSummary>();
-    summary.txtFilename->setText(PackageFileName.trimmed());
-    summary.txtLocation->setText(PackageFolder.trimmed());
-    summary.txtDecksCount->setText(QString::number(DecksPacked));
-    summary.txtSpreadsCount->setText(QString::number(SpreadsPacked));
-    summary.setCaption(QStringLiteral("Package Summary - ") + PackageFileName.trimmed());
+    summary.ShowPackageFile(PackageFileName.trimmed(), PackageFolder.trimmed());
+    summary.ShowCounts(DecksPacked, SpreadsPacked);
     summary.SetAttachment(AttachmentStaged, AttachmentName.trimmed());
     SetScreenPointer(MousePointer::Default);
     summary.Show(true);

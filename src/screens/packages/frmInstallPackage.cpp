@@ -264,8 +264,7 @@ void frmInstallPackage::ShowPackageSummary() {
     SetScreenPointer(MousePointer::Default);
     frmPackageSummary& summary = Get<frmPackageSummary>();
     summary.SetAttachment(AttachmentSaved, AttachmentFile);
-    summary.txtDecksCount->setText(QString::number(DecksInstalled));
-    summary.txtSpreadsCount->setText(QString::number(SpreadsInstalled));
+    summary.ShowCounts(DecksInstalled, SpreadsInstalled);
     summary.UpdateInfo();
     summary.Show(true);
     SetScreenPointer(MousePointer::Hourglass);

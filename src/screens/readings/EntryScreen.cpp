@@ -262,6 +262,18 @@ void EntryScreen::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handl
     cmdClose_Click();
 }
 
+void EntryScreen::MarkLocation(int location, bool marked) {
+    if (location < 1 || location > MaxLocations) return;
+    static const QColor MarkedLocationColour(192, 0, 0);   // bright red
+    picLocation(location)->setBackColor(marked ? MarkedLocationColour : QBColor(CurrentLocationColour));
+}
+
+void EntryScreen::TakeIssue(const QString& issue) { txtIssue->setText(issue.trimmed()); }
+
+void EntryScreen::FocusIssue() {
+    if (!txtIssue->isHidden()) txtIssue->setFocus();
+}
+
 void EntryScreen::ShowCardInLocation(int location, int cardNumber, bool upright) {
     const CardRecord& card = DeckCard(cardNumber);
     ImageBox* box = imgCard(location);

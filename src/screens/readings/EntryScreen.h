@@ -108,6 +108,12 @@ public:
     // card frame, fitted.
     void ShowCardInLocation(int location, int cardNumber, bool upright);
     void ClearLocationCard(int location);
+    // Marks a location while a companion screen works on it, or unmarks it.
+    virtual void MarkLocation(int location, bool marked);
+    // The issue the selection screen took, and the keys to its box when it
+    // shows.
+    void TakeIssue(const QString& issue);
+    void FocusIssue();
 
     // Prints the entry from its record, with what only the screen holds: the
     // issue in hand, the canvas the locations are placed on and the frame a

@@ -210,10 +210,10 @@ void SelectSpreadScreen::cmdSelect_Click() {
     LastAllowDuplicateCards = chkAllowDuplicateCards->isChecked();
 
     EntryScreen& entry = Entry();
-    entry.txtIssue->setText(issue.trimmed());
+    entry.TakeIssue(issue);
     Unload();
     entry.Initialize();
-    if (!entry.txtIssue->isHidden()) entry.txtIssue->setFocus();
+    entry.FocusIssue();
 }
 
 void SelectSpreadScreen::cmdCancel_Click() {

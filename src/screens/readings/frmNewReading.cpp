@@ -217,6 +217,42 @@ void frmNewReading::cmdDeal_Click() {
     Table().Show();
 }
 
+void frmNewReading::TableLoaded(bool loaded) {
+    frmReadingCardsIsLoaded = loaded;
+    if (loaded) Timer1->start();
+    else Timer1->stop();
+}
+
+void frmNewReading::TableUp() {
+    cmdAllCards->setEnabled(true);
+    cmdNextCard->setEnabled(true);
+    cmdDeal->setEnabled(false);
+    if (DeckCardsLeft > 1) cmdFakeShuffle->setEnabled(true);
+}
+
+void frmNewReading::TableGone() {
+    cmdAllCards->setEnabled(false);
+    cmdNextCard->setEnabled(false);
+    cmdDeal->setEnabled(true);
+    cmdFakeShuffle->setEnabled(false);
+}
+
+void frmNewReading::EnableShuffle(bool enabled) { cmdFakeShuffle->setEnabled(enabled); }
+
+void frmNewReading::DealCard(Integer card, Integer upright) {
+    ReadingChanged = true;
+    cmdContinue->setEnabled(false);
+    const int L = ThisLocationNumber;
+    ShowCardInLocation(L, card, upright == True16);
+    lblCardNumber(L)->hide();
+    lblCardName(L)->setText(DeckCard(card).CardTitle.Trimmed());
+    Element(CurrentReading.DealtCard, L) = card;
+    Element(CurrentReading.DealtUpright, L) = upright;
+    ThisLocationNumber = static_cast<Integer>(L + 1);
+    cmdInterpret->setEnabled(true);
+    Show();
+}
+
 void frmNewReading::cmdNextCard_Click() { Table().PickRandomCard(); }
 
 void frmNewReading::cmdAllCards_Click() {
@@ -279,7 +315,7 @@ void frmNewReading::cmdSave_Click() {
     const bool onTable = DeckCardsLeft != 0 && ThisLocationNumber <= CurrentSpread.LocationCount;
     frmReadingCards* table = ScreenSlot<frmReadingCards>();
     for (int i = 1; i <= frmReadingCards::TableSize; ++i) {
-        const bool visible = onTable && table && !table->picCard(i)->isHidden();
+        const bool visible = onTable && table && table->IsFaceDown(i);
         Element(CurrentReading.TableCardVisible, i) = Flag(visible);
     }
     CurrentReading.DealtCount = static_cast<Integer>(ThisLocationNumber - 1);
@@ -373,7 +409,7 @@ void frmNewReading::FillFields() {
         frmReadingCards& table = Table();
         table.Show();
         for (int i = 1; i <= CurrentDeck.CardCount; ++i)
-            table.picCard(i)->setVisible(Element(CurrentReading.TableCardVisible, i) != 0);
+            table.SetFaceDown(i, Element(CurrentReading.TableCardVisible, i) != 0);
     } else {
         UnloadScreen<frmReadingCards>();
     }
@@ -389,8 +425,8 @@ void frmNewReading::FillFields() {
     frmReadingCards::MaxCardsUsed = 0;
     if (frmReadingCards* table = ScreenSlot<frmReadingCards>()) {
         for (int i = 1; i <= frmReadingCards::TableSize; ++i) {
-            table->picCard(i)->setBackColor(table->CardBackColor);
-            if (table->picCard(i)->isHidden()) continue;
+            table->PaintBack(i);
+            if (!table->IsFaceDown(i)) continue;
             ++frmReadingCards::MaxCardsUsed;
             ++DeckCardsLeft;
         }

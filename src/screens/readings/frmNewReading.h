@@ -71,6 +71,17 @@ public:
     void picLocation_Click(int Index) override;
     void imgCard_Click(int Index) override;
 
+    // What the table below tells this screen. TableLoaded keeps this screen
+    // following the table while it stands; TableUp and TableGone turn the
+    // buttons to drawing from it or to dealing a new one.
+    void TableLoaded(bool loaded);
+    void TableUp();
+    void TableGone();
+    void EnableShuffle(bool enabled);
+    // Deals the card (and orientation) of a table position into the next
+    // location.
+    void DealCard(Integer card, Integer upright);
+
     // Ends the reading without a question: the table goes, the main screen
     // comes back and this screen unloads.
     void CloseReading();

@@ -8,6 +8,7 @@
 #include "screens/platform/Events.h"
 #include "core/platform/Palette.h"
 #include "core/platform/Rnd.h"
+#include "core/readings/Shuffle.h"
 #include "core/platform/Twips.h"
 #include "screens/readings/frmNewReading.h"
 #include "screens/shell/ClickLabel.h"
@@ -42,10 +43,6 @@ constexpr float JumpAcross = 9120.0f;
 // same, so that Stop is heard even when every listed card has been drawn.
 constexpr int TurnsWithoutYield = 256;
 
-// Int(n * Rnd) + 1 with the product taken in single precision: a position
-// from 1 to n.
-int RandomPosition(int n, float r) { return static_cast<int>(std::floor(static_cast<float>(n) * r)) + 1; }
-
 frmNewReading& Reading() { return Get<frmNewReading>(); }
 
 // True once the table has been unloaded (a new one may stand in its place)
@@ -53,12 +50,6 @@ frmNewReading& Reading() { return Get<frmNewReading>(); }
 // handler must then leave without touching either again.
 bool Gone(const QPointer<frmReadingCards>& table) {
     return !table || ScreenSlot<frmReadingCards>() != table.data() || !IsLoaded<frmNewReading>();
-}
-
-int PoolSize() {
-    int pool = 0;
-    for (int t = 0; t <= 3; ++t) pool += CountSelectedCardsOfType(CurrentDeck.DeckCards, CurrentDeck.CardCount, t);
-    return pool;
 }
 
 }  // namespace
@@ -99,20 +90,16 @@ void frmReadingCards::MoveCard(int index, int left, int top) {
 
 void frmReadingCards::Form_Load() {
     frmNewReading& reading = Reading();
-    reading.frmReadingCardsIsLoaded = true;
-    reading.Timer1->start();
+    reading.TableLoaded(true);
 
     Show();
     MoveForm();
 
-    reading.cmdAllCards->setEnabled(true);
-    reading.cmdNextCard->setEnabled(true);
-    reading.cmdDeal->setEnabled(false);
-    if (reading.DeckCardsLeft > 1) reading.cmdFakeShuffle->setEnabled(true);
+    reading.TableUp();
 
     CardBackColor = QBColor(CurrentLocationColour);
 
-    const int pool = PoolSize();
+    const int pool = PoolSize(CurrentDeck.DeckCards, CurrentDeck.CardCount);
     reading.DeckCardsLeft = static_cast<Integer>(pool);
     MaxCardsUsed = static_cast<Integer>(pool);
     for (int i = 1; i <= pool; ++i) {
@@ -126,32 +113,10 @@ void frmReadingCards::Form_Load() {
 }
 
 void frmReadingCards::ShuffleDeck() {
-    frmNewReading& reading = Reading();
     BoundedArray<Integer>& cards = LocationCard();
     BoundedArray<Integer>& upright = LocationIsUpright();
-
-    // The list: grouped by card type, in deck order within a type. Positions
-    // past the pool keep what they held.
-    int counter = 0;
-    for (int t = 0; t <= 3; ++t) {
-        if (!CardTypeSelected[static_cast<std::size_t>(t)]) continue;
-        for (int c = 1; c <= CurrentDeck.CardCount; ++c) {
-            if (CurrentDeck.DeckCards(c).CardType != t) continue;
-            ++counter;
-            cards(counter) = static_cast<Integer>(c);
-        }
-    }
-
-    Randomize();
-    // Each position swaps with a partner from the whole range, then draws
-    // its orientation: two numbers of the generator per position, always.
-    const int n = reading.DeckCardsLeft;
-    for (int i = 1; i <= n; ++i) {
-        const int x = RandomPosition(reading.DeckCardsLeft, Rnd());
-        std::swap(cards(i), cards(x));
-        const float s = Rnd();
-        upright(i) = (s < 0.5f || !UseReversed) ? True16 : False16;
-    }
+    ListPool(cards, CurrentDeck.DeckCards, CurrentDeck.CardCount);
+    ShuffleTable(cards, upright, Reading().DeckCardsLeft, UseReversed);
 
     if (!LoadingReading) {
         for (int i = 1; i <= TableSize; ++i) {
@@ -164,22 +129,7 @@ void frmReadingCards::ShuffleDeck() {
 void frmReadingCards::picCard_Click(int Index) {
     QPointer<frmReadingCards> self(this);
     frmNewReading& reading = Reading();
-    reading.ReadingChanged = true;
-    reading.cmdContinue->setEnabled(false);
-
-    const Integer card = LocationCard()(Index);
-    const Integer upright = LocationIsUpright()(Index);
-
-    const int L = reading.ThisLocationNumber;
-    reading.ShowCardInLocation(L, card, upright == True16);
-    reading.lblCardNumber(L)->hide();
-    reading.lblCardName(L)->setText(DeckCard(card).CardTitle.Trimmed());
-    Element(CurrentReading.DealtCard, L) = card;
-    Element(CurrentReading.DealtUpright, L) = upright;
-    reading.ThisLocationNumber = static_cast<Integer>(L + 1);
-
-    reading.cmdInterpret->setEnabled(true);
-    reading.Show();
+    reading.DealCard(LocationCard()(Index), LocationIsUpright()(Index));
 
     const int locationCount = CurrentSpread.LocationCount;
     if (!AllowDuplicateCards) {
@@ -197,24 +147,15 @@ void frmReadingCards::picCard_Click(int Index) {
         Unload();
     }
     if (reading.ThisLocationNumber > locationCount) {
-        reading.cmdFakeShuffle->setEnabled(false);
+        reading.EnableShuffle(false);
         Unload();
     }
-    if (reading.DeckCardsLeft < 2) reading.cmdFakeShuffle->setEnabled(false);
+    if (reading.DeckCardsLeft < 2) reading.EnableShuffle(false);
 }
 
 void frmReadingCards::PickRandomCard() {
-    // A table whose positions in use are all drawn has nothing to give; the
-    // pick would search for ever.
-    bool anyLeft = false;
-    for (int i = 1; i <= qMin<int>(MaxCardsUsed, TableSize) && !anyLeft; ++i) anyLeft = !picCard(i)->isHidden();
-    if (!anyLeft) return;
-
-    int i = 0;
-    do {
-        i = RandomPosition(MaxCardsUsed, Rnd());
-    } while (picCard(i)->isHidden());
-    picCard_Click(i);
+    const int i = PickFaceDownPosition(MaxCardsUsed, TableSize, [this](int at) { return !picCard(at)->isHidden(); });
+    if (i > 0) picCard_Click(i);
 }
 
 void frmReadingCards::FakeShuffle() {
@@ -278,6 +219,10 @@ void frmReadingCards::EliminateDeckCard(Integer card) {
     if (reading.DeckCardsLeft == 0) Form_Load();
 }
 
+bool frmReadingCards::IsFaceDown(int index) const { return !picCard(index)->isHidden(); }
+void frmReadingCards::SetFaceDown(int index, bool faceDown) { picCard(index)->setVisible(faceDown); }
+void frmReadingCards::PaintBack(int index) { picCard(index)->setBackColor(CardBackColor); }
+
 Integer frmReadingCards::getLocationCard(int index) const { return LocationCard()(index); }
 Integer frmReadingCards::getLocationIsUpright(int index) const { return LocationIsUpright()(index); }
 void frmReadingCards::setLocationCard(int index, Integer card) { LocationCard()(index) = card; }
@@ -292,12 +237,8 @@ void frmReadingCards::Form_Unload(bool& cancel) {
     (void)cancel;
     frmNewReading* reading = ScreenSlot<frmNewReading>();
     if (!reading) return;
-    reading->cmdAllCards->setEnabled(false);
-    reading->cmdNextCard->setEnabled(false);
-    reading->cmdDeal->setEnabled(true);
-    reading->cmdFakeShuffle->setEnabled(false);
-    reading->frmReadingCardsIsLoaded = false;
-    reading->Timer1->stop();
+    reading->TableGone();
+    reading->TableLoaded(false);
 }
 
 void frmReadingCards::mousePressEvent(QMouseEvent* e) {

@@ -51,6 +51,12 @@ public:
     void setLocationIsUpright(int index, Integer upright);
     // Keeps the table 50 twips below the reading screen, left edges flush.
     void MoveForm();
+    // Whether the card at a position still lies face down on the table, and
+    // putting it back or taking it away as a saved reading says.
+    bool IsFaceDown(int index) const;
+    void SetFaceDown(int index, bool faceDown);
+    // Gives the card at a position the table's back colour.
+    void PaintBack(int index);
     // Deals the card at that position into the next location.
     void picCard_Click(int Index);
 

@@ -5,11 +5,6 @@
 #include "screens/shell/ClickLabel.h"
 #include "core/store/RunState.h"
 
-namespace {
-// The bright red of the location under interpretation.
-const QColor MarkedLocationColour(192, 0, 0);
-}  // namespace
-
 frmReadingInterpretLocation::frmReadingInterpretLocation() : InterpretLocationScreen(true) {
     setObjectName(QStringLiteral("frmReadingInterpretLocation"));
 }
@@ -25,7 +20,5 @@ int frmReadingInterpretLocation::CardNumber() const { return Element(CurrentRead
 bool frmReadingInterpretLocation::CardUpright() const { return Element(CurrentReading.DealtUpright, Location()) != 0; }
 
 void frmReadingInterpretLocation::MarkLocation(int location, bool marked) {
-    frmNewReading* reading = ScreenSlot<frmNewReading>();
-    if (!reading || location < 1 || location > EntryScreen::MaxLocations) return;
-    reading->picLocation(location)->setBackColor(marked ? MarkedLocationColour : QBColor(CurrentLocationColour));
+    if (frmNewReading* reading = ScreenSlot<frmNewReading>()) reading->MarkLocation(location, marked);
 }

@@ -1,5 +1,6 @@
-#include "core/store/RunState.h"
 #include "screens/spreads/DeckLists.h"
+
+#include "core/store/RunState.h"
 
 #include <QCheckBox>
 #include <QPushButton>

@@ -1,5 +1,6 @@
-#include "core/store/RunState.h"
 #include "screens/spreads/LocationAttributesForm.h"
+
+#include "core/store/RunState.h"
 
 #include <QLabel>
 #include <QPushButton>

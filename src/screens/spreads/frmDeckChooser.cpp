@@ -1,5 +1,6 @@
-#include "core/store/RunState.h"
 #include "screens/spreads/frmDeckChooser.h"
+
+#include "core/store/RunState.h"
 
 #include <QCheckBox>
 #include <QLabel>

@@ -1,5 +1,7 @@
-#include "core/store/RunState.h"
 #include "screens/spreads/frmDesignSpread.h"
+
+#include "core/platform/OleDate.h"
+#include "core/store/RunState.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -210,6 +212,14 @@ frmDesignSpread::frmDesignSpread() {
 
 // ---- Accessors --------------------------------------------------------------------------
 
+void frmDesignSpread::ShowLocationTitle(int location, const QString& title) { lblCardTitle(location)->setText(title); }
+
+void frmDesignSpread::SpreadSaved() {
+    lblModifiedOnDate()->setText(FormatLongDate(CurrentSpread.ModifiedOn));
+    SpreadDirty = false;
+    RememberedSpreadName = CurrentSpread.SpreadName.Value();
+}
+
 TextBox* frmDesignSpread::txtSpreadTitle() const { return picDesignInfo->txtSpreadTitle; }
 MultiLineTextBox* frmDesignSpread::txtSpreadDescription() const { return picDesignInfo->txtSpreadDescription; }
 TextBox* frmDesignSpread::txtSpreadDesigner() const { return picDesignInfo->txtSpreadDesigner; }
@@ -232,7 +242,7 @@ void frmDesignSpread::Form_Load() {
     picDesignLocations->imgBackground->Move(0, 0, picDesignLocations->Width(), picDesignLocations->Height());
     MkDirIgnoringErrors(TempDir);
     ClearTemp();
-    RememberedSpreadName = IsLoaded<frmSpreads>() ? Get<frmSpreads>().lstSpreads->Text() : QString();
+    RememberedSpreadName = IsLoaded<frmSpreads>() ? Get<frmSpreads>().ChosenSpreadName() : QString();
     CentreInFrame(*this);
     if (DesignMode == 1) CurrentSpread.SpreadId = NextSpreadId();
     SnapOn = false;

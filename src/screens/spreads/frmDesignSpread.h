@@ -54,6 +54,10 @@ public:
     LocationBox* picLocation(int Index) const;
     QLabel* lblCardNumber(int Index) const;
     QLabel* lblCardTitle(int Index) const;
+    // Shows a location's title as it is being typed on its attributes.
+    void ShowLocationTitle(int location, const QString& title);
+    // The spread was saved under CurrentSpread's name: nothing is left unsaved.
+    void SpreadSaved();
     QPushButton* cmdCardAttributes(int Index) const;
 
     // ---- Deck page ----

@@ -23,7 +23,7 @@ frmLocationAttributes::frmLocationAttributes() : LocationAttributesForm(false, 6
 void frmLocationAttributes::txtTitle_Change() {
     MarkDesignChanged();
     SpreadLocations(SelectedLocation).LocationTitle = txtTitle->Text();
-    if (IsLoaded<frmDesignSpread>()) Get<frmDesignSpread>().lblCardTitle(SelectedLocation)->setText(txtTitle->Text());
+    if (IsLoaded<frmDesignSpread>()) Get<frmDesignSpread>().ShowLocationTitle(SelectedLocation, txtTitle->Text());
 }
 
 void frmLocationAttributes::txtDescription_Change() {

@@ -1,5 +1,6 @@
-#include "core/store/RunState.h"
 #include "screens/spreads/frmSaveSpread.h"
+
+#include "core/store/RunState.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -89,10 +90,7 @@ void frmSaveSpread::cmdSave_Click() {
     SaveSpread(name, n >= 0 ? n : CountSpreads() + 1);
 
     if (IsLoaded<frmDesignSpread>()) {
-        frmDesignSpread& designer = Get<frmDesignSpread>();
-        designer.lblModifiedOnDate()->setText(FormatLongDate(CurrentSpread.ModifiedOn));
-        designer.SpreadDirty = false;
-        designer.RememberedSpreadName = CurrentSpread.SpreadName.Value();
+        Get<frmDesignSpread>().SpreadSaved();
     }
     Unload();
 }

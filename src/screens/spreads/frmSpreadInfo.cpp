@@ -1,5 +1,6 @@
-#include "core/store/RunState.h"
 #include "screens/spreads/frmSpreadInfo.h"
+
+#include "core/store/RunState.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -87,7 +88,7 @@ QPushButton* frmSpreadInfo::cmdCardAttributes(int Index) const {
 }
 
 void frmSpreadInfo::Form_Load() {
-    RememberedSpreadName = IsLoaded<frmSpreads>() ? Get<frmSpreads>().lstSpreads->Text() : QString();
+    RememberedSpreadName = IsLoaded<frmSpreads>() ? Get<frmSpreads>().ChosenSpreadName() : QString();
     picDesignLocations->imgBackground->Move(0, 0, picDesignLocations->Width(), picDesignLocations->Height());
     CentreInFrame(*this);
     ShowPage(SpreadPages::ShowDetails);

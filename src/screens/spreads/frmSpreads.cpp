@@ -1,5 +1,6 @@
-#include "core/store/RunState.h"
 #include "screens/spreads/frmSpreads.h"
+
+#include "core/store/RunState.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -141,6 +142,8 @@ void frmSpreads::SpreadMenuButtons() {
     const bool selected = lstSpreads->ListIndex() >= 0;
     for (QPushButton* button : {cmdDelete, cmdInfo, cmdEdit, cmdManager}) button->setEnabled(selected);
 }
+
+QString frmSpreads::ChosenSpreadName() const { return lstSpreads->Text(); }
 
 void frmSpreads::lstSpreads_Click() {
     BriefInfo();

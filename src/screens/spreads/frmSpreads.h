@@ -36,6 +36,8 @@ public:
     // Selects that entry again, loading its spread (the designer and the
     // viewer call it as they close).
     void SelectSpread(const QString& name);
+    // The name on the selected line, as listed; "" when none is selected.
+    QString ChosenSpreadName() const;
     void BriefInfo();
     void SpreadMenuButtons();
 

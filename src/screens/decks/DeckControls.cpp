@@ -1,5 +1,4 @@
-#include "core/store/RunState.h"
-#include "screens/decks/mdlDeckDesign.h"
+#include "screens/decks/DeckControls.h"
 
 #include <QFocusEvent>
 #include <QLabel>
@@ -9,34 +8,7 @@
 #include <QSignalBlocker>
 
 #include "core/platform/FileSys.h"
-
-QString UprightPictureFile;
-QString ReversedPictureFile;
-QString UprightSoundFile;
-QString ReversedSoundFile;
-bool ImageSelected = false;
-bool SoundSelected = false;
-
-ChooserMemory& RememberedPictureFolder() {
-    static ChooserMemory memory;
-    return memory;
-}
-
-ChooserMemory& RememberedSoundFolder() {
-    static ChooserMemory memory;
-    return memory;
-}
-
-void ResetDeckDesignState() {
-    UprightPictureFile.clear();
-    ReversedPictureFile.clear();
-    UprightSoundFile.clear();
-    ReversedSoundFile.clear();
-    ImageSelected = false;
-    SoundSelected = false;
-    RememberedPictureFolder() = ChooserMemory{};
-    RememberedSoundFolder() = ChooserMemory{};
-}
+#include "core/records/Records.h"
 
 QPushButton* MakeButton(QWidget* parent, const char* name, const QString& caption, const QRect& where) {
     auto* button = new QPushButton(caption, parent);

@@ -1,0 +1,41 @@
+#pragma once
+// What the card editor works on beside CurrentCard: the files picked for the
+// card in Temp/, and where its file choosers were last left. One value for
+// the run, held here: the card screens set the working names when a card
+// opens and when it is stored, the choosers when a file is picked, and the
+// deck designer reads whether the pick of a new card's pictures went through.
+#include <QString>
+#include <array>
+
+struct CardWorkingFiles {
+    // The name in Temp/ of each side's present picture and sound (0 upright,
+    // 1 reversed): a final name (CU..., CR..., M...), a working name below,
+    // or for the reversed picture of a deck without reversed cards the path
+    // of the default picture.
+    std::array<QString, 2> Picture;
+    std::array<QString, 2> Sound;
+    // Whether the last chooser of that kind ended with a pick.
+    bool ImageSelected = false;
+    bool SoundSelected = false;
+};
+CardWorkingFiles& WorkingFiles();
+
+// A picked file is copied into Temp/ under one of these stems followed by the
+// source's last four characters.
+inline const QString UprightPictureStem = QStringLiteral("TempUp");
+inline const QString ReversedPictureStem = QStringLiteral("TempRev");
+inline const QString UprightSoundStem = QStringLiteral("TsndUp");
+inline const QString ReversedSoundStem = QStringLiteral("TsndRev");
+
+// Where a file chooser was last left in this run: its folder and the index
+// of the file picked there. One for pictures, one for sounds.
+struct ChooserMemory {
+    QString Folder;
+    int FileIndex = -1;
+};
+ChooserMemory& RememberedPictureFolder();
+ChooserMemory& RememberedSoundFolder();
+
+// Forgets the working files and the choosers' remembered folders, as a new
+// run starts without them.
+void ResetDeckDesignState();
