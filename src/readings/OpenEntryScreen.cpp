@@ -8,6 +8,7 @@
 #include "platform/MsgBox.h"
 #include "platform/Twips.h"
 #include "readings/EntryScreen.h"
+#include "shell/frmMainScreen.h"
 #include "shell/mdlFORM.h"
 #include "store/Passwords.h"
 #include "store/RecordFile.h"
@@ -35,8 +36,10 @@ OpenEntryScreen::OpenEntryScreen(const OpenEntryTexts& texts) : texts_(texts) {
     cmdDelete->setObjectName(QStringLiteral("cmdDelete"));
     cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    cmdJournal = new QPushButton(QStringLiteral("&Journal..."), this);
+    cmdJournal->setObjectName(QStringLiteral("cmdJournal"));
     int top = 420;
-    for (QPushButton* button : {cmdOpen, cmdDelete, cmdCancel}) {
+    for (QPushButton* button : {cmdOpen, cmdDelete, cmdCancel, cmdJournal}) {
         button->setAutoDefault(false);
         PlaceControl(button, 5115, top, 1215, 375);
         top += 480;
@@ -45,6 +48,7 @@ OpenEntryScreen::OpenEntryScreen(const OpenEntryTexts& texts) : texts_(texts) {
     connect(cmdOpen, &QPushButton::clicked, this, Handler([this] { cmdOpen_Click(); }));
     connect(cmdDelete, &QPushButton::clicked, this, Handler([this] { cmdDelete_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
+    connect(cmdJournal, &QPushButton::clicked, this, Handler([this] { cmdJournal_Click(); }));
     setWayOut([this] { cmdCancel_Click(); });
 }
 
@@ -78,22 +82,31 @@ void OpenEntryScreen::cmdDelete_Click() {
 
 void OpenEntryScreen::cmdOpen_Click() {
     if (lstEntries->ListIndex() < 0) return;
+    OpenEntry(SelectedName());
+}
+
+bool OpenEntryScreen::OpenEntry(const QString& name) {
     EntryHead head;
-    if (!ReadEntry(SelectedName(), head)) return;
-    if (head.EntryLocked && !CheckPassword(head.EntryPassword)) return;
+    if (!ReadEntry(name, head)) return false;
+    if (head.EntryLocked) {
+        if (!CheckPassword(head.EntryPassword)) return false;
+        RememberEntryUnlocked(Kind(), name);
+    }
 
     DeckRecord deck;
-    if (!DeckAllowsOpening(head, deck)) return;
+    if (!DeckAllowsOpening(head, deck)) return false;
     SpreadRecord spread;
-    if (!SpreadAllowsOpening(head, spread)) return;
+    if (!SpreadAllowsOpening(head, spread)) return false;
 
     AdoptEntry(deck, spread);
     bool removed = false;
     if (!LoadDeck(removed)) {
-        if (removed) lstEntries->RemoveItem(lstEntries->ListIndex());
-        return;
+        if (removed && lstEntries->ListIndex() >= 0 && SelectedName() == name)
+            lstEntries->RemoveItem(lstEntries->ListIndex());
+        return false;
     }
     ShowEntry();
+    return true;
 }
 
 bool OpenEntryScreen::DeckAllowsOpening(const EntryHead& head, DeckRecord& deck) {
@@ -128,6 +141,11 @@ bool OpenEntryScreen::SpreadAllowsOpening(const EntryHead& head, SpreadRecord& s
 void OpenEntryScreen::cmdCancel_Click() {
     Unload();
     CloseEntryScreen();
+}
+
+void OpenEntryScreen::cmdJournal_Click() {
+    cmdCancel_Click();
+    Get<frmMainScreen>().lblButton_Click(frmMainScreen::JournalButton);
 }
 
 void OpenEntryScreen::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) {

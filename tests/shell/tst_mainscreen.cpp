@@ -19,6 +19,7 @@
 #include "shell/MDIMainForm.h"
 #include "shell/frmDiaryHelp.h"
 #include "shell/frmHelpViewer.h"
+#include "journal/frmJournal.h"
 #include "shell/frmMainScreen.h"
 #include "shell/frmQuickHelp.h"
 #include "spreads/SpreadTestKit.h"
@@ -67,7 +68,7 @@ private slots:
     void escapeAndStrayIndexesChangeNothing() {
         const int left = main_->Left(), top = main_->Top();
         QTest::keyClick(main_, Qt::Key_Escape);
-        main_->lblButton_Click(10);
+        main_->lblButton_Click(0);
         main_->lblButton_Click(12);
         QVERIFY(main_->Visible());
         QVERIFY(IsLoaded<frmMainScreen>());
@@ -76,6 +77,13 @@ private slots:
         QVERIFY(MsgBoxScript::History().isEmpty());
         QVERIFY(gEnds.isEmpty());
         QVERIFY(main_->cursor().shape() != Qt::WaitCursor);
+    }
+
+    void journalButtonLeadsThereAndBack() {
+        main_->lblButton_Click(frmMainScreen::JournalButton);
+        QVERIFY(IsLoaded<frmJournal>() && !main_->Visible());
+        Get<frmJournal>().cmdClose->click();
+        QVERIFY(main_->Visible());
     }
 
     void pressedLookFollowsTheHeldButton() {
