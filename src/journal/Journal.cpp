@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <cstring>
 #include <map>
-#include <unordered_map>
 
 #include "platform/CodePage.h"
 #include "platform/OleDate.h"
@@ -25,6 +25,37 @@ QString FieldText(const char* raw, int width) {
     while (first < end && (raw[first] == ' ' || raw[first] == '\0')) ++first;
     while (end > first && (raw[end - 1] == ' ' || raw[end - 1] == '\0')) --end;
     return FromAnsi(raw + first, end - first);
+}
+
+// Each byte of the code page with its case folded, so that text is searched
+// in the bytes it is stored in, without decoding.
+const std::array<char, 256>& FoldTable() {
+    static const std::array<char, 256> table = [] {
+        std::array<char, 256> t{};
+        for (int b = 0; b < 256; ++b) {
+            const char byte = static_cast<char>(b);
+            const QByteArray folded = ToAnsi(FromAnsi(&byte, 1).toCaseFolded());
+            t[static_cast<std::size_t>(b)] = folded.size() == 1 && AnsiRepresentable(FromAnsi(&byte, 1).toCaseFolded())
+                                                 ? folded[0]
+                                                 : byte;
+        }
+        return t;
+    }();
+    return table;
+}
+
+// Appends a field's trimmed bytes, folded, and a line break.
+void AppendFolded(QByteArray& to, const char* raw, int width) {
+    int first = 0;
+    int end = width;
+    while (first < end && (raw[first] == ' ' || raw[first] == '\0')) ++first;
+    while (end > first && (raw[end - 1] == ' ' || raw[end - 1] == '\0')) --end;
+    const auto& fold = FoldTable();
+    const qsizetype at = to.size();
+    to.resize(at + (end - first) + 1);
+    char* out = to.data() + at;
+    for (int i = first; i < end; ++i) *out++ = fold[static_cast<unsigned char>(raw[i])];
+    *out = '\n';
 }
 
 double RawDouble(const char* raw) {
@@ -87,8 +118,8 @@ void ReadEntries(const QString& path, int length, EntryKind kind, const EntryLay
         entry.Date = DateOf(RawDouble(raw + at.SavedOn));
         entry.Name = FieldText(raw + at.Name, 50);
         entry.Locked = RawInteger(raw, at.EntryLocked) != 0 && !IsEntryUnlocked(kind, entry.Name);
+        AppendFolded(entry.SearchText, raw + at.Name, 50);
         if (entry.Locked) {
-            entry.SearchText = entry.Name.toCaseFolded();
             out.push_back(std::move(entry));
             continue;
         }
@@ -99,19 +130,20 @@ void ReadEntries(const QString& path, int length, EntryKind kind, const EntryLay
             if (card != 0) entry.Cards.push_back({l + 1, card, RawInteger(raw, at.DealtUpright + 2 * l) != 0});
         }
         entry.Standing = StandingOf(entry, catalogue.Deck(entry.DeckId), RawInteger(raw, at.DeckRevision));
-        entry.SearchText = (entry.Name + QLatin1Char('\n') + FieldText(raw + at.Issue, 125) + QLatin1Char('\n') +
-                            FieldText(raw + at.Notes, 2500))
-                               .toCaseFolded();
+        AppendFolded(entry.SearchText, raw + at.Issue, 125);
+        AppendFolded(entry.SearchText, raw + at.Notes, 2500);
         out.push_back(std::move(entry));
     }
 }
 
-bool Matches(const JournalEntry& entry, const JournalQuery& query, const QStringList& words) {
+bool Matches(const JournalEntry& entry, const JournalQuery& query, const std::vector<QByteArray>& words) {
     if (!(entry.Kind == EntryKind::Reading ? query.Readings : query.Diary)) return false;
     if (!query.From.isNull() && (!entry.Date.isValid() || entry.Date < query.From)) return false;
     if (!query.To.isNull() && (!entry.Date.isValid() || entry.Date > query.To)) return false;
-    for (const QString& word : words)
-        if (!entry.SearchText.contains(word)) return false;
+    for (const QByteArray& word : words)
+        if (!memmem(entry.SearchText.constData(), static_cast<std::size_t>(entry.SearchText.size()), word.constData(),
+                    static_cast<std::size_t>(word.size())))
+            return false;
     const bool needsCards = query.SpreadId != -1 || query.DeckId != -1 || query.CardNumber != 0 ||
                             query.Orientation != Facing::Any;
     if (!needsCards) return true;
@@ -135,8 +167,6 @@ bool Countable(const JournalDeck* deck, Integer card) {
     return !deck || static_cast<std::size_t>(card) <= deck->Cards.size();
 }
 
-int TallyKey(Integer deckId, Integer card) { return (static_cast<int>(deckId) << 7) | card; }
-
 CardTally NewTally(const JournalCatalogue& catalogue, Integer deckId, Integer number) {
     CardTally tally;
     tally.DeckId = deckId;
@@ -154,25 +184,46 @@ CardTally NewTally(const JournalCatalogue& catalogue, Integer deckId, Integer nu
     return tally;
 }
 
-using Tallies = std::unordered_map<int, CardTally>;
+// Counts by deck and card number in one flat table: a deck takes its rows
+// the first time one of its cards is counted. Every keystroke of a search
+// counts every card of every entry it selects, so this is the inner loop.
+class CardCounter {
+public:
+    int SlotOf(Integer deckId) {
+        const auto found = std::find(decks_.begin(), decks_.end(), deckId);
+        if (found != decks_.end()) return static_cast<int>(found - decks_.begin());
+        decks_.push_back(deckId);
+        counts_.resize(decks_.size() * Stride * 2);
+        return static_cast<int>(decks_.size()) - 1;
+    }
+    void Add(int slot, const DealtLocation& dealt) {
+        ++counts_[(static_cast<std::size_t>(slot) * Stride + static_cast<std::size_t>(dealt.Card)) * 2 +
+                  (dealt.Upright ? 0 : 1)];
+    }
+    std::vector<CardTally> MostFrequentFirst(const JournalCatalogue& catalogue) const {
+        std::vector<CardTally> cards;
+        for (std::size_t slot = 0; slot < decks_.size(); ++slot) {
+            for (std::size_t n = 1; n < Stride; ++n) {
+                const int* count = &counts_[(slot * Stride + n) * 2];
+                if (count[0] + count[1] == 0) continue;
+                cards.push_back(NewTally(catalogue, decks_[slot], static_cast<Integer>(n)));
+                cards.back().Upright = count[0];
+                cards.back().Reversed = count[1];
+            }
+        }
+        std::sort(cards.begin(), cards.end(), [](const CardTally& a, const CardTally& b) {
+            if (a.Total() != b.Total()) return a.Total() > b.Total();
+            if (a.DeckId != b.DeckId) return a.DeckId < b.DeckId;
+            return a.Number < b.Number;
+        });
+        return cards;
+    }
 
-void Count(Tallies& tallies, const JournalCatalogue& catalogue, Integer deckId, const DealtLocation& dealt) {
-    auto [at, fresh] = tallies.try_emplace(TallyKey(deckId, dealt.Card));
-    if (fresh) at->second = NewTally(catalogue, deckId, dealt.Card);
-    ++(dealt.Upright ? at->second.Upright : at->second.Reversed);
-}
-
-std::vector<CardTally> MostFrequentFirst(Tallies& tallies) {
-    std::vector<CardTally> cards;
-    cards.reserve(tallies.size());
-    for (auto& [key, tally] : tallies) cards.push_back(std::move(tally));
-    std::sort(cards.begin(), cards.end(), [](const CardTally& a, const CardTally& b) {
-        if (a.Total() != b.Total()) return a.Total() > b.Total();
-        if (a.DeckId != b.DeckId) return a.DeckId < b.DeckId;
-        return a.Number < b.Number;
-    });
-    return cards;
-}
+private:
+    static constexpr std::size_t Stride = MaxDeckCards + 1;
+    std::vector<Integer> decks_;
+    std::vector<int> counts_;
+};
 
 // Months from the query's range where it is set, else from the entries'
 // first and last; a range too wide to show falls back to the entries'.
@@ -290,7 +341,14 @@ bool IsEntryUnlocked(EntryKind kind, const QString& name) { return Unlocked().co
 void ForgetUnlockedEntries() { Unlocked().clear(); }
 
 std::vector<int> SearchJournal(const std::vector<JournalEntry>& entries, const JournalQuery& query) {
-    QStringList words = query.Words.toCaseFolded().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    std::vector<QByteArray> words;
+    for (const QString& word : query.Words.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        // A word the code page cannot hold is in no record.
+        if (!AnsiRepresentable(word)) return {};
+        QByteArray bytes = ToAnsi(word);
+        for (char& b : bytes) b = FoldTable()[static_cast<unsigned char>(b)];
+        words.push_back(bytes);
+    }
     std::vector<int> selected;
     for (std::size_t i = 0; i < entries.size(); ++i)
         if (Matches(entries[i], query, words)) selected.push_back(static_cast<int>(i));
@@ -300,7 +358,7 @@ std::vector<int> SearchJournal(const std::vector<JournalEntry>& entries, const J
 JournalStatistics TallyJournal(const std::vector<JournalEntry>& entries, const std::vector<int>& selected,
                                const JournalCatalogue& catalogue, const JournalQuery& query) {
     JournalStatistics statistics;
-    Tallies tallies;
+    CardCounter counter;
     QHash<QString, int> types;
     std::map<int, int> perMonth;
     for (const int i : selected) {
@@ -313,13 +371,14 @@ JournalStatistics TallyJournal(const std::vector<JournalEntry>& entries, const s
         }
         if (entry.Standing != EntryStanding::Present) ++statistics.Unattributable;
         const JournalDeck* deck = catalogue.Deck(entry.DeckId);
+        const int slot = counter.SlotOf(entry.DeckId);
         for (const DealtLocation& dealt : entry.Cards) {
             if (!Countable(deck, dealt.Card)) continue;
-            Count(tallies, catalogue, entry.DeckId, dealt);
+            counter.Add(slot, dealt);
             ++(dealt.Upright ? statistics.Upright : statistics.Reversed);
         }
     }
-    statistics.Cards = MostFrequentFirst(tallies);
+    statistics.Cards = counter.MostFrequentFirst(catalogue);
     for (const CardTally& card : statistics.Cards)
         if (!card.TypeName.isEmpty()) types[card.TypeName] += card.Total();
     for (auto t = types.cbegin(); t != types.cend(); ++t) statistics.Types.push_back({t.key(), t.value()});
@@ -332,13 +391,16 @@ JournalStatistics TallyJournal(const std::vector<JournalEntry>& entries, const s
 
 std::vector<LocationTally> TallyLocations(const std::vector<JournalEntry>& entries, const std::vector<int>& selected,
                                           const JournalCatalogue& catalogue, Integer spreadId, int top) {
-    std::map<int, Tallies> perLocation;
+    std::map<int, CardCounter> perLocation;
     for (const int i : selected) {
         const JournalEntry& entry = entries[static_cast<std::size_t>(i)];
         if (entry.Locked || entry.SpreadId != spreadId) continue;
         const JournalDeck* deck = catalogue.Deck(entry.DeckId);
-        for (const DealtLocation& dealt : entry.Cards)
-            if (Countable(deck, dealt.Card)) Count(perLocation[dealt.Location], catalogue, entry.DeckId, dealt);
+        for (const DealtLocation& dealt : entry.Cards) {
+            if (!Countable(deck, dealt.Card)) continue;
+            CardCounter& counter = perLocation[dealt.Location];
+            counter.Add(counter.SlotOf(entry.DeckId), dealt);
+        }
     }
     const JournalSpread* spread = catalogue.Spread(spreadId);
     int last = spread ? static_cast<int>(spread->LocationTitles.size()) : 0;
@@ -346,7 +408,7 @@ std::vector<LocationTally> TallyLocations(const std::vector<JournalEntry>& entri
     std::vector<LocationTally> locations;
     for (int l = 1; l <= last; ++l) {
         LocationTally location{l, LocationTitleOf(catalogue, spreadId, l), {}};
-        location.Cards = MostFrequentFirst(perLocation[l]);
+        location.Cards = perLocation[l].MostFrequentFirst(catalogue);
         if (static_cast<int>(location.Cards.size()) > top) location.Cards.resize(static_cast<std::size_t>(top));
         locations.push_back(std::move(location));
     }

@@ -77,7 +77,7 @@ struct JournalEntry {
     Integer DeckId = 0;
     EntryStanding Standing = EntryStanding::Present;
     std::vector<DealtLocation> Cards;   // empty while locked
-    QString SearchText;                 // name, issue and notes case-folded; the name alone while locked
+    QByteArray SearchText;   // name, issue and notes in the record's code page, case-folded; the name alone while locked
 };
 
 // Reads Readings.red and Diary.dry once each, front to back.
