@@ -19,6 +19,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QStyle>
 #include <QStyleOptionTitleBar>
 #include <QTextBrowser>
@@ -63,6 +64,7 @@
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
 #include "screens/shell/Emblems.h"
+#include "screens/journal/frmJournal.h"
 
 namespace {
 
@@ -494,6 +496,62 @@ void Diary() {
     Settle();
 }
 
+// A year of practice, written straight into the entry files: a reading or
+// a diary entry every nine days, on the sample spreads and the Moonlit Tarot.
+void Journal() {
+    const int deck = FindDeckRecordById(FindDeckIdByName(QStringLiteral("Moonlit Tarot")));
+    DeckRecord tarot;
+    GetRecord(DecksPath, deck, tarot);
+    SpreadRecord crossroads, threeCards;
+    GetRecord(SpreadsPath, FindSpreadByName(QStringLiteral("The Crossroads")), crossroads);
+    GetRecord(SpreadsPath, FindSpreadByName(QStringLiteral("Past, Present, Future")), threeCards);
+    const QStringList issues = {QStringLiteral("The move abroad"), QStringLiteral("A new job?"),
+                                QStringLiteral("My sister and I"), QStringLiteral("The house by the sea")};
+    Randomize();
+    for (int e = 0; e < 40; ++e) {
+        const SpreadRecord& spread = e % 3 == 0 ? threeCards : crossroads;
+        const auto fill = [&](auto& r) {
+            r.Issue = issues[e % issues.size()];
+            r.SavedOn = ToOleDate(QDate(2025, 1, 3).addDays(e * 9));
+            r.ReadingDeckId = tarot.DeckId;
+            r.ReadingDeckRevision = tarot.DeckRevision;
+            r.ReadingSpreadId = spread.SpreadId;
+            r.ReadingSpreadRevision = spread.SpreadRevision;
+            for (int l = 0; l < spread.LocationCount; ++l) {
+                r.DealtCard[static_cast<std::size_t>(l)] = static_cast<Integer>(1 + Rnd() * tarot.CardCount);
+                r.DealtUpright[static_cast<std::size_t>(l)] = Rnd() < 0.7 ? True16 : False16;
+            }
+        };
+        if (e % 2 == 0) {
+            ReadingRecord r;
+            ResetReading(r);
+            r.ReadingName = issues[e % issues.size()] + QStringLiteral(" %1").arg(e / 4 + 1);
+            r.DealtCount = spread.LocationCount;
+            fill(r);
+            AppendRecord(ReadingsPath, r);
+        } else {
+            DiaryRecord d;
+            ResetDiary(d);
+            d.DiaryName = QStringLiteral("Table reading %1").arg(e / 2 + 1);
+            fill(d);
+            AppendRecord(DiaryPath, d);
+        }
+    }
+    Get<frmMainScreen>().lblButton_Click(frmMainScreen::JournalButton);
+    frmJournal& journal = Get<frmJournal>();
+    journal.txtWords->setText(QStringLiteral("move"));
+    journal.Search();
+    Shot(QStringLiteral("journal"));
+    journal.txtWords->clear();
+    journal.Search();
+    journal.tabJournal->setCurrentIndex(1);
+    Shot(QStringLiteral("journal-cards"));
+    journal.tabJournal->setCurrentIndex(4);
+    Shot(QStringLiteral("journal-months"));
+    journal.cmdClose_Click();
+    Settle();
+}
+
 void Decks() {
     Get<frmMainScreen>().lblButton_Click(5);
     frmDecks& decks = Get<frmDecks>();
@@ -628,6 +686,7 @@ int main(int argc, char** argv) {
     MainScreen();
     Reading();
     Diary();
+    Journal();
     Decks();
     Spreads();
     Packages();

@@ -24,7 +24,6 @@
 #include "support/InstallAnswers.h"
 #include "support/ModalScript.h"
 #include "readings/ReadingFixtures.h"
-#include "screens/platform/ListBox.h"
 #include "screens/spreads/frmDeckChooser.h"
 #include "screens/store/Startup.h"
 #include "screens/store/frmDesignExists.h"

@@ -21,6 +21,7 @@
 #include "screens/shell/frmHelpViewer.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/shell/frmQuickHelp.h"
+#include "screens/journal/frmJournal.h"
 #include "spreads/SpreadTestKit.h"
 #include "screens/store/Startup.h"
 #include "support/Fixtures.h"
@@ -67,7 +68,7 @@ private slots:
     void escapeAndStrayIndexesChangeNothing() {
         const int left = main_->Left(), top = main_->Top();
         QTest::keyClick(main_, Qt::Key_Escape);
-        main_->lblButton_Click(10);
+        main_->lblButton_Click(0);
         main_->lblButton_Click(12);
         QVERIFY(main_->Visible());
         QVERIFY(IsLoaded<frmMainScreen>());
@@ -76,6 +77,13 @@ private slots:
         QVERIFY(MsgBoxScript::History().isEmpty());
         QVERIFY(gEnds.isEmpty());
         QVERIFY(main_->cursor().shape() != Qt::WaitCursor);
+    }
+
+    void journalButtonLeadsThereAndBack() {
+        main_->lblButton_Click(frmMainScreen::JournalButton);
+        QVERIFY(IsLoaded<frmJournal>() && !main_->Visible());
+        Get<frmJournal>().cmdClose->click();
+        QVERIFY(main_->Visible());
     }
 
     void pressedLookFollowsTheHeldButton() {

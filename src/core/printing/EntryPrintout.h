@@ -15,7 +15,6 @@
 
 class Printer;
 
-enum class EntryKind { Reading, Diary };
 
 struct EntryPrintout {
     EntryKind Kind = EntryKind::Reading;

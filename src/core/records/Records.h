@@ -128,6 +128,10 @@ struct LocationRecord {
 };
 
 // A saved reading. Offsets 0 to 349 are shared with DiaryRecord.
+// The two kinds of saved entry: a reading drawn by the program, a diary entry
+// of a reading done with real cards.
+enum class EntryKind { Reading, Diary };
+
 struct ReadingRecord {
     Integer IssueAsked = 0;
     double SavedOn = 0;

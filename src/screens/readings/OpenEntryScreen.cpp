@@ -15,6 +15,7 @@
 #include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 #include "screens/decks/DeckLoadQuestion.h"
+#include "screens/shell/frmMainScreen.h"
 
 namespace {
 // Date, separator: the name begins after them.
@@ -37,8 +38,10 @@ OpenEntryScreen::OpenEntryScreen(const OpenEntryTexts& texts) : texts_(texts) {
     cmdDelete->setObjectName(QStringLiteral("cmdDelete"));
     cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    cmdJournal = new QPushButton(QStringLiteral("&Journal..."), this);
+    cmdJournal->setObjectName(QStringLiteral("cmdJournal"));
     int top = 420;
-    for (QPushButton* button : {cmdOpen, cmdDelete, cmdCancel}) {
+    for (QPushButton* button : {cmdOpen, cmdDelete, cmdCancel, cmdJournal}) {
         button->setAutoDefault(false);
         PlaceControl(button, 5115, top, 1215, 375);
         top += 480;
@@ -47,6 +50,7 @@ OpenEntryScreen::OpenEntryScreen(const OpenEntryTexts& texts) : texts_(texts) {
     connect(cmdOpen, &QPushButton::clicked, this, Handler([this] { cmdOpen_Click(); }));
     connect(cmdDelete, &QPushButton::clicked, this, Handler([this] { cmdDelete_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
+    connect(cmdJournal, &QPushButton::clicked, this, Handler([this] { cmdJournal_Click(); }));
     setWayOut([this] { cmdCancel_Click(); });
 }
 
@@ -80,22 +84,31 @@ void OpenEntryScreen::cmdDelete_Click() {
 
 void OpenEntryScreen::cmdOpen_Click() {
     if (lstEntries->ListIndex() < 0) return;
+    OpenEntry(SelectedName());
+}
+
+bool OpenEntryScreen::OpenEntry(const QString& name) {
     EntryHead head;
-    if (!ReadEntry(SelectedName(), head)) return;
-    if (head.EntryLocked && !CheckPassword(head.EntryPassword)) return;
+    if (!ReadEntry(name, head)) return false;
+    if (head.EntryLocked) {
+        if (!CheckPassword(head.EntryPassword)) return false;
+        RememberEntryUnlocked(Kind(), name);
+    }
 
     DeckRecord deck;
-    if (!DeckAllowsOpening(head, deck)) return;
+    if (!DeckAllowsOpening(head, deck)) return false;
     SpreadRecord spread;
-    if (!SpreadAllowsOpening(head, spread)) return;
+    if (!SpreadAllowsOpening(head, spread)) return false;
 
     AdoptEntry(deck, spread);
     bool removed = false;
     if (!LoadDeck(removed)) {
-        if (removed) lstEntries->RemoveItem(lstEntries->ListIndex());
-        return;
+        if (removed && lstEntries->ListIndex() >= 0 && SelectedName() == name)
+            lstEntries->RemoveItem(lstEntries->ListIndex());
+        return false;
     }
     ShowEntry();
+    return true;
 }
 
 bool OpenEntryScreen::DeckAllowsOpening(const EntryHead& head, DeckRecord& deck) {
@@ -130,6 +143,11 @@ bool OpenEntryScreen::SpreadAllowsOpening(const EntryHead& head, SpreadRecord& s
 void OpenEntryScreen::cmdCancel_Click() {
     Unload();
     CloseEntryScreen();
+}
+
+void OpenEntryScreen::cmdJournal_Click() {
+    cmdCancel_Click();
+    Get<frmMainScreen>().lblButton_Click(frmMainScreen::JournalButton);
 }
 
 void OpenEntryScreen::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) {

@@ -12,6 +12,7 @@
 
 #include "screens/platform/Form.h"
 #include "core/records/Records.h"
+#include "core/journal/Journal.h"
 
 class QLabel;
 class ListBox;
@@ -58,9 +59,15 @@ public:
     QPushButton* cmdOpen = nullptr;
     QPushButton* cmdDelete = nullptr;
     QPushButton* cmdCancel = nullptr;
+    QPushButton* cmdJournal = nullptr;
 
     void lstEntries_Click();
     void cmdOpen_Click();
+    // Opens the saved entry of that name after the checks; true once its
+    // screen has it. The journal opens its results through this too.
+    bool OpenEntry(const QString& name);
+    // Leaves for the journal, as Cancel leaves for the main screen.
+    void cmdJournal_Click();
     void cmdDelete_Click();
     void cmdCancel_Click();
     // The name of the selected entry: its text from the 14th character on.
@@ -80,6 +87,7 @@ protected:
     virtual void ShowEntry() = 0;
     // The entry screen below goes and the main screen comes back.
     virtual void CloseEntryScreen() = 0;
+    virtual EntryKind Kind() const = 0;
 
     void Form_Load() override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;

@@ -15,6 +15,7 @@ protected:
     void AdoptEntry(const DeckRecord& deck, const SpreadRecord& spread) override;
     void ShowEntry() override;
     void CloseEntryScreen() override;
+    EntryKind Kind() const override { return EntryKind::Reading; }
 
 private:
     ReadingRecord reading_;   // the screen's own copy until the opening succeeds

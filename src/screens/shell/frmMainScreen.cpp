@@ -28,6 +28,7 @@
 #include "screens/store/Startup.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
+#include "screens/journal/frmJournal.h"
 
 namespace {
 
@@ -43,6 +44,7 @@ struct ButtonDesign {
     int Row;
     const char* Caption;
     const char* ToolTip;
+    int Columns = 1;   // the journal spans the two groups whose entries it searches
 };
 
 // The diary buttons carry the tooltips of the reading buttons; their group
@@ -56,6 +58,7 @@ constexpr ButtonDesign Buttons[] = {
     {6, 2, 1, "Spreads", "Create, Edit, View or Manage Spreads"},
     {7, 3, 0, "Install", "Install a Package"},
     {8, 3, 1, "Create", "Create a New Package"},
+    {frmMainScreen::JournalButton, 0, 2, "Journal", "Search and Count Past Readings and Diaries", 2},
     {9, 4, 0, "Help", "Display Help"},
     {11, 4, 1, "Exit", "Exit Cartomar"},
 };
@@ -123,7 +126,8 @@ frmMainScreen::frmMainScreen() {
         label->setBackColor(QBColor(0));
         label->setForeColor(Gold);
         label->setCursor(Qt::PointingHandCursor);
-        label->setGeometry(ColumnLeft(b.Column), FirstButtonTop + b.Row * ButtonPitch, ColumnWidth, ButtonHeight);
+        label->setGeometry(ColumnLeft(b.Column), FirstButtonTop + b.Row * ButtonPitch,
+                           b.Columns * ColumnWidth + (b.Columns - 1) * ColumnGap, ButtonHeight);
         const int i = b.Index;
         lblButton_[i] = label;
         connect(label, &ClickLabel::MouseDown, this, [this, i] { lblButton_MouseDown(i); });
@@ -184,6 +188,7 @@ void frmMainScreen::lblButton_Click(int Index) {
     setMousePointer(MousePointer::Hourglass);
     if (Index >= 1 && Index <= 8) OpenFirstLevelScreen(Index);
     else if (Index == 9) LaunchHelp();
+    else if (Index == JournalButton) OpenJournal();
     else if (Index == 11) ExitQuestion();
     setMousePointer(MousePointer::Arrow);
 }
@@ -239,6 +244,11 @@ void frmMainScreen::OpenFirstLevelScreen(int Index) {
     default:
         break;
     }
+}
+
+void frmMainScreen::OpenJournal() {
+    Hide();
+    Get<frmJournal>().Show();
 }
 
 void frmMainScreen::LaunchHelp() {

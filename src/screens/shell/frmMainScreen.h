@@ -1,5 +1,5 @@
 #pragma once
-// The hub of the program: a full picture with ten label buttons under the
+// The hub of the program: a full picture with eleven label buttons under the
 // headings Readings, Diary, Design, Package and File Menu. Each subsystem is
 // entered from here; the main screen hides while it runs and is shown again
 // when the subsystem's first screen closes. It stays loaded for the whole run.
@@ -20,6 +20,9 @@ public:
     // Shows the screen in the frame without a title bar: the main screen is
     // left only through its Exit button.
     void Show(bool modal = false);
+
+    // The button of the journal, under the Readings and Diary groups.
+    static constexpr int JournalButton = 10;
 
     // Acts as the button of that index; any other index only flashes the
     // hourglass.
@@ -49,6 +52,7 @@ private:
     void lblButton_MouseUp(int Index);
     void OpenFirstLevelScreen(int Index);
     void LaunchHelp();
+    void OpenJournal();
 
     std::map<int, ClickLabel*> lblButton_;
     QColor ButtonDownColour_;

@@ -1,0 +1,202 @@
+// The journal at the scale of a long practice: 5,000 saved readings and
+// 5,000 diary entries over ten years, on ten full decks and ten spreads.
+// Each figure is the median of several runs beside a baseline measured in
+// the same run on the same files: one sequential read of both entry files.
+//
+//   QT_QPA_PLATFORM=offscreen build/bench/bench_journal [runs]
+//
+// The data is made in a temporary program folder and removed afterwards.
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <cstdio>
+#include <fcntl.h>
+#include <functional>
+#include <unistd.h>
+#include <vector>
+
+#include "core/journal/Journal.h"
+#include "screens/journal/frmJournal.h"
+#include "core/platform/BinaryFile.h"
+#include "core/platform/FileSys.h"
+#include "screens/platform/MsgBox.h"
+#include "core/records/RecordFile.h"
+#include "screens/store/Startup.h"
+#include "core/store/Lookups.h"
+#include "core/store/RunState.h"
+
+namespace {
+
+int Runs = 5;
+
+double Median(std::vector<double> v) {
+    std::sort(v.begin(), v.end());
+    return v[v.size() / 2];
+}
+
+double Time(const std::function<void()>& work) {
+    std::vector<double> ms;
+    for (int i = 0; i < Runs; ++i) {
+        QElapsedTimer clock;
+        clock.start();
+        work();
+        ms.push_back(clock.nsecsElapsed() / 1e6);
+    }
+    return Median(ms);
+}
+
+void ReadOnce(const QString& path) {
+    static std::vector<char> buffer(1 << 20);
+    const int fd = ::open(path.toLocal8Bit().constData(), O_RDONLY);
+    if (fd < 0) return;
+    while (::read(fd, buffer.data(), buffer.size()) > 0) {
+    }
+    ::close(fd);
+}
+
+void Row(const char* operation, double ms, const char* baselineName, double baselineMs, double goalRatio) {
+    const double ratio = baselineMs > 0 ? ms / baselineMs : 0;
+    std::printf("%-60s %9.2f ms | %-24s %9.2f ms | ratio %6.2f | goal %.1fx %s\n", operation, ms, baselineName,
+                baselineMs, ratio, goalRatio, ratio <= goalRatio ? "met" : "MISSED");
+}
+
+void RowAbsolute(const char* operation, double value, double goal) {
+    std::printf("%-60s %9.2f ms | goal under %.0f ms %s\n", operation, value, goal, value <= goal ? "met" : "MISSED");
+}
+
+template <class R>
+class Writer {
+public:
+    explicit Writer(const QString& path) : out_(path + QStringLiteral(".tmp"), path), bytes_(R::Length) {}
+    void Add(const R& r) {
+        EncodeRecord(r, bytes_.data());
+        out_.Write(bytes_.data(), R::Length);
+    }
+    void Done() { out_.Commit(); }
+
+private:
+    AtomicFileWriter out_;
+    std::vector<char> bytes_;
+};
+
+void MakeDesigns() {
+    Writer<DeckRecord> decks(DecksPath);
+    Writer<CardRecord> cards(CardsPath);
+    for (Integer id = 1; id <= 10; ++id) {
+        DeckRecord deck = ZeroRecord<DeckRecord>();
+        deck.DeckName = QStringLiteral("Deck %1").arg(id);
+        deck.DeckId = id;
+        deck.CardCount = 78;
+        deck.DeckRevision = 1;
+        deck.CardTypeName[0] = QStringLiteral("Major Arcana");
+        deck.CardTypeName[1] = QStringLiteral("Minor Arcana");
+        decks.Add(deck);
+        for (int c = 1; c <= 78; ++c) {
+            CardRecord card = ZeroRecord<CardRecord>();
+            card.CardType = c <= 22 ? 0 : 1;
+            card.CardTitle = QStringLiteral("Card %1").arg(c);
+            card.CardDeckId = id;
+            cards.Add(card);
+        }
+    }
+    decks.Done();
+    cards.Done();
+    Writer<SpreadRecord> spreads(SpreadsPath);
+    Writer<LocationRecord> locations(LocationsPath);
+    for (Integer id = 1; id <= 10; ++id) {
+        SpreadRecord spread = ZeroRecord<SpreadRecord>();
+        spread.SpreadName = QStringLiteral("Spread %1").arg(id);
+        spread.SpreadId = id;
+        spread.LocationCount = 10;
+        spread.SpreadRevision = 1;
+        spreads.Add(spread);
+        for (Integer l = 1; l <= 10; ++l) {
+            LocationRecord location = ZeroRecord<LocationRecord>();
+            location.LocationSpreadId = id;
+            location.LocationNumber = l;
+            location.LocationTitle = QStringLiteral("Position %1").arg(l);
+            locations.Add(location);
+        }
+    }
+    spreads.Done();
+    locations.Done();
+}
+
+// Entries of ten dealt locations, notes of a few hundred characters.
+template <class R, class N, class T>
+void MakeEntries(const QString& path, N R::*name, T R::*notes, const QString& prefix) {
+    Writer<R> file(path);
+    const QString note = QStringLiteral("The cards spoke of a move and of work; talk it over with the family. ")
+                             .repeated(4);
+    for (int e = 1; e <= 5000; ++e) {
+        R r = ZeroRecord<R>();
+        r.*name = prefix + QString::number(e);
+        r.Issue = QStringLiteral("Question %1 about the move").arg(e);
+        r.*notes = note;
+        r.SavedOn = 42000 + (e * 37) % 3650;
+        r.ReadingDeckId = static_cast<Integer>(1 + e % 10);
+        r.ReadingDeckRevision = 1;
+        r.ReadingSpreadId = static_cast<Integer>(1 + e % 10);
+        r.ReadingSpreadRevision = 1;
+        r.DealtUpright.fill(-1);
+        for (int l = 0; l < 10; ++l) {
+            r.DealtCard[static_cast<std::size_t>(l)] = static_cast<Integer>(1 + (e * 7 + l * 13) % 78);
+            r.DealtUpright[static_cast<std::size_t>(l)] = (e + l) % 3 == 0 ? 0 : -1;
+        }
+        file.Add(r);
+    }
+    file.Done();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    if (argc > 1) Runs = std::max(1, atoi(argv[1]));
+    MsgBoxScript::Enable();
+    std::printf("%d runs a figure; medians\n", Runs);
+
+    QTemporaryDir dir;
+    ResetRunState();
+    FormPaths(dir.path());
+    InitDatabase();
+    MakeDesigns();
+    MakeEntries(ReadingsPath, &ReadingRecord::ReadingName, &ReadingRecord::ReadingNotes, QStringLiteral("Reading "));
+    MakeEntries(DiaryPath, &DiaryRecord::DiaryName, &DiaryRecord::DiaryNotes, QStringLiteral("Diary "));
+
+    const double read = Time([] {
+        ReadOnce(ReadingsPath);
+        ReadOnce(DiaryPath);
+    });
+    const JournalCatalogue catalogue = LoadJournalCatalogue();
+    JournalQuery query;
+    query.Words = QStringLiteral("move family");
+    // The screen reads both files once when it opens; every search as the
+    // user types then runs over what it read.
+    std::vector<JournalEntry> entries;
+    const double load = Time([&] { entries = ReadJournal(catalogue); });
+    const double search = Time([&] {
+        const std::vector<int> selected = SearchJournal(entries, query);
+        TallyJournal(entries, selected, catalogue, query);
+        TallyLocations(entries, selected, catalogue, catalogue.Spreads.front().Id, 3);
+    });
+    Row("search with all statistics, 10,000 entries", search, "read of both files", read, 2.0);
+    std::vector<int> selected;
+    std::printf("%-60s %9.2f ms\n", "  of which the search", Time([&] { selected = SearchJournal(entries, query); }));
+    std::printf("%-60s %9.2f ms\n", "  of which the counts", Time([&] { TallyJournal(entries, selected, catalogue, query); }));
+    std::printf("%-60s %9.2f ms (part of the first paint)\n", "both files read into the journal when the screen opens",
+                load);
+    const double catalogueMs = Time([] { LoadJournalCatalogue(); });
+    std::printf("%-60s %9.2f ms\n", "the designs read once when the screen opens (10 decks)", catalogueMs);
+
+    const double paint = Time([&] {
+        Get<frmJournal>().Show();
+        Get<frmJournal>().repaint();
+        app.processEvents();
+        UnloadScreen<frmJournal>();
+        app.processEvents();
+    });
+    RowAbsolute("journal screen to its first full paint, 10,000 entries", paint, 300);
+    return 0;
+}

@@ -1,0 +1,517 @@
+#include "core/journal/Journal.h"
+
+#include <QHash>
+#include <QImage>
+#include <QSet>
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstring>
+#include <map>
+
+#include "core/platform/CodePage.h"
+#include "core/platform/OleDate.h"
+#include "core/platform/Printer.h"
+#include "core/records/RecordFile.h"
+#include "core/store/RunState.h"
+
+namespace {
+
+// The text of a field as readers see it. Blanks are cut off before decoding,
+// so that a short note in a 2,500-byte field costs what the note costs.
+QString FieldText(const char* raw, int width) {
+    int first = 0;
+    int end = width;
+    while (first < end && (raw[first] == ' ' || raw[first] == '\0')) ++first;
+    while (end > first && (raw[end - 1] == ' ' || raw[end - 1] == '\0')) --end;
+    return FromAnsi(raw + first, end - first);
+}
+
+// Each byte of the code page with its case folded, so that text is searched
+// in the bytes it is stored in, without decoding.
+const std::array<char, 256>& FoldTable() {
+    static const std::array<char, 256> table = [] {
+        std::array<char, 256> t{};
+        for (int b = 0; b < 256; ++b) {
+            const char byte = static_cast<char>(b);
+            const QByteArray folded = ToAnsi(FromAnsi(&byte, 1).toCaseFolded());
+            t[static_cast<std::size_t>(b)] = folded.size() == 1 && AnsiRepresentable(FromAnsi(&byte, 1).toCaseFolded())
+                                                 ? folded[0]
+                                                 : byte;
+        }
+        return t;
+    }();
+    return table;
+}
+
+// Appends a field's trimmed bytes, folded, and a line break.
+void AppendFolded(QByteArray& to, const char* raw, int width) {
+    int first = 0;
+    int end = width;
+    while (first < end && (raw[first] == ' ' || raw[first] == '\0')) ++first;
+    while (end > first && (raw[end - 1] == ' ' || raw[end - 1] == '\0')) --end;
+    const auto& fold = FoldTable();
+    const qsizetype at = to.size();
+    to.resize(at + (end - first) + 1);
+    char* out = to.data() + at;
+    for (int i = first; i < end; ++i) *out++ = fold[static_cast<unsigned char>(raw[i])];
+    *out = '\n';
+}
+
+double RawDouble(const char* raw) {
+    std::uint64_t bits = 0;
+    for (int i = 7; i >= 0; --i) bits = (bits << 8) | static_cast<unsigned char>(raw[i]);
+    return std::bit_cast<double>(bits);
+}
+
+// The days a saved entry can carry: 1 January 1900 to 31 December 9999.
+constexpr double FirstDay = 2;
+constexpr double LastDay = 2958465;
+
+QDate DateOf(double savedOn) {
+    if (!std::isfinite(savedOn) || savedOn < FirstDay || savedOn > LastDay) return {};
+    return FromOleDate(savedOn).date();
+}
+
+QSet<QString>& Unlocked() {
+    static QSet<QString> unlocked;
+    return unlocked;
+}
+
+QString UnlockKey(EntryKind kind, const QString& name) {
+    return (kind == EntryKind::Reading ? QStringLiteral("R") : QStringLiteral("D")) + TrimField(name);
+}
+
+// Where the fields of a saved entry stand; readings and diary entries share
+// all of them but the notes.
+struct EntryLayout {
+    int SavedOn, Name, Issue, SpreadId, DeckId, DeckRevision, DealtCard, DealtUpright, EntryLocked, Notes;
+};
+
+template <class R, class N, class T>
+EntryLayout LayoutOf(N R::*name, T R::*notes) {
+    return {OffsetOf(&R::SavedOn),      OffsetOf(name),           OffsetOf(&R::Issue),
+            OffsetOf(&R::ReadingSpreadId), OffsetOf(&R::ReadingDeckId), OffsetOf(&R::ReadingDeckRevision),
+            OffsetOf(&R::DealtCard),    OffsetOf(&R::DealtUpright), OffsetOf(&R::EntryLocked),
+            OffsetOf(notes)};
+}
+
+EntryStanding StandingOf(const JournalEntry& entry, const JournalDeck* deck, Integer savedRevision) {
+    const std::size_t present = deck ? deck->Cards.size() : 0;
+    const bool ownDeck = deck && deck->Revision == savedRevision;
+    const std::size_t limit = ownDeck ? present : MaxDeckCards;
+    const bool damaged = !entry.Date.isValid() || std::any_of(entry.Cards.begin(), entry.Cards.end(), [&](auto& c) {
+        return c.Card < 1 || static_cast<std::size_t>(c.Card) > limit;
+    });
+    if (damaged) return EntryStanding::Damaged;
+    if (!deck) return EntryStanding::DeckGone;
+    return ownDeck ? EntryStanding::Present : EntryStanding::DeckRevised;
+}
+
+void ReadEntries(const QString& path, int length, EntryKind kind, const EntryLayout& at,
+                 const JournalCatalogue& catalogue, std::vector<JournalEntry>& out) {
+    RecordFileReader reader(path, length);
+    out.reserve(out.size() + static_cast<std::size_t>(reader.RecordCount()));
+    while (const char* raw = reader.Next()) {
+        JournalEntry entry;
+        entry.Kind = kind;
+        entry.Date = DateOf(RawDouble(raw + at.SavedOn));
+        entry.Name = FieldText(raw + at.Name, 50);
+        entry.Locked = RawInteger(raw, at.EntryLocked) != 0 && !IsEntryUnlocked(kind, entry.Name);
+        AppendFolded(entry.SearchText, raw + at.Name, 50);
+        if (entry.Locked) {
+            out.push_back(std::move(entry));
+            continue;
+        }
+        entry.SpreadId = RawInteger(raw, at.SpreadId);
+        entry.DeckId = RawInteger(raw, at.DeckId);
+        for (int l = 0; l < MaxSpreadLocations; ++l) {
+            const Integer card = RawInteger(raw, at.DealtCard + 2 * l);
+            if (card != 0) entry.Cards.push_back({l + 1, card, RawInteger(raw, at.DealtUpright + 2 * l) != 0});
+        }
+        entry.Standing = StandingOf(entry, catalogue.Deck(entry.DeckId), RawInteger(raw, at.DeckRevision));
+        AppendFolded(entry.SearchText, raw + at.Issue, 125);
+        AppendFolded(entry.SearchText, raw + at.Notes, 2500);
+        out.push_back(std::move(entry));
+    }
+}
+
+bool Matches(const JournalEntry& entry, const JournalQuery& query, const std::vector<QByteArray>& words) {
+    if (!(entry.Kind == EntryKind::Reading ? query.Readings : query.Diary)) return false;
+    if (!query.From.isNull() && (!entry.Date.isValid() || entry.Date < query.From)) return false;
+    if (!query.To.isNull() && (!entry.Date.isValid() || entry.Date > query.To)) return false;
+    for (const QByteArray& word : words)
+        if (!memmem(entry.SearchText.constData(), static_cast<std::size_t>(entry.SearchText.size()), word.constData(),
+                    static_cast<std::size_t>(word.size())))
+            return false;
+    const bool needsCards = query.SpreadId != -1 || query.DeckId != -1 || query.CardNumber != 0 ||
+                            query.Orientation != Facing::Any;
+    if (!needsCards) return true;
+    // What a locked entry hides cannot select it.
+    if (entry.Locked) return false;
+    if (query.SpreadId != -1 && entry.SpreadId != query.SpreadId) return false;
+    if (query.DeckId != -1 && entry.DeckId != query.DeckId) return false;
+    if (query.CardNumber != 0 && entry.DeckId != query.CardDeckId) return false;
+    return std::any_of(entry.Cards.begin(), entry.Cards.end(), [&](const DealtLocation& c) {
+        if (query.CardNumber != 0 && c.Card != query.CardNumber) return false;
+        if (query.Orientation == Facing::Upright) return c.Upright;
+        if (query.Orientation == Facing::Reversed) return !c.Upright;
+        return true;
+    });
+}
+
+// A stored card number counts under its deck and number when the deck can
+// have held it: any number of a removed deck, a present card otherwise.
+bool Countable(const JournalDeck* deck, Integer card) {
+    if (card < 1 || card > MaxDeckCards) return false;
+    return !deck || static_cast<std::size_t>(card) <= deck->Cards.size();
+}
+
+CardTally NewTally(const JournalCatalogue& catalogue, Integer deckId, Integer number) {
+    CardTally tally;
+    tally.DeckId = deckId;
+    tally.Number = number;
+    const JournalDeck* deck = catalogue.Deck(deckId);
+    if (!deck) {
+        tally.Title = QStringLiteral("Card %1").arg(number);
+        tally.DeckName = QStringLiteral("(no longer installed)");
+        return tally;
+    }
+    const JournalCard& card = deck->Cards[static_cast<std::size_t>(number - 1)];
+    tally.Title = card.Title;
+    tally.DeckName = deck->Name;
+    if (card.Type >= 0 && card.Type < 4) tally.TypeName = deck->TypeNames[static_cast<std::size_t>(card.Type)];
+    return tally;
+}
+
+// Counts by deck and card number in one flat table: a deck takes its rows
+// the first time one of its cards is counted. Every keystroke of a search
+// counts every card of every entry it selects, so this is the inner loop.
+class CardCounter {
+public:
+    int SlotOf(Integer deckId) {
+        const auto found = std::find(decks_.begin(), decks_.end(), deckId);
+        if (found != decks_.end()) return static_cast<int>(found - decks_.begin());
+        decks_.push_back(deckId);
+        counts_.resize(decks_.size() * Stride * 2);
+        return static_cast<int>(decks_.size()) - 1;
+    }
+    void Add(int slot, const DealtLocation& dealt) {
+        ++counts_[(static_cast<std::size_t>(slot) * Stride + static_cast<std::size_t>(dealt.Card)) * 2 +
+                  (dealt.Upright ? 0 : 1)];
+    }
+    std::vector<CardTally> MostFrequentFirst(const JournalCatalogue& catalogue) const {
+        std::vector<CardTally> cards;
+        for (std::size_t slot = 0; slot < decks_.size(); ++slot) {
+            for (std::size_t n = 1; n < Stride; ++n) {
+                const int* count = &counts_[(slot * Stride + n) * 2];
+                if (count[0] + count[1] == 0) continue;
+                cards.push_back(NewTally(catalogue, decks_[slot], static_cast<Integer>(n)));
+                cards.back().Upright = count[0];
+                cards.back().Reversed = count[1];
+            }
+        }
+        std::sort(cards.begin(), cards.end(), [](const CardTally& a, const CardTally& b) {
+            if (a.Total() != b.Total()) return a.Total() > b.Total();
+            if (a.DeckId != b.DeckId) return a.DeckId < b.DeckId;
+            return a.Number < b.Number;
+        });
+        return cards;
+    }
+
+private:
+    static constexpr std::size_t Stride = MaxDeckCards + 1;
+    std::vector<Integer> decks_;
+    std::vector<int> counts_;
+};
+
+// Months from the query's range where it is set, else from the entries'
+// first and last; a range too wide to show falls back to the entries'.
+std::vector<NamedCount> MonthsOf(const std::map<int, int>& perMonth, const JournalQuery& query) {
+    constexpr int WidestRange = 1200;
+    const auto monthIndex = [](const QDate& d) { return d.year() * 12 + d.month() - 1; };
+    if (perMonth.empty() && (query.From.isNull() || query.To.isNull())) return {};
+    int first = query.From.isNull() ? perMonth.begin()->first : monthIndex(query.From);
+    int last = query.To.isNull() ? perMonth.rbegin()->first : monthIndex(query.To);
+    if (last - first >= WidestRange && !perMonth.empty()) {
+        first = perMonth.begin()->first;
+        last = perMonth.rbegin()->first;
+    }
+    std::vector<NamedCount> months;
+    for (int m = first; m <= last && last - first < WidestRange; ++m) {
+        const auto found = perMonth.find(m);
+        months.push_back({QStringLiteral("%1/%2").arg(m / 12, 4, 10, QLatin1Char('0')).arg(m % 12 + 1, 2, 10,
+                                                                                            QLatin1Char('0')),
+                          found == perMonth.end() ? 0 : found->second});
+    }
+    return months;
+}
+
+QString CardTitleOf(const JournalCatalogue& catalogue, Integer deckId, Integer card) {
+    const JournalDeck* deck = catalogue.Deck(deckId);
+    if (deck && card >= 1 && static_cast<std::size_t>(card) <= deck->Cards.size())
+        return deck->Cards[static_cast<std::size_t>(card - 1)].Title;
+    return QStringLiteral("Card %1").arg(card);
+}
+
+QString LocationTitleOf(const JournalCatalogue& catalogue, Integer spreadId, int location) {
+    const JournalSpread* spread = catalogue.Spread(spreadId);
+    if (!spread || location > static_cast<int>(spread->LocationTitles.size())) return {};
+    return spread->LocationTitles[static_cast<std::size_t>(location - 1)];
+}
+
+QByteArray CsvField(const QString& text) {
+    QByteArray bytes = text.toUtf8();
+    if (!bytes.contains(',') && !bytes.contains('"') && !bytes.contains('\n') && !bytes.contains('\r')) return bytes;
+    bytes.replace('"', "\"\"");
+    return '"' + bytes + '"';
+}
+
+}  // namespace
+
+const JournalDeck* JournalCatalogue::Deck(Integer id) const {
+    const auto found = std::find_if(Decks.begin(), Decks.end(), [id](const JournalDeck& d) { return d.Id == id; });
+    return found == Decks.end() ? nullptr : &*found;
+}
+
+const JournalSpread* JournalCatalogue::Spread(Integer id) const {
+    const auto found =
+        std::find_if(Spreads.begin(), Spreads.end(), [id](const JournalSpread& s) { return s.Id == id; });
+    return found == Spreads.end() ? nullptr : &*found;
+}
+
+JournalCatalogue LoadJournalCatalogue() {
+    JournalCatalogue catalogue;
+    QHash<Integer, std::size_t> deckAt;
+    std::vector<int> cardCount;
+    for (const DeckRecord& d : ReadAllRecords<DeckRecord>(DecksPath)) {
+        if (deckAt.contains(d.DeckId)) continue;   // the first of an id is the deck, as lookups find it
+        deckAt.insert(d.DeckId, catalogue.Decks.size());
+        JournalDeck deck{d.DeckId, d.DeckRevision, d.DeckName.Trimmed(), {}, {}};
+        for (std::size_t t = 0; t < 4; ++t) deck.TypeNames[t] = d.CardTypeName[t].Trimmed();
+        catalogue.Decks.push_back(std::move(deck));
+        cardCount.push_back(std::clamp<int>(d.CardCount, 0, MaxDeckCards));
+    }
+    {
+        // A deck's cards are its records in file order, wherever they stand.
+        RecordFileReader cards(CardsPath, CardRecord::Length);
+        const int deckIdAt = OffsetOf(&CardRecord::CardDeckId);
+        const int titleAt = OffsetOf(&CardRecord::CardTitle);
+        while (const char* raw = cards.Next()) {
+            const auto found = deckAt.constFind(RawInteger(raw, deckIdAt));
+            if (found == deckAt.constEnd()) continue;
+            JournalDeck& deck = catalogue.Decks[*found];
+            if (static_cast<int>(deck.Cards.size()) < cardCount[*found])
+                deck.Cards.push_back({FieldText(raw + titleAt, 50), RawInteger(raw, 0)});
+        }
+    }
+    QHash<Integer, std::size_t> spreadAt;
+    for (const SpreadRecord& s : ReadAllRecords<SpreadRecord>(SpreadsPath)) {
+        if (spreadAt.contains(s.SpreadId)) continue;
+        spreadAt.insert(s.SpreadId, catalogue.Spreads.size());
+        JournalSpread spread{s.SpreadId, s.SpreadRevision, s.SpreadName.Trimmed(), {}};
+        spread.LocationTitles.resize(static_cast<std::size_t>(std::clamp<int>(s.LocationCount, 0, MaxSpreadLocations)));
+        catalogue.Spreads.push_back(std::move(spread));
+    }
+    RecordFileReader locations(LocationsPath, LocationRecord::Length);
+    const int spreadIdAt = OffsetOf(&LocationRecord::LocationSpreadId);
+    const int numberAt = OffsetOf(&LocationRecord::LocationNumber);
+    while (const char* raw = locations.Next()) {
+        const auto found = spreadAt.constFind(RawInteger(raw, spreadIdAt));
+        if (found == spreadAt.constEnd()) continue;
+        auto& titles = catalogue.Spreads[*found].LocationTitles;
+        const int number = RawInteger(raw, numberAt);
+        if (number >= 1 && number <= static_cast<int>(titles.size()))
+            titles[static_cast<std::size_t>(number - 1)] = FieldText(raw, 50);
+    }
+    return catalogue;
+}
+
+std::vector<JournalEntry> ReadJournal(const JournalCatalogue& catalogue) {
+    std::vector<JournalEntry> entries;
+    ReadEntries(ReadingsPath, ReadingRecord::Length, EntryKind::Reading,
+                LayoutOf(&ReadingRecord::ReadingName, &ReadingRecord::ReadingNotes), catalogue, entries);
+    ReadEntries(DiaryPath, DiaryRecord::Length, EntryKind::Diary,
+                LayoutOf(&DiaryRecord::DiaryName, &DiaryRecord::DiaryNotes), catalogue, entries);
+    return entries;
+}
+
+void RememberEntryUnlocked(EntryKind kind, const QString& name) { Unlocked().insert(UnlockKey(kind, name)); }
+bool IsEntryUnlocked(EntryKind kind, const QString& name) { return Unlocked().contains(UnlockKey(kind, name)); }
+void ForgetUnlockedEntries() { Unlocked().clear(); }
+
+std::vector<int> SearchJournal(const std::vector<JournalEntry>& entries, const JournalQuery& query) {
+    std::vector<QByteArray> words;
+    for (const QString& word : query.Words.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        // A word the code page cannot hold is in no record.
+        if (!AnsiRepresentable(word)) return {};
+        QByteArray bytes = ToAnsi(word);
+        for (char& b : bytes) b = FoldTable()[static_cast<unsigned char>(b)];
+        words.push_back(bytes);
+    }
+    std::vector<int> selected;
+    for (std::size_t i = 0; i < entries.size(); ++i)
+        if (Matches(entries[i], query, words)) selected.push_back(static_cast<int>(i));
+    return selected;
+}
+
+JournalStatistics TallyJournal(const std::vector<JournalEntry>& entries, const std::vector<int>& selected,
+                               const JournalCatalogue& catalogue, const JournalQuery& query) {
+    JournalStatistics statistics;
+    CardCounter counter;
+    QHash<QString, int> types;
+    std::map<int, int> perMonth;
+    for (const int i : selected) {
+        const JournalEntry& entry = entries[static_cast<std::size_t>(i)];
+        ++statistics.Entries;
+        if (entry.Date.isValid()) ++perMonth[entry.Date.year() * 12 + entry.Date.month() - 1];
+        if (entry.Locked) {
+            ++statistics.Locked;
+            continue;
+        }
+        if (entry.Standing != EntryStanding::Present) ++statistics.Unattributable;
+        const JournalDeck* deck = catalogue.Deck(entry.DeckId);
+        const int slot = counter.SlotOf(entry.DeckId);
+        for (const DealtLocation& dealt : entry.Cards) {
+            if (!Countable(deck, dealt.Card)) continue;
+            counter.Add(slot, dealt);
+            ++(dealt.Upright ? statistics.Upright : statistics.Reversed);
+        }
+    }
+    statistics.Cards = counter.MostFrequentFirst(catalogue);
+    for (const CardTally& card : statistics.Cards)
+        if (!card.TypeName.isEmpty()) types[card.TypeName] += card.Total();
+    for (auto t = types.cbegin(); t != types.cend(); ++t) statistics.Types.push_back({t.key(), t.value()});
+    std::sort(statistics.Types.begin(), statistics.Types.end(), [](const NamedCount& a, const NamedCount& b) {
+        return a.Count != b.Count ? a.Count > b.Count : a.Name < b.Name;
+    });
+    statistics.Months = MonthsOf(perMonth, query);
+    return statistics;
+}
+
+std::vector<LocationTally> TallyLocations(const std::vector<JournalEntry>& entries, const std::vector<int>& selected,
+                                          const JournalCatalogue& catalogue, Integer spreadId, int top) {
+    std::map<int, CardCounter> perLocation;
+    for (const int i : selected) {
+        const JournalEntry& entry = entries[static_cast<std::size_t>(i)];
+        if (entry.Locked || entry.SpreadId != spreadId) continue;
+        const JournalDeck* deck = catalogue.Deck(entry.DeckId);
+        for (const DealtLocation& dealt : entry.Cards) {
+            if (!Countable(deck, dealt.Card)) continue;
+            CardCounter& counter = perLocation[dealt.Location];
+            counter.Add(counter.SlotOf(entry.DeckId), dealt);
+        }
+    }
+    const JournalSpread* spread = catalogue.Spread(spreadId);
+    int last = spread ? static_cast<int>(spread->LocationTitles.size()) : 0;
+    if (!perLocation.empty()) last = std::max(last, perLocation.rbegin()->first);
+    std::vector<LocationTally> locations;
+    for (int l = 1; l <= last; ++l) {
+        LocationTally location{l, LocationTitleOf(catalogue, spreadId, l), {}};
+        location.Cards = perLocation[l].MostFrequentFirst(catalogue);
+        if (static_cast<int>(location.Cards.size()) > top) location.Cards.resize(static_cast<std::size_t>(top));
+        locations.push_back(std::move(location));
+    }
+    return locations;
+}
+
+QString EntryDateText(const JournalEntry& entry) {
+    return entry.Date.isValid() ? entry.Date.toString(QStringLiteral("yyyy/MM/dd")) : QString();
+}
+
+QString EntryKindText(EntryKind kind) {
+    return kind == EntryKind::Reading ? QStringLiteral("Reading") : QStringLiteral("Diary");
+}
+
+QString EntrySpreadText(const JournalEntry& entry, const JournalCatalogue& catalogue) {
+    if (entry.Locked) return {};
+    const JournalSpread* spread = catalogue.Spread(entry.SpreadId);
+    return spread ? spread->Name : QStringLiteral("(no longer installed)");
+}
+
+QString EntryDeckText(const JournalEntry& entry, const JournalCatalogue& catalogue) {
+    if (entry.Locked) return {};
+    const JournalDeck* deck = catalogue.Deck(entry.DeckId);
+    const QString name = deck ? deck->Name : QStringLiteral("(no longer installed)");
+    switch (entry.Standing) {
+    case EntryStanding::DeckRevised: return name + QStringLiteral(" (changed since)");
+    case EntryStanding::Damaged: return name + QStringLiteral(" (damaged record)");
+    default: return name;
+    }
+}
+
+QByteArray JournalCsv(const std::vector<JournalEntry>& entries, const std::vector<int>& selected,
+                      const JournalCatalogue& catalogue) {
+    // The byte order mark tells spreadsheets that the file is UTF-8.
+    QByteArray csv("\xEF\xBB\xBF" "Date,Kind,Entry,Spread,Location,Location Title,Deck,Card,Orientation\r\n");
+    for (const int i : selected) {
+        const JournalEntry& entry = entries[static_cast<std::size_t>(i)];
+        if (entry.Locked) continue;
+        const QByteArray head = CsvField(EntryDateText(entry)) + ',' + CsvField(EntryKindText(entry.Kind)) + ',' +
+                                CsvField(entry.Name) + ',' + CsvField(EntrySpreadText(entry, catalogue)) + ',';
+        const QByteArray deck = CsvField(EntryDeckText(entry, catalogue));
+        for (const DealtLocation& dealt : entry.Cards) {
+            csv += head + QByteArray::number(dealt.Location) + ',' +
+                   CsvField(LocationTitleOf(catalogue, entry.SpreadId, dealt.Location)) + ',' + deck + ',' +
+                   CsvField(CardTitleOf(catalogue, entry.DeckId, dealt.Card)) + ',' +
+                   (dealt.Upright ? "Upright" : "Reversed") + "\r\n";
+        }
+    }
+    return csv;
+}
+
+void PrintJournalStatistics(Printer& printer, const JournalStatistics& statistics, const QImage& cardsChart,
+                            const QImage& monthsChart) {
+    constexpr int Margin = 1080;   // three quarters of an inch
+    const int width = printer.Width() - 2 * Margin;
+    const auto line = [&](const QString& text) {
+        if (printer.CurrentY + printer.TextHeight() > printer.Height() - Margin) {
+            printer.NewPage();
+            printer.CurrentY = Margin;
+        }
+        printer.CurrentX = Margin;
+        printer.Print(text);
+    };
+    const auto picture = [&](const QImage& image) {
+        if (image.isNull()) return;
+        const int height = width * image.height() / std::max(1, image.width());
+        if (printer.CurrentY + height > printer.Height() - Margin) {
+            printer.NewPage();
+            printer.CurrentY = Margin;
+        }
+        printer.PaintPicture(image, Margin, printer.CurrentY, width, height);
+        printer.CurrentY += height + 240;
+    };
+
+    printer.CurrentY = Margin;
+    printer.FontSize = 14;
+    printer.FontBold = true;
+    line(QStringLiteral("Journal Statistics"));
+    printer.FontSize = 10;
+    printer.FontBold = false;
+    line(QStringLiteral("Entries: %1").arg(statistics.Entries));
+    line(QStringLiteral("Locked, not counted: %1").arg(statistics.Locked));
+    line(QStringLiteral("Not attributable to a present card: %1").arg(statistics.Unattributable));
+    line(QStringLiteral("Upright: %1    Reversed: %2").arg(statistics.Upright).arg(statistics.Reversed));
+    for (const NamedCount& type : statistics.Types) line(QStringLiteral("%1: %2").arg(type.Name).arg(type.Count));
+    line(QString());
+    picture(cardsChart);
+    picture(monthsChart);
+    // The table: three columns of figures, then the card.
+    const auto row = [&](const QStringList& cells) {
+        line(QString());
+        const int y = printer.CurrentY - printer.TextHeight();
+        for (int c = 0; c < cells.size(); ++c) {
+            printer.CurrentX = Margin + c * 1080;
+            printer.CurrentY = y;
+            printer.Print(cells[c]);
+        }
+    };
+    printer.FontBold = true;
+    row({QStringLiteral("Total"), QStringLiteral("Upright"), QStringLiteral("Reversed"), QStringLiteral("Card")});
+    printer.FontBold = false;
+    for (const CardTally& card : statistics.Cards)
+        row({QString::number(card.Total()), QString::number(card.Upright), QString::number(card.Reversed),
+             card.Title + QStringLiteral(" (") + card.DeckName + QLatin1Char(')')});
+    printer.EndDoc();
+}

@@ -1,0 +1,161 @@
+#pragma once
+// The journal: every saved reading and diary entry searched and counted as
+// one body of records. The journal only reads: it never writes a record file.
+//
+// A card is its deck id and its number in the deck; its title is the one the
+// deck gives it now. An entry whose deck was revised or removed since it was
+// saved still counts under its stored numbers but is not attributable to a
+// present card, nor is an entry that holds what no saved entry can (a card
+// number beyond its deck, a date out of range). A locked entry shows only its
+// date and name until its password has been given in this run.
+#include <QByteArray>
+#include <QDate>
+#include <QString>
+#include <array>
+#include <vector>
+
+#include "core/records/Records.h"
+
+class Printer;
+class QImage;
+
+enum class Facing { Any, Upright, Reversed };
+
+// How far an entry's cards can be trusted to name the deck's present cards.
+enum class EntryStanding {
+    Present,       // the deck as it was saved with
+    DeckRevised,   // the deck was saved again since
+    DeckGone,      // the deck is no longer installed
+    Damaged,       // a card number beyond its deck, or a date out of range
+};
+
+// The designs that entries point at, as they stand now.
+struct JournalCard {
+    QString Title;
+    Integer Type = 0;   // 0 to 3, into the deck's TypeNames
+};
+
+struct JournalDeck {
+    Integer Id = 0;
+    Integer Revision = 0;
+    QString Name;
+    std::array<QString, 4> TypeNames;
+    std::vector<JournalCard> Cards;   // card n is Cards[n - 1]
+};
+
+struct JournalSpread {
+    Integer Id = 0;
+    Integer Revision = 0;
+    QString Name;
+    std::vector<QString> LocationTitles;   // location n is [n - 1]
+};
+
+struct JournalCatalogue {
+    std::vector<JournalDeck> Decks;
+    std::vector<JournalSpread> Spreads;
+    const JournalDeck* Deck(Integer id) const;
+    const JournalSpread* Spread(Integer id) const;
+};
+
+// Reads the decks, their cards' titles and types, the spreads and their
+// locations' titles.
+JournalCatalogue LoadJournalCatalogue();
+
+struct DealtLocation {
+    int Location = 0;    // 1 to 32
+    Integer Card = 0;    // the stored card number
+    bool Upright = true;
+};
+
+struct JournalEntry {
+    EntryKind Kind = EntryKind::Reading;
+    QDate Date;            // invalid when the stored date is out of range
+    QString Name;
+    bool Locked = false;   // locked, and its password not given in this run
+    Integer SpreadId = 0;
+    Integer DeckId = 0;
+    EntryStanding Standing = EntryStanding::Present;
+    std::vector<DealtLocation> Cards;   // empty while locked
+    QByteArray SearchText;   // name, issue and notes in the record's code page, case-folded; the name alone while locked
+};
+
+// Reads Readings.red and Diary.dry once each, front to back.
+std::vector<JournalEntry> ReadJournal(const JournalCatalogue& catalogue);
+
+// Remembers, for the rest of the run, that the user gave the password of the
+// saved entry of that name; the journal then shows and counts it.
+void RememberEntryUnlocked(EntryKind kind, const QString& name);
+bool IsEntryUnlocked(EntryKind kind, const QString& name);
+void ForgetUnlockedEntries();
+
+struct JournalQuery {
+    QString Words;             // each must occur in the name, issue or notes, case ignored
+    bool Readings = true;
+    bool Diary = true;
+    Integer SpreadId = -1;     // -1: any spread
+    Integer DeckId = -1;       // -1: any deck
+    Integer CardDeckId = -1;   // a card: its deck and number; -1 and 0 for any card
+    Integer CardNumber = 0;
+    Facing Orientation = Facing::Any;   // of the chosen card, or of any card
+    QDate From;                // null: open
+    QDate To;
+};
+
+// The positions in entries of those the query selects, in file order.
+std::vector<int> SearchJournal(const std::vector<JournalEntry>& entries, const JournalQuery& query);
+
+struct CardTally {
+    Integer DeckId = 0;
+    Integer Number = 0;
+    QString Title;
+    QString DeckName;
+    QString TypeName;   // empty when the card is not in the deck now
+    int Upright = 0;
+    int Reversed = 0;
+    int Total() const { return Upright + Reversed; }
+};
+
+struct NamedCount {
+    QString Name;
+    int Count = 0;
+};
+
+struct JournalStatistics {
+    int Entries = 0;          // selected
+    int Locked = 0;           // selected, but locked: not counted
+    int Unattributable = 0;   // counted, but not attributable to present cards
+    int Upright = 0;
+    int Reversed = 0;
+    std::vector<CardTally> Cards;   // most frequent first, then by deck and number
+    std::vector<NamedCount> Types;  // by the type names of the decks, most frequent first
+    std::vector<NamedCount> Months; // "yyyy/mm", every month from the first to the last
+};
+
+JournalStatistics TallyJournal(const std::vector<JournalEntry>& entries, const std::vector<int>& selected,
+                               const JournalCatalogue& catalogue, const JournalQuery& query);
+
+struct LocationTally {
+    int Location = 0;
+    QString Title;
+    std::vector<CardTally> Cards;   // the most frequent, at most `top`
+};
+
+// For one spread: the cards that came up most in each of its locations.
+std::vector<LocationTally> TallyLocations(const std::vector<JournalEntry>& entries, const std::vector<int>& selected,
+                                          const JournalCatalogue& catalogue, Integer spreadId, int top);
+
+// What the results list shows of an entry.
+QString EntryDateText(const JournalEntry& entry);
+QString EntryKindText(EntryKind kind);
+QString EntrySpreadText(const JournalEntry& entry, const JournalCatalogue& catalogue);
+QString EntryDeckText(const JournalEntry& entry, const JournalCatalogue& catalogue);
+
+// The selected entries for a spreadsheet: UTF-8, a header row, one row per
+// dealt location; locked entries give none.
+QByteArray JournalCsv(const std::vector<JournalEntry>& entries, const std::vector<int>& selected,
+                      const JournalCatalogue& catalogue);
+
+// The statistics page on the printer: the figures, the two charts, the table
+// of cards. Ends the job.
+void PrintJournalStatistics(Printer& printer, const JournalStatistics& statistics, const QImage& cardsChart,
+                            const QImage& monthsChart);

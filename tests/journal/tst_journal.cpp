@@ -1,0 +1,280 @@
+// The journal over a small hand-made body of entries whose counts were worked
+// out by hand: what each search selects, what the statistics count, the CSV,
+// and that nothing is written. One test shows the screen's wiring.
+#include <QCryptographicHash>
+#include <QDirIterator>
+#include <QLineEdit>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "core/journal/Journal.h"
+#include "screens/journal/frmJournal.h"
+#include "screens/platform/MsgBox.h"
+#include "core/platform/OleDate.h"
+#include "screens/readings/frmNewReading.h"
+#include "core/records/RecordFile.h"
+#include "core/store/DeletePasses.h"
+#include "support/Fixtures.h"
+
+Q_DECLARE_METATYPE(JournalQuery)
+
+namespace {
+
+struct Dealt {
+    int Location;
+    Integer Card;
+    bool Upright;
+};
+
+template <class R>
+void Deal(R& r, Integer deck, Integer spread, const QDate& day, std::initializer_list<Dealt> cards) {
+    r.ReadingDeckId = deck;
+    r.ReadingDeckRevision = 1;
+    r.ReadingSpreadId = spread;
+    r.ReadingSpreadRevision = 1;
+    r.SavedOn = ToOleDate(day);
+    for (const Dealt& d : cards) {
+        r.DealtCard[static_cast<std::size_t>(d.Location - 1)] = d.Card;
+        r.DealtUpright[static_cast<std::size_t>(d.Location - 1)] = Flag(d.Upright);
+    }
+}
+
+// Every file of the program folder and its bytes' digest.
+QMap<QString, QByteArray> Snapshot(const QString& dir) {
+    QMap<QString, QByteArray> files;
+    for (QDirIterator it(dir, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
+        QFile f(it.next());
+        f.open(QIODevice::ReadOnly);
+        files[f.fileName()] = QCryptographicHash::hash(f.readAll(), QCryptographicHash::Sha1);
+    }
+    return files;
+}
+
+}  // namespace
+
+class TestJournal : public QObject {
+    Q_OBJECT
+    QTemporaryDir frame_, dir_;
+    Integer tarot_ = 0, other_ = 0, gone_ = 0, cross_ = 0, line_ = 0;
+
+    JournalCatalogue catalogue_;
+    std::vector<JournalEntry> entries_;
+
+    void Read() {
+        catalogue_ = LoadJournalCatalogue();
+        entries_ = ReadJournal(catalogue_);
+    }
+    QStringList Names(const JournalQuery& query) {
+        QStringList names;
+        for (int i : SearchJournal(entries_, query)) names << entries_[static_cast<std::size_t>(i)].Name;
+        return names;
+    }
+
+private slots:
+    // Readings: R1 "Move, "north"" and R2 "Work" on Tarot, R3 "Secret" locked,
+    // R4 "Bad date". Diary: D1 "Garden" on Tarot, D2 "Old deck" on a deck
+    // revised since, D3 "Gone deck" on a removed deck, D4 "Damaged" with a
+    // card beyond its deck.
+    void initTestCase() {
+        MsgBoxScript::Enable();
+        Fixtures::StandUpFrame(frame_.path());
+        Fixtures::UseProgramDir(dir_.path());
+        tarot_ = Fixtures::MakeDeck(QStringLiteral("Tarot"), 30, false);
+        other_ = Fixtures::MakeDeck(QStringLiteral("Other"), 10, false);
+        gone_ = Fixtures::MakeDeck(QStringLiteral("Gone"), 10, false);
+        DeleteDeck(3);
+        DeckRecord other;
+        GetRecord(DecksPath, 2, other);
+        other.DeckRevision = 2;
+        PutRecord(DecksPath, 2, other);
+        cross_ = Fixtures::MakeSpread(QStringLiteral("Cross"), 3, {}, true);
+        line_ = Fixtures::MakeSpread(QStringLiteral("Line"), 3, {}, true);
+
+        ReadingRecord r = Fixtures::NamedReading(QStringLiteral("Move, \"north\""));
+        r.Issue = QStringLiteral("the move");
+        r.ReadingNotes = QStringLiteral("Talk to Anna");
+        r.DealtCount = 3;
+        Deal(r, tarot_, cross_, {2024, 1, 15}, {{1, 1, true}, {2, 23, false}, {3, 5, true}});
+        AppendRecord(ReadingsPath, r);
+        r = Fixtures::NamedReading(QStringLiteral("Work"));
+        r.ReadingNotes = QStringLiteral("New job; the MOVE maybe");
+        Deal(r, tarot_, line_, {2024, 3, 2}, {{1, 1, false}, {2, 2, true}});
+        AppendRecord(ReadingsPath, r);
+        r = Fixtures::NamedReading(QStringLiteral("Secret"));
+        r.Issue = QStringLiteral("hidden words");
+        r.EntryLocked = True16;
+        r.EntryPassword = QStringLiteral("pw");
+        Deal(r, tarot_, line_, {2024, 3, 10}, {{1, 1, true}});
+        AppendRecord(ReadingsPath, r);
+        r = Fixtures::NamedReading(QStringLiteral("Bad date"));
+        Deal(r, tarot_, line_, {2024, 1, 1}, {{1, 3, true}});
+        r.SavedOn = 1e9;
+        AppendRecord(ReadingsPath, r);
+
+        DiaryRecord d = Fixtures::NamedDiary(QStringLiteral("Garden"));
+        Deal(d, tarot_, cross_, {2024, 1, 20}, {{2, 5, true}, {3, 1, true}});
+        AppendRecord(DiaryPath, d);
+        d = Fixtures::NamedDiary(QStringLiteral("Old deck"));
+        Deal(d, other_, line_, {2024, 2, 5}, {{1, 3, true}});
+        AppendRecord(DiaryPath, d);
+        d = Fixtures::NamedDiary(QStringLiteral("Gone deck"));
+        Deal(d, gone_, line_, {2024, 2, 6}, {{1, 4, false}});
+        AppendRecord(DiaryPath, d);
+        d = Fixtures::NamedDiary(QStringLiteral("Damaged"));
+        Deal(d, tarot_, line_, {2024, 2, 7}, {{1, 45, true}, {2, 2, false}});
+        AppendRecord(DiaryPath, d);
+    }
+
+    void init() {
+        ForgetUnlockedEntries();
+        Read();
+    }
+
+    void search_data() {
+        QTest::addColumn<JournalQuery>("query");
+        QTest::addColumn<bool>("unlocked");
+        QTest::addColumn<QString>("names");
+        const QString all = QStringLiteral("Move, \"north\"|Work|Secret|Bad date|Garden|Old deck|Gone deck|Damaged");
+        JournalQuery q;
+        QTest::newRow("everything") << q << false << all;
+        q.Words = QStringLiteral("MOVE");
+        QTest::newRow("words in issue and notes, case ignored") << q << false << QStringLiteral("Move, \"north\"|Work");
+        q.Words = QStringLiteral(" anna   move ");
+        QTest::newRow("every word must occur") << q << false << QStringLiteral("Move, \"north\"");
+        q.Words = QStringLiteral("hidden");
+        QTest::newRow("a locked issue is not searched") << q << false << QString();
+        QTest::newRow("until its password was given") << q << true << QStringLiteral("Secret");
+        q.Words = QStringLiteral("secret");
+        QTest::newRow("a locked name is searched") << q << false << QStringLiteral("Secret");
+        q = {};
+        q.CardDeckId = tarot_;
+        q.CardNumber = 1;
+        QTest::newRow("card") << q << false << QStringLiteral("Move, \"north\"|Work|Garden");
+        QTest::newRow("card, the locked one known") << q << true << QStringLiteral("Move, \"north\"|Work|Secret|Garden");
+        q.Orientation = Facing::Reversed;
+        QTest::newRow("card reversed") << q << false << QStringLiteral("Work");
+        q = {};
+        q.Orientation = Facing::Reversed;
+        QTest::newRow("any card reversed") << q << false
+                                           << QStringLiteral("Move, \"north\"|Work|Gone deck|Damaged");
+        q = {};
+        q.SpreadId = cross_;
+        QTest::newRow("spread") << q << false << QStringLiteral("Move, \"north\"|Garden");
+        q = {};
+        q.DeckId = other_;
+        QTest::newRow("deck") << q << false << QStringLiteral("Old deck");
+        q = {};
+        q.Readings = false;
+        QTest::newRow("diary entries only") << q << false << QStringLiteral("Garden|Old deck|Gone deck|Damaged");
+        q = {};
+        q.From = {2024, 2, 1};
+        q.To = {2024, 2, 29};
+        QTest::newRow("date range") << q << false << QStringLiteral("Old deck|Gone deck|Damaged");
+        q.To = {};
+        QTest::newRow("from a day, a date out of range left out") << q << false
+                                                                  << QStringLiteral("Work|Secret|Old deck|"
+                                                                                    "Gone deck|Damaged");
+    }
+
+    void search() {
+        QFETCH(JournalQuery, query);
+        QFETCH(bool, unlocked);
+        QFETCH(QString, names);
+        if (unlocked) {
+            RememberEntryUnlocked(EntryKind::Reading, QStringLiteral("Secret  "));
+            Read();
+        }
+        QCOMPARE(Names(query).join(QLatin1Char('|')), names);
+    }
+
+    void cardTallies_data() {
+        QTest::addColumn<Integer>("deck");
+        QTest::addColumn<int>("number");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<int>("upright");
+        QTest::addColumn<int>("reversed");
+        QTest::newRow("most frequent") << tarot_ << 1 << "Card 1" << "Major Arcana" << 2 << 1;
+        QTest::newRow("a damaged entry's good card") << tarot_ << 2 << "Card 2" << "Major Arcana" << 1 << 1;
+        QTest::newRow("upright only") << tarot_ << 5 << "Card 5" << "Major Arcana" << 2 << 0;
+        QTest::newRow("a bad date still counts its card") << tarot_ << 3 << "Card 3" << "Major Arcana" << 1 << 0;
+        QTest::newRow("revised deck, stored number") << other_ << 3 << "Card 3" << "Major Arcana" << 1 << 0;
+        QTest::newRow("removed deck, stored number") << gone_ << 4 << "Card 4" << "" << 0 << 1;
+        QTest::newRow("minor") << tarot_ << 23 << "Card 23" << "Minor Arcana" << 0 << 1;
+    }
+
+    void cardTallies() {
+        QFETCH(Integer, deck);
+        QFETCH(int, number);
+        const JournalStatistics s = TallyJournal(entries_, SearchJournal(entries_, {}), catalogue_, {});
+        QCOMPARE(s.Cards.size(), std::size_t(7));   // a card beyond its deck counts nowhere
+        QCOMPARE(s.Cards.front().Number, Integer(1));
+        const auto found = std::find_if(s.Cards.begin(), s.Cards.end(),
+                                        [&](const CardTally& c) { return c.DeckId == deck && c.Number == number; });
+        QVERIFY(found != s.Cards.end());
+        QTEST(found->Title, "title");
+        QTEST(found->TypeName, "type");
+        QTEST(found->Upright, "upright");
+        QTEST(found->Reversed, "reversed");
+    }
+
+    void figures() {
+        const JournalStatistics s = TallyJournal(entries_, SearchJournal(entries_, {}), catalogue_, {});
+        QCOMPARE(s.Entries, 8);
+        QCOMPARE(s.Locked, 1);
+        QCOMPARE(s.Unattributable, 4);   // revised, removed, card beyond the deck, bad date
+        QCOMPARE(s.Upright, 7);
+        QCOMPARE(s.Reversed, 4);
+        QCOMPARE(s.Types.size(), std::size_t(2));
+        QCOMPARE(s.Types[0].Name + QString::number(s.Types[0].Count), QStringLiteral("Major Arcana9"));
+        QCOMPARE(s.Types[1].Count, 1);
+        QStringList months;
+        for (const NamedCount& m : s.Months) months << m.Name + QLatin1Char('=') + QString::number(m.Count);
+        QCOMPARE(months.join(QLatin1Char(' ')), QStringLiteral("2024/01=2 2024/02=3 2024/03=2"));
+        JournalQuery range;
+        range.From = {2023, 12, 1};
+        range.To = {2024, 1, 31};
+        QCOMPARE(TallyJournal(entries_, SearchJournal(entries_, range), catalogue_, range).Months.size(),
+                 std::size_t(2));
+
+        // Location 2 of Cross: card 23 once, card 5 once; the lower number first.
+        const auto locations = TallyLocations(entries_, SearchJournal(entries_, {}), catalogue_, cross_, 1);
+        QCOMPARE(locations.size(), std::size_t(3));
+        QCOMPARE(locations[1].Title, QStringLiteral("Position 2"));
+        QCOMPARE(locations[1].Cards.size(), std::size_t(1));
+        QCOMPARE(locations[1].Cards[0].Number, Integer(5));
+        QCOMPARE(locations[2].Cards[0].Number, Integer(1));
+    }
+
+    void csvAndNothingWritten() {
+        const auto before = Snapshot(dir_.path());
+        Read();
+        JournalQuery q;
+        q.Words = QStringLiteral("anna");
+        QCOMPARE(JournalCsv(entries_, SearchJournal(entries_, q), catalogue_),
+                 QByteArray("\xEF\xBB\xBF"
+                            "Date,Kind,Entry,Spread,Location,Location Title,Deck,Card,Orientation\r\n"
+                            "2024/01/15,Reading,\"Move, \"\"north\"\"\",Cross,1,Position 1,Tarot,Card 1,Upright\r\n"
+                            "2024/01/15,Reading,\"Move, \"\"north\"\"\",Cross,2,Position 2,Tarot,Card 23,Reversed\r\n"
+                            "2024/01/15,Reading,\"Move, \"\"north\"\"\",Cross,3,Position 3,Tarot,Card 5,Upright\r\n"));
+        q.Words = QStringLiteral("secret");
+        QCOMPARE(JournalCsv(entries_, SearchJournal(entries_, q), catalogue_).count('\n'), 1);
+        QCOMPARE(Snapshot(dir_.path()), before);
+    }
+
+    // The screen: typing selects, opening goes the Past screens' way.
+    void screenSearchesAndOpens() {
+        Get<frmJournal>().Show();
+        QTest::keyClicks(Get<frmJournal>().txtWords, QStringLiteral("anna"));
+        QTRY_COMPARE(Get<frmJournal>().grdResults->model()->rowCount(), 1);
+        Get<frmJournal>().grdResults->selectRow(0);
+        Get<frmJournal>().cmdOpen->click();
+        QTRY_VERIFY(IsLoaded<frmNewReading>() && !IsLoaded<frmJournal>());
+        QCOMPARE(CurrentReading.ReadingNotes.Trimmed(), QStringLiteral("Talk to Anna"));
+        Get<frmNewReading>().CloseReading();
+    }
+};
+
+QTEST_MAIN(TestJournal)
+#include "tst_journal.moc"
