@@ -21,6 +21,7 @@
 #include <QPushButton>
 #include <QStyle>
 #include <QStyleOptionTitleBar>
+#include <QTableView>
 #include <QTextBrowser>
 #include <QTimer>
 #include <QtMath>
@@ -32,6 +33,7 @@
 #include "decks/frmAddCard.h"
 #include "decks/frmDecks.h"
 #include "decks/frmDesignDeck.h"
+#include "decks/frmImportPictures.h"
 #include "diary/frmDiaryCards.h"
 #include "diary/frmNewDiary.h"
 #include "diary/frmSelectSpreadforDiary.h"
@@ -39,6 +41,7 @@
 #include "packages/frmCreatePackage.h"
 #include "packages/frmInstallPackage.h"
 #include "platform/Application.h"
+#include "platform/CommonDialog.h"
 #include "platform/FileLists.h"
 #include "platform/FileSys.h"
 #include "platform/MediaPlayer.h"
@@ -504,6 +507,26 @@ void Decks() {
     frmDesignDeck& design = Get<frmDesignDeck>();
     design.lstCards->setCurrentRow(RowOf(design.lstCards, QStringLiteral("The Star")));
     Shot(QStringLiteral("deck-design"));
+
+    // The import, on a folder of a few of the deck's own pictures and a note.
+    const QString scans = QDir(AppPath).absoluteFilePath(QStringLiteral("../Scans")) + QLatin1Char('/');
+    QDir().mkpath(scans);
+    const char* names[] = {"01 the_moon", "02 the-sun", "03 the_world", "10 ace of cups", "11 two of cups"};
+    for (int i = 0; i < 5; ++i) {
+        const QString picture = CurrentDeck.DeckCards(i + 1).CardPicture[0].Trimmed();
+        FileCopy(CardsDir + picture, scans + QLatin1String(names[i]) + picture.right(4));
+    }
+    WriteWholeFile(scans + QStringLiteral("contents.txt"), "the cards of the deck");
+    CommonDialogScript::Enable();
+    CommonDialogScript::Answer(scans);
+    WhenShown<frmImportPictures>([](frmImportPictures& import) {
+        Settle(600);
+        import.tblPictures->selectRow(3);
+        Shot(QStringLiteral("deck-import"));
+        import.cmdCancel_Click();
+    });
+    design.cmdImportPictures_Click();
+    Settle();
 
     design.cmdEditCard_Click();
     Settle();

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "decks/CardStore.h"
 #include "decks/frmDesignDeck.h"
 #include "decks/frmGetImageFile.h"
 #include "decks/frmGetSoundFile.h"
@@ -121,36 +122,13 @@ void frmAddCard::TakeWorkingSound(int side, const QString& workingName) {
     DesignModified = true;
 }
 
-namespace {
-
-// Gives a working file its final name in Temp/. A copy that fails leaves the
-// card with a name that no file answers to; the store goes on regardless.
-void RenameWorkingFile(const QString& workingName, const QString& finalName, bool keepWorkingFile = false) {
-    try {
-        FileCopy(TempDir + workingName, TempDir + finalName);
-    } catch (const RuntimeError&) {
-    }
-    if (!keepWorkingFile) KillIgnoringErrors(TempDir + workingName);
-}
-
-}  // namespace
-
 void frmAddCard::StoreCard() {
-    if (CurrentCard.CardTitle.IsBlank()) {
-        MsgBox(QStringLiteral("Please enter a title for this card."), vbInformation);
+    // An edited card keeps its own title, which the deck holds already.
+    const QString problem = NewCardTitleProblem(CurrentCard.CardTitle.Value());
+    if (!problem.isEmpty() && (DesignMode == 1 || CurrentCard.CardTitle.IsBlank())) {
+        MsgBox(problem, vbInformation);
         SaveSuccessful = false;
         return;
-    }
-    if (DesignMode == 1) {
-        const QString title = CurrentCard.CardTitle.Trimmed();
-        for (const CardRecord& card : CurrentDeck.DeckCards) {
-            if (card.CardTitle.Trimmed() == title) {
-                MsgBox(QStringLiteral("You already have a card with the same title. Please change the title."),
-                       vbInformation);
-                SaveSuccessful = false;
-                return;
-            }
-        }
     }
     CurrentCard.CardReserved = 0;
     if (DesignMode == 1) AddTolstCards = true;
@@ -160,15 +138,11 @@ void frmAddCard::StoreCard() {
         return;
     }
 
-    if (UprightPictureFile.startsWith(UprightPictureStem)) {
-        CurrentCard.CardPicture[0] = CardUprightName(FreeCardNumber(0, {TempDir})) + UprightPictureFile.right(4);
-        RenameWorkingFile(UprightPictureFile, CurrentCard.CardPicture[0].Value());
-    }
-    if (ReversedPictureFile.startsWith(ReversedPictureStem)) {
-        CurrentCard.CardPicture[1] = CardReversedName(FreeCardNumber(1, {TempDir})) + ReversedPictureFile.right(4);
-        RenameWorkingFile(ReversedPictureFile, CurrentCard.CardPicture[1].Value(),
-                          ReversedPictureFile == DefaultPicturePath);
-    }
+    if (UprightPictureFile.startsWith(UprightPictureStem))
+        CurrentCard.CardPicture[0] = PlaceWorkingPicture(0, UprightPictureFile);
+    if (ReversedPictureFile.startsWith(ReversedPictureStem))
+        CurrentCard.CardPicture[1] =
+            PlaceWorkingPicture(1, ReversedPictureFile, ReversedPictureFile == DefaultPicturePath);
     const QString soundFiles[2] = {UprightSoundFile, ReversedSoundFile};
     const QString soundStems[2] = {UprightSoundStem, ReversedSoundStem};
     for (std::size_t side = 0; side < 2; ++side) {
@@ -191,14 +165,8 @@ void frmAddCard::StoreCard() {
 }
 
 void frmAddCard::UpdateThisCartoDeck_frmDesignDeck() {
-    int position = CardPositionBeingEdited;
-    if (AddTolstCards) {
-        CurrentDeck.CardCount = static_cast<Integer>(CurrentDeck.CardCount + 1);
-        CurrentDeck.DeckCards.RedimPreserve(CurrentDeck.CardCount);
-        position = CurrentDeck.CardCount;
-        CardPositionBeingEdited = position;
-    }
-    CurrentDeck.DeckCards(position) = CurrentCard;
+    if (AddTolstCards) CardPositionBeingEdited = AppendDeckCard(CurrentCard);
+    else CurrentDeck.DeckCards(CardPositionBeingEdited) = CurrentCard;
     Get<frmDesignDeck>().RefreshCardList();
 }
 
