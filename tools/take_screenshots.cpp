@@ -22,6 +22,7 @@
 #include <QTabWidget>
 #include <QStyle>
 #include <QStyleOptionTitleBar>
+#include <QTableView>
 #include <QTextBrowser>
 #include <QTimer>
 #include <QtMath>
@@ -65,6 +66,8 @@
 #include "core/store/RunState.h"
 #include "screens/shell/Emblems.h"
 #include "screens/journal/frmJournal.h"
+#include "screens/decks/frmImportPictures.h"
+#include "screens/platform/CommonDialog.h"
 
 namespace {
 
@@ -564,6 +567,26 @@ void Decks() {
     frmDesignDeck& design = Get<frmDesignDeck>();
     design.lstCards->setCurrentRow(RowOf(design.lstCards, QStringLiteral("The Star")));
     Shot(QStringLiteral("deck-design"));
+
+    // The import, on a folder of a few of the deck's own pictures and a note.
+    const QString scans = QDir(AppPath).absoluteFilePath(QStringLiteral("../Scans")) + QLatin1Char('/');
+    QDir().mkpath(scans);
+    const char* names[] = {"01 the_moon", "02 the-sun", "03 the_world", "10 ace of cups", "11 two of cups"};
+    for (int i = 0; i < 5; ++i) {
+        const QString picture = CurrentDeck.DeckCards(i + 1).CardPicture[0].Trimmed();
+        FileCopy(CardsDir + picture, scans + QLatin1String(names[i]) + picture.right(4));
+    }
+    WriteWholeFile(scans + QStringLiteral("contents.txt"), "the cards of the deck");
+    CommonDialogScript::Enable();
+    CommonDialogScript::Answer(scans);
+    WhenShown<frmImportPictures>([](frmImportPictures& import) {
+        Settle(600);
+        import.tblPictures->selectRow(3);
+        Shot(QStringLiteral("deck-import"));
+        import.cmdCancel_Click();
+    });
+    design.cmdImportPictures_Click();
+    Settle();
 
     design.cmdEditCard_Click();
     Settle();

@@ -3,6 +3,9 @@
 // no picture, a deck without reversed cards, the properties fixed once
 // configured, and the questions on leaving.
 #include <QCheckBox>
+#include <QComboBox>
+#include <QStandardItemModel>
+#include <QTableView>
 #include <QLineEdit>
 #include "core/store/RunState.h"
 #include "screens/platform/ListBox.h"
@@ -27,6 +30,8 @@
 #include "screens/platform/MsgBox.h"
 #include "screens/store/Startup.h"
 #include "core/store/Lookups.h"
+#include "screens/decks/frmImportPictures.h"
+#include "screens/platform/CommonDialog.h"
 #include "support/Fixtures.h"
 
 class TestCardRules : public QObject {
@@ -61,6 +66,7 @@ private slots:
     void initTestCase() {
         MsgBoxScript::Enable();
         MediaPlayerScript::Enable();
+        CommonDialogScript::Enable();
         SetEndProcessHook([](int code) { QFAIL(qPrintable(QStringLiteral("process ended with %1").arg(code))); });
         Fixtures::UseProgramDir(program_.path());
         ResetDeckDesignState();
@@ -81,8 +87,44 @@ private slots:
         QCOMPARE(LastPrompt(), QStringLiteral("The number of cards in a deck cannot exceed 100."));
         QCOMPARE(MsgBoxScript::History().last().style, int(vbCritical));
         QVERIFY(!IsLoaded<frmAddCard>());
+        // The import is refused the same way, before a folder is asked.
+        const auto boxes = MsgBoxScript::History().size();
+        designer.cmdImportPictures_Click();
+        QCOMPARE(MsgBoxScript::History().size(), boxes + 1);
+        QCOMPARE(LastPrompt(), MsgBoxScript::History()[boxes - 1].prompt);
+        QVERIFY(CommonDialogScript::History().isEmpty());
         QVERIFY(none.Done());
         QCOMPARE(CurrentDeck.CardCount, MaxDeckCards);
+    }
+
+    // The import's wiring: the folder asked, a title edited, a row left out
+    // by Delete, the type of a selection set, OK.
+    void importPicturesAddsTheKeptRows() {
+        const QString folder = src_ + QStringLiteral("/scans/");
+        QDir().mkpath(folder);
+        for (const QString name : {QStringLiteral("10 star.bmp"), QStringLiteral("2 moon.bmp"), QStringLiteral("1 sun.bmp")})
+            Fixtures::WritePicture(folder + name);
+        frmDesignDeck& designer = Design(QStringLiteral("Plain"));
+        CommonDialogScript::Answer(folder);
+        ModalScript import;
+        import.On<frmImportPictures>([](frmImportPictures& s) {
+            s.mdlPictures->item(1, 1)->setText(QStringLiteral("Moon Rising"));
+            s.tblPictures->setFocus();
+            s.tblPictures->selectRow(2);
+            QTest::keyClick(s.tblPictures, Qt::Key_Delete);
+            s.tblPictures->selectRow(0);
+            s.cboType->setCurrentIndex(1);
+            s.cmdSetType->click();
+            s.cmdOK->click();
+        });
+        QTest::mouseClick(designer.cmdImportPictures, Qt::LeftButton);
+        QVERIFY(import.Done());
+        QCOMPARE(CurrentDeck.CardCount, 4);
+        QCOMPARE(CurrentDeck.DeckCards(3).CardTitle.Trimmed(), QStringLiteral("Sun"));
+        QCOMPARE(CurrentDeck.DeckCards(3).CardType, 1);
+        QCOMPARE(CurrentDeck.DeckCards(4).CardTitle.Trimmed(), QStringLiteral("Moon Rising"));
+        QVERIFY(LineOf(designer.lstCards, QStringLiteral("Moon Rising")) >= 0);
+        QVERIFY(designer.DesignModified);
     }
 
     void titlesMustBeFilledAndUnique() {

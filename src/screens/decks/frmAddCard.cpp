@@ -20,6 +20,7 @@
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/store/Startup.h"
 #include "core/store/DeckLoading.h"
+#include "core/decks/CardStore.h"
 
 frmAddCard::frmAddCard() : CardScreen(QStringLiteral("Add Card"), true) {
     setObjectName(QStringLiteral("frmAddCard"));
@@ -124,36 +125,13 @@ void frmAddCard::TakeWorkingSound(int side, const QString& workingName) {
     DesignModified = true;
 }
 
-namespace {
-
-// Gives a working file its final name in Temp/. A copy that fails leaves the
-// card with a name that no file answers to; the store goes on regardless.
-void RenameWorkingFile(const QString& workingName, const QString& finalName, bool keepWorkingFile = false) {
-    try {
-        FileCopy(TempDir + workingName, TempDir + finalName);
-    } catch (const RuntimeError&) {
-    }
-    if (!keepWorkingFile) KillIgnoringErrors(TempDir + workingName);
-}
-
-}  // namespace
-
 void frmAddCard::StoreCard() {
-    if (CurrentCard.CardTitle.IsBlank()) {
-        MsgBox(QStringLiteral("Please enter a title for this card."), vbInformation);
+    // An edited card keeps its own title, which the deck holds already.
+    const QString problem = NewCardTitleProblem(CurrentCard.CardTitle.Value());
+    if (!problem.isEmpty() && (DesignMode == 1 || CurrentCard.CardTitle.IsBlank())) {
+        MsgBox(problem, vbInformation);
         SaveSuccessful = false;
         return;
-    }
-    if (DesignMode == 1) {
-        const QString title = CurrentCard.CardTitle.Trimmed();
-        for (const CardRecord& card : CurrentDeck.DeckCards) {
-            if (card.CardTitle.Trimmed() == title) {
-                MsgBox(QStringLiteral("You already have a card with the same title. Please change the title."),
-                       vbInformation);
-                SaveSuccessful = false;
-                return;
-            }
-        }
     }
     CurrentCard.CardReserved = 0;
     if (DesignMode == 1) AddTolstCards = true;
@@ -164,14 +142,10 @@ void frmAddCard::StoreCard() {
     }
 
     CardWorkingFiles& files = WorkingFiles();
-    if (files.Picture[0].startsWith(UprightPictureStem)) {
-        CurrentCard.CardPicture[0] = CardUprightName(FreeCardNumber(0, {TempDir})) + files.Picture[0].right(4);
-        RenameWorkingFile(files.Picture[0], CurrentCard.CardPicture[0].Value());
-    }
-    if (files.Picture[1].startsWith(ReversedPictureStem)) {
-        CurrentCard.CardPicture[1] = CardReversedName(FreeCardNumber(1, {TempDir})) + files.Picture[1].right(4);
-        RenameWorkingFile(files.Picture[1], CurrentCard.CardPicture[1].Value(), files.Picture[1] == DefaultPicturePath);
-    }
+    if (files.Picture[0].startsWith(UprightPictureStem))
+        CurrentCard.CardPicture[0] = PlaceWorkingPicture(0, files.Picture[0]);
+    if (files.Picture[1].startsWith(ReversedPictureStem))
+        CurrentCard.CardPicture[1] = PlaceWorkingPicture(1, files.Picture[1], files.Picture[1] == DefaultPicturePath);
     const std::array<QString, 2> soundFiles = files.Sound;
     const QString soundStems[2] = {UprightSoundStem, ReversedSoundStem};
     for (std::size_t side = 0; side < 2; ++side) {
@@ -192,14 +166,8 @@ void frmAddCard::StoreCard() {
 }
 
 void frmAddCard::UpdateThisCartoDeck_frmDesignDeck() {
-    int position = CardPositionBeingEdited;
-    if (AddTolstCards) {
-        CurrentDeck.CardCount = static_cast<Integer>(CurrentDeck.CardCount + 1);
-        CurrentDeck.DeckCards.RedimPreserve(CurrentDeck.CardCount);
-        position = CurrentDeck.CardCount;
-        CardPositionBeingEdited = position;
-    }
-    CurrentDeck.DeckCards(position) = CurrentCard;
+    if (AddTolstCards) CardPositionBeingEdited = AppendDeckCard(CurrentCard);
+    else CurrentDeck.DeckCards(CardPositionBeingEdited) = CurrentCard;
     Get<frmDesignDeck>().RefreshCardList();
 }
 

@@ -20,12 +20,18 @@
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
 #include "core/store/NewDesigns.h"
+#include "core/decks/CardStore.h"
+#include "screens/decks/frmImportPictures.h"
+#include "screens/platform/CommonDialog.h"
 
 frmDesignDeck::frmDesignDeck() : DeckScreen(QStringLiteral("Deck Design"), true) {
     setObjectName(QStringLiteral("frmDesignDeck"));
     cmdAddCard = MakeButton(this, "cmdAddCard", QStringLiteral("&Add"), At(5640, 4620, 1020, 420));
     cmdDeleteCard = MakeButton(this, "cmdDeleteCard", QStringLiteral("Dele&te"), At(7860, 4620, 1020, 420));
     cmdSave = MakeButton(this, "cmdSave", QStringLiteral("&Save"), At(5700, 5580, 1500, 420));
+    // In the gap between the notes and the save buttons, so nothing moves.
+    cmdImportPictures =
+        MakeButton(this, "cmdImportPictures", QStringLiteral("&Import Pictures..."), At(3540, 5580, 2040, 420));
 
     connect(txtDeckTitle, &QLineEdit::textChanged, this, Handler([this] { txtDeckTitle_Change(); }));
     // Each of the other boxes stores its own field and marks the deck changed.
@@ -48,6 +54,7 @@ frmDesignDeck::frmDesignDeck() : DeckScreen(QStringLiteral("Deck Design"), true)
     connect(cmdEditCard, &QPushButton::clicked, this, Handler([this] { cmdEditCard_Click(); }));
     connect(cmdDeleteCard, &QPushButton::clicked, this, Handler([this] { cmdDeleteCard_Click(); }));
     connect(cmdSave, &QPushButton::clicked, this, Handler([this] { cmdSave_Click(); }));
+    connect(cmdImportPictures, &QPushButton::clicked, this, Handler([this] { cmdImportPictures_Click(); }));
     connect(cmdProperties, &QPushButton::clicked, this, Handler([this] { cmdProperties_Click(); }));
     connect(cmdComments, &QPushButton::clicked, this, Handler([this] { cmdComments_Click(); }));
     connect(cmdBack, &QPushButton::clicked, this, Handler([this] { cmdBack_Click(); }));
@@ -106,9 +113,7 @@ void frmDesignDeck::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) 
 
 void frmDesignDeck::cmdAddCard_Click() {
     if (CurrentDeck.CardCount >= MaxDeckCards) {
-        MsgBox(QStringLiteral("The number of cards in a deck cannot exceed ") + QString::number(MaxDeckCards) +
-                   QStringLiteral("."),
-               vbCritical);
+        MsgBox(CardLimitMessage(), vbCritical);
         return;
     }
     DesignMode = 1;
@@ -180,6 +185,18 @@ void frmDesignDeck::cmdDeleteCard_Click() {
 }
 
 void frmDesignDeck::cmdSave_Click() { Get<frmSaveDeck>().Show(true); }
+
+void frmDesignDeck::cmdImportPictures_Click() {
+    if (CurrentDeck.CardCount >= MaxDeckCards) {
+        MsgBox(CardLimitMessage(), vbCritical);
+        return;
+    }
+    CommonDialog dialog;
+    dialog.DialogTitle = QStringLiteral("Import Pictures");
+    dialog.FileName = RememberedPictureFolder().Folder;
+    if (!dialog.ShowFolder()) return;
+    Get<frmImportPictures>().ShowFolder(dialog.FileName);
+}
 
 void frmDesignDeck::cmdProperties_Click() { Get<frmDeckCardProperties>().Show(true); }
 

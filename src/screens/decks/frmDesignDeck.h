@@ -17,6 +17,7 @@ public:
     QPushButton* cmdAddCard;
     QPushButton* cmdDeleteCard;
     QPushButton* cmdSave;
+    QPushButton* cmdImportPictures;
 
     bool DesignModified = false;
     bool Loading = false;
@@ -28,6 +29,8 @@ public:
     void cmdEditCard_Click();
     void cmdDeleteCard_Click();
     void cmdSave_Click();
+    // Makes cards of the pictures of a folder, many at once.
+    void cmdImportPictures_Click();
     void cmdProperties_Click();
     void cmdComments_Click();
     void cmdBack_Click();

@@ -46,11 +46,14 @@ bool CommonDialog::Finish(bool chosen, const QString& path) {
     return true;
 }
 
-bool CommonDialog::ShowOpen() { return Show(false); }
+bool CommonDialog::ShowOpen() { return Show(Kind::Open); }
 
-bool CommonDialog::ShowSave() { return Show(true); }
+bool CommonDialog::ShowSave() { return Show(Kind::Save); }
 
-bool CommonDialog::Show(bool saving) {
+bool CommonDialog::ShowFolder() { return Show(Kind::Folder); }
+
+bool CommonDialog::Show(Kind kind) {
+    const bool saving = kind == Kind::Save;
     Script& s = TheScript();
     if (s.enabled) {
         s.history.append({DialogTitle, Filter, FilterIndex, FileName, saving});
@@ -64,14 +67,19 @@ bool CommonDialog::Show(bool saving) {
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         dialog.setFileMode(QFileDialog::AnyFile);
         if (!(Flags & cdlOFNOverwritePrompt)) dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    } else if (kind == Kind::Folder) {
+        dialog.setFileMode(QFileDialog::Directory);
+        dialog.setOption(QFileDialog::ShowDirsOnly);
     } else {
         dialog.setFileMode(QFileDialog::ExistingFile);
         dialog.setAcceptMode(QFileDialog::AcceptOpen);
     }
     const QStringList filters = QtFilters(Filter);
-    dialog.setNameFilters(filters);
+    if (!filters.isEmpty()) dialog.setNameFilters(filters);
     if (FilterIndex >= 1 && FilterIndex <= filters.size()) dialog.selectNameFilter(filters[FilterIndex - 1]);
-    if (!FileName.isEmpty()) {
+    if (kind == Kind::Folder && !FileName.isEmpty()) {
+        dialog.setDirectory(FileName);
+    } else if (!FileName.isEmpty()) {
         if (saving) {
             const QFileInfo proposed(FileName);
             dialog.setDirectory(proposed.absolutePath());

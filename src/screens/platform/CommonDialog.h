@@ -23,6 +23,8 @@ public:
     // CancelError is set) when cancelled.
     bool ShowOpen();
     bool ShowSave();
+    // Chooses a folder; FileName is its path.
+    bool ShowFolder();
 
     // Flag values used by the screens.
     static constexpr int cdlOFNOverwritePrompt = 2;
@@ -30,7 +32,8 @@ public:
     static constexpr int cdlOFNPathMustExist = 2048;
 
 private:
-    bool Show(bool saving);
+    enum class Kind { Open, Save, Folder };
+    bool Show(Kind kind);
     bool Finish(bool chosen, const QString& path);
 };
 

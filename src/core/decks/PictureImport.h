@@ -1,0 +1,112 @@
+#pragma once
+// A deck made from a folder of pictures in one step: every picture of the
+// folder offered as a card in the order people count, a title made from its
+// file name, its reversed side found by name or made by turning it, and the
+// cards the user keeps added to the deck being designed exactly as the card
+// editor adds new cards one by one. The pictures are worked on all cores into
+// Temp/ under names of their own; only Commit gives them their card names, so
+// that a cancelled import leaves the design as it was.
+#include <QImage>
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QThreadPool>
+#include <atomic>
+#include <vector>
+
+// Whether a comes before b as people count: runs of digits compare as
+// numbers ("2" before "10"), letters without regard to case.
+bool NaturalLess(const QString& a, const QString& b);
+
+// A card's title from a picture's file name: the extension dropped,
+// separators ('_', '-', '.', spaces) made single spaces, a leading number
+// dropped (it only gave the order), each word begun with a capital, cut to
+// the title's 50 characters. A name that is only a number keeps it.
+QString TitleFromFileName(const QString& fileName);
+
+// The upright picture among names whose reversed side this file is by its
+// name: for "x.jpg", "x-reversed.jpg", "x_r.jpg" or "x reversed.jpg", of any
+// picture extension and any case. Empty when it is no such file.
+QString UprightPartnerOf(const QString& fileName, const QStringList& names);
+
+// Where the reversed sides of the imported cards come from.
+enum class ReversedSide { None, Turned, OwnFile };
+
+// One picture of the folder offered as a card.
+struct ProposedCard {
+    QString File;           // its name in the folder
+    QString ReversedFile;   // its reversed side found by name; empty when none
+    QString Title;
+    int CardType = 0;
+    bool Included = true;
+};
+
+// A folder sorted out: the pictures as cards in natural order (reversed
+// sides found by name stand beside their upright, not as cards of their
+// own), and every other file, which is not a picture or cannot be read.
+struct FolderPictures {
+    QList<ProposedCard> Cards;
+    QStringList NotPictures;
+};
+FolderPictures ListFolderPictures(const QString& folder, int cardType);
+
+// A picture scaled to fit a square of that side, for the list; a null
+// image when the file cannot be read.
+QImage PictureThumbnail(const QString& path, int side);
+
+// Works one side of a card into folder under the stem given: a picture in a
+// format the deck's files hold (BMP, JPEG, GIF) is copied as it is; any other
+// format Qt reads is converted to JPEG; with turn, the picture is turned half
+// a turn. The name written (stem and extension), or empty when the source
+// cannot be read or the result cannot be written.
+QString WorkOnPicture(const QString& source, const QString& folder, const QString& stem, bool turn);
+
+// The included cards that fit in the deck beside the cards it has; the
+// titles of the included cards past the limit go to pastLimit.
+QList<ProposedCard> CardsWithinLimit(const QList<ProposedCard>& cards, QStringList& pastLimit);
+
+// The first included card whose title a new card may not take (blank, or
+// the title of a card of the deck or of an earlier included card), with the
+// card editor's message for it; -1 when every title may be taken.
+int FirstTitleProblem(const QList<ProposedCard>& cards, QString& message);
+
+// The pictures of a list of cards worked on all cores. Start returns at
+// once; Progress and Done report from the workers to the owner's thread.
+class PictureImport : public QObject {
+    Q_OBJECT
+public:
+    PictureImport(const QString& folder, const QList<ProposedCard>& cards, ReversedSide reversed);
+    ~PictureImport() override;   // cancels what is left
+
+    void Start();
+    void WaitForDone();
+    // Stops the pictures not begun, waits for those under way and removes
+    // every file the import wrote: Temp/ and the deck stay as they were.
+    void Cancel();
+    // Adds the worked cards to the deck in memory in list order, as the card
+    // editor stores new cards; the file names of the cards whose pictures
+    // could not be read, which are not added.
+    QStringList Commit();
+
+signals:
+    void Progress(int done, int total);
+    void Done();
+
+private:
+    struct Worked {
+        QString Upright;    // name written in Temp/, empty on failure
+        QString Reversed;   // empty when the side stays on the default picture
+        bool Failed = true;   // until its work is done
+    };
+    void WorkOn(int index);
+    void RemoveWorkFiles();
+
+    QString folder_;
+    QList<ProposedCard> cards_;
+    ReversedSide reversed_;
+    std::vector<Worked> worked_;
+    std::atomic<bool> cancelled_{false};
+    std::atomic<int> done_{0};
+    QThreadPool pool_;
+};
