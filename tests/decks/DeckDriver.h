@@ -4,17 +4,12 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QList>
-#include "platform/ListBox.h"
+#include "support/ScreenTest.h"
 #include <QSet>
-#include <QtTest>
 #include <functional>
 
 #include "decks/FileChooser.h"
 #include "platform/FileLists.h"
-#include "platform/FileSys.h"
-#include "support/ModalScript.h"
-#include "store/RecordFile.h"
-#include "store/mdlVariables.h"
 
 inline int LineOf(const QListWidget* list, const QString& text) {
     for (int i = 0; i < list->count(); ++i)

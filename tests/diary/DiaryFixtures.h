@@ -1,10 +1,6 @@
 #pragma once
 // What the diary tests share: the way in through the main screen's Diary
 // buttons, and the card choice driven as the keeper drives it.
-#include <QCheckBox>
-#include <QComboBox>
-#include "platform/ListBox.h"
-#include <QPushButton>
 
 #include "diary/frmDiaryCards.h"
 #include "diary/frmDiaryInterpretLocation.h"

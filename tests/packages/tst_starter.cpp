@@ -2,14 +2,8 @@
 // are drawn the same every time, and the package the build makes installs a
 // deck and spreads that a reading can use at once.
 #include <QImage>
-#include <QLabel>
-#include <QLineEdit>
 #include <QProcess>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QTest>
 
-#include "support/ModalScript.h"
 #include "StarterPictures.h"
 #include "StarterSource.h"
 #include "packages/PackageSummary.h"
@@ -18,7 +12,6 @@
 #include "platform/FileLists.h"
 #include "platform/Picture.h"
 #include "readings/ReadingFixtures.h"
-#include "platform/ListBox.h"
 #include "shell/ClickLabel.h"
 #include "spreads/frmDeckChooser.h"
 

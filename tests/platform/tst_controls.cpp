@@ -1,13 +1,10 @@
 // The list box every screen's lists are, the file choosers and the media
 // player that the design and package screens build on.
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/ScreenTest.h"
 
 #include "platform/CommonDialog.h"
 #include "platform/Errors.h"
 #include "platform/FileLists.h"
-#include "platform/FileSys.h"
-#include "platform/ListBox.h"
 #include "platform/MediaPlayer.h"
 
 class TestControls : public QObject {

@@ -1,15 +1,13 @@
 // The screen model: created at first use, loaded once, unloaded on request
 // (and only when the screen agrees), shown modally with the caller waiting,
 // keys seen by the screen before its controls.
-#include <QLineEdit>
+#include "support/ScreenTest.h"
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QTimer>
-#include <QtTest>
 
 #include "platform/Errors.h"
 #include "platform/Form.h"
-#include "platform/MsgBox.h"
 #include "platform/Twips.h"
 
 namespace {

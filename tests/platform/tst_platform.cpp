@@ -4,18 +4,14 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QImage>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/ScreenTest.h"
 
 #include "platform/Arrays.h"
 #include "platform/CodePage.h"
 #include "platform/Errors.h"
-#include "platform/FileSys.h"
-#include "platform/MsgBox.h"
 #include "platform/OleDate.h"
 #include "platform/Picture.h"
 #include "platform/Rnd.h"
-#include "support/Prompts.h"
 
 class TestPlatform : public QObject {
     Q_OBJECT

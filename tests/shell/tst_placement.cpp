@@ -3,20 +3,15 @@
 // centring, the default picture for a missing or broken file).
 #include <QFile>
 #include <QMdiArea>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/ScreenTest.h"
 
 #include "platform/Form.h"
-#include "platform/MsgBox.h"
 #include "platform/Picture.h"
 #include "platform/Twips.h"
 #include "shell/FitPicture.h"
 #include "shell/ImageBox.h"
 #include "shell/mdlFORM.h"
 #include "store/Startup.h"
-#include "store/mdlVariables.h"
-#include "support/Fixtures.h"
-#include "support/Prompts.h"
 
 namespace {
 

@@ -4,20 +4,16 @@
 // the installer on it instead of offering to install designs.
 #include <QDir>
 #include <QFile>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/ScreenTest.h"
 
 #include "packages/frmInstallPackage.h"
 #include "platform/FileLists.h"
-#include "platform/MsgBox.h"
 #include "platform/ProgramLock.h"
 #include "platform/UserFolders.h"
 #include "shell/MDIMainForm.h"
 #include "shell/ProgramFolder.h"
 #include "shell/frmMainScreen.h"
 #include "store/Startup.h"
-#include "store/mdlVariables.h"
 
 namespace {
 

@@ -4,21 +4,16 @@
 // the ways the process ends.
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/ScreenTest.h"
 #include <csignal>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "platform/FileSys.h"
-#include "platform/MsgBox.h"
 #include "platform/Picture.h"
 #include "platform/ProgramLock.h"
 #include "shell/frmMainScreen.h"
 #include "store/Startup.h"
 #include "store/mdlTypes.h"
-#include "store/mdlVariables.h"
-#include "support/Prompts.h"
 
 namespace {
 

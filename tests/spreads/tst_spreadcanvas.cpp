@@ -1,20 +1,14 @@
 // The designer's canvas: the grid and snapping arithmetic to the twip, the
 // limits of adding and removing locations, the keys of a rectangle, the
 // grid's 82 lines, and the stacking of rectangles above grid and picture.
-#include <QLabel>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/ScreenTest.h"
 
-#include "platform/MsgBox.h"
 #include "shell/ImageBox.h"
 #include "spreads/SpreadCanvas.h"
 #include "spreads/TextBoxes.h"
 #include "spreads/frmDesignSpread.h"
 #include "spreads/frmLocationAttributes.h"
 #include "spreads/frmSpreads.h"
-#include "store/mdlSubRoutines.h"
-#include "support/Fixtures.h"
 #include "SpreadTestKit.h"
 
 using namespace SpreadTestKit;

@@ -4,20 +4,12 @@
 // Cancel must leave everything as it was. The old files are built here byte by
 // byte from the layout tables, not through the record codec, so the offsets
 // are checked independently.
-#include <QLabel>
-#include <QPushButton>
+#include "support/ScreenTest.h"
 #include <QRandomGenerator>
-#include <QTemporaryDir>
-#include <QtTest>
 #include <cstring>
 #include <functional>
 
-#include "platform/FileSys.h"
-#include "platform/MsgBox.h"
 #include "store/frmConvert.h"
-#include "store/mdlVariables.h"
-#include "support/Fixtures.h"
-#include "support/ModalScript.h"
 
 namespace {
 

@@ -1,0 +1,23 @@
+#pragma once
+// What every test of the screens reaches for: QtTest, the widgets the
+// screens are built of, the scripted boxes and modal screens, and a program
+// directory laid out by the fixtures.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "platform/FileSys.h"
+#include "platform/ListBox.h"
+#include "platform/MsgBox.h"
+#include "store/RecordFile.h"
+#include "store/mdlSubRoutines.h"
+#include "store/mdlVariables.h"
+#include "support/Fixtures.h"
+#include "support/ModalScript.h"
+#include "support/Prompts.h"
