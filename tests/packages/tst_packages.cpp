@@ -2,15 +2,9 @@
 // one, installed in the other over designs of the same names, and used for a
 // reading there; the rules of an installation on its own (fresh names, the
 // decks offered, packages refused or stopped part-way with nothing written);
-// and what the screen does with a package it cannot install.
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include "platform/ListBox.h"
-#include <QPushButton>
-#include <QTemporaryDir>
+// what the screen does with a package it cannot install or that vanished
+// after the listing; and the creation screen's limits.
 #include <QTimer>
-#include <QtTest>
 #include <deque>
 
 #include "packages/PackageStaging.h"
@@ -20,15 +14,13 @@
 #include "packages/mdlPackages.h"
 #include "platform/CommonDialog.h"
 #include "platform/FileLists.h"
+#include "support/BadInput.h"
 #include "support/InstallAnswers.h"
-#include "support/ModalScript.h"
 #include "readings/ReadingFixtures.h"
-#include "platform/ListBox.h"
 #include "spreads/frmDeckChooser.h"
 #include "store/Startup.h"
 #include "store/frmDesignExists.h"
 #include "store/frmSetPassword.h"
-#include "support/Prompts.h"
 
 using namespace ReadingFixtures;
 
@@ -455,6 +447,36 @@ private slots:
         QVERIFY(!Get<frmMainScreen>().Visible());
         Get<frmInstallPackage>().close();   // the close box leaves as Close does
         QVERIFY(!IsLoaded<frmInstallPackage>() && Get<frmMainScreen>().Visible());
+        Settle();
+    }
+
+    void creationScreenHoldsItsLimits() {
+        QTemporaryDir a;
+        FreshRun(a.path());
+        Fixtures::MakeDeck(QStringLiteral("Any"), 1, false);
+        frmCreatePackage& create = Get<frmCreatePackage>();
+        create.Show();
+        BadInput::TourTextBoxes(create);
+        create.cmdCancel_Click();
+        Settle();
+    }
+
+    // The package was listed, then deleted: the installation says so and
+    // stays for another choice; nothing is installed.
+    void aPackageThatVanishedAfterTheListingIsReported() {
+        QTemporaryDir a;
+        FreshRun(a.path());
+        const QByteArray before = Stored();
+        WriteWholeFile(PackagesDir + QStringLiteral("gone.pck"), QByteArray("anything"));
+        frmInstallPackage& install = Chosen(PackagesDir, QStringLiteral("gone.pck"));
+        QVERIFY(install.cmdInstall->isEnabled());
+        Kill(PackagesDir + QStringLiteral("gone.pck"));
+        install.cmdInstall_Click();
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(Stored(), before);
+        QVERIFY(Dir(TempDir + QStringLiteral("*.*")).isEmpty());
+        QVERIFY(IsLoaded<frmInstallPackage>());
+        install.cmdCancel_Click();
         Settle();
     }
 
