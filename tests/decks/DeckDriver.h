@@ -5,8 +5,8 @@
 #include <QFileInfo>
 #include <QList>
 #include "screens/platform/ListBox.h"
+#include "support/ScreenTest.h"
 #include <QSet>
-#include <QtTest>
 #include <functional>
 
 #include "screens/decks/FileChooser.h"

@@ -1,7 +1,27 @@
 // The rules of the designer and the card editor, and what bad input meets:
 // the card limit, blank and duplicate titles, cancelled picks, a file that is
 // no picture, a deck without reversed cards, the properties fixed once
-// configured, and the questions on leaving.
+// configured, the questions on leaving; text past every limit and text the
+// record code page cannot hold, and files that vanish between the listing
+// and the pick.
+#include "support/ScreenTest.h"
+#include <QApplication>
+#include <QClipboard>
+#include "DeckDriver.h"
+#include "screens/decks/frmGetSoundFile.h"
+#include "screens/decks/frmSaveDeck.h"
+#include "support/BadInput.h"
+#include "screens/decks/frmAddCard.h"
+#include "screens/decks/frmDeckCardProperties.h"
+#include "screens/decks/frmDeckCardPropertiesInfo.h"
+#include "screens/decks/frmDeckInfo.h"
+#include "screens/decks/frmDecks.h"
+#include "screens/decks/frmDesignDeck.h"
+#include "screens/decks/frmGetImageFile.h"
+#include "core/decks/CardEditing.h"
+#include "screens/decks/DeckControls.h"
+#include "screens/platform/MediaPlayer.h"
+#include "screens/store/Startup.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QStandardItemModel>
@@ -15,20 +35,7 @@
 #include <QRadioButton>
 #include <QTemporaryDir>
 #include <QtTest>
-
-#include "DeckDriver.h"
-#include "screens/decks/frmAddCard.h"
-#include "screens/decks/frmDeckCardProperties.h"
-#include "screens/decks/frmDeckCardPropertiesInfo.h"
-#include "screens/decks/frmDeckInfo.h"
-#include "screens/decks/frmDecks.h"
-#include "screens/decks/frmDesignDeck.h"
-#include "screens/decks/frmGetImageFile.h"
-#include "core/decks/CardEditing.h"
-#include "screens/decks/DeckControls.h"
-#include "screens/platform/MediaPlayer.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/store/Startup.h"
 #include "core/store/Lookups.h"
 #include "screens/decks/frmImportPictures.h"
 #include "screens/platform/CommonDialog.h"
@@ -289,6 +296,76 @@ private slots:
         QVERIFY(FilesIn(TempDir).isEmpty());
         GetRecord(DecksPath, FindDeckByName(QStringLiteral("Plain")), ListDeck);
         QCOMPARE(ListDeck.DeckTitle.Trimmed(), QStringLiteral("Plain"));
+    }
+
+    // The properties, the designer and the save screen; a deck name the code
+    // page cannot hold is saved as the record holds it and found again.
+    void deckScreensHoldTheirLimitsAndTheCodePage() {
+        ModalScript properties;
+        properties.On<frmDeckCardProperties>([](frmDeckCardProperties& p) {
+            BadInput::TourTextBoxes(p);
+            // The tour left one text in every type name: they must differ.
+            for (int i = 0; i < 4; ++i) p.txtCardTypeName[std::size_t(i)]->setText(QString::number(i));
+            p.cmdClose_Click();
+        });
+        Get<frmDecks>().cmdDesign_Click();
+        QVERIFY(properties.Done());
+        frmDesignDeck& designer = Get<frmDesignDeck>();
+        BadInput::TourTextBoxes(designer);
+        const int decks = CountDecks();
+        for (int pass = 0; pass < 2; ++pass) {
+            ModalScript save;
+            save.On<frmSaveDeck>([pass](frmSaveDeck& s) {
+                if (pass == 0) BadInput::TourTextBoxes(s);
+                QApplication::clipboard()->setText(BadInput::Foreign());
+                s.txtSaveAs->clear();
+                s.txtSaveAs->setFocus();
+                QTest::keyClick(s.txtSaveAs, Qt::Key_V, Qt::ControlModifier);
+                QCOMPARE(s.txtSaveAs->text(), BadInput::ForeignAsStored);
+                if (pass == 1) MsgBoxScript::Answer(vbNo);   // the same name again: the overwrite question
+                s.cmdSave_Click();
+                if (pass == 1) s.cmdCancel_Click();
+            });
+            designer.cmdSave_Click();
+            QVERIFY(save.Done());
+        }
+        QCOMPARE(CountDecks(), decks + 1);
+        DeckRecord deck;
+        GetRecord(DecksPath, FindDeckByName(BadInput::ForeignAsStored), deck);
+        // The tour left the pasted text in the designer's boxes.
+        QCOMPARE(deck.DeckTitle.Trimmed(), BadInput::ForeignAsStored);
+        designer.DesignModified = false;
+    }
+
+    // A picture or sound deleted after the chooser listed it: the pick
+    // reports the missing file, the chooser stays for another pick, and the
+    // card's working files are as they were.
+    void aFileThatVanishedAfterListingIsNotTaken() {
+        const QString before = WorkingFiles().Picture[0];
+        const QString soundBefore = WorkingFiles().Sound[0];
+        for (FileChooser* chooser : {static_cast<FileChooser*>(&Get<frmGetImageFile>()),
+                                     static_cast<FileChooser*>(&Get<frmGetSoundFile>())}) {
+            const bool picture = chooser == ScreenSlot<frmGetImageFile>();
+            const QString name = picture ? QStringLiteral("gone.bmp") : QStringLiteral("gone.wav");
+            if (picture) Fixtures::WritePicture(src_ + QLatin1Char('/') + name);
+            else WriteWholeFile(src_ + QLatin1Char('/') + name, "RIFF....WAVEfmt ");
+            chooser->GetPictureCode = 1;
+            chooser->dirSelection->setPath(src_);
+            chooser->filSelection->setPath(src_);
+            ClickLine(chooser->filSelection, name);
+            QVERIFY(QFile::remove(src_ + QLatin1Char('/') + name));
+            MsgBoxScript::Clear();
+            chooser->cmdSelect->click();
+            QCOMPARE(MsgBoxScript::History().size(), 1);
+            QVERIFY(MsgBoxScript::History()[0].prompt.contains(QStringLiteral("File not found")));
+            QVERIFY(chooser->IsLoadedForm());
+        }
+        QCOMPARE(WorkingFiles().Picture[0], before);
+        QCOMPARE(WorkingFiles().Sound[0], soundBefore);
+        QVERIFY(!AnyFileMatches(TempDir + QStringLiteral("TempUp.*")));
+        QVERIFY(!AnyFileMatches(TempDir + QStringLiteral("TsndUp.*")));
+        UnloadScreen<frmGetImageFile>();
+        UnloadScreen<frmGetSoundFile>();
     }
 };
 

@@ -34,6 +34,8 @@
 #include "core/store/Usability.h"
 #include "support/Fixtures.h"
 #include "support/Prompts.h"
+#include "support/ScreenTest.h"
+
 
 namespace {
 
@@ -64,9 +66,10 @@ class TestDeckDesign : public QObject {
     // Cards/ holds exactly the files the card records name: none missing, none stray.
     void VerifyCardsFolder() { QCOMPARE(FilesIn(CardsDir), FilesNamedByCards()); }
 
-    // Fills the open card editor: title, type, both sides' texts.
-    static void FillCard(frmAddCard& editor, const QString& title, const QString& type, const QString& up,
-                         const QString& rev) {
+    // Fills the open card editor: title, type, both sides' texts ("up
+    // meaning", "up reversed words", ...).
+    static void FillCard(frmAddCard& editor, const QString& title, const QString& type, const QString& up) {
+        const QString rev = up + QStringLiteral(" reversed");
         editor.txtCardTitle->setText(title);
         ArrowToLine(editor.lstCardType, type);   // the type chosen by the keys is stored
         editor.txtDescription->setPlainText(up + QStringLiteral(" meaning"));
@@ -157,8 +160,7 @@ private slots:
             editor = &Get<frmAddCard>();
             QCOMPARE(WorkingFiles().Picture[0], QStringLiteral("TempUp.bmp"));
             QVERIFY(FileExists(TempDir + QStringLiteral("TempRev.bmp")));
-            FillCard(*editor, QStringLiteral("The Fool"), QStringLiteral("Major Arcana"), QStringLiteral("fool"),
-                     QStringLiteral("fool reversed"));
+            FillCard(*editor, QStringLiteral("The Fool"), QStringLiteral("Major Arcana"), QStringLiteral("fool"));
             editor->cmdGetSound_Click();
             QVERIFY(editor->MediaPlayer1->FileName().endsWith(QLatin1String("TsndUp.wav")));
             QVERIFY(!editor->MediaPlayer1->IsPlaying());
@@ -169,12 +171,10 @@ private slots:
             QVERIFY(!FileExists(TempDir + QStringLiteral("TsndUp.wav")));
 
             editor = &Get<frmAddCard>();
-            FillCard(*editor, QStringLiteral("The Magician"), QStringLiteral("Major Arcana"), QStringLiteral("mage"),
-                     QStringLiteral("mage reversed"));
+            FillCard(*editor, QStringLiteral("The Magician"), QStringLiteral("Major Arcana"), QStringLiteral("mage"));
             editor->cmdSaveNew_Click();
             editor = &Get<frmAddCard>();
-            FillCard(*editor, QStringLiteral("Ace of Cups"), QStringLiteral("Court"), QStringLiteral("cups"),
-                     QStringLiteral("cups reversed"));
+            FillCard(*editor, QStringLiteral("Ace of Cups"), QStringLiteral("Court"), QStringLiteral("cups"));
             editor->cmdSaveClose_Click();
             QVERIFY(pictures.Done());
             QVERIFY(sounds.Done());

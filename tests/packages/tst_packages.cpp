@@ -2,7 +2,8 @@
 // one, installed in the other over designs of the same names, and used for a
 // reading there; the rules of an installation on its own (fresh names, the
 // decks offered, packages refused or stopped part-way with nothing written);
-// and what the screen does with a package it cannot install.
+// what the screen does with a package it cannot install or that vanished
+// after the listing; and the creation screen's limits.
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -11,7 +12,6 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <QtTest>
 #include <deque>
 
 #include "core/packages/PackageStaging.h"
@@ -21,8 +21,8 @@
 #include "core/packages/PackageFile.h"
 #include "screens/platform/CommonDialog.h"
 #include "screens/platform/FileLists.h"
+#include "support/BadInput.h"
 #include "support/InstallAnswers.h"
-#include "support/ModalScript.h"
 #include "readings/ReadingFixtures.h"
 #include "screens/spreads/frmDeckChooser.h"
 #include "screens/store/Startup.h"
@@ -457,6 +457,36 @@ private slots:
         QVERIFY(!Get<frmMainScreen>().Visible());
         Get<frmInstallPackage>().close();   // the close box leaves as Close does
         QVERIFY(!IsLoaded<frmInstallPackage>() && Get<frmMainScreen>().Visible());
+        Settle();
+    }
+
+    void creationScreenHoldsItsLimits() {
+        QTemporaryDir a;
+        FreshRun(a.path());
+        Fixtures::MakeDeck(QStringLiteral("Any"), 1, false);
+        frmCreatePackage& create = Get<frmCreatePackage>();
+        create.Show();
+        BadInput::TourTextBoxes(create);
+        create.cmdCancel_Click();
+        Settle();
+    }
+
+    // The package was listed, then deleted: the installation says so and
+    // stays for another choice; nothing is installed.
+    void aPackageThatVanishedAfterTheListingIsReported() {
+        QTemporaryDir a;
+        FreshRun(a.path());
+        const QByteArray before = Stored();
+        WriteWholeFile(PackagesDir + QStringLiteral("gone.pck"), QByteArray("anything"));
+        frmInstallPackage& install = Chosen(PackagesDir, QStringLiteral("gone.pck"));
+        QVERIFY(install.cmdInstall->isEnabled());
+        Kill(PackagesDir + QStringLiteral("gone.pck"));
+        install.cmdInstall_Click();
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(Stored(), before);
+        QVERIFY(Dir(TempDir + QStringLiteral("*.*")).isEmpty());
+        QVERIFY(IsLoaded<frmInstallPackage>());
+        install.cmdCancel_Click();
         Settle();
     }
 

@@ -2,14 +2,8 @@
 // are drawn the same every time, and the package the build makes installs a
 // deck and spreads that a reading can use at once.
 #include <QImage>
-#include <QLabel>
-#include <QLineEdit>
 #include <QProcess>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QTest>
 
-#include "support/ModalScript.h"
 #include "StarterPictures.h"
 #include "StarterSource.h"
 #include "screens/packages/PackageSummary.h"

@@ -1,7 +1,6 @@
 // The list box every screen's lists are, the file choosers and the media
 // player that the design and package screens build on.
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/ScreenTest.h"
 
 #include "screens/platform/CommonDialog.h"
 #include "core/platform/Errors.h"

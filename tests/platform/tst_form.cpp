@@ -1,11 +1,10 @@
 // The screen model: created at first use, loaded once, unloaded on request
 // (and only when the screen agrees), shown modally with the caller waiting,
 // keys seen by the screen before its controls.
-#include <QLineEdit>
+#include "support/ScreenTest.h"
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QTimer>
-#include <QtTest>
 
 #include "core/platform/Errors.h"
 #include "screens/platform/Form.h"

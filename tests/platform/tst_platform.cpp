@@ -4,8 +4,7 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QImage>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/ScreenTest.h"
 
 #include "core/platform/Arrays.h"
 #include "core/platform/CodePage.h"

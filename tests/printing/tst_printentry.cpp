@@ -3,11 +3,9 @@
 // printer, and through Qt's printer into PDF files read back with poppler.
 #include <QLineEdit>
 #include <QPainter>
-#include <QPlainTextEdit>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QtTest>
 
 #include "core/platform/OleDate.h"
 #include "core/platform/Picture.h"

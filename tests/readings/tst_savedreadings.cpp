@@ -1,9 +1,10 @@
 // Saved readings that can no longer be shown as they were, and the selection
 // screen's lists and boxes: every refusal is one message, the screen stays,
-// nothing is written.
-#include <QLabel>
-#include <QLineEdit>
-#include <QtTest>
+// nothing is written. And bad input: text past every limit, text the record
+// code page cannot hold, a saved reading that goes between the listing and
+// the opening.
+#include <QApplication>
+#include <QClipboard>
 
 #include "core/platform/FileSys.h"
 #include "screens/readings/frmSaveReading.h"
@@ -12,6 +13,10 @@
 #include "core/platform/OleDate.h"
 #include "core/store/Lookups.h"
 #include "core/store/DeletePasses.h"
+#include "core/platform/Errors.h"
+#include "screens/diary/frmSaveDiary.h"
+#include "screens/readings/frmReadingNotes.h"
+#include "support/BadInput.h"
 
 using namespace ReadingFixtures;
 
@@ -28,6 +33,14 @@ const QString DeckChanged = QStringLiteral(
     "The deck used with this reading has changed since the reading was created. Do you still want to open it?\n"
     "NOTE: If you choose 'Yes', the reading will be opened with the new deck version and the cards might be "
     "corrupted.");
+
+// Pastes text over a line box's text as a user does.
+void PasteInto(QLineEdit* box, const QString& text) {
+    QApplication::clipboard()->setText(text);
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
+}
 
 }  // namespace
 
@@ -99,8 +112,7 @@ private slots:
         MsgBoxScript::Answer(vbYes);   // open with the changed deck
         TryOpen();
         QCOMPARE(MsgBoxScript::History().size(), 2);
-        QCOMPARE(MsgBoxScript::History().at(1).prompt,
-                 QStringLiteral("Run-time error '9':\n\nSubscript out of range"));
+        QVERIFY(MsgBoxScript::History().at(1).prompt.contains(ErrorDescription(errSubscriptOutOfRange)));
         QVERIFY(!IsLoaded<frmNewReading>());
         QVERIFY(!IsLoaded<frmReadingCards>());
         QVERIFY(!frmReadingCards::LoadingReading);
@@ -120,7 +132,7 @@ private slots:
                 ask.txtPassword->setText(QString::fromLatin1(typed));
                 ask.cmdOK_Click();
             });
-        ExpectRefusal(QStringLiteral("Incorrect password. Access Denied."));
+        ExpectRefusal(QString());   // the wrong password's box
         MsgBoxScript::Clear();
         TryOpen();
         QVERIFY(script.Done());
@@ -230,6 +242,52 @@ private slots:
         QCOMPARE(Get<frmNewReading>().Caption(), QStringLiteral("Reading - Any"));
         QCOMPARE(Get<frmSelectSpread>().chkAllowDuplicateCards->isChecked(), true);
         SelectSpreadScreen::LastAllowDuplicateCards = false;
+        UnloadScreen<frmSelectSpread>();
+    }
+
+    // Every box of the reading, its notes and both save screens; a name that
+    // the code page cannot hold is saved, found again and listed as the
+    // record holds it.
+    void foreignTextIsHeldAsTheRecordHoldsIt() {
+        frmNewReading& reading = NewReading();
+        BadInput::TourTextBoxes(reading);
+        BadInput::TourTextBoxes(Get<frmReadingNotes>());
+        BadInput::TourTextBoxes(Get<frmSaveDiary>());
+        UnloadScreen<frmSaveDiary>();
+        for (int pass = 0; pass < 2; ++pass) {
+            frmSaveReading& save = Get<frmSaveReading>();
+            if (pass == 0) BadInput::TourTextBoxes(save);
+            PasteInto(save.txtSaveAs, BadInput::Foreign());
+            QCOMPARE(save.txtSaveAs->text(), BadInput::ForeignAsStored);
+            if (pass == 1) MsgBoxScript::Answer(vbYes);   // the same name: the overwrite question
+            save.cmdSave_Click();
+            QCOMPARE(CountReadings(), 1);
+        }
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        ReadingRecord saved;
+        GetRecord(ReadingsPath, 1, saved);
+        QCOMPARE(saved.ReadingName.Trimmed(), BadInput::ForeignAsStored);
+        reading.CloseReading();
+        frmOpenReading& open = Get<frmOpenReading>();
+        QCOMPARE(open.lstEntries->count(), 1);
+        QVERIFY(open.lstEntries->item(0)->text().trimmed().endsWith(QStringLiteral(" - ") + BadInput::ForeignAsStored));
+    }
+
+    // A reading deleted elsewhere after the list was made: opening it does
+    // nothing, the screen stays and the file is untouched.
+    void aReadingThatVanishedAfterListingIsNotOpened() {
+        for (const char* name : {"Gone", "Kept"}) AppendRecord(ReadingsPath, Fixtures::NamedReading(QLatin1String(name)));
+        frmOpenReading& open = Get<frmOpenReading>();
+        QCOMPARE(open.lstEntries->count(), 2);
+        DeleteReading(QStringLiteral("Gone"));
+        const QByteArray file = ReadWholeFile(ReadingsPath);
+        for (int row = 0; row < 2; ++row) {
+            if (!open.lstEntries->item(row)->text().trimmed().endsWith(QStringLiteral("Gone"))) continue;
+            open.lstEntries->setCurrentRow(row);
+            open.cmdOpen_Click();
+        }
+        QVERIFY(IsLoaded<frmOpenReading>() && !IsLoaded<frmReadingCards>());
+        QCOMPARE(ReadWholeFile(ReadingsPath), file);
     }
 };
 

@@ -1,16 +1,13 @@
 // The frame and the main screen: the start-up run from the frame's load, the
 // buttons with their captions and tooltips, Esc doing nothing, the pressed
-// look, help, the quick help panels, and the exit question as the only way
+// look, a missing manual, the quick help panels, and the exit question as the only way
 // out.
 #include <QApplication>
 #include <QDir>
-#include <QLabel>
+#include "support/ScreenTest.h"
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QPushButton>
-#include <QTemporaryDir>
 #include <QTextBrowser>
-#include <QtTest>
 
 #include "core/platform/FileSys.h"
 #include "screens/platform/MsgBox.h"
@@ -121,19 +118,6 @@ private slots:
         QCOMPARE(MsgBoxScript::History()[0].style, int(vbCritical));
         QVERIFY(main_->Visible());
         QVERIFY(!IsLoaded<frmHelpViewer>());
-    }
-
-    void helpPresentOpensTheViewer() {
-        WriteWholeFile(dir_.path() + QStringLiteral("/Cartomar.hlp"), "<html><body><h1>Readings</h1></body></html>");
-        main_->lblButton_Click(9);
-        QVERIFY(MsgBoxScript::History().isEmpty());
-        QVERIFY(IsLoaded<frmHelpViewer>());
-        frmHelpViewer& viewer = Get<frmHelpViewer>();
-        QVERIFY(viewer.Visible());
-        QCOMPARE(viewer.txtHelp->document()->toPlainText().trimmed(), QStringLiteral("Readings"));
-        QTest::keyClick(viewer.txtHelp, Qt::Key_Escape);
-        QVERIFY(!IsLoaded<frmHelpViewer>());
-        QVERIFY(main_->Visible());
     }
 
     void quickHelpPanelsGoOnEscAndOnLosingTheFocus() {

@@ -8,13 +8,12 @@
 #include <QImage>
 #include <QPixmap>
 #include <QRegularExpression>
-#include <QTemporaryDir>
+#include "support/ScreenTest.h"
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextDocument>
 #include <QTextFragment>
 #include <QTextImageFormat>
-#include <QtTest>
 
 #include "core/platform/FileSys.h"
 #include "screens/platform/MsgBox.h"
@@ -91,7 +90,9 @@ private slots:
             QVERIFY2(image.width() < viewer.txtHelp->viewport()->width(), qPrintable(name));
         }
         QVERIFY(images.contains(QStringLiteral("Help/images/main-screen.png")));
-        viewer.Unload();
+        QTest::keyClick(viewer.txtHelp, Qt::Key_Escape);   // Esc closes the viewer
+        QVERIFY(!IsLoaded<frmHelpViewer>());
+        QVERIFY(Get<frmMainScreen>().Visible());
     }
 
     void contentsLinksLeadToSections() {

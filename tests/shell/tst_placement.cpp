@@ -3,8 +3,7 @@
 // centring, the default picture for a missing or broken file).
 #include <QFile>
 #include <QMdiArea>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/ScreenTest.h"
 
 #include "screens/platform/Form.h"
 #include "screens/platform/MsgBox.h"

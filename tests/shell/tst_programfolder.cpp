@@ -4,9 +4,7 @@
 // the installer on it instead of offering to install designs.
 #include <QDir>
 #include <QFile>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/ScreenTest.h"
 
 #include "screens/packages/frmInstallPackage.h"
 #include "screens/platform/FileLists.h"

@@ -4,8 +4,7 @@
 // the ways the process ends.
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/ScreenTest.h"
 #include <csignal>
 #include <sys/wait.h>
 #include <unistd.h>

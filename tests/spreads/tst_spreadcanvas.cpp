@@ -1,10 +1,7 @@
 // The designer's canvas: the grid and snapping arithmetic to the twip, the
 // limits of adding and removing locations, the keys of a rectangle, the
 // grid's 82 lines, and the stacking of rectangles above grid and picture.
-#include <QLabel>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/ScreenTest.h"
 
 #include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"

@@ -2,12 +2,13 @@
 // dragged, nudged, snapped, given attributes and removed, a background set,
 // saved, opened again unchanged to the byte, tied to decks and found ready for
 // a reading. Then the details' dirty rules, the background checks, the save
-// dialogue's two ways and the closing question.
-#include <QCheckBox>
-#include <QLabel>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QtTest>
+// dialogue's two ways and the closing question; and bad input on every box:
+// text past its limit, text the record code page cannot hold, and a
+// background picture that vanishes between the choice and the OK.
+#include <QApplication>
+#include <QClipboard>
+
+#include "support/ScreenTest.h"
 
 #include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
@@ -27,6 +28,7 @@
 #include "core/store/Lookups.h"
 #include "support/Fixtures.h"
 #include "SpreadTestKit.h"
+#include "support/BadInput.h"
 
 using namespace SpreadTestKit;
 
@@ -96,8 +98,6 @@ private slots:
         QVERIFY(!IsLoaded<frmSpreads>());
         frmDesignSpread& d = Get<frmDesignSpread>();
         QVERIFY(!d.SpreadDirty);
-        QCOMPARE(d.GridStepX, Integer(203));
-        QCOMPARE(d.GridStepY, Integer(243));
         QTest::keyClicks(d.txtSpreadTitle(), QStringLiteral("Five Paths Title"));
         d.cmdSpread_Click();
         QVERIFY(d.picDesignLocations->isVisible() && d.cmdAddCard->isEnabled());
@@ -388,6 +388,52 @@ private slots:
         SaveAs(bare, QStringLiteral("Copy of Paths"), vbYes);
         QVERIFY(GetRecord(SpreadsPath, 2, copy) && copy.BackgroundFile.IsBlank());
         bare.cmdBack_Click();
+    }
+
+    void theScreensHoldTheirLimitsAndTheCodePage() {
+        Get<frmSpreads>().cmdDesign_Click();
+        frmDesignSpread& designer = Get<frmDesignSpread>();
+        BadInput::TourTextBoxes(designer);
+
+        // A background that is gone by the time OK is pressed: the box comes,
+        // the screen stays and the spread keeps the background it had.
+        const QString picture = dir_.filePath(QStringLiteral("back.bmp"));
+        Fixtures::WritePicture(picture);
+        ModalScript script;
+        script.On<frmGetSpreadBackground>([&](frmGetSpreadBackground& screen) {
+            BadInput::TourTextBoxes(screen);
+            screen.txtFilename->setText(picture);
+            QFile::remove(picture);
+            screen.cmdOK_Click();
+            QVERIFY(IsLoaded<frmGetSpreadBackground>());
+            screen.cmdCancel_Click();
+        });
+        designer.cmdPicture_Click();
+        QVERIFY(script.Done());
+        QCOMPARE(MsgBoxScript::History().size(), 1);
+        QVERIFY(CurrentSpread.BackgroundFile.IsBlank());
+
+        // A name the code page cannot hold is saved as the record holds it;
+        // the same paste again is the same spread (the overwrite question, No).
+        const int spreads = CountSpreads();
+        for (int pass = 0; pass < 2; ++pass) {
+            if (pass == 1) MsgBoxScript::Answer(vbNo);
+            script.On<frmSaveSpread>([&, pass](frmSaveSpread& save) {
+                if (pass == 0) BadInput::TourTextBoxes(save);
+                QApplication::clipboard()->setText(BadInput::Foreign());
+                save.txtSaveAs->clear();
+                save.txtSaveAs->setFocus();
+                QTest::keyClick(save.txtSaveAs, Qt::Key_V, Qt::ControlModifier);
+                QCOMPARE(save.txtSaveAs->Text(), BadInput::ForeignAsStored);
+                save.cmdSave_Click();
+                if (pass == 1) save.cmdCancel_Click();
+            });
+            designer.cmdSave_Click();
+            QVERIFY(script.Done());
+        }
+        QCOMPARE(CountSpreads(), spreads + 1);
+        QVERIFY(FindSpreadByName(BadInput::ForeignAsStored) > 0);
+        designer.SpreadDirty = false;
     }
 };
 

@@ -4,11 +4,8 @@
 // Cancel must leave everything as it was. The old files are built here byte by
 // byte from the layout tables, not through the record codec, so the offsets
 // are checked independently.
-#include <QLabel>
-#include <QPushButton>
+#include "support/ScreenTest.h"
 #include <QRandomGenerator>
-#include <QTemporaryDir>
-#include <QtTest>
 #include <cstring>
 #include <functional>
 

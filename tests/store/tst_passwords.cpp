@@ -1,8 +1,10 @@
 // Design passwords and the design-exists question: what the user types
-// decides access, cancelling stays silent, and the installer gets the answer.
-#include <QLineEdit>
-#include <QPushButton>
-#include <QtTest>
+// decides access, cancelling stays silent, and the installer gets the answer;
+// text past the limits and text no record can hold.
+#include "support/ScreenTest.h"
+
+#include <QApplication>
+#include <QClipboard>
 
 #include "screens/platform/MsgBox.h"
 #include "screens/store/PasswordPrompts.h"
@@ -12,6 +14,7 @@
 #include "core/store/RunState.h"
 #include "support/ModalScript.h"
 #include "support/Prompts.h"
+#include "support/BadInput.h"
 
 namespace {
 bool Check(const QString& stored, const QString& typed, bool cancel = false) {
@@ -24,6 +27,13 @@ bool Check(const QString& stored, const QString& typed, bool cancel = false) {
     const bool granted = CheckPassword(stored);
     if (!script.Done()) QTest::qFail("the password screen never came", __FILE__, __LINE__);
     return granted;
+}
+
+void PasteForeign(QLineEdit* box) {
+    QApplication::clipboard()->setText(BadInput::Foreign());
+    box->clear();
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
 }
 }  // namespace
 
@@ -113,6 +123,30 @@ private slots:
         QCOMPARE(DesignExistsChoice, 1);
         QCOMPARE(frmDesignExists::NewDesignName, QStringLiteral("Celtic Cross Mine"));
         QVERIFY(!IsLoaded<frmDesignExists>());
+    }
+
+    // A password typed with characters no record can hold is kept as the
+    // record holds it, and the same typing opens the design again.
+    void aForeignPasswordIsKeptAsTheRecordHoldsIt() {
+        ModalScript set;
+        set.On<frmSetPassword>([](frmSetPassword& f) {
+            BadInput::TourTextBoxes(f);
+            PasteForeign(f.txtPassword1);
+            PasteForeign(f.txtPassword2);
+            f.cmdOK->click();
+        });
+        const QString stored = AskNewPassword(QString());
+        QVERIFY(set.Done());
+        QCOMPARE(stored, BadInput::ForeignAsStored);
+        ModalScript get;
+        get.On<frmGetPassword>([](frmGetPassword& f) {
+            BadInput::TourTextBoxes(f);
+            PasteForeign(f.txtPassword);
+            QTest::keyClick(f.txtPassword, Qt::Key_Return);
+        });
+        QVERIFY(CheckPassword(stored));
+        QVERIFY(get.Done());
+        Settle();
     }
 };
 

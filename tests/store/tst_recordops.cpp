@@ -134,10 +134,7 @@ private slots:
         const Integer a = Fixtures::MakeSpread(QStringLiteral("A"), 2);
         const Integer b = Fixtures::MakeSpread(QStringLiteral("B"), 3);
         const Integer c = Fixtures::MakeSpread(QStringLiteral("C"), 1);
-        SpreadRecord spreadB;
-        QVERIFY(GetRecord(SpreadsPath, 2, spreadB));
-        spreadB.BackgroundFile = QStringLiteral("S000001.bmp");
-        PutRecord(SpreadsPath, 2, spreadB);
+        ChangeRecord<SpreadRecord>(SpreadsPath, 2, [](SpreadRecord& s) { s.BackgroundFile = QStringLiteral("S000001.bmp"); });
         Fixtures::WritePicture(CardsDir + QStringLiteral("S000001.bmp"));
         Fixtures::WritePicture(CardsDir + QStringLiteral("S000002.bmp"));
 
@@ -158,15 +155,13 @@ private slots:
         const Integer second = Fixtures::MakeDeck(QStringLiteral("Second"), 2, false);
         // A sound on one card of the first deck, and the default picture on
         // the reversed side of another: the sound goes, the default stays.
-        CardRecord card;
-        QVERIFY(GetRecord(CardsPath, 1, card));
-        card.CardSound[0] = QStringLiteral("MCU00001.wav");
-        PutRecord(CardsPath, 1, card);
+        ChangeRecord<CardRecord>(CardsPath, 1, [](CardRecord& c) { c.CardSound[0] = QStringLiteral("MCU00001.wav"); });
         WriteWholeFile(CardsDir + QStringLiteral("MCU00001.wav"), QByteArray("RIFF"));
-        QVERIFY(GetRecord(CardsPath, 2, card));
-        const QString ownReversed = card.CardPicture[1].Trimmed();
-        card.CardPicture[1] = DefaultPictureName;
-        PutRecord(CardsPath, 2, card);
+        QString ownReversed;
+        ChangeRecord<CardRecord>(CardsPath, 2, [&ownReversed](CardRecord& c) {
+            ownReversed = c.CardPicture[1].Trimmed();
+            c.CardPicture[1] = DefaultPictureName;
+        });
 
         DeleteDeck(FindDeckByName(QStringLiteral("First")));
 
@@ -271,7 +266,8 @@ private slots:
         Fixtures::MakeSpread(QStringLiteral("Three"), 3, {small, reversed});
         Fixtures::MakeSpread(QStringLiteral("Any Three"), 3, {}, true);
         Fixtures::MakeSpread(QStringLiteral("Any Two"), 2, {}, true);
-        for (const auto& [name, usable] : {std::pair{"Missing", false}, {"Empty", false}, {"Pair", true},
+        Fixtures::MakeSpread(QStringLiteral("Untied"), 1);
+        for (const auto& [name, usable] : {std::pair{"Missing", false}, {"Empty", false}, {"Untied", false}, {"Pair", true},
                                            {"Three", false}, {"Any Three", false}, {"Any Two", true}})
             QVERIFY2(IsSpreadUsable(QLatin1String(name)) == usable, name);
     }

@@ -8,8 +8,7 @@
 // name), and a design that both states list by name is listed.
 #include <QFile>
 #include <QSet>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/ScreenTest.h"
 #include <functional>
 #include <map>
 #include <memory>
@@ -121,10 +120,7 @@ void MakeFixture(const QString& dir) {
     Fixtures::MakeDeck(QStringLiteral("Deck B"), 2, false);
     Fixtures::MakeSpread(QStringLiteral("Spread A"), 3, {deckA});
     Fixtures::MakeSpread(QStringLiteral("Spread B"), 2, {}, true);
-    SpreadRecord spread;
-    GetRecord(SpreadsPath, 1, spread);
-    spread.BackgroundFile = QStringLiteral("S000001.bmp");
-    PutRecord(SpreadsPath, 1, spread);
+    ChangeRecord<SpreadRecord>(SpreadsPath, 1, [](SpreadRecord& s) { s.BackgroundFile = QStringLiteral("S000001.bmp"); });
     Fixtures::WritePicture(CardsDir + QStringLiteral("S000001.bmp"));
     for (const char* name : {"First", "Second", "Third"}) AppendRecord(ReadingsPath, NamedReading(QLatin1String(name)));
     for (const char* name : {"Monday", "Tuesday"}) AppendRecord(DiaryPath, NamedDiary(QLatin1String(name)));

@@ -6,8 +6,10 @@
 #include <QColor>
 #include <QList>
 #include <QString>
+#include <functional>
 
 #include "core/records/Records.h"
+#include "core/records/RecordFile.h"
 
 namespace Fixtures {
 
@@ -49,3 +51,12 @@ ReadingRecord NamedReading(const QString& name);
 DiaryRecord NamedDiary(const QString& name);
 
 }  // namespace Fixtures
+
+// Rewrites record n of a record file through a change.
+template <class R>
+void ChangeRecord(const QString& path, int n, const std::function<void(R&)>& change) {
+    R r;
+    GetRecord(path, n, r);
+    change(r);
+    PutRecord(path, n, r);
+}
