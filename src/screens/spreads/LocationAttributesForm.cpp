@@ -86,7 +86,7 @@ void LocationAttributesForm::cmdClose_Click() { Unload(); }
 void LocationAttributesForm::Form_Deactivate() { Unload(); }
 
 void LocationAttributesForm::Form_Unload(bool&) {
-    if (QPushButton* button = AttributesButtonBeneath()) button->setFocus();
+    FocusAttributesButtonBeneath();
 }
 
 void LocationAttributesForm::Form_KeyUp(int key, Qt::KeyboardModifiers, bool& handled) {

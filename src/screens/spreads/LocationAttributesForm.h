@@ -30,9 +30,9 @@ protected:
     void Form_Deactivate() override;
     void Form_Unload(bool& cancel) override;
     void Form_KeyUp(int key, Qt::KeyboardModifiers shift, bool& handled) override;
-    // The Attributes button of the selected location on the screen beneath,
-    // or none when that screen has gone.
-    virtual QPushButton* AttributesButtonBeneath() const = 0;
+    // Gives the focus back to the selected location's Attributes button on
+    // the screen beneath, if that screen is still there.
+    virtual void FocusAttributesButtonBeneath() const = 0;
 
 private:
     std::array<TextBox*, 3> question_{};

@@ -230,6 +230,10 @@ QLabel* frmDesignSpread::lblModifiedOnDate() const { return picDesignInfo->lblMo
 LocationBox* frmDesignSpread::picLocation(int Index) const { return picDesignLocations->picLocation(Index); }
 QLabel* frmDesignSpread::lblCardNumber(int Index) const { return picDesignLocations->lblCardNumber(Index); }
 QLabel* frmDesignSpread::lblCardTitle(int Index) const { return picDesignLocations->lblCardTitle(Index); }
+void frmDesignSpread::FocusAttributesButton(int Index) const {
+    if (QPushButton* button = cmdCardAttributes(Index)) button->setFocus();
+}
+
 QPushButton* frmDesignSpread::cmdCardAttributes(int Index) const {
     return picDesignLocations->cmdCardAttributes(Index);
 }

@@ -59,6 +59,8 @@ public:
     // The spread was saved under CurrentSpread's name: nothing is left unsaved.
     void SpreadSaved();
     QPushButton* cmdCardAttributes(int Index) const;
+    // For the location screen above, when it closes.
+    void FocusAttributesButton(int Index) const;
 
     // ---- Deck page ----
     ListBox* lstAvailableDecks;

@@ -37,7 +37,6 @@ void frmLocationAttributes::txtQuestion_Change(int Index) {
         txtQuestion(Index)->Text();
 }
 
-QPushButton* frmLocationAttributes::AttributesButtonBeneath() const {
-    if (!IsLoaded<frmDesignSpread>()) return nullptr;
-    return Get<frmDesignSpread>().cmdCardAttributes(SelectedLocation);
+void frmLocationAttributes::FocusAttributesButtonBeneath() const {
+    if (IsLoaded<frmDesignSpread>()) Get<frmDesignSpread>().FocusAttributesButton(SelectedLocation);
 }

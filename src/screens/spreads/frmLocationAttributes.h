@@ -15,5 +15,5 @@ public:
     void txtQuestion_Change(int Index);
 
 protected:
-    QPushButton* AttributesButtonBeneath() const override;
+    void FocusAttributesButtonBeneath() const override;
 };

@@ -83,6 +83,10 @@ frmSpreadInfo::frmSpreadInfo() {
 QCheckBox* frmSpreadInfo::chkQuestion() const { return picDesignInfo->chkQuestion; }
 LocationBox* frmSpreadInfo::picLocation(int Index) const { return picDesignLocations->picLocation(Index); }
 QLabel* frmSpreadInfo::lblCardTitle(int Index) const { return picDesignLocations->lblCardTitle(Index); }
+void frmSpreadInfo::FocusAttributesButton(int Index) const {
+    if (QPushButton* button = cmdCardAttributes(Index)) button->setFocus();
+}
+
 QPushButton* frmSpreadInfo::cmdCardAttributes(int Index) const {
     return picDesignLocations->cmdCardAttributes(Index);
 }

@@ -38,6 +38,8 @@ public:
     LocationBox* picLocation(int Index) const;
     QLabel* lblCardTitle(int Index) const;
     QPushButton* cmdCardAttributes(int Index) const;
+    // For the location screen above, when it closes.
+    void FocusAttributesButton(int Index) const;
 
     void FillFields();
     void AddDeckNames();

@@ -9,7 +9,6 @@ frmSpreadInfo_LocationAttributes::frmSpreadInfo_LocationAttributes() : LocationA
     setObjectName(QStringLiteral("frmSpreadInfo_LocationAttributes"));
 }
 
-QPushButton* frmSpreadInfo_LocationAttributes::AttributesButtonBeneath() const {
-    if (!IsLoaded<frmSpreadInfo>()) return nullptr;
-    return Get<frmSpreadInfo>().cmdCardAttributes(SelectedLocation);
+void frmSpreadInfo_LocationAttributes::FocusAttributesButtonBeneath() const {
+    if (IsLoaded<frmSpreadInfo>()) Get<frmSpreadInfo>().FocusAttributesButton(SelectedLocation);
 }

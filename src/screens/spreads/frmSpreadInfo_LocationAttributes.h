@@ -9,5 +9,5 @@ public:
     frmSpreadInfo_LocationAttributes();
 
 protected:
-    QPushButton* AttributesButtonBeneath() const override;
+    void FocusAttributesButtonBeneath() const override;
 };
