@@ -3,9 +3,9 @@
 // executable is installed for every user.
 #include <QStringList>
 
-#include "screens/platform/Application.h"
 #include "core/platform/FileSys.h"
 #include "core/platform/UserFolders.h"
+#include "screens/platform/Application.h"
 #include "screens/shell/MDIMainForm.h"
 #include "screens/shell/ProgramFolder.h"
 

@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-
 #include <unistd.h>
 
 #include "core/platform/Errors.h"

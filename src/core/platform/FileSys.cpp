@@ -4,11 +4,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-
 #include <cerrno>
 #include <cstdio>
-#include <unistd.h>
 #include <fcntl.h>
+#include <unistd.h>
 
 #include "core/platform/Errors.h"
 #include "core/platform/WriteFaults.h"

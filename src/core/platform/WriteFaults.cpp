@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QIODevice>
-
 #include <csignal>
 #include <cstdio>
 #include <unistd.h>

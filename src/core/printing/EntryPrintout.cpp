@@ -9,9 +9,9 @@
 #include "core/platform/Palette.h"
 #include "core/platform/Picture.h"
 #include "core/platform/Printer.h"
+#include "core/store/Lookups.h"
 #include "core/store/MakerAddresses.h"
 #include "core/store/RunState.h"
-#include "core/store/Lookups.h"
 
 namespace {
 

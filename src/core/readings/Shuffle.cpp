@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "core/platform/Rnd.h"
-#include "core/store/RunState.h"
 #include "core/store/DeckLoading.h"
+#include "core/store/RunState.h"
 
 int RandomPosition(int n, float r) { return static_cast<int>(std::floor(static_cast<float>(n) * r)) + 1; }
 

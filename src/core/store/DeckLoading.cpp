@@ -8,8 +8,8 @@
 
 #include "core/platform/FileSys.h"
 #include "core/records/RecordFile.h"
-#include "core/store/RunState.h"
 #include "core/store/Lookups.h"
+#include "core/store/RunState.h"
 
 bool LoadDeckCards() {
     static_cast<DeckRecord&>(CurrentDeck) = ListDeck;

@@ -2,11 +2,10 @@
 // The deck in memory (CurrentDeck and its cards), and the names the
 // program gives picture files in Cards/.
 #include <QSet>
+#include <QString>
 #include <QStringList>
 
 #include "core/platform/Arrays.h"
-#include <QString>
-
 #include "core/records/Records.h"
 #include "core/store/RunState.h"
 

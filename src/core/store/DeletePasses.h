@@ -1,7 +1,7 @@
 #pragma once
 // Deleting designs and entries, and the files of a design in Cards/.
-#include <QStringList>
 #include <QString>
+#include <QStringList>
 
 #include "core/records/Records.h"
 #include "core/store/RunState.h"

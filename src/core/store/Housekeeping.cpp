@@ -6,9 +6,9 @@
 #include "core/platform/BinaryFile.h"
 #include "core/platform/FileSys.h"
 #include "core/platform/Picture.h"
+#include "core/store/DeletePasses.h"
 #include "core/store/DesignCommit.h"
 #include "core/store/RunState.h"
-#include "core/store/DeletePasses.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 // smallest free ids, and a spread's locations read into memory. Record
 // numbers count from 1 and are positions of the moment: a delete moves later
 // records up.
-#include <cstring>
 #include <QString>
+#include <cstring>
 
 #include "core/records/Records.h"
 #include "core/store/RunState.h"

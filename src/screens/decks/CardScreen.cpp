@@ -1,7 +1,5 @@
 #include "screens/decks/CardScreen.h"
 
-#include "core/store/RunState.h"
-
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -10,8 +8,9 @@
 #include <QRadioButton>
 
 #include "core/decks/CardEditing.h"
-#include "screens/decks/DeckControls.h"
 #include "core/platform/FileSys.h"
+#include "core/store/RunState.h"
+#include "screens/decks/DeckControls.h"
 #include "screens/platform/MediaPlayer.h"
 #include "screens/shell/FitPicture.h"
 #include "screens/shell/ImageBox.h"

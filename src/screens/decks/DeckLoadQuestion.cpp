@@ -1,9 +1,9 @@
 #include "screens/decks/DeckLoadQuestion.h"
 
-#include "core/store/RunState.h"
 #include "core/store/DeckLoading.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
+#include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
 
 bool LoadDeck(bool& DeckRemoved) {

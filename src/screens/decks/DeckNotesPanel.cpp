@@ -3,9 +3,9 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
+#include "core/store/RunState.h"
 #include "screens/decks/DeckControls.h"
 #include "screens/shell/ScreenPlacement.h"
-#include "core/store/RunState.h"
 
 DeckNotesPanel::DeckNotesPanel(bool editing) {
     resize(TwipsToPixels(4800), TwipsToPixels(3600));

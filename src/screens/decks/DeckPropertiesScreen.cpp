@@ -4,9 +4,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "core/store/RunState.h"
 #include "screens/decks/DeckControls.h"
 #include "screens/shell/ScreenPlacement.h"
-#include "core/store/RunState.h"
 
 DeckPropertiesScreen::DeckPropertiesScreen(bool editing) {
     resize(TwipsToPixels(5400), TwipsToPixels(3900));

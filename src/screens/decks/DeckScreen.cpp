@@ -1,19 +1,18 @@
 #include "screens/decks/DeckScreen.h"
 
-#include "core/store/RunState.h"
-
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
-#include "screens/decks/frmDecks.h"
-#include "screens/decks/DeckControls.h"
 #include "core/platform/FileSys.h"
+#include "core/platform/OleDate.h"
+#include "core/records/RecordFile.h"
+#include "core/store/RunState.h"
+#include "screens/decks/DeckControls.h"
+#include "screens/decks/frmDecks.h"
 #include "screens/platform/ListBox.h"
 #include "screens/shell/ScreenPlacement.h"
-#include "core/records/RecordFile.h"
-#include "core/platform/OleDate.h"
 
 DeckScreen::DeckScreen(const QString& captionStem, bool designing) : captionStem_(captionStem) {
     resize(TwipsToPixels(9120), TwipsToPixels(6240));

@@ -1,17 +1,16 @@
 #include "screens/decks/FileChooser.h"
 
-#include "core/store/RunState.h"
-
 #include <QDir>
 #include <QPushButton>
 
 #include "core/decks/CardEditing.h"
+#include "core/platform/FileSys.h"
+#include "core/store/RunState.h"
 #include "screens/decks/DeckControls.h"
 #include "screens/platform/FileLists.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/store/Startup.h"
-#include "core/platform/FileSys.h"
 
 FileChooser::FileChooser(const QString& kindWord, const QString& pattern, ChooserMemory& memory)
     : kindWord_(kindWord), memory_(memory) {

@@ -1,26 +1,25 @@
 #include "screens/decks/frmAddCard.h"
 
-#include "core/store/RunState.h"
-
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "core/decks/CardEditing.h"
+#include "core/decks/CardStore.h"
+#include "core/platform/FileSys.h"
+#include "core/store/DeckLoading.h"
+#include "core/store/RunState.h"
+#include "screens/decks/DeckControls.h"
 #include "screens/decks/frmDesignDeck.h"
 #include "screens/decks/frmGetImageFile.h"
 #include "screens/decks/frmGetSoundFile.h"
-#include "core/decks/CardEditing.h"
-#include "screens/decks/DeckControls.h"
-#include "core/platform/FileSys.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MediaPlayer.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/store/Startup.h"
-#include "core/store/DeckLoading.h"
-#include "core/decks/CardStore.h"
 
 frmAddCard::frmAddCard() : CardScreen(QStringLiteral("Add Card"), true) {
     setObjectName(QStringLiteral("frmAddCard"));

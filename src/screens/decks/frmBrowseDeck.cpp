@@ -1,14 +1,13 @@
 #include "screens/decks/frmBrowseDeck.h"
 
-#include "core/store/RunState.h"
-
 #include <QPushButton>
 
+#include "core/records/RecordFile.h"
+#include "core/store/Lookups.h"
+#include "core/store/RunState.h"
 #include "screens/decks/DeckControls.h"
 #include "screens/platform/ListBox.h"
 #include "screens/shell/ScreenPlacement.h"
-#include "core/records/RecordFile.h"
-#include "core/store/Lookups.h"
 
 frmBrowseDeck::frmBrowseDeck() {
     setObjectName(QStringLiteral("frmBrowseDeck"));

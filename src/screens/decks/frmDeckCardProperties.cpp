@@ -3,9 +3,9 @@
 #include <QCheckBox>
 #include <QLineEdit>
 
+#include "core/store/RunState.h"
 #include "screens/decks/frmDesignDeck.h"
 #include "screens/platform/MsgBox.h"
-#include "core/store/RunState.h"
 
 frmDeckCardProperties::frmDeckCardProperties() : DeckPropertiesScreen(true) {
     setObjectName(QStringLiteral("frmDeckCardProperties"));

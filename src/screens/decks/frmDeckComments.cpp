@@ -2,9 +2,9 @@
 
 #include <QPlainTextEdit>
 
-#include "screens/decks/frmDesignDeck.h"
-#include "screens/decks/DeckControls.h"
 #include "core/store/RunState.h"
+#include "screens/decks/DeckControls.h"
+#include "screens/decks/frmDesignDeck.h"
 
 frmDeckComments::frmDeckComments() : DeckNotesPanel(true) {
     setObjectName(QStringLiteral("frmDeckComments"));

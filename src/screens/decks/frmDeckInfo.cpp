@@ -2,13 +2,13 @@
 
 #include <QPushButton>
 
+#include "core/store/RunState.h"
+#include "screens/decks/DeckControls.h"
 #include "screens/decks/frmDeckCardPropertiesInfo.h"
 #include "screens/decks/frmDeckCommentsInfo.h"
 #include "screens/decks/frmDecks.h"
 #include "screens/decks/frmViewCard.h"
-#include "screens/decks/DeckControls.h"
 #include "screens/platform/ListBox.h"
-#include "core/store/RunState.h"
 
 frmDeckInfo::frmDeckInfo() : DeckScreen(QStringLiteral("Deck View"), false) {
     setObjectName(QStringLiteral("frmDeckInfo"));

@@ -1,30 +1,29 @@
 #include "screens/decks/frmDecks.h"
 
-#include "core/store/RunState.h"
-
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <algorithm>
 
-#include "screens/decks/frmDeckInfo.h"
-#include "screens/decks/frmDesignDeck.h"
-#include "screens/decks/DeckControls.h"
-#include "screens/platform/ListBox.h"
-#include "screens/platform/MsgBox.h"
-#include "screens/shell/frmMainScreen.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/store/PasswordPrompts.h"
+#include "core/platform/OleDate.h"
 #include "core/records/RecordFile.h"
 #include "core/spreads/AllowedDecks.h"
-#include "screens/store/Startup.h"
-#include "core/platform/OleDate.h"
 #include "core/store/DeckLoading.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
+#include "core/store/RunState.h"
+#include "screens/decks/DeckControls.h"
 #include "screens/decks/DeckLoadQuestion.h"
+#include "screens/decks/frmDeckInfo.h"
+#include "screens/decks/frmDesignDeck.h"
+#include "screens/platform/ListBox.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/shell/ScreenPlacement.h"
+#include "screens/shell/frmMainScreen.h"
+#include "screens/store/PasswordPrompts.h"
+#include "screens/store/Startup.h"
 
 namespace {
 const QString CardsListText = QStringLiteral("Cards List");

@@ -3,8 +3,8 @@
 // brief info and card titles, and leads to designing a new deck, editing one
 // (asking the password of a locked deck), viewing one, and deleting one with
 // its cards and files.
-#include "screens/platform/Form.h"
 #include "core/records/Records.h"
+#include "screens/platform/Form.h"
 
 class FocusComboBox;
 class ListBox;

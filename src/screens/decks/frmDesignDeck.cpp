@@ -1,28 +1,27 @@
 #include "screens/decks/frmDesignDeck.h"
 
-#include "core/platform/OleDate.h"
-#include "core/store/RunState.h"
-
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
+#include "core/decks/CardEditing.h"
+#include "core/decks/CardStore.h"
+#include "core/platform/FileSys.h"
+#include "core/platform/OleDate.h"
+#include "core/store/NewDesigns.h"
+#include "core/store/RunState.h"
+#include "screens/decks/DeckControls.h"
 #include "screens/decks/frmAddCard.h"
 #include "screens/decks/frmDeckCardProperties.h"
 #include "screens/decks/frmDeckComments.h"
 #include "screens/decks/frmDecks.h"
 #include "screens/decks/frmGetImageFile.h"
+#include "screens/decks/frmImportPictures.h"
 #include "screens/decks/frmSaveDeck.h"
-#include "core/decks/CardEditing.h"
-#include "screens/decks/DeckControls.h"
-#include "core/platform/FileSys.h"
+#include "screens/platform/CommonDialog.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
-#include "core/store/NewDesigns.h"
-#include "core/decks/CardStore.h"
-#include "screens/decks/frmImportPictures.h"
-#include "screens/platform/CommonDialog.h"
 
 frmDesignDeck::frmDesignDeck() : DeckScreen(QStringLiteral("Deck Design"), true) {
     setObjectName(QStringLiteral("frmDesignDeck"));

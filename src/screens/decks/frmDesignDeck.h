@@ -2,8 +2,8 @@
 // "Deck Design": edits the deck in memory (CurrentDeck and its DeckCards)
 // with its pictures and sounds as working copies in Temp/. Nothing reaches
 // the record files until the deck is saved through frmSaveDeck.
-#include "screens/decks/DeckScreen.h"
 #include "core/records/Records.h"
+#include "screens/decks/DeckScreen.h"
 
 class frmDesignDeck : public DeckScreen {
     Q_OBJECT

@@ -2,14 +2,14 @@
 
 #include <QCheckBox>
 
-#include "screens/decks/frmAddCard.h"
 #include "core/decks/CardEditing.h"
-#include "screens/decks/DeckControls.h"
-#include "screens/platform/FileLists.h"
 #include "core/platform/FileSys.h"
+#include "core/store/RunState.h"
+#include "screens/decks/DeckControls.h"
+#include "screens/decks/frmAddCard.h"
+#include "screens/platform/FileLists.h"
 #include "screens/shell/FitPicture.h"
 #include "screens/shell/ImageBox.h"
-#include "core/store/RunState.h"
 
 frmGetImageFile::frmGetImageFile()
     : FileChooser(QStringLiteral("Image"), QStringLiteral("*.bmp;*.jpg;*.gif"), RememberedPictureFolder()) {

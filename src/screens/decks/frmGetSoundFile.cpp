@@ -1,11 +1,11 @@
 #include "screens/decks/frmGetSoundFile.h"
 
-#include "screens/decks/frmAddCard.h"
 #include "core/decks/CardEditing.h"
-#include "screens/decks/DeckControls.h"
 #include "core/platform/FileSys.h"
-#include "screens/platform/MediaPlayer.h"
 #include "core/store/RunState.h"
+#include "screens/decks/DeckControls.h"
+#include "screens/decks/frmAddCard.h"
+#include "screens/platform/MediaPlayer.h"
 
 frmGetSoundFile::frmGetSoundFile()
     : FileChooser(QStringLiteral("Sound"), QStringLiteral("*.mp3;*.wav"), RememberedSoundFolder()) {

@@ -14,13 +14,13 @@
 #include <QStandardItemModel>
 #include <QTableView>
 
-#include "core/decks/CardStore.h"
-#include "screens/decks/frmDesignDeck.h"
 #include "core/decks/CardEditing.h"
+#include "core/decks/CardStore.h"
+#include "core/store/RunState.h"
 #include "screens/decks/DeckControls.h"
+#include "screens/decks/frmDesignDeck.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/shell/ScreenPlacement.h"
-#include "core/store/RunState.h"
 
 namespace {
 constexpr int ThumbnailSide = 48;

@@ -1,7 +1,5 @@
 #include "screens/decks/frmSaveDeck.h"
 
-#include "core/store/RunState.h"
-
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -9,18 +7,19 @@
 #include <array>
 #include <vector>
 
-#include "screens/decks/frmDesignDeck.h"
-#include "screens/decks/DeckControls.h"
 #include "core/platform/FileSys.h"
-#include "screens/platform/ListBox.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/OleDate.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "core/store/DesignCommit.h"
 #include "core/records/RecordFile.h"
 #include "core/store/DeckLoading.h"
 #include "core/store/DeletePasses.h"
+#include "core/store/DesignCommit.h"
 #include "core/store/Lookups.h"
+#include "core/store/RunState.h"
+#include "screens/decks/DeckControls.h"
+#include "screens/decks/frmDesignDeck.h"
+#include "screens/platform/ListBox.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/shell/ScreenPlacement.h"
 
 frmSaveDeck::frmSaveDeck() {
     setObjectName(QStringLiteral("frmSaveDeck"));

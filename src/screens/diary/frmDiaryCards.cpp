@@ -5,15 +5,15 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "core/platform/Twips.h"
+#include "core/store/RunState.h"
 #include "screens/diary/frmNewDiary.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
-#include "core/platform/Twips.h"
 #include "screens/shell/ClickLabel.h"
 #include "screens/shell/FitPicture.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/shell/ScreenPlacement.h"
-#include "core/store/RunState.h"
 
 namespace {
 

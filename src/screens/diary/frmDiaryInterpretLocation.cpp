@@ -2,8 +2,8 @@
 
 #include <QComboBox>
 
-#include "screens/diary/frmNewDiary.h"
 #include "core/store/RunState.h"
+#include "screens/diary/frmNewDiary.h"
 
 // The sound player stays up while the picture is enlarged.
 frmDiaryInterpretLocation::frmDiaryInterpretLocation() : InterpretLocationScreen(false) {

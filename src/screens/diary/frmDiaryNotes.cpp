@@ -1,7 +1,7 @@
 #include "screens/diary/frmDiaryNotes.h"
 
-#include "screens/diary/frmNewDiary.h"
 #include "core/store/RunState.h"
+#include "screens/diary/frmNewDiary.h"
 
 frmDiaryNotes::frmDiaryNotes() : EntryNotesScreen(QStringLiteral("Diary Summary and Notes")) {
     setObjectName(QStringLiteral("frmDiaryNotes"));

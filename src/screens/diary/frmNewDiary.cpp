@@ -6,19 +6,19 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "core/platform/Palette.h"
+#include "core/store/Lookups.h"
+#include "core/store/RunState.h"
 #include "screens/diary/frmDiaryCards.h"
 #include "screens/diary/frmDiaryInterpretLocation.h"
 #include "screens/diary/frmDiaryNotes.h"
 #include "screens/diary/frmSaveDiary.h"
 #include "screens/platform/MsgBox.h"
-#include "core/platform/Palette.h"
 #include "screens/shell/ClickLabel.h"
 #include "screens/shell/ImageBox.h"
+#include "screens/shell/ScreenPlacement.h"
 #include "screens/shell/frmDiaryHelp.h"
 #include "screens/shell/frmMainScreen.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "core/store/Lookups.h"
-#include "core/store/RunState.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 #include "screens/diary/frmSaveDiary.h"
 
-#include "screens/diary/frmNewDiary.h"
 #include "core/platform/OleDate.h"
 #include "core/records/RecordFile.h"
 #include "core/store/Lookups.h"
 #include "core/store/RunState.h"
+#include "screens/diary/frmNewDiary.h"
 
 frmSaveDiary::frmSaveDiary()
     : SaveEntryScreen({QStringLiteral("Save Diary"), QStringLiteral("lstDiaryNames"),

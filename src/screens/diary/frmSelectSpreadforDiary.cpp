@@ -1,8 +1,8 @@
 #include "screens/diary/frmSelectSpreadforDiary.h"
 
+#include "core/store/RunState.h"
 #include "screens/diary/frmNewDiary.h"
 #include "screens/shell/frmMainScreen.h"
-#include "core/store/RunState.h"
 
 frmSelectSpreadforDiary::frmSelectSpreadforDiary()
     : SelectSpreadScreen(QStringLiteral("Select a Spread for the Diary")) {

@@ -13,19 +13,19 @@
 #include <QTableView>
 #include <QTimer>
 
+#include "core/platform/Errors.h"
+#include "core/platform/FileSys.h"
+#include "core/platform/Printer.h"
+#include "core/platform/Twips.h"
+#include "core/store/NewDesigns.h"
 #include "screens/diary/frmOpenDiary.h"
 #include "screens/journal/JournalCharts.h"
 #include "screens/platform/CommonDialog.h"
-#include "core/platform/Errors.h"
-#include "core/platform/FileSys.h"
 #include "screens/platform/MsgBox.h"
-#include "core/platform/Printer.h"
 #include "screens/platform/QtPrinter.h"
-#include "core/platform/Twips.h"
 #include "screens/readings/frmOpenReading.h"
-#include "screens/shell/frmMainScreen.h"
 #include "screens/shell/ScreenPlacement.h"
-#include "core/store/NewDesigns.h"
+#include "screens/shell/frmMainScreen.h"
 
 namespace {
 

@@ -6,22 +6,22 @@
 #include <QListWidget>
 #include <QPushButton>
 
-#include "core/packages/PackageStaging.h"
-#include "screens/packages/PackageSummary.h"
 #include "core/packages/PackageFile.h"
+#include "core/packages/PackageStaging.h"
 #include "core/platform/Errors.h"
-#include "screens/platform/ErrorReport.h"
-#include "screens/platform/FileLists.h"
 #include "core/platform/FileSys.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/Twips.h"
-#include "screens/shell/frmMainScreen.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/store/PasswordPrompts.h"
 #include "core/records/RecordFile.h"
-#include "screens/store/Startup.h"
 #include "core/store/Lookups.h"
 #include "core/store/RunState.h"
+#include "screens/packages/PackageSummary.h"
+#include "screens/platform/ErrorReport.h"
+#include "screens/platform/FileLists.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/shell/ScreenPlacement.h"
+#include "screens/shell/frmMainScreen.h"
+#include "screens/store/PasswordPrompts.h"
+#include "screens/store/Startup.h"
 
 namespace {
 

@@ -7,9 +7,9 @@
 // designs never change: the password goes only into the copies.
 #include <vector>
 
+#include "core/records/Records.h"
 #include "screens/platform/CommonDialog.h"
 #include "screens/platform/Form.h"
-#include "core/records/Records.h"
 
 class DirListBox;
 class DriveListBox;

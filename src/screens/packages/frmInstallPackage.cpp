@@ -6,21 +6,21 @@
 #include <QListWidget>
 #include <QPushButton>
 
-#include "screens/packages/PackageSummary.h"
 #include "core/packages/PackageFile.h"
 #include "core/platform/Errors.h"
+#include "core/platform/FileSys.h"
+#include "core/platform/Twips.h"
+#include "core/records/RecordFile.h"
+#include "core/store/RunState.h"
+#include "screens/packages/PackageSummary.h"
 #include "screens/platform/ErrorReport.h"
 #include "screens/platform/FileLists.h"
-#include "core/platform/FileSys.h"
 #include "screens/platform/MsgBox.h"
-#include "core/platform/Twips.h"
-#include "screens/shell/frmMainScreen.h"
 #include "screens/shell/ScreenPlacement.h"
+#include "screens/shell/frmMainScreen.h"
 #include "screens/spreads/frmDeckChooser.h"
-#include "core/records/RecordFile.h"
 #include "screens/store/Startup.h"
 #include "screens/store/frmDesignExists.h"
-#include "core/store/RunState.h"
 
 namespace {
 

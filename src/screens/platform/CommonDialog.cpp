@@ -2,9 +2,9 @@
 
 #include <QApplication>
 #include <QFileDialog>
-#include <QPointer>
 #include <QFileInfo>
 #include <QList>
+#include <QPointer>
 
 #include "core/platform/Errors.h"
 

@@ -15,8 +15,8 @@
 
 #include "core/platform/CodePage.h"
 #include "core/platform/Errors.h"
-#include "screens/platform/ErrorReport.h"
 #include "core/platform/Twips.h"
+#include "screens/platform/ErrorReport.h"
 
 namespace {
 QPointer<QMdiArea> gArea;

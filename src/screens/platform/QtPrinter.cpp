@@ -10,8 +10,8 @@
 #include <QPrintDialog>
 #include <QtMath>
 
-#include "screens/platform/CommonDialog.h"
 #include "core/platform/Errors.h"
+#include "screens/platform/CommonDialog.h"
 
 namespace {
 

@@ -7,19 +7,19 @@
 #include <QPushButton>
 
 #include "core/platform/Errors.h"
+#include "core/platform/Palette.h"
+#include "core/platform/Picture.h"
+#include "core/platform/Twips.h"
+#include "core/spreads/LocationTitle.h"
+#include "core/store/RunState.h"
 #include "screens/platform/ErrorReport.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/printing/PrintEntry.h"
-#include "core/platform/Palette.h"
-#include "core/platform/Picture.h"
-#include "core/platform/Twips.h"
 #include "screens/shell/ClickLabel.h"
 #include "screens/shell/DecorativePictures.h"
 #include "screens/shell/FitPicture.h"
 #include "screens/shell/ImageBox.h"
-#include "core/spreads/LocationTitle.h"
-#include "core/store/RunState.h"
 
 void PlaceControl(QWidget* control, int left, int top, int width, int height) {
     control->setGeometry(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));

@@ -9,8 +9,8 @@
 
 #include "core/platform/Arrays.h"
 #include "core/printing/EntryPrintout.h"
-#include "screens/platform/Form.h"
 #include "core/records/Records.h"
+#include "screens/platform/Form.h"
 
 class ClickLabel;
 class ImageBox;

@@ -6,14 +6,14 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "screens/platform/MediaPlayer.h"
 #include "core/platform/Twips.h"
+#include "core/store/RunState.h"
+#include "screens/platform/MediaPlayer.h"
 #include "screens/readings/EntryScreen.h"
 #include "screens/shell/ClickLabel.h"
 #include "screens/shell/FitPicture.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/shell/ScreenPlacement.h"
-#include "core/store/RunState.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 // reversed, its description or keywords, an enlarged picture and its sound).
 // Without a card the page shrinks to the location alone. The page closes as
 // soon as it loses the focus, so one location at a time is interpreted.
-#include "screens/platform/Form.h"
 #include "core/records/Records.h"
+#include "screens/platform/Form.h"
 
 class ClickLabel;
 class ImageBox;

@@ -4,18 +4,18 @@
 #include <QPushButton>
 #include <algorithm>
 
-#include "screens/platform/ListBox.h"
-#include "screens/platform/MsgBox.h"
-#include "core/platform/Twips.h"
-#include "screens/readings/EntryScreen.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/store/PasswordPrompts.h"
-#include "core/records/RecordFile.h"
 #include "core/platform/OleDate.h"
+#include "core/platform/Twips.h"
+#include "core/records/RecordFile.h"
 #include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 #include "screens/decks/DeckLoadQuestion.h"
+#include "screens/platform/ListBox.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/readings/EntryScreen.h"
+#include "screens/shell/ScreenPlacement.h"
 #include "screens/shell/frmMainScreen.h"
+#include "screens/store/PasswordPrompts.h"
 
 namespace {
 // Date, separator: the name begins after them.

@@ -10,9 +10,9 @@
 #include <utility>
 #include <vector>
 
-#include "screens/platform/Form.h"
-#include "core/records/Records.h"
 #include "core/journal/Journal.h"
+#include "core/records/Records.h"
+#include "screens/platform/Form.h"
 
 class QLabel;
 class ListBox;

@@ -4,9 +4,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "core/platform/Twips.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
-#include "core/platform/Twips.h"
 #include "screens/readings/EntryScreen.h"
 #include "screens/shell/ScreenPlacement.h"
 

@@ -5,17 +5,17 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "screens/platform/ListBox.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/Twips.h"
-#include "screens/readings/EntryScreen.h"
-#include "screens/shell/ScreenPlacement.h"
 #include "core/records/RecordFile.h"
 #include "core/store/DeckLoading.h"
 #include "core/store/Lookups.h"
-#include "core/store/Usability.h"
 #include "core/store/RunState.h"
+#include "core/store/Usability.h"
 #include "screens/decks/DeckLoadQuestion.h"
+#include "screens/platform/ListBox.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/readings/EntryScreen.h"
+#include "screens/shell/ScreenPlacement.h"
 
 bool SelectSpreadScreen::LastAllowDuplicateCards = false;
 

@@ -7,21 +7,21 @@
 #include <QPointer>
 #include <QTimer>
 
-#include "screens/platform/MsgBox.h"
 #include "core/platform/Palette.h"
+#include "core/store/Lookups.h"
+#include "core/store/NewDesigns.h"
+#include "core/store/RunState.h"
+#include "screens/platform/ErrorReport.h"
+#include "screens/platform/MsgBox.h"
 #include "screens/readings/frmReadingCards.h"
 #include "screens/readings/frmReadingInterpretLocation.h"
 #include "screens/readings/frmReadingNotes.h"
 #include "screens/readings/frmSaveReading.h"
 #include "screens/shell/ClickLabel.h"
 #include "screens/shell/ImageBox.h"
+#include "screens/shell/ScreenPlacement.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/shell/frmQuickHelp.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "core/store/Lookups.h"
-#include "core/store/NewDesigns.h"
-#include "core/store/RunState.h"
-#include "screens/platform/ErrorReport.h"
 
 void ShuffleButton::mousePressEvent(QMouseEvent* e) {
     QPushButton::mousePressEvent(e);

@@ -1,12 +1,12 @@
 #include "screens/readings/frmOpenReading.h"
 
-#include "screens/platform/MsgBox.h"
-#include "screens/readings/frmNewReading.h"
-#include "screens/shell/frmMainScreen.h"
 #include "core/records/RecordFile.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
 #include "core/store/RunState.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/readings/frmNewReading.h"
+#include "screens/shell/frmMainScreen.h"
 
 frmOpenReading::frmOpenReading()
     : OpenEntryScreen({

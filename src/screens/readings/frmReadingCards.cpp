@@ -5,17 +5,17 @@
 #include <QTimer>
 #include <cmath>
 
-#include "screens/platform/Events.h"
 #include "core/platform/Palette.h"
 #include "core/platform/Rnd.h"
-#include "core/readings/Shuffle.h"
 #include "core/platform/Twips.h"
-#include "screens/readings/frmNewReading.h"
-#include "screens/shell/ClickLabel.h"
-#include "screens/shell/ImageBox.h"
+#include "core/readings/Shuffle.h"
 #include "core/store/DeckLoading.h"
 #include "core/store/RunState.h"
 #include "screens/platform/ErrorReport.h"
+#include "screens/platform/Events.h"
+#include "screens/readings/frmNewReading.h"
+#include "screens/shell/ClickLabel.h"
+#include "screens/shell/ImageBox.h"
 
 Integer frmReadingCards::MaxCardsUsed = 0;
 bool frmReadingCards::LoadingReading = false;

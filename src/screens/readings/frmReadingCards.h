@@ -7,8 +7,8 @@
 #include <QColor>
 
 #include "core/platform/Arrays.h"
-#include "screens/platform/Form.h"
 #include "core/records/Records.h"
+#include "screens/platform/Form.h"
 
 class ClickLabel;
 

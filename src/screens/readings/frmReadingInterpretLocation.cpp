@@ -1,9 +1,9 @@
 #include "screens/readings/frmReadingInterpretLocation.h"
 
 #include "core/platform/Palette.h"
+#include "core/store/RunState.h"
 #include "screens/readings/frmNewReading.h"
 #include "screens/shell/ClickLabel.h"
-#include "core/store/RunState.h"
 
 frmReadingInterpretLocation::frmReadingInterpretLocation() : InterpretLocationScreen(true) {
     setObjectName(QStringLiteral("frmReadingInterpretLocation"));

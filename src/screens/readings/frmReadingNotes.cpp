@@ -1,7 +1,7 @@
 #include "screens/readings/frmReadingNotes.h"
 
-#include "screens/readings/frmNewReading.h"
 #include "core/store/RunState.h"
+#include "screens/readings/frmNewReading.h"
 
 frmReadingNotes::frmReadingNotes() : EntryNotesScreen(QStringLiteral("Reading Summary and Notes")) {
     setObjectName(QStringLiteral("frmReadingNotes"));

@@ -1,10 +1,10 @@
 #include "screens/readings/frmSaveReading.h"
 
 #include "core/platform/OleDate.h"
-#include "screens/readings/frmNewReading.h"
 #include "core/records/RecordFile.h"
 #include "core/store/Lookups.h"
 #include "core/store/RunState.h"
+#include "screens/readings/frmNewReading.h"
 
 frmSaveReading::frmSaveReading()
     : SaveEntryScreen({QStringLiteral("Save Reading"), QStringLiteral("lstReadingNames"),

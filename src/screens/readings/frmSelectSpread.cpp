@@ -1,8 +1,8 @@
 #include "screens/readings/frmSelectSpread.h"
 
+#include "core/store/RunState.h"
 #include "screens/readings/frmNewReading.h"
 #include "screens/shell/frmMainScreen.h"
-#include "core/store/RunState.h"
 
 frmSelectSpread::frmSelectSpread() : SelectSpreadScreen(QStringLiteral("Select a Spread for the Reading")) {
     setObjectName(QStringLiteral("frmSelectSpread"));

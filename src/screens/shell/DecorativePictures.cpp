@@ -7,6 +7,7 @@
 #include <QPolygonF>
 #include <QRadialGradient>
 #include <QtMath>
+
 #include "screens/shell/Emblems.h"
 
 namespace {

@@ -4,11 +4,11 @@
 
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/Picture.h"
+#include "core/store/RunState.h"
+#include "screens/platform/MsgBox.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/store/Startup.h"
-#include "core/store/RunState.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "screens/shell/ImageBox.h"
 
 #include <QMouseEvent>
-#include <algorithm>
 #include <QPainter>
+#include <algorithm>
 
 #include "core/platform/Twips.h"
 

@@ -5,13 +5,13 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include "screens/platform/Application.h"
 #include "core/platform/Errors.h"
+#include "screens/packages/frmInstallPackage.h"
+#include "screens/platform/Application.h"
 #include "screens/platform/ErrorReport.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/packages/frmInstallPackage.h"
-#include "screens/shell/frmMainScreen.h"
 #include "screens/shell/ScreenPlacement.h"
+#include "screens/shell/frmMainScreen.h"
 #include "screens/store/Startup.h"
 
 namespace {

@@ -1,11 +1,11 @@
 #include "screens/shell/ProgramFolder.h"
 
-#include "screens/platform/Application.h"
 #include "core/platform/Errors.h"
-#include "screens/platform/ErrorReport.h"
 #include "core/platform/FileSys.h"
 #include "core/platform/ProgramLock.h"
 #include "core/platform/UserFolders.h"
+#include "screens/platform/Application.h"
+#include "screens/platform/ErrorReport.h"
 
 namespace {
 

@@ -1,14 +1,13 @@
 #include "screens/spreads/DeckLists.h"
 
-#include "core/store/RunState.h"
-
 #include <QCheckBox>
 #include <QPushButton>
 
-#include "screens/platform/MsgBox.h"
-#include "screens/platform/ListBox.h"
 #include "core/records/RecordFile.h"
 #include "core/store/Lookups.h"
+#include "core/store/RunState.h"
+#include "screens/platform/ListBox.h"
+#include "screens/platform/MsgBox.h"
 
 void RestoreListPosition(ListBox* list, int noted) {
     if (noted > list->ListCount() - 1) --noted;

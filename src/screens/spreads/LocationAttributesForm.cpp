@@ -1,11 +1,10 @@
 #include "screens/spreads/LocationAttributesForm.h"
 
-#include "core/store/RunState.h"
-
 #include <QLabel>
 #include <QPushButton>
 
 #include "core/platform/Twips.h"
+#include "core/store/RunState.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/spreads/TextBoxes.h"
 

@@ -11,8 +11,8 @@
 
 #include "core/platform/Errors.h"
 #include "core/platform/Twips.h"
-#include "screens/shell/ImageBox.h"
 #include "core/spreads/LocationTitle.h"
+#include "screens/shell/ImageBox.h"
 
 namespace {
 // Whole pixels for a place in twips, rounding towards minus infinity so that

@@ -1,14 +1,13 @@
 #include "screens/spreads/SpreadDetailsPage.h"
 
-#include "core/store/RunState.h"
-
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
 
-#include "core/platform/Twips.h"
-#include "screens/spreads/TextBoxes.h"
 #include "core/platform/OleDate.h"
+#include "core/platform/Twips.h"
+#include "core/store/RunState.h"
+#include "screens/spreads/TextBoxes.h"
 
 namespace {
 QRect At(int left, int top, int width, int height) {

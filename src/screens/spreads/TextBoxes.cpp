@@ -1,10 +1,10 @@
 #include "screens/spreads/TextBoxes.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QTextCursor>
-#include <QApplication>
-#include <QClipboard>
 
 TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
     connect(this, &QLineEdit::textChanged, this, [this] { emit Change(); });

@@ -1,18 +1,17 @@
 #include "screens/spreads/frmDeckChooser.h"
 
-#include "core/store/RunState.h"
-
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
 
-#include "screens/platform/MsgBox.h"
 #include "core/platform/Twips.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/platform/ListBox.h"
-#include "screens/spreads/frmSpreads.h"
 #include "core/records/RecordFile.h"
 #include "core/store/Lookups.h"
+#include "core/store/RunState.h"
+#include "screens/platform/ListBox.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/shell/ScreenPlacement.h"
+#include "screens/spreads/frmSpreads.h"
 
 namespace {
 QRect At(int left, int top, int width, int height) {

@@ -1,8 +1,5 @@
 #include "screens/spreads/frmDesignSpread.h"
 
-#include "core/platform/OleDate.h"
-#include "core/store/RunState.h"
-
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
@@ -10,26 +7,28 @@
 #include <functional>
 
 #include "core/platform/Errors.h"
-#include "screens/platform/ErrorReport.h"
 #include "core/platform/FileSys.h"
-#include "screens/platform/MsgBox.h"
+#include "core/platform/OleDate.h"
 #include "core/platform/Picture.h"
 #include "core/platform/Twips.h"
+#include "core/store/Lookups.h"
+#include "core/store/NewDesigns.h"
+#include "core/store/RunState.h"
+#include "screens/decks/frmBrowseDeck.h"
+#include "screens/platform/ErrorReport.h"
+#include "screens/platform/ListBox.h"
+#include "screens/platform/MsgBox.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/shell/ScreenPlacement.h"
-#include "screens/platform/ListBox.h"
 #include "screens/spreads/SpreadCanvas.h"
 #include "screens/spreads/SpreadDetailsPage.h"
 #include "screens/spreads/TextBoxes.h"
-#include "screens/decks/frmBrowseDeck.h"
 #include "screens/spreads/frmGetSpreadBackground.h"
 #include "screens/spreads/frmLocationAttributes.h"
 #include "screens/spreads/frmSaveSpread.h"
 #include "screens/spreads/frmSpreadComments.h"
 #include "screens/spreads/frmSpreads.h"
 #include "screens/store/Startup.h"
-#include "core/store/Lookups.h"
-#include "core/store/NewDesigns.h"
 
 namespace {
 constexpr int PageLeft = 120;

@@ -6,10 +6,10 @@
 // through frmSaveSpread.
 #include <QString>
 
+#include "core/records/Records.h"
 #include "screens/platform/Form.h"
 #include "screens/spreads/DeckLists.h"
 #include "screens/spreads/SpreadDetailsPage.h"
-#include "core/records/Records.h"
 
 class QCheckBox;
 class QLabel;

@@ -6,14 +6,14 @@
 
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/Picture.h"
 #include "core/platform/Twips.h"
+#include "core/store/RunState.h"
+#include "screens/platform/MsgBox.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/spreads/TextBoxes.h"
 #include "screens/spreads/frmDesignSpread.h"
-#include "core/store/RunState.h"
 
 namespace {
 const QString WorkingStem = QStringLiteral("sprpic");

@@ -2,9 +2,9 @@
 
 #include <QLabel>
 
+#include "core/store/RunState.h"
 #include "screens/spreads/TextBoxes.h"
 #include "screens/spreads/frmDesignSpread.h"
-#include "core/store/RunState.h"
 
 namespace {
 void MarkDesignChanged() {

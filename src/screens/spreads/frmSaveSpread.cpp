@@ -1,24 +1,23 @@
 #include "screens/spreads/frmSaveSpread.h"
 
-#include "core/store/RunState.h"
-
 #include <QLabel>
 #include <QPushButton>
 
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/OleDate.h"
 #include "core/platform/Twips.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/platform/ListBox.h"
-#include "screens/spreads/TextBoxes.h"
-#include "screens/spreads/frmDesignSpread.h"
-#include "core/store/DesignCommit.h"
 #include "core/records/RecordFile.h"
 #include "core/store/DeckLoading.h"
 #include "core/store/DeletePasses.h"
+#include "core/store/DesignCommit.h"
 #include "core/store/Lookups.h"
+#include "core/store/RunState.h"
+#include "screens/platform/ListBox.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/shell/ScreenPlacement.h"
+#include "screens/spreads/TextBoxes.h"
+#include "screens/spreads/frmDesignSpread.h"
 
 namespace {
 QRect At(int left, int top, int width, int height) {

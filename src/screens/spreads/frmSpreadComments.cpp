@@ -3,10 +3,10 @@
 #include <QPushButton>
 
 #include "core/platform/Twips.h"
+#include "core/store/RunState.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/spreads/TextBoxes.h"
 #include "screens/spreads/frmDesignSpread.h"
-#include "core/store/RunState.h"
 
 frmSpreadComments::frmSpreadComments() {
     setObjectName(QStringLiteral("frmSpreadComments"));

@@ -1,22 +1,21 @@
 #include "screens/spreads/frmSpreadInfo.h"
 
-#include "core/store/RunState.h"
-
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
 
 #include "core/platform/Picture.h"
 #include "core/platform/Twips.h"
+#include "core/store/Lookups.h"
+#include "core/store/RunState.h"
+#include "screens/platform/ErrorReport.h"
+#include "screens/platform/ListBox.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/shell/ScreenPlacement.h"
-#include "screens/platform/ListBox.h"
 #include "screens/spreads/SpreadCanvas.h"
 #include "screens/spreads/SpreadDetailsPage.h"
 #include "screens/spreads/frmSpreadInfo_LocationAttributes.h"
 #include "screens/spreads/frmSpreads.h"
-#include "core/store/Lookups.h"
-#include "screens/platform/ErrorReport.h"
 
 namespace {
 constexpr int PageLeft = 120;

@@ -5,8 +5,8 @@
 // answers, opening the read-only attributes.
 #include <QString>
 
-#include "screens/platform/Form.h"
 #include "core/records/Records.h"
+#include "screens/platform/Form.h"
 
 class QCheckBox;
 class QLabel;

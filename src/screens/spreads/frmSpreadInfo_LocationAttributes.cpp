@@ -1,7 +1,7 @@
 #include "screens/spreads/frmSpreadInfo_LocationAttributes.h"
 
-#include "screens/spreads/frmSpreadInfo.h"
 #include "core/store/RunState.h"
+#include "screens/spreads/frmSpreadInfo.h"
 
 // The description's limit holds for typing only, and nothing can be typed
 // here: a longer description shows whole.

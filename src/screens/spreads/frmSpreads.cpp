@@ -1,25 +1,24 @@
 #include "screens/spreads/frmSpreads.h"
 
-#include "core/store/RunState.h"
-
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 
-#include "screens/platform/MsgBox.h"
+#include "core/platform/OleDate.h"
 #include "core/platform/Twips.h"
-#include "screens/shell/frmMainScreen.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "core/records/RecordFile.h"
+#include "core/store/DeletePasses.h"
+#include "core/store/Lookups.h"
+#include "core/store/NewDesigns.h"
+#include "core/store/RunState.h"
 #include "screens/platform/ListBox.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/shell/ScreenPlacement.h"
+#include "screens/shell/frmMainScreen.h"
 #include "screens/spreads/frmDeckChooser.h"
 #include "screens/spreads/frmDesignSpread.h"
 #include "screens/spreads/frmSpreadInfo.h"
 #include "screens/store/PasswordPrompts.h"
-#include "core/records/RecordFile.h"
-#include "core/platform/OleDate.h"
-#include "core/store/DeletePasses.h"
-#include "core/store/Lookups.h"
-#include "core/store/NewDesigns.h"
 
 namespace {
 QRect At(int left, int top, int width, int height) {

@@ -1,9 +1,9 @@
 #include "screens/store/PasswordPrompts.h"
 
+#include "core/store/Passwords.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/store/frmGetPassword.h"
 #include "screens/store/frmSetPassword.h"
-#include "core/store/Passwords.h"
 
 bool CheckPassword(const QString& storedPassword) {
     frmGetPassword& screen = Get<frmGetPassword>();

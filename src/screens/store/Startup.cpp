@@ -5,15 +5,15 @@
 
 #include "core/platform/BinaryFile.h"
 #include "core/platform/FileSys.h"
-#include "screens/platform/MsgBox.h"
-#include "core/platform/ProgramLock.h"
 #include "core/platform/Picture.h"
-#include "screens/shell/MDIMainForm.h"
-#include "screens/shell/frmMainScreen.h"
+#include "core/platform/ProgramLock.h"
 #include "core/store/DesignCommit.h"
-#include "screens/store/frmConvert.h"
 #include "core/store/Lookups.h"
 #include "core/store/RunState.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/shell/MDIMainForm.h"
+#include "screens/shell/frmMainScreen.h"
+#include "screens/store/frmConvert.h"
 
 namespace {
 

@@ -5,12 +5,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "screens/platform/Events.h"
 #include "core/platform/FileSys.h"
 #include "core/platform/Twips.h"
-#include "screens/shell/ScreenPlacement.h"
 #include "core/store/Conversion.h"
 #include "core/store/RunState.h"
+#include "screens/platform/Events.h"
+#include "screens/shell/ScreenPlacement.h"
 
 namespace {
 

@@ -6,11 +6,11 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "core/records/Records.h"
+#include "core/store/RunState.h"
 #include "screens/platform/Events.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/shell/ScreenPlacement.h"
-#include "core/records/Records.h"
-#include "core/store/RunState.h"
 
 namespace {
 QPushButton* Button(QWidget* parent, const QString& caption, const char* name) {

@@ -3,8 +3,8 @@
 // already installed: overwrite, skip, rename, or the same for all.
 #include <functional>
 
-#include "screens/platform/Form.h"
 #include "core/store/RunState.h"
+#include "screens/platform/Form.h"
 
 class QLabel;
 class QLineEdit;
