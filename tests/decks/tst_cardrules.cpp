@@ -312,7 +312,10 @@ private slots:
                 QCOMPARE(s.txtSaveAs->text(), BadInput::ForeignAsStored);
                 if (pass == 1) MsgBoxScript::Answer(vbNo);   // the same name again: the overwrite question
                 s.cmdSave_Click();
-                if (pass == 1) s.cmdCancel_Click();
+                if (pass == 1) {   // No keeps the save screen open
+                    QVERIFY(IsLoaded<frmSaveDeck>());
+                    s.cmdCancel_Click();
+                }
             });
             designer.cmdSave_Click();
             QVERIFY(save.Done());
