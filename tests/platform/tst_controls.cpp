@@ -5,8 +5,6 @@
 #include "screens/platform/CommonDialog.h"
 #include "core/platform/Errors.h"
 #include "screens/platform/FileLists.h"
-#include "core/platform/FileSys.h"
-#include "screens/platform/ListBox.h"
 #include "screens/platform/MediaPlayer.h"
 
 class TestControls : public QObject {

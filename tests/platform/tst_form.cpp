@@ -6,9 +6,7 @@
 #include <QMdiArea>
 #include <QTimer>
 
-#include "core/platform/Errors.h"
 #include "screens/platform/Form.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/Twips.h"
 
 namespace {
@@ -132,18 +130,6 @@ private slots:
         UnloadScreen<frmOther>();
         UnloadScreen<frmSample>();
         SetFrameArea(nullptr);
-    }
-
-    void handlersReportErrorsAndGoOn() {
-        MsgBoxScript::Clear();
-        bool ran = false;
-        Form::Handler([&] {
-            ran = true;
-            RaiseError(errFileNotFound);
-        })();
-        QVERIFY(ran);
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QVERIFY(MsgBoxScript::History()[0].prompt.contains(QStringLiteral("File not found")));
     }
 };
 

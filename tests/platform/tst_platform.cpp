@@ -10,12 +10,9 @@
 #include "core/platform/CodePage.h"
 #include "core/platform/Errors.h"
 #include "screens/platform/ErrorReport.h"
-#include "core/platform/FileSys.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/OleDate.h"
 #include "core/platform/Picture.h"
 #include "core/platform/Rnd.h"
-#include "support/Prompts.h"
 
 class TestPlatform : public QObject {
     Q_OBJECT

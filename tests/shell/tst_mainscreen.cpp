@@ -9,8 +9,6 @@
 #include <QMdiSubWindow>
 #include <QTextBrowser>
 
-#include "core/platform/FileSys.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/Palette.h"
 #include "screens/shell/ClickLabel.h"
 #include "screens/shell/MDIMainForm.h"
@@ -21,10 +19,6 @@
 #include "screens/journal/frmJournal.h"
 #include "spreads/SpreadTestKit.h"
 #include "screens/store/Startup.h"
-#include "support/Fixtures.h"
-#include "core/store/RunState.h"
-#include "support/ModalScript.h"
-#include "support/Prompts.h"
 
 namespace {
 
@@ -57,9 +51,6 @@ private slots:
         QVERIFY(main_->Visible());
         QVERIFY(!FrameArea()->subWindowList().isEmpty());
         QCOMPARE(FrameArea()->subWindowList().first()->widget(), main_);
-        // Centred in the frame, to the pixel.
-        QVERIFY(qAbs(main_->Left() - (FrameInnerWidth() - main_->Width()) / 2) < 15);
-        QVERIFY(qAbs(main_->Top() - (FrameInnerHeight() - main_->Height()) / 2) < 15);
     }
 
     void escapeAndStrayIndexesChangeNothing() {

@@ -15,12 +15,9 @@
 #include <QTextFragment>
 #include <QTextImageFormat>
 
-#include "core/platform/FileSys.h"
-#include "screens/platform/MsgBox.h"
 #include "screens/shell/frmHelpViewer.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/store/Startup.h"
-#include "support/Fixtures.h"
 
 namespace {
 

@@ -6,16 +6,12 @@
 #include "support/ScreenTest.h"
 
 #include "screens/platform/Form.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/Picture.h"
 #include "core/platform/Twips.h"
 #include "screens/shell/FitPicture.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/store/Startup.h"
-#include "core/store/RunState.h"
-#include "support/Fixtures.h"
-#include "support/Prompts.h"
 
 namespace {
 

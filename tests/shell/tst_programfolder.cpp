@@ -8,14 +8,12 @@
 
 #include "screens/packages/frmInstallPackage.h"
 #include "screens/platform/FileLists.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/ProgramLock.h"
 #include "core/platform/UserFolders.h"
 #include "screens/shell/MDIMainForm.h"
 #include "screens/shell/ProgramFolder.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/store/Startup.h"
-#include "core/store/RunState.h"
 
 namespace {
 

@@ -9,15 +9,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "core/platform/FileSys.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/Picture.h"
 #include "core/platform/ProgramLock.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/store/Startup.h"
 #include "core/records/Records.h"
-#include "core/store/RunState.h"
-#include "support/Prompts.h"
 
 namespace {
 

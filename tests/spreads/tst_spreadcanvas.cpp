@@ -3,8 +3,6 @@
 // grid's 82 lines, and the stacking of rectangles above grid and picture.
 #include "support/ScreenTest.h"
 
-#include "core/store/RunState.h"
-#include "screens/platform/MsgBox.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/spreads/SpreadCanvas.h"
 #include "screens/spreads/TextBoxes.h"
@@ -12,7 +10,6 @@
 #include "screens/spreads/frmLocationAttributes.h"
 #include "screens/spreads/frmSpreads.h"
 #include "core/store/NewDesigns.h"
-#include "support/Fixtures.h"
 #include "SpreadTestKit.h"
 
 using namespace SpreadTestKit;

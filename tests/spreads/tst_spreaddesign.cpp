@@ -10,11 +10,8 @@
 
 #include "support/ScreenTest.h"
 
-#include "core/store/RunState.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/Picture.h"
 #include "screens/shell/ImageBox.h"
-#include "screens/platform/ListBox.h"
 #include "screens/spreads/SpreadCanvas.h"
 #include "screens/spreads/TextBoxes.h"
 #include "screens/spreads/frmDeckChooser.h"
@@ -24,9 +21,7 @@
 #include "screens/spreads/frmSaveSpread.h"
 #include "screens/spreads/frmSpreadComments.h"
 #include "screens/spreads/frmSpreads.h"
-#include "core/records/RecordFile.h"
 #include "core/store/Lookups.h"
-#include "support/Fixtures.h"
 #include "SpreadTestKit.h"
 #include "support/BadInput.h"
 
