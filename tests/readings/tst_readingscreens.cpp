@@ -329,19 +329,6 @@ private slots:
         MsgBoxScript::Answer(vbNo);
         reading.cmdClose->click();
     }
-
-    void cancelledSaveStillCloses() {
-        frmNewReading& reading = NewReading();
-        reading.cmdContinue->click();
-        reading.cmdNextCard->click();
-        MsgBoxScript::Answer(vbCancel);
-        reading.cmdClose->click();
-        QVERIFY(IsLoaded<frmNewReading>());
-        MsgBoxScript::Answer(vbYes);
-        SaveThrough<frmSaveReading>(reading.cmdClose, QString());
-        QVERIFY(!IsLoaded<frmNewReading>());
-        QCOMPARE(CountReadings(), 0);
-    }
 };
 
 QTEST_MAIN(TestReadingScreens)
