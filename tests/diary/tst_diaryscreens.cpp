@@ -116,13 +116,6 @@ private slots:
         }
         QVERIFY(reopened.chkReversed(3)->isChecked());
 
-        // Saving again under its name raises the count and keeps the record.
-        MsgBoxScript::Answer(vbYes);
-        SaveThrough<frmSaveDiary>(reopened.cmdSave, QStringLiteral("Tuesday"));
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QVERIFY(GetRecord(DiaryPath, 1, saved));
-        QCOMPARE(saved.SaveCount, Integer(2));
-        QCOMPARE(CountDiaries(), 1);
     }
 
     void theCardChoiceOffersWhatTheLocationMayTake() {
