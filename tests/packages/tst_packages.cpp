@@ -1,6 +1,5 @@
 // Packages between two program directories: made on the creation screen in
-// one, installed in the other over designs of the same names, and used for a
-// reading there; the rules of an installation on its own (fresh names, the
+// one, installed in the other over designs of the same names; the rules of an installation on its own (fresh names, the
 // decks offered, packages refused or stopped part-way with nothing written);
 // what the screen does with a package it cannot install or that vanished
 // after the listing; and the creation screen's limits.
@@ -30,7 +29,6 @@
 #include "screens/store/frmSetPassword.h"
 #include "support/Prompts.h"
 #include "core/store/Lookups.h"
-#include "core/store/Usability.h"
 
 using namespace ReadingFixtures;
 
@@ -121,7 +119,7 @@ private slots:
         QCOMPARE(CommonDialogScript::Pending(), 0);
     }
 
-    void aPackageTravelsWithPasswordAndAttachmentAndServesAReading() {
+    void aPackageTravelsWithPasswordAndAttachment() {
         QTemporaryDir a, b;
         // ---- Directory A: a deck of three cards with sounds and reversed
         // pictures, a spread on it with a background, and an attachment.
@@ -265,12 +263,6 @@ private slots:
             QCOMPARE(EncodeRecord(newLocations[i]), EncodeRecord(expected));
         }
 
-        // Ready for a reading: the spread qualifies and the renamed deck loads whole.
-        QVERIFY(IsSpreadUsable(QStringLiteral("Cross")));
-        ListDeck = decks[1];
-        bool removed = true;
-        QVERIFY(LoadDeck(removed));
-        QCOMPARE(CurrentDeck.DeckCards.Count(), 3);
     }
 
     // Each package contradicts itself in one place, and is refused with
