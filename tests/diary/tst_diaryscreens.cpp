@@ -170,14 +170,7 @@ private slots:
         ChangeRecord<DeckRecord>(DecksPath, 1, [](DeckRecord& d) { d.IncludesReversed = False16; });
         frmNewDiary& diary = NewDiary([](frmSelectSpreadforDiary& select) {
             select.chkAllowDuplicateCards->click();
-            // Too few cards of the chosen types: the selection screen stays.
-            select.lstCardTypes->clearSelection();
-            MsgBoxScript::Answer(vbOK);
-            select.cmdSelect->click();
-            QVERIFY(IsLoaded<frmSelectSpreadforDiary>());
-            select.lstCardTypes->selectAll();
         });
-        QCOMPARE(MsgBoxScript::History().size(), 1);
         QVERIFY(AllowDuplicateCards);
         QCOMPARE(CurrentDiary.AllowDuplicateCards, True16);
         diary.cmdContinue->click();
@@ -202,7 +195,6 @@ private slots:
         // An empty location: the compact page.
         diary.cmdInterpret->click();
         frmDiaryInterpretLocation& empty = Get<frmDiaryInterpretLocation>();
-        QCOMPARE(empty.Caption(), QStringLiteral("Four - Position 1 (1)"));
         QVERIFY(empty.lblCardTitle->isHidden());
         QCOMPARE(diary.chkReversed(1)->palette().color(QPalette::Window), QColor(192, 0, 0));
         empty.cmdClose->click();
