@@ -5,7 +5,6 @@
 
 #include "core/platform/FileSys.h"
 #include "screens/shell/ClickLabel.h"
-#include "screens/store/frmGetPassword.h"
 #include "DiaryFixtures.h"
 #include "core/store/Lookups.h"
 #include "core/store/DeletePasses.h"
@@ -57,7 +56,7 @@ private slots:
 
     void cleanup() { CloseDiaryScreens(); }
 
-    void aDeletedDeckOrSpreadOrAWrongPasswordRefuses() {
+    void aDeletedDeckOrSpreadRefuses() {
         SavedDiary(QStringLiteral("Saved"), 46000);
         DeleteDeck(1);
         ExpectRefusal(DeckGone);
@@ -67,19 +66,6 @@ private slots:
         ChangeRecord<DiaryRecord>(DiaryPath, 1, [this](DiaryRecord& d) { d.ReadingDeckId = deckId_; });
         DeleteSpread(1);
         ExpectRefusal(SpreadGone);
-        MsgBoxScript::Clear();
-        UnloadScreen<frmOpenDiary>();
-        ChangeRecord<DiaryRecord>(DiaryPath, 1, [](DiaryRecord& d) {
-            d.EntryLocked = True16;
-            d.EntryPassword = QStringLiteral("moon");
-        });
-        ModalScript script;
-        script.On<frmGetPassword>([](frmGetPassword& ask) {
-            ask.txtPassword->setText(QStringLiteral("sun"));
-            ask.cmdOK_Click();
-        });
-        ExpectRefusal(QString());   // the wrong password's box
-        QVERIFY(script.Done());
     }
 
     void aSmallerDeckIsCheckedOnTheFirstFifteenLocationsOnly() {

@@ -6,15 +6,12 @@
 
 #include "StarterPictures.h"
 #include "StarterSource.h"
-#include "screens/packages/PackageSummary.h"
-#include "screens/packages/frmInstallPackage.h"
+#include "core/packages/PackageFile.h"
+#include "support/InstallAnswers.h"
 #include "screens/platform/CommonDialog.h"
-#include "screens/platform/FileLists.h"
 #include "core/platform/Picture.h"
-#include "readings/ReadingFixtures.h"
-#include "screens/platform/ListBox.h"
 #include "screens/shell/ClickLabel.h"
-#include "screens/spreads/frmDeckChooser.h"
+#include "readings/ReadingFixtures.h"
 #include "core/store/Lookups.h"
 
 using namespace ReadingFixtures;
@@ -179,30 +176,16 @@ void tst_starter::toolGivesTheSameBytesEveryRun() {
 void tst_starter::installedStarterServesACelticCrossReading() {
     QTemporaryDir program;
     FreshRun(program.path());
-    FileCopy(QStringLiteral(STARTER_PACKAGE_PATH), PackagesDir + StarterPackageName);
-
-    // Installing through the screen, the deck chosen for every spread.
-    Get<frmMainScreen>().lblButton_Click(7);
-    frmInstallPackage& install = Get<frmInstallPackage>();
-    QCOMPARE(install.filSelection->ListCount(), 1);
-    install.filSelection->setListIndex(0);
-    ModalScript script;
-    script
-        .On<frmDeckChooser>([](frmDeckChooser& chooser) {
-            QCOMPARE(chooser.lstAvailableDecks->ListCount(), 1);
-            chooser.lstAvailableDecks->setListIndex(0);
-            chooser.cmdAddDeck_Click();
-            chooser.cmdClose_Click();
-        })
-        .On<frmPackageSummary>([](frmPackageSummary& summary) {
-            QCOMPARE(summary.txtDecksCount->text(), QStringLiteral("1"));
-            QCOMPARE(summary.txtSpreadsCount->text(), QStringLiteral("5"));
-            summary.cmdCancel->click();
-        });
-    install.cmdInstall->click();
-    QVERIFY(script.Done());
-    Settle();
-    QCOMPARE(MsgBoxScript::History().size(), 0);
+    // Installed as the package reader and installation do it, the deck chosen
+    // for every spread; the screen's part is shown with the package tests.
+    QVERIFY(ExtractPackageFile(QStringLiteral(STARTER_PACKAGE_PATH), TempDir));
+    InstallAnswers answers;
+    answers.Chosen = {ReadSources().Deck.Name};
+    PackageInstallation installation(answers, QString());
+    QCOMPARE(installation.Install(), InstallOutcome::Installed);
+    QCOMPARE(answers.Offered, answers.Chosen);
+    QCOMPARE(installation.DecksInstalled, 1);
+    QCOMPARE(installation.SpreadsInstalled, 5);
 
     // One deck of 78 cards, every text written, every picture a picture.
     const std::vector<DeckRecord> decks = ReadAllRecords<DeckRecord>(DecksPath);

@@ -297,13 +297,11 @@ private slots:
         QCOMPARE(MsgBoxScript::History()[1].style, int(vbCritical));
     }
 
-    void readingAndDiaryPrintToPdfFiles() {
+    void aReadingPrintsToAPdfFile() {
         if (Tool(QStringLiteral("pdftotext")).isEmpty() || Tool(QStringLiteral("pdfinfo")).isEmpty())
             QSKIP("poppler-utils (pdftotext, pdfinfo) is not installed");
         const QString readingPdf = OutputDir() + QStringLiteral("/reading.pdf");
-        const QString diaryPdf = OutputDir() + QStringLiteral("/diary.pdf");
         QFile::remove(readingPdf);
-        QFile::remove(diaryPdf);
 
         frmNewReading& reading = Reading(Locations);
         CurrentReading.ReadingNotes = QStringLiteral("The weather turns by the end of the week.\nTake an umbrella.");
@@ -319,31 +317,22 @@ private slots:
                                        QStringLiteral("Card: "), QStringLiteral("Location: Position 10"),
                                        QStringLiteral("Card: ")}),
                  qPrintable(readingText));
+    }
 
-        // A diary entry of five locations, with notes.
-        CloseAll();
-        QDir(RunDir()).mkpath(QStringLiteral("diary"));
-        FreshRun(RunDir() + QStringLiteral("/diary"));
-        MakeDesigns(5);
-        // Kept through the diary's own screens: the cards chosen location by
-        // location, the notes typed, Print pressed.
+    // The diary's own Print button sends the entry as it stands, notes and all.
+    void diaryPrintButtonSendsItsEntry() {
         frmNewDiary& diary = DiaryFixtures::NewDiary();
         diary.cmdContinue->click();
-        for (int i = 1; i <= 5; ++i) DiaryFixtures::Choose(diary, i, DiaryFixtures::CardText(i * 3), i % 2 == 0);
+        DiaryFixtures::Choose(diary, 2, DiaryFixtures::CardText(6), true);
         diary.cmdNotes->click();
         Get<frmDiaryNotes>().txtComments->setPlainText(QStringLiteral("Cards laid on the kitchen table."));
         Get<frmDiaryNotes>().cmdClose->click();
-        PrinterDialogScript::PrintToPdf(diaryPdf);
+        auto printer = RecorderChosen();
         diary.cmdPrint->click();
         QVERIFY(MsgBoxScript::History().isEmpty());
-        QCOMPARE(PdfPages(diaryPdf), 4);
-        const QString diaryText = Run(Tool(QStringLiteral("pdftotext")), {QStringLiteral("-layout"), diaryPdf, QStringLiteral("-")});
-        QVERIFY2(InOrder(diaryText, {QStringLiteral("Page 1"), QStringLiteral("Page 2"), QStringLiteral("Summary"),
-                                     QStringLiteral("Page 3"), QStringLiteral("Location: Position 1"),
-                                     QStringLiteral("Card: Card 3(Upright)"), QStringLiteral("Location: Position 2"),
-                                     QStringLiteral("Card: Card 6 (Reversed)"), QStringLiteral("Page 4"),
-                                     QStringLiteral("Location: Position 5")}),
-                 qPrintable(diaryText));
+        const QStringList texts = printer->Texts();
+        QVERIFY(texts.contains(QStringLiteral("Cards laid on the kitchen table.")));
+        QCOMPARE(Starting(texts, QStringLiteral("Card: ")), QStringList{QStringLiteral("Card: Card 6 (Reversed)")});
     }
 
 private:

@@ -126,20 +126,6 @@ private slots:
         QCOMPARE(PickFaceDownPosition(5, 100, [](int) { return false; }), 0);
     }
 
-    void aClickDealsTheCardTheShuffleLeftThere() {
-        const std::uint32_t seed = 0x3A5F21;
-        frmNewReading& reading = LayTable(20, seed, true);
-        reading.cmdContinue->click();
-        const Expected e = HandShuffle(GroupedByType(20), seed, true);
-        for (int i = 1; i <= 20; ++i) {
-            QCOMPARE(frmReadingCards::LocationCard()(i), e.cards[i - 1]);
-            QCOMPARE(CurrentReading.LocationIsUpright[std::size_t(i - 1)], e.upright[i - 1]);
-        }
-        Get<frmReadingCards>().picCard_Click(5);
-        QCOMPARE(CurrentReading.DealtCard[0], e.cards[4]);
-        QCOMPARE(CurrentReading.DealtUpright[0], e.upright[4]);
-    }
-
     void theTableFansOutAndFollowsThePool() {
         frmNewReading& reading = LayTable(20, 5, true);
         reading.cmdContinue->click();
