@@ -44,11 +44,14 @@ void ListBox::focusInEvent(QFocusEvent* e) {
 int ListBox::AddItem(const QString& text, int itemData) {
     int position = count();
     if (sorted_) {
-        for (int i = 0; i < count(); ++i) {
-            if (QString::compare(text, item(i)->text(), Qt::CaseInsensitive) < 0) {
-                position = i;
-                break;
-            }
+        // The entries stand in order already: the place after the last entry
+        // that does not sort after the new one, found by halving, so that
+        // filling a list of thousands stays quick.
+        int low = 0;
+        while (low < position) {
+            const int middle = low + (position - low) / 2;
+            if (QString::compare(text, item(middle)->text(), Qt::CaseInsensitive) < 0) position = middle;
+            else low = middle + 1;
         }
     }
     auto* entry = new QListWidgetItem(text);
