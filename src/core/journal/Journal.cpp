@@ -116,6 +116,7 @@ void ReadEntries(const QString& path, int length, EntryKind kind, const EntryLay
         JournalEntry entry;
         entry.Kind = kind;
         entry.Date = DateOf(RawDouble(raw + at.SavedOn));
+        if (entry.Date.isValid()) entry.Month = entry.Date.year() * 12 + entry.Date.month() - 1;
         entry.Name = FieldText(raw + at.Name, 50);
         entry.Locked = RawInteger(raw, at.EntryLocked) != 0 && !IsEntryUnlocked(kind, entry.Name);
         AppendFolded(entry.SearchText, raw + at.Name, 50);
@@ -196,6 +197,7 @@ public:
         counts_.resize(decks_.size() * Stride * 2);
         return static_cast<int>(decks_.size()) - 1;
     }
+    bool Empty() const { return decks_.empty(); }
     void Add(int slot, const DealtLocation& dealt) {
         ++counts_[(static_cast<std::size_t>(slot) * Stride + static_cast<std::size_t>(dealt.Card)) * 2 +
                   (dealt.Upright ? 0 : 1)];
@@ -364,7 +366,7 @@ JournalStatistics TallyJournal(const std::vector<JournalEntry>& entries, const s
     for (const int i : selected) {
         const JournalEntry& entry = entries[static_cast<std::size_t>(i)];
         ++statistics.Entries;
-        if (entry.Date.isValid()) ++perMonth[entry.Date.year() * 12 + entry.Date.month() - 1];
+        if (entry.Month >= 0) ++perMonth[entry.Month];
         if (entry.Locked) {
             ++statistics.Locked;
             continue;
@@ -391,24 +393,28 @@ JournalStatistics TallyJournal(const std::vector<JournalEntry>& entries, const s
 
 std::vector<LocationTally> TallyLocations(const std::vector<JournalEntry>& entries, const std::vector<int>& selected,
                                           const JournalCatalogue& catalogue, Integer spreadId, int top) {
-    std::map<int, CardCounter> perLocation;
+    std::vector<CardCounter> perLocation(MaxSpreadLocations + 1);   // by location number
     for (const int i : selected) {
         const JournalEntry& entry = entries[static_cast<std::size_t>(i)];
         if (entry.Locked || entry.SpreadId != spreadId) continue;
         const JournalDeck* deck = catalogue.Deck(entry.DeckId);
         for (const DealtLocation& dealt : entry.Cards) {
             if (!Countable(deck, dealt.Card)) continue;
-            CardCounter& counter = perLocation[dealt.Location];
+            CardCounter& counter = perLocation[static_cast<std::size_t>(dealt.Location)];
             counter.Add(counter.SlotOf(entry.DeckId), dealt);
         }
     }
     const JournalSpread* spread = catalogue.Spread(spreadId);
     int last = spread ? static_cast<int>(spread->LocationTitles.size()) : 0;
-    if (!perLocation.empty()) last = std::max(last, perLocation.rbegin()->first);
+    for (int l = MaxSpreadLocations; l > last; --l)
+        if (!perLocation[static_cast<std::size_t>(l)].Empty()) {
+            last = l;
+            break;
+        }
     std::vector<LocationTally> locations;
     for (int l = 1; l <= last; ++l) {
         LocationTally location{l, LocationTitleOf(catalogue, spreadId, l), {}};
-        location.Cards = perLocation[l].MostFrequentFirst(catalogue);
+        location.Cards = perLocation[static_cast<std::size_t>(l)].MostFrequentFirst(catalogue);
         if (static_cast<int>(location.Cards.size()) > top) location.Cards.resize(static_cast<std::size_t>(top));
         locations.push_back(std::move(location));
     }

@@ -70,6 +70,7 @@ struct DealtLocation {
 struct JournalEntry {
     EntryKind Kind = EntryKind::Reading;
     QDate Date;            // invalid when the stored date is out of range
+    int Month = -1;        // year * 12 + month - 1 of Date, worked out once; -1 when Date is invalid
     QString Name;
     bool Locked = false;   // locked, and its password not given in this run
     Integer SpreadId = 0;
