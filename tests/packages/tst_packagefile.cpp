@@ -101,15 +101,16 @@ private slots:
         const QString source = outer_->path() + QStringLiteral("/stage/");
         QDir().mkpath(source);
         WriteWholeFile(source + QStringLiteral("Temp.crd"), QByteArray());
-        RuntimeError failure(0, QStringLiteral("none"));
+        std::optional<RuntimeError> failure;
         QVERIFY(!CreatePackageFile(source, outer_->path() + QStringLiteral("/out.pck"), &failure));
-        QCOMPARE(failure.Number(), 9);
-        QCOMPARE(failure.Description(), ErrorDescription(9));
+        QVERIFY(failure);
+        QCOMPARE(failure->Number(), 9);
+        QCOMPARE(failure->Description(), ErrorDescription(9));
         // The head written before the failure stays.
         QCOMPARE(FileLen(outer_->path() + QStringLiteral("/out.pck")), 2 + source.size() + 8 + 4);
 
         QVERIFY(!CreatePackageFile(source, outer_->path() + QStringLiteral("/no such folder/out.pck"), &failure));
-        QCOMPARE(failure.Number(), 76);
+        QCOMPARE(failure->Number(), 76);
     }
 
     void cutShortAndOddPackagesYieldWhatIsWhole() {

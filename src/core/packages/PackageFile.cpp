@@ -119,7 +119,7 @@ QString MemberFileName(const QString& memberName) {
     return name;
 }
 
-bool CreatePackageFile(const QString& sourceFolder, const QString& packagePath, RuntimeError* failure) {
+bool CreatePackageFile(const QString& sourceFolder, const QString& packagePath, std::optional<RuntimeError>* failure) {
     PackageFilePath = packagePath;
     PackageSourceFolder = AddTrailingBackslash(sourceFolder);
     return PackFolder(failure);
@@ -131,7 +131,7 @@ bool ExtractPackageFile(const QString& packagePath, const QString& targetFolder)
     return UnpackPackage();
 }
 
-bool PackFolder(RuntimeError* failure) {
+bool PackFolder(std::optional<RuntimeError>* failure) {
     QFile package;
     try {
         OpenBinary(package, PackageFilePath, QIODevice::ReadWrite);

@@ -10,6 +10,7 @@
 // of the file.
 #include <QByteArray>
 #include <QString>
+#include <optional>
 
 #include "core/platform/Errors.h"
 
@@ -28,13 +29,13 @@ extern QString PackageSourceFolder;
 // Packs every plain file of sourceFolder into packagePath. False when the
 // package could not be written whole; `failure` then holds the error that
 // stopped it.
-bool CreatePackageFile(const QString& sourceFolder, const QString& packagePath, RuntimeError* failure = nullptr);
+bool CreatePackageFile(const QString& sourceFolder, const QString& packagePath, std::optional<RuntimeError>* failure = nullptr);
 // Unpacks every member of packagePath into Temp/. The target folder is kept
 // with the package's path but the members always go to Temp/. False when
 // the package could not be opened or read.
 bool ExtractPackageFile(const QString& packagePath, const QString& targetFolder);
 
-bool PackFolder(RuntimeError* failure = nullptr);
+bool PackFolder(std::optional<RuntimeError>* failure = nullptr);
 bool UnpackPackage();
 
 // The bytes of a member's head: name length, name, size.

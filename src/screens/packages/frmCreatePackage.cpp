@@ -319,11 +319,11 @@ void frmCreatePackage::cmdCreate_Click() {
         return;
     }
     const QString path = AddTrailingBackslash(PackageFolder.trimmed()) + PackageFileName.trimmed();
-    RuntimeError failure(0, QStringLiteral(" "));
+    std::optional<RuntimeError> failure;
     if (!CreatePackageFile(TempDir, path, &failure)) {
         CreateFailed = true;
-        MsgBox(QStringLiteral("Unable to create package.  Error") + QString::number(failure.Number()) +
-                   QStringLiteral(": ") + failure.Description(),
+        MsgBox(QStringLiteral("Unable to create package.  Error") + QString::number(failure->Number()) +
+                   QStringLiteral(": ") + failure->Description(),
                vbCritical);
     }
     ClearTemp();
