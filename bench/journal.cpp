@@ -16,69 +16,25 @@
 #include <unistd.h>
 #include <vector>
 
+#include "BenchSupport.h"
 #include "core/journal/Journal.h"
-#include "screens/journal/frmJournal.h"
 #include "core/platform/BinaryFile.h"
 #include "core/platform/FileSys.h"
-#include "screens/platform/MsgBox.h"
 #include "core/records/RecordFile.h"
-#include "screens/store/Startup.h"
 #include "core/store/Lookups.h"
 #include "core/store/RunState.h"
+#include "screens/journal/frmJournal.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/store/Startup.h"
+
+using namespace Bench;
 
 namespace {
 
-int Runs = 5;
-
-double Median(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
-
-double Time(const std::function<void()>& work) {
-    std::vector<double> ms;
-    for (int i = 0; i < Runs; ++i) {
-        QElapsedTimer clock;
-        clock.start();
-        work();
-        ms.push_back(clock.nsecsElapsed() / 1e6);
-    }
-    return Median(ms);
-}
-
-void ReadOnce(const QString& path) {
-    static std::vector<char> buffer(1 << 20);
-    const int fd = ::open(path.toLocal8Bit().constData(), O_RDONLY);
-    if (fd < 0) return;
-    while (::read(fd, buffer.data(), buffer.size()) > 0) {
-    }
-    ::close(fd);
-}
-
-void Row(const char* operation, double ms, const char* baselineName, double baselineMs, double goalRatio) {
-    const double ratio = baselineMs > 0 ? ms / baselineMs : 0;
-    std::printf("%-60s %9.2f ms | %-24s %9.2f ms | ratio %6.2f | goal %.1fx %s\n", operation, ms, baselineName,
-                baselineMs, ratio, goalRatio, ratio <= goalRatio ? "met" : "MISSED");
-}
 
 void RowAbsolute(const char* operation, double value, double goal) {
     std::printf("%-60s %9.2f ms | goal under %.0f ms %s\n", operation, value, goal, value <= goal ? "met" : "MISSED");
 }
-
-template <class R>
-class Writer {
-public:
-    explicit Writer(const QString& path) : out_(path + QStringLiteral(".tmp"), path), bytes_(R::Length) {}
-    void Add(const R& r) {
-        EncodeRecord(r, bytes_.data());
-        out_.Write(bytes_.data(), R::Length);
-    }
-    void Done() { out_.Commit(); }
-
-private:
-    AtomicFileWriter out_;
-    std::vector<char> bytes_;
-};
 
 void MakeDesigns() {
     Writer<DeckRecord> decks(DecksPath);

@@ -24,51 +24,18 @@
 #include <unistd.h>
 #include <vector>
 
+#include "BenchSupport.h"
 #include "core/decks/PictureImport.h"
 #include "core/platform/FileSys.h"
-#include "screens/store/Startup.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
+#include "screens/store/Startup.h"
+
+using namespace Bench;
 
 namespace {
 
-int Runs = 5;
 constexpr int Pictures = 78;
-
-double Median(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
-
-double Time(const std::function<void()>& work, const std::function<void()>& prepare = {}) {
-    std::vector<double> ms;
-    for (int i = 0; i < Runs; ++i) {
-        if (prepare) prepare();
-        QElapsedTimer clock;
-        clock.start();
-        work();
-        ms.push_back(clock.nsecsElapsed() / 1e6);
-    }
-    return Median(ms);
-}
-
-// A plain copy without waiting for the disk, as the import copies into Temp/.
-void CopyOnce(const QString& from, const QString& to) {
-    static std::vector<char> buffer(1 << 20);
-    const int in = ::open(from.toLocal8Bit().constData(), O_RDONLY);
-    const int out = ::open(to.toLocal8Bit().constData(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    ssize_t n;
-    while ((n = ::read(in, buffer.data(), buffer.size())) > 0)
-        if (::write(out, buffer.data(), static_cast<size_t>(n)) != n) break;
-    ::close(in);
-    ::close(out);
-}
-
-void Row(const char* operation, double ms, const char* baselineName, double baselineMs, double goalRatio) {
-    const double ratio = baselineMs > 0 ? ms / baselineMs : 0;
-    std::printf("%-60s %9.2f ms | %-20s %9.2f ms | ratio %6.2f | goal %.1fx %s\n", operation, ms, baselineName,
-                baselineMs, ratio, goalRatio, ratio <= goalRatio ? "met" : "MISSED");
-}
 
 // A picture of noise, which JPEG cannot make small: 1300 x 1300 at quality
 // 95 is about 2 MB.
@@ -141,7 +108,7 @@ int main(int argc, char** argv) {
     const double copy = Time(
         [&] {
             for (const QFileInfo& f : QDir(jpegs).entryInfoList(QDir::Files))
-                CopyOnce(f.filePath(), copies + QLatin1Char('/') + f.fileName());
+                CopyOnce(f.filePath(), copies + QLatin1Char('/') + f.fileName(), false);
         },
         [&] { KillIgnoringErrors(copies + QStringLiteral("/*.*")); });
     const double plain = Time([&] { Import(jpegs, ReversedSide::None); }, EmptyDeck);

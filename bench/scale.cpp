@@ -12,15 +12,15 @@
 // The data is made in a temporary program folder and removed afterwards.
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QTemporaryDir>
 #include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTimer>
-#include <deque>
 #include <algorithm>
 #include <cstdio>
+#include <deque>
 #include <fcntl.h>
 #include <functional>
 #include <memory>
@@ -28,84 +28,39 @@
 #include <unistd.h>
 #include <vector>
 
+#include "BenchSupport.h"
 #include "core/platform/BinaryFile.h"
 #include "core/platform/FileSys.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/ProgramLock.h"
 #include "core/platform/Rnd.h"
+#include "core/records/RecordFile.h"
+#include "core/records/Records.h"
+#include "core/store/DeckLoading.h"
+#include "core/store/DeletePasses.h"
+#include "core/store/DesignCommit.h"
+#include "core/store/Lookups.h"
+#include "core/store/NewDesigns.h"
+#include "core/store/RunState.h"
 #include "screens/packages/PackageSummary.h"
 #include "screens/packages/frmCreatePackage.h"
 #include "screens/packages/frmInstallPackage.h"
 #include "screens/platform/FileLists.h"
+#include "screens/platform/MsgBox.h"
 #include "screens/platform/QtPrinter.h"
 #include "screens/readings/frmNewReading.h"
 #include "screens/readings/frmOpenReading.h"
 #include "screens/readings/frmReadingCards.h"
 #include "screens/readings/frmSelectSpread.h"
-#include "core/store/DesignCommit.h"
-#include "core/records/RecordFile.h"
-#include "screens/store/Startup.h"
-#include "core/store/DeckLoading.h"
-#include "core/store/DeletePasses.h"
-#include "core/store/Lookups.h"
-#include "core/store/NewDesigns.h"
-#include "core/records/Records.h"
 #include "screens/shell/frmMainScreen.h"
-#include "core/store/RunState.h"
+#include "screens/store/Startup.h"
+
+using namespace Bench;
 
 namespace {
 
-int Runs = 5;
 QString Only;   // run only the sections whose name holds this
 
 bool Want(const char* section) { return Only.isEmpty() || QString::fromLatin1(section).contains(Only); }
-
-double Median(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
-
-// Milliseconds of one call, median over the runs; prepare runs untimed
-// before each call.
-double Time(const std::function<void()>& work, const std::function<void()>& prepare = {}) {
-    std::vector<double> ms;
-    for (int i = 0; i < Runs; ++i) {
-        if (prepare) prepare();
-        QElapsedTimer clock;
-        clock.start();
-        work();
-        ms.push_back(clock.nsecsElapsed() / 1e6);
-    }
-    return Median(ms);
-}
-
-// The machine's own limits: a sequential read into a buffer, a plain copy.
-void ReadOnce(const QString& path) {
-    static std::vector<char> buffer(1 << 20);
-    const int fd = ::open(path.toLocal8Bit().constData(), O_RDONLY);
-    if (fd < 0) return;
-    while (::read(fd, buffer.data(), buffer.size()) > 0) {
-    }
-    ::close(fd);
-}
-
-void CopyOnce(const QString& from, const QString& to) {
-    static std::vector<char> buffer(1 << 20);
-    const int in = ::open(from.toLocal8Bit().constData(), O_RDONLY);
-    const int out = ::open(to.toLocal8Bit().constData(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    ssize_t n;
-    while ((n = ::read(in, buffer.data(), buffer.size())) > 0)
-        if (::write(out, buffer.data(), static_cast<size_t>(n)) != n) break;
-    ::fsync(out);
-    ::close(in);
-    ::close(out);
-}
-
-void Row(const char* operation, double ms, const char* baselineName, double baselineMs, double goalRatio) {
-    const double ratio = baselineMs > 0 ? ms / baselineMs : 0;
-    std::printf("%-68s %9.2f ms | %-24s %9.2f ms | ratio %6.2f | goal %.1fx %s\n", operation, ms, baselineName,
-                baselineMs, ratio, goalRatio, ratio <= goalRatio ? "met" : "MISSED");
-}
 
 void RowAbsolute(const char* operation, double value, const char* unit, double goal, bool atMost) {
     const bool met = atMost ? value <= goal : value >= goal;
@@ -120,21 +75,6 @@ double PeakMegabytes() {
 }
 
 // ---- Making the data ---------------------------------------------------------------------------
-
-template <class R>
-class Writer {
-public:
-    explicit Writer(const QString& path) : out_(path + QStringLiteral(".tmp"), path), bytes_(R::Length) {}
-    void Add(const R& r) {
-        EncodeRecord(r, bytes_.data());
-        out_.Write(bytes_.data(), R::Length);
-    }
-    void Done() { out_.Commit(); }
-
-private:
-    AtomicFileWriter out_;
-    std::vector<char> bytes_;
-};
 
 // decks decks of cardsEach cards with full texts and reversed sides, ids 1..decks
 // with every tenth id left out (gaps as deletions leave them).

@@ -7,10 +7,10 @@
 #include <QTimer>
 #include <cstdio>
 
-#include "screens/readings/frmNewReading.h"
-#include "screens/readings/frmReadingCards.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
+#include "screens/readings/frmNewReading.h"
+#include "screens/readings/frmReadingCards.h"
 
 namespace {
 

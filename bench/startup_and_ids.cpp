@@ -12,11 +12,11 @@
 
 #include "core/platform/BinaryFile.h"
 #include "core/platform/FileSys.h"
+#include "core/records/Records.h"
+#include "core/store/Lookups.h"
+#include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/store/Startup.h"
-#include "core/store/Lookups.h"
-#include "core/records/Records.h"
-#include "core/store/RunState.h"
 
 namespace {
 

@@ -9,10 +9,10 @@
 
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
-#include "core/platform/WriteFaults.h"
 #include "core/platform/Picture.h"
-#include "core/store/Housekeeping.h"
+#include "core/platform/WriteFaults.h"
 #include "core/records/Records.h"
+#include "core/store/Housekeeping.h"
 #include "core/store/RunState.h"
 
 namespace Fuzz {

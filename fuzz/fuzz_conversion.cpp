@@ -11,8 +11,8 @@
 
 #include "FuzzSupport.h"
 #include "core/platform/FileSys.h"
-#include "core/store/Conversion.h"
 #include "core/records/RecordFile.h"
+#include "core/store/Conversion.h"
 #include "core/store/Housekeeping.h"
 #include "core/store/RunState.h"
 

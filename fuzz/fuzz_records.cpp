@@ -15,13 +15,13 @@
 
 #include "FuzzSupport.h"
 #include "core/platform/FileSys.h"
-#include "core/records/RecordFile.h"
 #include "core/platform/OleDate.h"
+#include "core/records/RecordFile.h"
 #include "core/store/DeckLoading.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
-#include "core/store/Usability.h"
 #include "core/store/RunState.h"
+#include "core/store/Usability.h"
 
 // The record file the input stands for, given by each target.
 extern const FuzzedFile FuzzedRecordFile;

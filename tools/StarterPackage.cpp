@@ -1,10 +1,10 @@
 #include "StarterPackage.h"
 
-#include "core/packages/PackageStaging.h"
 #include "core/packages/PackageFile.h"
+#include "core/packages/PackageStaging.h"
 #include "core/platform/FileSys.h"
-#include "screens/store/Startup.h"
 #include "core/store/RunState.h"
+#include "screens/store/Startup.h"
 
 bool PackStarterPackage(const QStringList& deckNames, const QStringList& spreadNames, const QString& packagePath) {
     // As the create-package screen does: Temp/ empty before and after, and a

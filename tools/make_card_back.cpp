@@ -12,6 +12,7 @@
 #include <QPolygonF>
 #include <QtMath>
 #include <cstdio>
+
 #include "screens/shell/Emblems.h"
 
 namespace {

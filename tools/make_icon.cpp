@@ -16,6 +16,7 @@
 #include <QRadialGradient>
 #include <QtMath>
 #include <cstdio>
+
 #include "screens/shell/Emblems.h"
 
 namespace {

@@ -21,15 +21,15 @@
 #include "StarterSource.h"
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/OleDate.h"
 #include "core/records/RecordFile.h"
-#include "screens/store/Startup.h"
 #include "core/store/DeckLoading.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/store/Startup.h"
 
 namespace {
 

@@ -19,9 +19,9 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
-#include <QTabWidget>
 #include <QStyle>
 #include <QStyleOptionTitleBar>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTextBrowser>
 #include <QTimer>
@@ -31,26 +31,35 @@
 #include <functional>
 #include <memory>
 
+#include "core/platform/FileSys.h"
+#include "core/platform/OleDate.h"
+#include "core/platform/Picture.h"
+#include "core/platform/Rnd.h"
+#include "core/records/RecordFile.h"
+#include "core/store/DeckLoading.h"
+#include "core/store/Lookups.h"
+#include "core/store/NewDesigns.h"
+#include "core/store/RunState.h"
 #include "screens/decks/frmAddCard.h"
 #include "screens/decks/frmDecks.h"
 #include "screens/decks/frmDesignDeck.h"
+#include "screens/decks/frmImportPictures.h"
 #include "screens/diary/frmDiaryCards.h"
 #include "screens/diary/frmNewDiary.h"
 #include "screens/diary/frmSelectSpreadforDiary.h"
+#include "screens/journal/frmJournal.h"
 #include "screens/packages/PackageSummary.h"
 #include "screens/packages/frmCreatePackage.h"
 #include "screens/packages/frmInstallPackage.h"
 #include "screens/platform/Application.h"
+#include "screens/platform/CommonDialog.h"
 #include "screens/platform/FileLists.h"
-#include "core/platform/FileSys.h"
 #include "screens/platform/MediaPlayer.h"
 #include "screens/platform/MsgBox.h"
-#include "core/platform/OleDate.h"
-#include "core/platform/Picture.h"
-#include "core/platform/Rnd.h"
 #include "screens/readings/frmNewReading.h"
 #include "screens/readings/frmReadingInterpretLocation.h"
 #include "screens/readings/frmSelectSpread.h"
+#include "screens/shell/Emblems.h"
 #include "screens/shell/MDIMainForm.h"
 #include "screens/shell/frmHelpViewer.h"
 #include "screens/shell/frmMainScreen.h"
@@ -58,16 +67,7 @@
 #include "screens/spreads/frmDesignSpread.h"
 #include "screens/spreads/frmLocationAttributes.h"
 #include "screens/spreads/frmSpreads.h"
-#include "core/records/RecordFile.h"
 #include "screens/store/Startup.h"
-#include "core/store/DeckLoading.h"
-#include "core/store/Lookups.h"
-#include "core/store/NewDesigns.h"
-#include "core/store/RunState.h"
-#include "screens/shell/Emblems.h"
-#include "screens/journal/frmJournal.h"
-#include "screens/decks/frmImportPictures.h"
-#include "screens/platform/CommonDialog.h"
 
 namespace {
 

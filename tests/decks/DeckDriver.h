@@ -4,17 +4,17 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QList>
-#include "screens/platform/ListBox.h"
-#include "support/ScreenTest.h"
 #include <QSet>
 #include <functional>
 
-#include "screens/decks/FileChooser.h"
-#include "screens/platform/FileLists.h"
 #include "core/platform/FileSys.h"
-#include "support/ModalScript.h"
 #include "core/records/RecordFile.h"
 #include "core/store/RunState.h"
+#include "screens/decks/FileChooser.h"
+#include "screens/platform/FileLists.h"
+#include "screens/platform/ListBox.h"
+#include "support/ModalScript.h"
+#include "support/ScreenTest.h"
 
 inline int LineOf(const QListWidget* list, const QString& text) {
     for (int i = 0; i < list->count(); ++i)

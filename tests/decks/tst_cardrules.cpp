@@ -4,13 +4,16 @@
 // configured, the questions on leaving; text past every limit and text the
 // record code page cannot hold, and files that vanish between the listing
 // and the pick.
-#include "support/ScreenTest.h"
 #include <QApplication>
 #include <QClipboard>
+#include <QStandardItemModel>
+#include <QTableView>
+
 #include "DeckDriver.h"
-#include "screens/decks/frmGetSoundFile.h"
-#include "screens/decks/frmSaveDeck.h"
-#include "support/BadInput.h"
+#include "core/decks/CardEditing.h"
+#include "core/store/Lookups.h"
+#include "screens/decks/DeckControls.h"
+#include "screens/decks/DeckLoadQuestion.h"
 #include "screens/decks/frmAddCard.h"
 #include "screens/decks/frmDeckCardProperties.h"
 #include "screens/decks/frmDeckCardPropertiesInfo.h"
@@ -18,16 +21,14 @@
 #include "screens/decks/frmDecks.h"
 #include "screens/decks/frmDesignDeck.h"
 #include "screens/decks/frmGetImageFile.h"
-#include "core/decks/CardEditing.h"
-#include "screens/decks/DeckControls.h"
+#include "screens/decks/frmGetSoundFile.h"
+#include "screens/decks/frmImportPictures.h"
+#include "screens/decks/frmSaveDeck.h"
+#include "screens/platform/CommonDialog.h"
 #include "screens/platform/MediaPlayer.h"
 #include "screens/store/Startup.h"
-#include <QStandardItemModel>
-#include <QTableView>
-#include "screens/decks/DeckLoadQuestion.h"
-#include "core/store/Lookups.h"
-#include "screens/decks/frmImportPictures.h"
-#include "screens/platform/CommonDialog.h"
+#include "support/BadInput.h"
+#include "support/ScreenTest.h"
 
 class TestCardRules : public QObject {
     Q_OBJECT

@@ -2,9 +2,11 @@
 // reversed sides and one sound, pictures picked from files on the disk,
 // saved, listed, reopened with every field intact, edited, saved over itself
 // and under a second name, and viewed.
-#include "screens/decks/DeckLoadQuestion.h"
-
 #include "DeckDriver.h"
+#include "core/decks/CardEditing.h"
+#include "core/store/Lookups.h"
+#include "screens/decks/DeckControls.h"
+#include "screens/decks/DeckLoadQuestion.h"
 #include "screens/decks/frmAddCard.h"
 #include "screens/decks/frmDeckCardProperties.h"
 #include "screens/decks/frmDeckInfo.h"
@@ -14,12 +16,9 @@
 #include "screens/decks/frmGetSoundFile.h"
 #include "screens/decks/frmSaveDeck.h"
 #include "screens/decks/frmViewCard.h"
-#include "core/decks/CardEditing.h"
-#include "screens/decks/DeckControls.h"
 #include "screens/platform/MediaPlayer.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/store/Startup.h"
-#include "core/store/Lookups.h"
 #include "support/ScreenTest.h"
 
 

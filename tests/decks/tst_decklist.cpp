@@ -4,15 +4,15 @@
 // spread designer.
 
 #include "DeckDriver.h"
+#include "core/decks/CardEditing.h"
+#include "core/store/Lookups.h"
+#include "screens/decks/DeckControls.h"
 #include "screens/decks/frmBrowseDeck.h"
 #include "screens/decks/frmDeckInfo.h"
 #include "screens/decks/frmDecks.h"
 #include "screens/decks/frmDesignDeck.h"
-#include "core/decks/CardEditing.h"
-#include "screens/decks/DeckControls.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/store/frmGetPassword.h"
-#include "core/store/Lookups.h"
 #include "support/ScreenTest.h"
 
 

@@ -3,9 +3,9 @@
 // buttons, and the card choice driven as the keeper drives it.
 #include <QCheckBox>
 #include <QComboBox>
-#include "screens/platform/ListBox.h"
 #include <QPushButton>
 
+#include "readings/ReadingFixtures.h"
 #include "screens/diary/frmDiaryCards.h"
 #include "screens/diary/frmDiaryInterpretLocation.h"
 #include "screens/diary/frmDiaryNotes.h"
@@ -13,7 +13,7 @@
 #include "screens/diary/frmOpenDiary.h"
 #include "screens/diary/frmSaveDiary.h"
 #include "screens/diary/frmSelectSpreadforDiary.h"
-#include "readings/ReadingFixtures.h"
+#include "screens/platform/ListBox.h"
 
 namespace DiaryFixtures {
 

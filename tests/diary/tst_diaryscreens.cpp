@@ -3,10 +3,10 @@
 // with duplicates off, saved and reopened as it was; the card choice itself;
 // the interpretation of the focused location; the question at closing.
 
-#include "screens/shell/ClickLabel.h"
-#include "screens/shell/ImageBox.h"
 #include "DiaryFixtures.h"
 #include "core/store/Lookups.h"
+#include "screens/shell/ClickLabel.h"
+#include "screens/shell/ImageBox.h"
 
 using namespace DiaryFixtures;
 

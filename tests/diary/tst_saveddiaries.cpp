@@ -3,11 +3,11 @@
 // beyond the checked locations opens with those locations empty; saving under
 // another entry's name overwrites it in place.
 
-#include "core/platform/FileSys.h"
-#include "screens/shell/ClickLabel.h"
 #include "DiaryFixtures.h"
-#include "core/store/Lookups.h"
+#include "core/platform/FileSys.h"
 #include "core/store/DeletePasses.h"
+#include "core/store/Lookups.h"
+#include "screens/shell/ClickLabel.h"
 
 using namespace DiaryFixtures;
 

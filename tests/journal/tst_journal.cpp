@@ -9,12 +9,12 @@
 #include <QtTest>
 
 #include "core/journal/Journal.h"
-#include "screens/journal/frmJournal.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/OleDate.h"
-#include "screens/readings/frmNewReading.h"
 #include "core/records/RecordFile.h"
 #include "core/store/DeletePasses.h"
+#include "screens/journal/frmJournal.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/readings/frmNewReading.h"
 #include "support/Fixtures.h"
 
 Q_DECLARE_METATYPE(JournalQuery)

@@ -9,9 +9,9 @@
 #include "core/packages/PackageFile.h"
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
+#include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/store/Startup.h"
-#include "core/store/RunState.h"
 #include "support/Fixtures.h"
 #include "support/Prompts.h"
 

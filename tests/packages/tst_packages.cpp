@@ -6,29 +6,29 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include "screens/platform/ListBox.h"
-#include "screens/decks/DeckLoadQuestion.h"
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <deque>
 
+#include "core/packages/PackageFile.h"
 #include "core/packages/PackageStaging.h"
+#include "core/store/Lookups.h"
+#include "readings/ReadingFixtures.h"
+#include "screens/decks/DeckLoadQuestion.h"
 #include "screens/packages/PackageSummary.h"
 #include "screens/packages/frmCreatePackage.h"
 #include "screens/packages/frmInstallPackage.h"
-#include "core/packages/PackageFile.h"
 #include "screens/platform/CommonDialog.h"
 #include "screens/platform/FileLists.h"
-#include "support/BadInput.h"
-#include "support/InstallAnswers.h"
-#include "readings/ReadingFixtures.h"
+#include "screens/platform/ListBox.h"
 #include "screens/spreads/frmDeckChooser.h"
 #include "screens/store/Startup.h"
 #include "screens/store/frmDesignExists.h"
 #include "screens/store/frmSetPassword.h"
+#include "support/BadInput.h"
+#include "support/InstallAnswers.h"
 #include "support/Prompts.h"
-#include "core/store/Lookups.h"
 
 using namespace ReadingFixtures;
 

@@ -7,12 +7,12 @@
 #include "StarterPictures.h"
 #include "StarterSource.h"
 #include "core/packages/PackageFile.h"
-#include "support/InstallAnswers.h"
-#include "screens/platform/CommonDialog.h"
 #include "core/platform/Picture.h"
-#include "screens/shell/ClickLabel.h"
-#include "readings/ReadingFixtures.h"
 #include "core/store/Lookups.h"
+#include "readings/ReadingFixtures.h"
+#include "screens/platform/CommonDialog.h"
+#include "screens/shell/ClickLabel.h"
+#include "support/InstallAnswers.h"
 
 using namespace ReadingFixtures;
 

@@ -1,11 +1,10 @@
 // The list box every screen's lists are, the file choosers and the media
 // player that the design and package screens build on.
-#include "support/ScreenTest.h"
-
-#include "screens/platform/CommonDialog.h"
 #include "core/platform/Errors.h"
+#include "screens/platform/CommonDialog.h"
 #include "screens/platform/FileLists.h"
 #include "screens/platform/MediaPlayer.h"
+#include "support/ScreenTest.h"
 
 class TestControls : public QObject {
     Q_OBJECT

@@ -1,13 +1,13 @@
 // The screen model: created at first use, loaded once, unloaded on request
 // (and only when the screen agrees), shown modally with the caller waiting,
 // keys seen by the screen before its controls.
-#include "support/ScreenTest.h"
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QTimer>
 
-#include "screens/platform/Form.h"
 #include "core/platform/Twips.h"
+#include "screens/platform/Form.h"
+#include "support/ScreenTest.h"
 
 namespace {
 int gLoads = 0;

@@ -4,15 +4,15 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QImage>
-#include "support/ScreenTest.h"
 
 #include "core/platform/Arrays.h"
 #include "core/platform/CodePage.h"
 #include "core/platform/Errors.h"
-#include "screens/platform/ErrorReport.h"
 #include "core/platform/OleDate.h"
 #include "core/platform/Picture.h"
 #include "core/platform/Rnd.h"
+#include "screens/platform/ErrorReport.h"
+#include "support/ScreenTest.h"
 
 class TestPlatform : public QObject {
     Q_OBJECT

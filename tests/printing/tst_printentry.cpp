@@ -9,10 +9,10 @@
 
 #include "core/platform/OleDate.h"
 #include "core/platform/Picture.h"
-#include "support/RecordingPrinter.h"
 #include "diary/DiaryFixtures.h"
 #include "readings/ReadingFixtures.h"
 #include "screens/store/Startup.h"
+#include "support/RecordingPrinter.h"
 
 using namespace ReadingFixtures;
 

@@ -2,31 +2,31 @@
 // What the reading tests share: a program directory with a deck and a spread,
 // the way through the main screen's Readings buttons, and the save screens.
 #include <QCheckBox>
-#include "screens/platform/ListBox.h"
 #include <QPushButton>
 #include <QTemporaryDir>
-#include "support/ScreenTest.h"
 #include <functional>
 #include <memory>
 #include <type_traits>
 
-#include "screens/platform/MediaPlayer.h"
+#include "core/platform/FileSys.h"
 #include "core/platform/Palette.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/Rnd.h"
+#include "core/records/RecordFile.h"
+#include "core/store/NewDesigns.h"
+#include "core/store/RunState.h"
+#include "screens/platform/ListBox.h"
+#include "screens/platform/MediaPlayer.h"
+#include "screens/platform/MsgBox.h"
 #include "screens/readings/frmNewReading.h"
 #include "screens/readings/frmOpenReading.h"
 #include "screens/readings/frmReadingCards.h"
 #include "screens/readings/frmSelectSpread.h"
 #include "screens/shell/MDIMainForm.h"
 #include "screens/shell/frmMainScreen.h"
-#include "core/platform/FileSys.h"
-#include "core/records/RecordFile.h"
-#include "core/store/NewDesigns.h"
-#include "core/store/RunState.h"
 #include "support/Fixtures.h"
 #include "support/ModalScript.h"
 #include "support/Prompts.h"
+#include "support/ScreenTest.h"
 
 namespace ReadingFixtures {
 

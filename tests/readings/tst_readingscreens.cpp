@@ -2,22 +2,21 @@
 // a reversed card, write notes, save, close, reopen; a half-dealt reading that
 // goes on where it stopped; the buttons through the life of the table.
 #include <QLineEdit>
-#include "screens/platform/ListBox.h"
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QtTest>
 
+#include "ReadingFixtures.h"
+#include "core/platform/FileSys.h"
 #include "core/platform/OleDate.h"
 #include "core/platform/Palette.h"
+#include "core/store/Lookups.h"
+#include "screens/platform/ListBox.h"
 #include "screens/readings/frmReadingInterpretLocation.h"
 #include "screens/readings/frmReadingNotes.h"
 #include "screens/readings/frmSaveReading.h"
-#include "core/platform/FileSys.h"
 #include "screens/shell/ClickLabel.h"
 #include "screens/shell/ImageBox.h"
-
-#include "ReadingFixtures.h"
-#include "core/store/Lookups.h"
 
 using namespace ReadingFixtures;
 

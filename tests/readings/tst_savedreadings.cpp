@@ -6,16 +6,16 @@
 #include <QApplication>
 #include <QClipboard>
 
-#include "core/platform/FileSys.h"
-#include "screens/readings/frmSaveReading.h"
-#include "screens/store/frmGetPassword.h"
 #include "ReadingFixtures.h"
-#include "core/platform/OleDate.h"
-#include "core/store/Lookups.h"
-#include "core/store/DeletePasses.h"
 #include "core/platform/Errors.h"
+#include "core/platform/FileSys.h"
+#include "core/platform/OleDate.h"
+#include "core/store/DeletePasses.h"
+#include "core/store/Lookups.h"
 #include "screens/diary/frmSaveDiary.h"
 #include "screens/readings/frmReadingNotes.h"
+#include "screens/readings/frmSaveReading.h"
+#include "screens/store/frmGetPassword.h"
 #include "support/BadInput.h"
 
 using namespace ReadingFixtures;

@@ -4,9 +4,9 @@
 // runs, stops when told and when its table goes).
 #include <QtTest>
 
+#include "ReadingFixtures.h"
 #include "core/readings/Shuffle.h"
 #include "screens/shell/ClickLabel.h"
-#include "ReadingFixtures.h"
 
 using namespace ReadingFixtures;
 

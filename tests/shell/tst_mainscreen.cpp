@@ -4,21 +4,21 @@
 // out.
 #include <QApplication>
 #include <QDir>
-#include "support/ScreenTest.h"
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTextBrowser>
 
 #include "core/platform/Palette.h"
+#include "screens/journal/frmJournal.h"
 #include "screens/shell/ClickLabel.h"
 #include "screens/shell/MDIMainForm.h"
 #include "screens/shell/frmDiaryHelp.h"
 #include "screens/shell/frmHelpViewer.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/shell/frmQuickHelp.h"
-#include "screens/journal/frmJournal.h"
-#include "spreads/SpreadTestKit.h"
 #include "screens/store/Startup.h"
+#include "spreads/SpreadTestKit.h"
+#include "support/ScreenTest.h"
 
 namespace {
 

@@ -8,7 +8,6 @@
 #include <QImage>
 #include <QPixmap>
 #include <QRegularExpression>
-#include "support/ScreenTest.h"
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextDocument>
@@ -18,6 +17,7 @@
 #include "screens/shell/frmHelpViewer.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/store/Startup.h"
+#include "support/ScreenTest.h"
 
 namespace {
 

@@ -3,15 +3,15 @@
 // centring, the default picture for a missing or broken file).
 #include <QFile>
 #include <QMdiArea>
-#include "support/ScreenTest.h"
 
-#include "screens/platform/Form.h"
 #include "core/platform/Picture.h"
 #include "core/platform/Twips.h"
+#include "screens/platform/Form.h"
 #include "screens/shell/FitPicture.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/store/Startup.h"
+#include "support/ScreenTest.h"
 
 namespace {
 

@@ -4,16 +4,16 @@
 // the installer on it instead of offering to install designs.
 #include <QDir>
 #include <QFile>
-#include "support/ScreenTest.h"
 
-#include "screens/packages/frmInstallPackage.h"
-#include "screens/platform/FileLists.h"
 #include "core/platform/ProgramLock.h"
 #include "core/platform/UserFolders.h"
+#include "screens/packages/frmInstallPackage.h"
+#include "screens/platform/FileLists.h"
 #include "screens/shell/MDIMainForm.h"
 #include "screens/shell/ProgramFolder.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/store/Startup.h"
+#include "support/ScreenTest.h"
 
 namespace {
 

@@ -4,16 +4,16 @@
 // the ways the process ends.
 #include <QDir>
 #include <QFile>
-#include "support/ScreenTest.h"
 #include <csignal>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include "core/platform/Picture.h"
 #include "core/platform/ProgramLock.h"
+#include "core/records/Records.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/store/Startup.h"
-#include "core/records/Records.h"
+#include "support/ScreenTest.h"
 
 namespace {
 

@@ -1,16 +1,15 @@
 // The designer's canvas: the grid and snapping arithmetic to the twip, the
 // limits of adding and removing locations, the keys of a rectangle, the
 // grid's 82 lines, and the stacking of rectangles above grid and picture.
-#include "support/ScreenTest.h"
-
+#include "SpreadTestKit.h"
+#include "core/store/NewDesigns.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/spreads/SpreadCanvas.h"
 #include "screens/spreads/TextBoxes.h"
 #include "screens/spreads/frmDesignSpread.h"
 #include "screens/spreads/frmLocationAttributes.h"
 #include "screens/spreads/frmSpreads.h"
-#include "core/store/NewDesigns.h"
-#include "SpreadTestKit.h"
+#include "support/ScreenTest.h"
 
 using namespace SpreadTestKit;
 

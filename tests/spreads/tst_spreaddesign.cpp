@@ -8,9 +8,9 @@
 #include <QApplication>
 #include <QClipboard>
 
-#include "support/ScreenTest.h"
-
+#include "SpreadTestKit.h"
 #include "core/platform/Picture.h"
+#include "core/store/Lookups.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/spreads/SpreadCanvas.h"
 #include "screens/spreads/TextBoxes.h"
@@ -21,9 +21,8 @@
 #include "screens/spreads/frmSaveSpread.h"
 #include "screens/spreads/frmSpreadComments.h"
 #include "screens/spreads/frmSpreads.h"
-#include "core/store/Lookups.h"
-#include "SpreadTestKit.h"
 #include "support/BadInput.h"
+#include "support/ScreenTest.h"
 
 using namespace SpreadTestKit;
 

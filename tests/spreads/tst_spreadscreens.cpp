@@ -1,8 +1,9 @@
 // The spread list, the viewer and the deck chooser, and spreads whose
 // location file holds what does not belong to them.
-#include "support/ScreenTest.h"
-
+#include "SpreadTestKit.h"
 #include "core/platform/OleDate.h"
+#include "core/store/DeletePasses.h"
+#include "core/store/Lookups.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/spreads/SpreadCanvas.h"
 #include "screens/spreads/SpreadDetailsPage.h"
@@ -13,9 +14,7 @@
 #include "screens/spreads/frmSpreadInfo_LocationAttributes.h"
 #include "screens/spreads/frmSpreads.h"
 #include "screens/store/frmGetPassword.h"
-#include "core/store/DeletePasses.h"
-#include "core/store/Lookups.h"
-#include "SpreadTestKit.h"
+#include "support/ScreenTest.h"
 
 using namespace SpreadTestKit;
 

@@ -4,17 +4,17 @@
 // Cancel must leave everything as it was. The old files are built here byte by
 // byte from the layout tables, not through the record codec, so the offsets
 // are checked independently.
-#include "support/ScreenTest.h"
 #include <QRandomGenerator>
 #include <cstring>
 #include <functional>
 
 #include "core/platform/FileSys.h"
+#include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/store/frmConvert.h"
-#include "core/store/RunState.h"
 #include "support/Fixtures.h"
 #include "support/ModalScript.h"
+#include "support/ScreenTest.h"
 
 namespace {
 

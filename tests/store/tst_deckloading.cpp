@@ -3,13 +3,13 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include "core/store/RunState.h"
-#include "screens/decks/DeckLoadQuestion.h"
 #include "core/platform/FileSys.h"
-#include "screens/platform/MsgBox.h"
 #include "core/records/RecordFile.h"
 #include "core/store/DeckLoading.h"
 #include "core/store/Lookups.h"
+#include "core/store/RunState.h"
+#include "screens/decks/DeckLoadQuestion.h"
+#include "screens/platform/MsgBox.h"
 #include "support/Fixtures.h"
 #include "support/Prompts.h"
 

@@ -1,20 +1,19 @@
 // Design passwords and the design-exists question: what the user types
 // decides access, cancelling stays silent, and the installer gets the answer;
 // text past the limits and text no record can hold.
-#include "support/ScreenTest.h"
-
 #include <QApplication>
 #include <QClipboard>
 
+#include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/store/PasswordPrompts.h"
 #include "screens/store/frmDesignExists.h"
 #include "screens/store/frmGetPassword.h"
 #include "screens/store/frmSetPassword.h"
-#include "core/store/RunState.h"
+#include "support/BadInput.h"
 #include "support/ModalScript.h"
 #include "support/Prompts.h"
-#include "support/BadInput.h"
+#include "support/ScreenTest.h"
 
 namespace {
 bool Check(const QString& stored, const QString& typed, bool cancel = false) {

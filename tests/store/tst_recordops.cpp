@@ -7,10 +7,10 @@
 
 #include "core/platform/FileSys.h"
 #include "core/records/RecordFile.h"
-#include "core/store/RunState.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
+#include "core/store/RunState.h"
 #include "core/store/Usability.h"
 #include "support/Fixtures.h"
 

@@ -7,32 +7,31 @@
 // came from left it (its cards or locations, the bytes of every file they
 // name), and a design that both states list by name is listed.
 #include <QFile>
+#include <QLineEdit>
 #include <QSet>
-#include "support/ScreenTest.h"
 #include <functional>
 #include <map>
 #include <memory>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QLineEdit>
-
-#include "screens/decks/DeckLoadQuestion.h"
-#include "screens/decks/frmSaveDeck.h"
-#include "screens/spreads/TextBoxes.h"
-#include "screens/spreads/frmSaveSpread.h"
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
-#include "screens/platform/MsgBox.h"
 #include "core/platform/ProgramLock.h"
 #include "core/platform/WriteFaults.h"
 #include "core/records/RecordFile.h"
-#include "screens/store/Startup.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
 #include "core/store/RunState.h"
+#include "screens/decks/DeckLoadQuestion.h"
+#include "screens/decks/frmSaveDeck.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/spreads/TextBoxes.h"
+#include "screens/spreads/frmSaveSpread.h"
+#include "screens/store/Startup.h"
 #include "support/Fixtures.h"
 #include "support/InstallAnswers.h"
+#include "support/ScreenTest.h"
 
 using WriteFaults::Fault;
 

@@ -5,13 +5,13 @@
 #include "core/platform/FileSys.h"
 #include "core/platform/OleDate.h"
 #include "core/platform/Picture.h"
-#include "screens/shell/MDIMainForm.h"
 #include "core/records/RecordFile.h"
-#include "screens/store/Startup.h"
 #include "core/store/DeckLoading.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
+#include "screens/shell/MDIMainForm.h"
+#include "screens/store/Startup.h"
 
 namespace Fixtures {
 

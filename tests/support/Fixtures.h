@@ -8,8 +8,8 @@
 #include <QString>
 #include <functional>
 
-#include "core/records/Records.h"
 #include "core/records/RecordFile.h"
+#include "core/records/Records.h"
 
 namespace Fixtures {
 

@@ -13,10 +13,10 @@
 #include <QtTest>
 
 #include "core/platform/FileSys.h"
-#include "screens/platform/ListBox.h"
-#include "screens/platform/MsgBox.h"
 #include "core/records/RecordFile.h"
 #include "core/store/RunState.h"
+#include "screens/platform/ListBox.h"
+#include "screens/platform/MsgBox.h"
 #include "support/Fixtures.h"
 #include "support/ModalScript.h"
 #include "support/Prompts.h"
