@@ -247,16 +247,9 @@ bool Form::event(QEvent* e) {
         if (!sub_) NotifyActivated(false);
         break;
     case QEvent::KeyPress:
-    case QEvent::KeyRelease: {
-        auto* k = static_cast<QKeyEvent*>(e);
-        bool handled = false;
-        Guarded([&] {
-            if (e->type() == QEvent::KeyPress) Form_KeyDown(k->key(), k->modifiers(), handled);
-            else Form_KeyUp(k->key(), k->modifiers(), handled);
-        });
-        if (handled) return true;
+    case QEvent::KeyRelease:
+        if (KeyToForm(static_cast<QKeyEvent*>(e))) return true;
         break;
-    }
     case QEvent::Move:
         if (!sub_ && isWindow() && isVisible()) {
             const QPoint p = pos() - FrameOrigin();
@@ -268,6 +261,15 @@ bool Form::event(QEvent* e) {
         break;
     }
     return QWidget::event(e);
+}
+
+bool Form::KeyToForm(QKeyEvent* k) {
+    bool handled = false;
+    Guarded([&] {
+        if (k->type() == QEvent::KeyPress) Form_KeyDown(k->key(), k->modifiers(), handled);
+        else Form_KeyUp(k->key(), k->modifiers(), handled);
+    });
+    return handled;
 }
 
 bool Form::eventFilter(QObject* watched, QEvent* e) {
@@ -288,16 +290,9 @@ bool Form::eventFilter(QObject* watched, QEvent* e) {
         break;
     }
     case QEvent::KeyPress:
-    case QEvent::KeyRelease: {
-        auto* k = static_cast<QKeyEvent*>(e);
-        bool handled = false;
-        Guarded([&] {
-            if (e->type() == QEvent::KeyPress) Form_KeyDown(k->key(), k->modifiers(), handled);
-            else Form_KeyUp(k->key(), k->modifiers(), handled);
-        });
-        if (handled) return true;
+    case QEvent::KeyRelease:
+        if (KeyToForm(static_cast<QKeyEvent*>(e))) return true;
         break;
-    }
     default:
         break;
     }

@@ -19,6 +19,8 @@ enum UnloadMode : int {
     vbFormCode = 1,         // the program's Unload
 };
 
+class QKeyEvent;
+
 class Form : public QWidget {
     Q_OBJECT
 public:
@@ -80,6 +82,9 @@ protected:
     QSize sizeHint() const override { return size(); }
     bool event(QEvent* e) override;
     bool eventFilter(QObject* watched, QEvent* e) override;
+    // Hands a key, whether the form or one of its controls has it, to
+    // Form_KeyDown or Form_KeyUp; true when the form handled it.
+    bool KeyToForm(QKeyEvent* k);
     void closeEvent(QCloseEvent* e) override;
 
     // The widget whose geometry is the screen's (the MDI sub-window when in
