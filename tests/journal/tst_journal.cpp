@@ -59,15 +59,15 @@ class TestJournal : public QObject {
     Integer tarot_ = 0, other_ = 0, gone_ = 0, cross_ = 0, line_ = 0;
 
     JournalCatalogue catalogue_;
-    std::vector<JournalEntry> entries_;
+    Journal journal_;
 
     void Read() {
         catalogue_ = LoadJournalCatalogue();
-        entries_ = ReadJournal(catalogue_);
+        journal_ = ReadJournal(catalogue_);
     }
     QStringList Names(const JournalQuery& query) {
         QStringList names;
-        for (int i : SearchJournal(entries_, query)) names << entries_[static_cast<std::size_t>(i)].Name;
+        for (int i : SearchJournal(journal_, query)) names << journal_.Entries[static_cast<std::size_t>(i)].Name;
         return names;
     }
 
@@ -207,7 +207,7 @@ private slots:
     void cardTallies() {
         QFETCH(Integer, deck);
         QFETCH(int, number);
-        const JournalStatistics s = TallyJournal(entries_, SearchJournal(entries_, {}), catalogue_, {});
+        const JournalStatistics s = TallyJournal(journal_, SearchJournal(journal_, {}), catalogue_, {});
         QCOMPARE(s.Cards.size(), std::size_t(7));   // a card beyond its deck counts nowhere
         QCOMPARE(s.Cards.front().Number, Integer(1));
         const auto found = std::find_if(s.Cards.begin(), s.Cards.end(),
@@ -220,7 +220,7 @@ private slots:
     }
 
     void figures() {
-        const JournalStatistics s = TallyJournal(entries_, SearchJournal(entries_, {}), catalogue_, {});
+        const JournalStatistics s = TallyJournal(journal_, SearchJournal(journal_, {}), catalogue_, {});
         QCOMPARE(s.Entries, 8);
         QCOMPARE(s.Locked, 1);
         QCOMPARE(s.Unattributable, 4);   // revised, removed, card beyond the deck, bad date
@@ -235,11 +235,11 @@ private slots:
         JournalQuery range;
         range.From = {2023, 12, 1};
         range.To = {2024, 1, 31};
-        QCOMPARE(TallyJournal(entries_, SearchJournal(entries_, range), catalogue_, range).Months.size(),
+        QCOMPARE(TallyJournal(journal_, SearchJournal(journal_, range), catalogue_, range).Months.size(),
                  std::size_t(2));
 
         // Location 2 of Cross: card 23 once, card 5 once; the lower number first.
-        const auto locations = TallyLocations(entries_, SearchJournal(entries_, {}), catalogue_, cross_, 1);
+        const auto locations = TallyLocations(journal_, SearchJournal(journal_, {}), catalogue_, cross_, 1);
         QCOMPARE(locations.size(), std::size_t(3));
         QCOMPARE(locations[1].Title, QStringLiteral("Position 2"));
         QCOMPARE(locations[1].Cards.size(), std::size_t(1));
@@ -252,14 +252,19 @@ private slots:
         Read();
         JournalQuery q;
         q.Words = QStringLiteral("anna");
-        QCOMPARE(JournalCsv(entries_, SearchJournal(entries_, q), catalogue_),
+        QCOMPARE(JournalCsv(journal_, SearchJournal(journal_, q), catalogue_),
                  QByteArray("\xEF\xBB\xBF"
                             "Date,Kind,Entry,Spread,Location,Location Title,Deck,Card,Orientation\r\n"
                             "2024/01/15,Reading,\"Move, \"\"north\"\"\",Cross,1,Position 1,Tarot,Card 1,Upright\r\n"
                             "2024/01/15,Reading,\"Move, \"\"north\"\"\",Cross,2,Position 2,Tarot,Card 23,Reversed\r\n"
                             "2024/01/15,Reading,\"Move, \"\"north\"\"\",Cross,3,Position 3,Tarot,Card 5,Upright\r\n"));
         q.Words = QStringLiteral("secret");
-        QCOMPARE(JournalCsv(entries_, SearchJournal(entries_, q), catalogue_).count('\n'), 1);
+        QCOMPARE(JournalCsv(journal_, SearchJournal(journal_, q), catalogue_).count('\n'), 1);
+        // Names a spreadsheet would run as a formula stay text.
+        journal_.Entries[0].Name = QStringLiteral("=1+2");
+        QVERIFY(JournalCsv(journal_, {0}, catalogue_).contains("2024/01/15,Reading,'=1+2,Cross,1,"));
+        journal_.Entries[0].Name = QStringLiteral("-1, or @me");
+        QVERIFY(JournalCsv(journal_, {0}, catalogue_).contains(",Reading,\"'-1, or @me\",Cross,"));
         QCOMPARE(Snapshot(dir_.path()), before);
     }
 

@@ -6,8 +6,9 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
-#include <cstring>
-#include <map>
+#include <limits>
+#include <string>
+#include <string_view>
 
 #include "core/platform/CodePage.h"
 #include "core/platform/OleDate.h"
@@ -96,11 +97,12 @@ EntryLayout LayoutOf(N R::*name, T R::*notes) {
             OffsetOf(notes)};
 }
 
-EntryStanding StandingOf(const JournalEntry& entry, const JournalDeck* deck, Integer savedRevision) {
+EntryStanding StandingOf(const JournalEntry& entry, std::span<const DealtLocation> cards, const JournalDeck* deck,
+                         Integer savedRevision) {
     const std::size_t present = deck ? deck->Cards.size() : 0;
     const bool ownDeck = deck && deck->Revision == savedRevision;
     const std::size_t limit = ownDeck ? present : MaxDeckCards;
-    const bool damaged = !entry.Date.isValid() || std::any_of(entry.Cards.begin(), entry.Cards.end(), [&](auto& c) {
+    const bool damaged = !entry.Date.isValid() || std::any_of(cards.begin(), cards.end(), [&](auto& c) {
         return c.Card < 1 || static_cast<std::size_t>(c.Card) > limit;
     });
     if (damaged) return EntryStanding::Damaged;
@@ -108,43 +110,53 @@ EntryStanding StandingOf(const JournalEntry& entry, const JournalDeck* deck, Int
     return ownDeck ? EntryStanding::Present : EntryStanding::DeckRevised;
 }
 
+// Where an entry's parts lie in the journal's arrays while they still grow;
+// the entries' views are set once reading is done.
+struct EntryExtent {
+    std::size_t DealtAt = 0, DealtCount = 0;
+    qsizetype TextAt = 0, TextLength = 0;
+};
+
 void ReadEntries(const QString& path, int length, EntryKind kind, const EntryLayout& at,
-                 const JournalCatalogue& catalogue, std::vector<JournalEntry>& out) {
+                 const JournalCatalogue& catalogue, Journal& journal, std::vector<EntryExtent>& extents) {
     RecordFileReader reader(path, length);
-    out.reserve(out.size() + static_cast<std::size_t>(reader.RecordCount()));
+    journal.Entries.reserve(journal.Entries.size() + static_cast<std::size_t>(reader.RecordCount()));
     while (const char* raw = reader.Next()) {
         JournalEntry entry;
+        EntryExtent extent{journal.Dealt.size(), 0, journal.Text.size(), 0};
         entry.Kind = kind;
         entry.Date = DateOf(RawDouble(raw + at.SavedOn));
         if (entry.Date.isValid()) entry.Month = entry.Date.year() * 12 + entry.Date.month() - 1;
         entry.Name = FieldText(raw + at.Name, 50);
         entry.Locked = RawInteger(raw, at.EntryLocked) != 0 && !IsEntryUnlocked(kind, entry.Name);
-        AppendFolded(entry.SearchText, raw + at.Name, 50);
-        if (entry.Locked) {
-            out.push_back(std::move(entry));
-            continue;
+        AppendFolded(journal.Text, raw + at.Name, 50);
+        if (!entry.Locked) {
+            entry.SpreadId = RawInteger(raw, at.SpreadId);
+            entry.DeckId = RawInteger(raw, at.DeckId);
+            for (int l = 0; l < MaxSpreadLocations; ++l) {
+                const Integer card = RawInteger(raw, at.DealtCard + 2 * l);
+                if (card != 0) journal.Dealt.push_back({l + 1, card, RawInteger(raw, at.DealtUpright + 2 * l) != 0});
+            }
+            extent.DealtCount = journal.Dealt.size() - extent.DealtAt;
+            entry.Standing = StandingOf(entry, std::span(journal.Dealt).subspan(extent.DealtAt),
+                                        catalogue.Deck(entry.DeckId), RawInteger(raw, at.DeckRevision));
+            AppendFolded(journal.Text, raw + at.Issue, 125);
+            AppendFolded(journal.Text, raw + at.Notes, 2500);
         }
-        entry.SpreadId = RawInteger(raw, at.SpreadId);
-        entry.DeckId = RawInteger(raw, at.DeckId);
-        for (int l = 0; l < MaxSpreadLocations; ++l) {
-            const Integer card = RawInteger(raw, at.DealtCard + 2 * l);
-            if (card != 0) entry.Cards.push_back({l + 1, card, RawInteger(raw, at.DealtUpright + 2 * l) != 0});
-        }
-        entry.Standing = StandingOf(entry, catalogue.Deck(entry.DeckId), RawInteger(raw, at.DeckRevision));
-        AppendFolded(entry.SearchText, raw + at.Issue, 125);
-        AppendFolded(entry.SearchText, raw + at.Notes, 2500);
-        out.push_back(std::move(entry));
+        extent.TextLength = journal.Text.size() - extent.TextAt;
+        journal.Entries.push_back(std::move(entry));
+        extents.push_back(extent);
     }
 }
 
-bool Matches(const JournalEntry& entry, const JournalQuery& query, const std::vector<QByteArray>& words) {
+bool Matches(const JournalEntry& entry, const JournalQuery& query, const std::vector<std::string>& words) {
     if (!(entry.Kind == EntryKind::Reading ? query.Readings : query.Diary)) return false;
     if (!query.From.isNull() && (!entry.Date.isValid() || entry.Date < query.From)) return false;
     if (!query.To.isNull() && (!entry.Date.isValid() || entry.Date > query.To)) return false;
-    for (const QByteArray& word : words)
-        if (!memmem(entry.SearchText.constData(), static_cast<std::size_t>(entry.SearchText.size()), word.constData(),
-                    static_cast<std::size_t>(word.size())))
-            return false;
+    // A plain find: texts are short, so a search that prepares tables for
+    // each of them costs more than it saves.
+    for (const std::string& word : words)
+        if (entry.SearchText.find(word) == std::string_view::npos) return false;
     const bool needsCards = query.SpreadId != -1 || query.DeckId != -1 || query.CardNumber != 0 ||
                             query.Orientation != Facing::Any;
     if (!needsCards) return true;
@@ -227,25 +239,71 @@ private:
     std::vector<int> counts_;
 };
 
+// The deck of an entry and its rows in the counter. Entries of one deck tend
+// to come together, so the last one found is tried first.
+class DeckFinder {
+public:
+    DeckFinder(const JournalCatalogue& catalogue, CardCounter& counter) : catalogue_(catalogue), counter_(counter) {}
+    std::pair<const JournalDeck*, int> Find(Integer deckId) {
+        if (slot_ < 0 || deckId != id_) {
+            id_ = deckId;
+            deck_ = catalogue_.Deck(deckId);
+            slot_ = counter_.SlotOf(deckId);
+        }
+        return {deck_, slot_};
+    }
+
+private:
+    const JournalCatalogue& catalogue_;
+    CardCounter& counter_;
+    Integer id_ = 0;
+    const JournalDeck* deck_ = nullptr;
+    int slot_ = -1;
+};
+
+// Entries a month, in a table over the journal's months rather than a map:
+// every entry a search selects passes through it.
+class MonthCounter {
+public:
+    explicit MonthCounter(const Journal& journal)
+        : base_(journal.FirstMonth), counts_(static_cast<std::size_t>(std::max(0, journal.LastMonth - base_ + 1))) {}
+    void Add(int month) {
+        ++counts_[static_cast<std::size_t>(month - base_)];
+        first_ = std::min(first_, month);
+        last_ = std::max(last_, month);
+    }
+    bool Empty() const { return first_ > last_; }
+    int First() const { return first_; }
+    int Last() const { return last_; }
+    int At(int month) const {
+        const int at = month - base_;
+        return at < 0 || at >= static_cast<int>(counts_.size()) ? 0 : counts_[static_cast<std::size_t>(at)];
+    }
+
+private:
+    int base_;
+    std::vector<int> counts_;
+    int first_ = std::numeric_limits<int>::max();
+    int last_ = std::numeric_limits<int>::min();
+};
+
 // Months from the query's range where it is set, else from the entries'
 // first and last; a range too wide to show falls back to the entries'.
-std::vector<NamedCount> MonthsOf(const std::map<int, int>& perMonth, const JournalQuery& query) {
+std::vector<NamedCount> MonthsOf(const MonthCounter& perMonth, const JournalQuery& query) {
     constexpr int WidestRange = 1200;
     const auto monthIndex = [](const QDate& d) { return d.year() * 12 + d.month() - 1; };
-    if (perMonth.empty() && (query.From.isNull() || query.To.isNull())) return {};
-    int first = query.From.isNull() ? perMonth.begin()->first : monthIndex(query.From);
-    int last = query.To.isNull() ? perMonth.rbegin()->first : monthIndex(query.To);
-    if (last - first >= WidestRange && !perMonth.empty()) {
-        first = perMonth.begin()->first;
-        last = perMonth.rbegin()->first;
+    if (perMonth.Empty() && (query.From.isNull() || query.To.isNull())) return {};
+    int first = query.From.isNull() ? perMonth.First() : monthIndex(query.From);
+    int last = query.To.isNull() ? perMonth.Last() : monthIndex(query.To);
+    if (last - first >= WidestRange && !perMonth.Empty()) {
+        first = perMonth.First();
+        last = perMonth.Last();
     }
     std::vector<NamedCount> months;
-    for (int m = first; m <= last && last - first < WidestRange; ++m) {
-        const auto found = perMonth.find(m);
+    for (int m = first; m <= last && last - first < WidestRange; ++m)
         months.push_back({QStringLiteral("%1/%2").arg(m / 12, 4, 10, QLatin1Char('0')).arg(m % 12 + 1, 2, 10,
                                                                                             QLatin1Char('0')),
-                          found == perMonth.end() ? 0 : found->second});
-    }
+                          perMonth.At(m)});
     return months;
 }
 
@@ -264,6 +322,8 @@ QString LocationTitleOf(const JournalCatalogue& catalogue, Integer spreadId, int
 
 QByteArray CsvField(const QString& text) {
     QByteArray bytes = text.toUtf8();
+    static constexpr std::string_view FormulaStarts = "=+-@\t\r";
+    if (!bytes.isEmpty() && FormulaStarts.find(bytes.front()) != std::string_view::npos) bytes.prepend('\'');
     if (!bytes.contains(',') && !bytes.contains('"') && !bytes.contains('\n') && !bytes.contains('\r')) return bytes;
     bytes.replace('"', "\"\"");
     return '"' + bytes + '"';
@@ -329,51 +389,65 @@ JournalCatalogue LoadJournalCatalogue() {
     return catalogue;
 }
 
-std::vector<JournalEntry> ReadJournal(const JournalCatalogue& catalogue) {
-    std::vector<JournalEntry> entries;
+Journal ReadJournal(const JournalCatalogue& catalogue) {
+    Journal journal;
+    std::vector<EntryExtent> extents;
     ReadEntries(ReadingsPath, ReadingRecord::Length, EntryKind::Reading,
-                LayoutOf(&ReadingRecord::ReadingName, &ReadingRecord::ReadingNotes), catalogue, entries);
+                LayoutOf(&ReadingRecord::ReadingName, &ReadingRecord::ReadingNotes), catalogue, journal, extents);
     ReadEntries(DiaryPath, DiaryRecord::Length, EntryKind::Diary,
-                LayoutOf(&DiaryRecord::DiaryName, &DiaryRecord::DiaryNotes), catalogue, entries);
-    return entries;
+                LayoutOf(&DiaryRecord::DiaryName, &DiaryRecord::DiaryNotes), catalogue, journal, extents);
+    const std::span<const DealtLocation> dealt(journal.Dealt);
+    const std::string_view text(journal.Text.constData(), static_cast<std::size_t>(journal.Text.size()));
+    bool dated = false;
+    for (std::size_t i = 0; i < journal.Entries.size(); ++i) {
+        JournalEntry& entry = journal.Entries[i];
+        const EntryExtent& extent = extents[i];
+        entry.Cards = dealt.subspan(extent.DealtAt, extent.DealtCount);
+        entry.SearchText = text.substr(static_cast<std::size_t>(extent.TextAt), static_cast<std::size_t>(extent.TextLength));
+        if (entry.Month < 0) continue;
+        journal.FirstMonth = dated ? std::min(journal.FirstMonth, entry.Month) : entry.Month;
+        journal.LastMonth = dated ? std::max(journal.LastMonth, entry.Month) : entry.Month;
+        dated = true;
+    }
+    return journal;
 }
 
 void RememberEntryUnlocked(EntryKind kind, const QString& name) { Unlocked().insert(UnlockKey(kind, name)); }
 bool IsEntryUnlocked(EntryKind kind, const QString& name) { return Unlocked().contains(UnlockKey(kind, name)); }
 void ForgetUnlockedEntries() { Unlocked().clear(); }
 
-std::vector<int> SearchJournal(const std::vector<JournalEntry>& entries, const JournalQuery& query) {
-    std::vector<QByteArray> words;
+std::vector<int> SearchJournal(const Journal& journal, const JournalQuery& query) {
+    std::vector<std::string> words;
     for (const QString& word : query.Words.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
         // A word the code page cannot hold is in no record.
         if (!AnsiRepresentable(word)) return {};
         QByteArray bytes = ToAnsi(word);
         for (char& b : bytes) b = FoldTable()[static_cast<unsigned char>(b)];
-        words.push_back(bytes);
+        words.push_back(bytes.toStdString());
     }
     std::vector<int> selected;
-    for (std::size_t i = 0; i < entries.size(); ++i)
-        if (Matches(entries[i], query, words)) selected.push_back(static_cast<int>(i));
+    for (std::size_t i = 0; i < journal.Entries.size(); ++i)
+        if (Matches(journal.Entries[i], query, words)) selected.push_back(static_cast<int>(i));
     return selected;
 }
 
-JournalStatistics TallyJournal(const std::vector<JournalEntry>& entries, const std::vector<int>& selected,
+JournalStatistics TallyJournal(const Journal& journal, const std::vector<int>& selected,
                                const JournalCatalogue& catalogue, const JournalQuery& query) {
     JournalStatistics statistics;
     CardCounter counter;
     QHash<QString, int> types;
-    std::map<int, int> perMonth;
+    MonthCounter perMonth(journal);
+    DeckFinder decks(catalogue, counter);
     for (const int i : selected) {
-        const JournalEntry& entry = entries[static_cast<std::size_t>(i)];
+        const JournalEntry& entry = journal.Entries[static_cast<std::size_t>(i)];
         ++statistics.Entries;
-        if (entry.Month >= 0) ++perMonth[entry.Month];
+        if (entry.Month >= 0) perMonth.Add(entry.Month);
         if (entry.Locked) {
             ++statistics.Locked;
             continue;
         }
         if (entry.Standing != EntryStanding::Present) ++statistics.Unattributable;
-        const JournalDeck* deck = catalogue.Deck(entry.DeckId);
-        const int slot = counter.SlotOf(entry.DeckId);
+        const auto [deck, slot] = decks.Find(entry.DeckId);
         for (const DealtLocation& dealt : entry.Cards) {
             if (!Countable(deck, dealt.Card)) continue;
             counter.Add(slot, dealt);
@@ -391,11 +465,11 @@ JournalStatistics TallyJournal(const std::vector<JournalEntry>& entries, const s
     return statistics;
 }
 
-std::vector<LocationTally> TallyLocations(const std::vector<JournalEntry>& entries, const std::vector<int>& selected,
+std::vector<LocationTally> TallyLocations(const Journal& journal, const std::vector<int>& selected,
                                           const JournalCatalogue& catalogue, Integer spreadId, int top) {
     std::vector<CardCounter> perLocation(MaxSpreadLocations + 1);   // by location number
     for (const int i : selected) {
-        const JournalEntry& entry = entries[static_cast<std::size_t>(i)];
+        const JournalEntry& entry = journal.Entries[static_cast<std::size_t>(i)];
         if (entry.Locked || entry.SpreadId != spreadId) continue;
         const JournalDeck* deck = catalogue.Deck(entry.DeckId);
         for (const DealtLocation& dealt : entry.Cards) {
@@ -446,12 +520,12 @@ QString EntryDeckText(const JournalEntry& entry, const JournalCatalogue& catalog
     }
 }
 
-QByteArray JournalCsv(const std::vector<JournalEntry>& entries, const std::vector<int>& selected,
+QByteArray JournalCsv(const Journal& journal, const std::vector<int>& selected,
                       const JournalCatalogue& catalogue) {
     // The byte order mark tells spreadsheets that the file is UTF-8.
     QByteArray csv("\xEF\xBB\xBF" "Date,Kind,Entry,Spread,Location,Location Title,Deck,Card,Orientation\r\n");
     for (const int i : selected) {
-        const JournalEntry& entry = entries[static_cast<std::size_t>(i)];
+        const JournalEntry& entry = journal.Entries[static_cast<std::size_t>(i)];
         if (entry.Locked) continue;
         const QByteArray head = CsvField(EntryDateText(entry)) + ',' + CsvField(EntryKindText(entry.Kind)) + ',' +
                                 CsvField(entry.Name) + ',' + CsvField(EntrySpreadText(entry, catalogue)) + ',';

@@ -12,6 +12,8 @@
 #include <QDate>
 #include <QString>
 #include <array>
+#include <span>
+#include <string_view>
 #include <vector>
 
 #include "core/records/Records.h"
@@ -76,12 +78,31 @@ struct JournalEntry {
     Integer SpreadId = 0;
     Integer DeckId = 0;
     EntryStanding Standing = EntryStanding::Present;
-    std::vector<DealtLocation> Cards;   // empty while locked
-    QByteArray SearchText;   // name, issue and notes in the record's code page, case-folded; the name alone while locked
+    std::span<const DealtLocation> Cards;   // in the journal's Dealt; empty while locked
+    std::string_view SearchText;   // in the journal's Text: name, issue and notes in the record's code page,
+                                   // case-folded; the name alone while locked
+};
+
+// Every saved entry, read once. A search runs on every keystroke over every
+// entry, so what it looks at lies end to end: the dealt locations of all the
+// entries in one array and their texts in one buffer, which the entries view.
+// A journal moves but is never copied, so that those views stay true.
+struct Journal {
+    std::vector<JournalEntry> Entries;
+    std::vector<DealtLocation> Dealt;
+    QByteArray Text;
+    int FirstMonth = 0;   // the months of the dated entries, as JournalEntry::Month
+    int LastMonth = -1;
+
+    Journal() = default;
+    Journal(Journal&&) = default;
+    Journal& operator=(Journal&&) = default;
+    Journal(const Journal&) = delete;
+    Journal& operator=(const Journal&) = delete;
 };
 
 // Reads Readings.red and Diary.dry once each, front to back.
-std::vector<JournalEntry> ReadJournal(const JournalCatalogue& catalogue);
+Journal ReadJournal(const JournalCatalogue& catalogue);
 
 // Remembers, for the rest of the run, that the user gave the password of the
 // saved entry of that name; the journal then shows and counts it.
@@ -103,7 +124,7 @@ struct JournalQuery {
 };
 
 // The positions in entries of those the query selects, in file order.
-std::vector<int> SearchJournal(const std::vector<JournalEntry>& entries, const JournalQuery& query);
+std::vector<int> SearchJournal(const Journal& journal, const JournalQuery& query);
 
 struct CardTally {
     Integer DeckId = 0;
@@ -132,7 +153,7 @@ struct JournalStatistics {
     std::vector<NamedCount> Months; // "yyyy/mm", every month from the first to the last
 };
 
-JournalStatistics TallyJournal(const std::vector<JournalEntry>& entries, const std::vector<int>& selected,
+JournalStatistics TallyJournal(const Journal& journal, const std::vector<int>& selected,
                                const JournalCatalogue& catalogue, const JournalQuery& query);
 
 struct LocationTally {
@@ -142,7 +163,7 @@ struct LocationTally {
 };
 
 // For one spread: the cards that came up most in each of its locations.
-std::vector<LocationTally> TallyLocations(const std::vector<JournalEntry>& entries, const std::vector<int>& selected,
+std::vector<LocationTally> TallyLocations(const Journal& journal, const std::vector<int>& selected,
                                           const JournalCatalogue& catalogue, Integer spreadId, int top);
 
 // What the results list shows of an entry.
@@ -152,8 +173,10 @@ QString EntrySpreadText(const JournalEntry& entry, const JournalCatalogue& catal
 QString EntryDeckText(const JournalEntry& entry, const JournalCatalogue& catalogue);
 
 // The selected entries for a spreadsheet: UTF-8, a header row, one row per
-// dealt location; locked entries give none.
-QByteArray JournalCsv(const std::vector<JournalEntry>& entries, const std::vector<int>& selected,
+// dealt location; locked entries give none. A text that a spreadsheet would
+// take for a formula (one starting with =, +, -, @, a tab or a carriage
+// return) is given a leading apostrophe, so opening the file runs nothing.
+QByteArray JournalCsv(const Journal& journal, const std::vector<int>& selected,
                       const JournalCatalogue& catalogue);
 
 // The statistics page on the printer: the figures, the two charts, the table

@@ -199,7 +199,7 @@ void frmJournal::Form_Load() {
     CentreInFrame(*this);
     setMousePointer(MousePointer::Hourglass);
     catalogue_ = LoadJournalCatalogue();
-    entries_ = ReadJournal(catalogue_);
+    journal_ = ReadJournal(catalogue_);
     FillChoices();
     cmdSaveChart->setEnabled(false);
     Search();
@@ -208,7 +208,7 @@ void frmJournal::Form_Load() {
 
 void frmJournal::FillChoices() {
     QDate first, last;
-    for (const JournalEntry& e : entries_) {
+    for (const JournalEntry& e : journal_.Entries) {
         if (!e.Date.isValid()) continue;
         if (first.isNull() || e.Date < first) first = e.Date;
         if (last.isNull() || e.Date > last) last = e.Date;
@@ -255,8 +255,8 @@ JournalQuery frmJournal::QueryOfControls() const {
 void frmJournal::Search() {
     tmrSearch->stop();
     const JournalQuery query = QueryOfControls();
-    selected_ = SearchJournal(entries_, query);
-    statistics_ = TallyJournal(entries_, selected_, catalogue_, query);
+    selected_ = SearchJournal(journal_, query);
+    statistics_ = TallyJournal(journal_, selected_, catalogue_, query);
     ShowResults();
     ShowStatistics();
     ShowLocations();
@@ -266,7 +266,7 @@ void frmJournal::ShowResults() {
     grdResults->setSortingEnabled(false);
     mdlResults->removeRows(0, mdlResults->rowCount());
     for (const int i : selected_) {
-        const JournalEntry& e = entries_[static_cast<std::size_t>(i)];
+        const JournalEntry& e = journal_.Entries[static_cast<std::size_t>(i)];
         QList<QStandardItem*> row = {Cell(EntryDateText(e)), Cell(EntryKindText(e.Kind)), Cell(e.Name),
                                      Cell(EntrySpreadText(e, catalogue_)), Cell(EntryDeckText(e, catalogue_)),
                                      e.Locked ? Cell(QString()) : Cell(static_cast<int>(e.Cards.size()))};
@@ -313,7 +313,7 @@ void frmJournal::ShowLocations() {
     if (cboLocationSpread->currentIndex() < 0) return;
     const auto spreadId = static_cast<Integer>(cboLocationSpread->currentData().toInt());
     grdLocations->setSortingEnabled(false);
-    for (const LocationTally& l : TallyLocations(entries_, selected_, catalogue_, spreadId, TopPerLocation)) {
+    for (const LocationTally& l : TallyLocations(journal_, selected_, catalogue_, spreadId, TopPerLocation)) {
         QStringList cards;
         for (const CardTally& c : l.Cards) cards << QStringLiteral("%1 %2").arg(CardLabel(c)).arg(c.Total());
         mdlLocations->appendRow({Cell(l.Location), Cell(l.Title), Cell(cards.join(QStringLiteral(", ")))});
@@ -336,7 +336,7 @@ void frmJournal::cmdOpen_Click() {
     const QModelIndex current = grdResults->currentIndex();
     if (!current.isValid()) return;
     const int i = mdlResults->item(current.row(), 0)->data(Qt::UserRole).toInt();
-    const JournalEntry& entry = entries_[static_cast<std::size_t>(i)];
+    const JournalEntry& entry = journal_.Entries[static_cast<std::size_t>(i)];
     const QString name = entry.Name;
     bool opened = false;
     if (entry.Kind == EntryKind::Reading) {
@@ -360,7 +360,7 @@ void frmJournal::cmdExport_Click() {
     dialog.FileName = QStringLiteral("Journal.csv");
     dialog.Flags = CommonDialog::cdlOFNOverwritePrompt | CommonDialog::cdlOFNPathMustExist;
     if (!dialog.ShowSave()) return;
-    WriteWholeFile(dialog.FileName, JournalCsv(entries_, selected_, catalogue_));
+    WriteWholeFile(dialog.FileName, JournalCsv(journal_, selected_, catalogue_));
 }
 
 void frmJournal::cmdSaveChart_Click() {

@@ -73,7 +73,7 @@ private:
     JournalChart* ChartOnShow() const;
 
     JournalCatalogue catalogue_;
-    std::vector<JournalEntry> entries_;
+    Journal journal_;
     std::vector<int> selected_;
     JournalStatistics statistics_;
     QTimer* tmrSearch = nullptr;
