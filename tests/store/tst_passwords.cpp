@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QClipboard>
 
+#include "core/store/Passwords.h"
 #include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/store/PasswordPrompts.h"
@@ -14,6 +15,8 @@
 #include "support/ModalScript.h"
 #include "support/Prompts.h"
 #include "support/ScreenTest.h"
+
+Q_DECLARE_METATYPE(PasswordJudgement)
 
 namespace {
 bool Check(const QString& stored, const QString& typed, bool cancel = false) {
@@ -44,15 +47,33 @@ private slots:
         MsgBoxScript::Clear();
     }
 
+    void judgePassword_data() {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<PasswordJudgement>("judgement");
+        QTest::newRow("trailing spaces don't count") << "Secret  " << "Secret " << PasswordJudgement::Right;
+        QTest::newRow("leading spaces do") << "Secret" << " Secret" << PasswordJudgement::Wrong;
+        QTest::newRow("case counts") << "Secret" << "secret" << PasswordJudgement::Wrong;
+        QTest::newRow("nothing typed") << "Secret" << "" << PasswordJudgement::NothingTyped;
+        QTest::newRow("only spaces typed") << "Secret" << "   " << PasswordJudgement::NothingTyped;
+        QTest::newRow("nothing typed, even for a blank password") << "" << "" << PasswordJudgement::NothingTyped;
+    }
+
+    void judgePassword() {
+        QFETCH(QString, stored);
+        QFETCH(QString, typed);
+        QTEST(JudgePassword(stored, typed), "judgement");
+    }
+
+    // The screen: Enter acts as OK, a wrong password is told, a cancel is not.
     void checkPassword() {
-        QVERIFY(Check(QStringLiteral("Secret  "), QStringLiteral("Secret")));   // trailing spaces don't count
+        QVERIFY(Check(QStringLiteral("Secret"), QStringLiteral("Secret")));
         QVERIFY(MsgBoxScript::History().isEmpty());
-        QVERIFY(!Check(QStringLiteral("Secret"), QStringLiteral("secret")));    // case counts
+        QVERIFY(!Check(QStringLiteral("Secret"), QStringLiteral("secret")));
         QCOMPARE(Prompts(), QStringList{QStringLiteral("Incorrect password. Access Denied.")});
         QCOMPARE(MsgBoxScript::History()[0].style & 0x70, int(vbCritical));
         MsgBoxScript::Clear();
-        QVERIFY(!Check(QStringLiteral("Secret"), QStringLiteral("Secret"), true));   // cancel: silent
-        QVERIFY(!Check(QString(), QString()));   // nothing typed: silent, even for a blank password
+        QVERIFY(!Check(QStringLiteral("Secret"), QStringLiteral("Secret"), true));
         QVERIFY(MsgBoxScript::History().isEmpty());
         QVERIFY(!IsLoaded<frmGetPassword>());
     }
