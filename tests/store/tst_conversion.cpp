@@ -9,6 +9,7 @@
 #include <functional>
 
 #include "core/platform/FileSys.h"
+#include "core/store/Conversion.h"
 #include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/store/frmConvert.h"
@@ -132,12 +133,7 @@ private slots:
     void convertMovesEveryFieldAndKeepsBackups() {
         const OldDatabase db = WriteOldDatabase();
         WriteWholeFile(LocationsPath, QByteArray(1100, 'X'));  // a stray locations file goes first
-        ModalScript script;
-        script.On<frmConvert>([](frmConvert& screen) { QTest::mouseClick(screen.cmdConvert, Qt::LeftButton); });
-        QVERIFY(RunConversionScreen());
-        QVERIFY(script.Done());
-        QVERIFY(!IsLoaded<frmConvert>());
-        QCOMPARE(MsgBoxScript::History().size(), 0);
+        ConvertDatabase();
 
         const QList<QByteArray> olds = {db.decks, db.spreads, db.cards, db.readings, db.diary};
         for (int i = 0; i < olds.size(); ++i) QCOMPARE(ReadWholeFile(RecordFiles()[i] + ".bkp"), olds[i]);
@@ -176,10 +172,14 @@ private slots:
         QCOMPARE(Dir(AppPath + "*.new"), QStringList());
     }
 
+    // The screen's Convert, on a folder with nothing to convert.
     void freshDirectoryGivesEmptyFiles() {
-        Get<frmConvert>().Show();
-        QTest::mouseClick(ScreenSlot<frmConvert>()->cmdConvert, Qt::LeftButton);
+        ModalScript script;
+        script.On<frmConvert>([](frmConvert& screen) { QTest::mouseClick(screen.cmdConvert, Qt::LeftButton); });
+        QVERIFY(RunConversionScreen());
+        QVERIFY(script.Done());
         QVERIFY(!IsLoaded<frmConvert>());
+        QCOMPARE(MsgBoxScript::History().size(), 0);
         for (const QString& path : RecordFiles()) {
             QCOMPARE(FileLen(path + ".bkp"), 0);
             QCOMPARE(FileLen(path), 0);
