@@ -34,6 +34,7 @@
 #include "support/ScreenTest.h"
 
 using WriteFaults::Fault;
+Q_DECLARE_METATYPE(Fault)
 
 namespace {
 
@@ -227,6 +228,24 @@ class TestWriteFaults : public QObject {
         UnloadScreen<frmSaveSpread>();
     }
 
+    // The process killed at a step, half-way through a write where the step
+    // is one.
+    void RunKilled(const Operation& op, int step) {
+        if (op.prepare) op.prepare();
+        const pid_t child = ::fork();
+        if (child == 0) {
+            WriteFaults::Arm(Fault::Kill, step);
+            try {
+                op.run();
+            } catch (...) {
+            }
+            ::_exit(0);
+        }
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        QVERIFY2(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL, "the process outlived its kill");
+    }
+
     // The number of write steps of an operation, leaving its result in place.
     int CleanRun(const Operation& op) {
         clean_ = std::make_unique<QTemporaryDir>();
@@ -287,52 +306,31 @@ private slots:
         ReleaseProgramLock();
     }
 
-    void everyStepFailingOrFillingTheDiskLeavesWholeFiles() {
-        for (const Operation& op : Operations()) {
-            const int steps = CleanRun(op);
-            const Snapshot after = Snap();
-            QVERIFY2(steps >= 3, op.name);
-            for (Fault fault : {Fault::Fail, Fault::DiskFull}) {
-                for (int step = 1; step <= steps; ++step) {
-                    QTemporaryDir dir;
-                    MakeFixture(dir.path());
-                    const Snapshot before = Snap();
-                    Run(op, fault, step);
-                    Check(dir.path(), before, after,
-                          QStringLiteral("%1, fault %2 at step %3").arg(QLatin1String(op.name)).arg(int(fault)).arg(step));
-                    if (QTest::currentTestFailed()) return;
-                }
-            }
+    void everyWriteStepSurvivesAFault_data() {
+        QTest::addColumn<int>("operation");
+        QTest::addColumn<Fault>("fault");
+        for (int i = 0; i < Operations().size(); ++i) {
+            QTest::addRow("%s, write failing", Operations()[i].name) << i << Fault::Fail;
+            QTest::addRow("%s, disk filling", Operations()[i].name) << i << Fault::DiskFull;
+            QTest::addRow("%s, process killed", Operations()[i].name) << i << Fault::Kill;
         }
     }
 
-    // The process killed at each step, half-way through a write where the
-    // step is one.
-    void aProcessKilledAtAnyStepLeavesWholeFiles() {
-        for (const Operation& op : Operations()) {
-            const int steps = CleanRun(op);
-            const Snapshot after = Snap();
-            for (int step = 1; step <= steps; ++step) {
-                QTemporaryDir dir;
-                MakeFixture(dir.path());
-                const Snapshot before = Snap();
-                if (op.prepare) op.prepare();
-                const pid_t child = ::fork();
-                if (child == 0) {
-                    WriteFaults::Arm(Fault::Kill, step);
-                    try {
-                        op.run();
-                    } catch (...) {
-                    }
-                    ::_exit(0);
-                }
-                int status = 0;
-                ::waitpid(child, &status, 0);
-                const QString what = QStringLiteral("%1, killed at step %2").arg(QLatin1String(op.name)).arg(step);
-                QVERIFY2(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL, qPrintable(what));
-                Check(dir.path(), before, after, what);
-                if (QTest::currentTestFailed()) return;
-            }
+    void everyWriteStepSurvivesAFault() {
+        QFETCH(int, operation);
+        QFETCH(Fault, fault);
+        const Operation& op = Operations()[operation];
+        const int steps = CleanRun(op);
+        const Snapshot after = Snap();
+        QVERIFY(steps >= 3);
+        for (int step = 1; step <= steps; ++step) {
+            QTemporaryDir dir;
+            MakeFixture(dir.path());
+            const Snapshot before = Snap();
+            if (fault == Fault::Kill) RunKilled(op, step);
+            else Run(op, fault, step);
+            Check(dir.path(), before, after, QStringLiteral("fault at step %1").arg(step));
+            if (QTest::currentTestFailed()) return;
         }
     }
 };
