@@ -15,6 +15,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "core/packages/PackageStaging.h"
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
 #include "core/platform/ProgramLock.h"
@@ -113,7 +114,8 @@ using Fixtures::NamedDiary;
 using Fixtures::NamedReading;
 
 // Two decks, two spreads, three readings, two diary entries; and a package
-// of one deck and one spread laid out in Temp/ as its extraction leaves it.
+// of one deck and one spread staged in Temp/ as its creation stages it, then
+// taken out of the folder's own designs, as an extraction leaves it.
 void MakeFixture(const QString& dir) {
     Fixtures::UseProgramDir(dir);
     const Integer deckA = Fixtures::MakeDeck(QStringLiteral("Deck A"), 3, true);
@@ -126,26 +128,15 @@ void MakeFixture(const QString& dir) {
     for (const char* name : {"Monday", "Tuesday"}) AppendRecord(DiaryPath, NamedDiary(QLatin1String(name)));
 
     const Integer packed = Fixtures::MakeDeck(QStringLiteral("Packed"), 2, true);
-    const int at = FindDeckByName(QStringLiteral("Packed"));
-    DeckRecord deck;
-    GetRecord(DecksPath, at, deck);
-    QByteArray cards;
-    for (const CardRecord& card : ReadAllRecords<CardRecord>(CardsPath)) {
-        if (card.CardDeckId != packed) continue;
-        cards += EncodeRecord(card);
-        for (const auto& picture : card.CardPicture)
-            if (picture.Value() != DefaultPictureName) FileCopy(CardsDir + picture.Value(), TempDir + picture.Value());
-    }
-    WriteWholeFile(TempDir + QStringLiteral("Temp.dck"), EncodeRecord(deck));
-    WriteWholeFile(TempDir + QStringLiteral("Temp.crd"), cards);
-    const Integer spreadId = Fixtures::MakeSpread(QStringLiteral("Packed spread"), 2, {packed});
-    QByteArray locations;
-    for (const LocationRecord& location : ReadAllRecords<LocationRecord>(LocationsPath))
-        if (location.LocationSpreadId == spreadId) locations += EncodeRecord(location);
-    WriteWholeFile(TempDir + QStringLiteral("Temp.spr"), ReadWholeFile(SpreadsPath).right(SpreadRecord::Length));
-    WriteWholeFile(TempDir + QStringLiteral("Temp.loc"), locations);
+    Fixtures::MakeSpread(QStringLiteral("Packed spread"), 2, {packed});
+    PackageStaging staging;
+    staging.DeckNames = {QStringLiteral("Packed")};
+    staging.SpreadNames = {QStringLiteral("Packed spread")};
+    staging.StageDecks();
+    staging.StageCards();
+    staging.StageSpreads();
     DeleteSpread(CountSpreads());
-    DeleteDeck(at);
+    DeleteDeck(FindDeckByName(QStringLiteral("Packed")));
 }
 
 // Puts a deck in the designer's place, pictures in Temp/, as the save screen
