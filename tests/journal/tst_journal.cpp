@@ -27,8 +27,10 @@ struct Dealt {
     bool Upright;
 };
 
+// Saves an entry dealt on a deck and spread on a day.
 template <class R>
-void Deal(R& r, Integer deck, Integer spread, const QDate& day, std::initializer_list<Dealt> cards) {
+void Save(const QString& path, R r, Integer deck, Integer spread, const QDate& day,
+          std::initializer_list<Dealt> cards) {
     r.ReadingDeckId = deck;
     r.ReadingDeckRevision = 1;
     r.ReadingSpreadId = spread;
@@ -38,6 +40,7 @@ void Deal(R& r, Integer deck, Integer spread, const QDate& day, std::initializer
         r.DealtCard[static_cast<std::size_t>(d.Location - 1)] = d.Card;
         r.DealtUpright[static_cast<std::size_t>(d.Location - 1)] = Flag(d.Upright);
     }
+    AppendRecord(path, r);
 }
 
 // Every file of the program folder and its bytes' digest.
@@ -95,35 +98,25 @@ private slots:
         r.Issue = QStringLiteral("the move");
         r.ReadingNotes = QStringLiteral("Talk to Anna");
         r.DealtCount = 3;
-        Deal(r, tarot_, cross_, {2024, 1, 15}, {{1, 1, true}, {2, 23, false}, {3, 5, true}});
-        AppendRecord(ReadingsPath, r);
+        Save(ReadingsPath, r, tarot_, cross_, {2024, 1, 15}, {{1, 1, true}, {2, 23, false}, {3, 5, true}});
         r = Fixtures::NamedReading(QStringLiteral("Work"));
         r.ReadingNotes = QStringLiteral("New job; the MOVE maybe");
-        Deal(r, tarot_, line_, {2024, 3, 2}, {{1, 1, false}, {2, 2, true}});
-        AppendRecord(ReadingsPath, r);
+        Save(ReadingsPath, r, tarot_, line_, {2024, 3, 2}, {{1, 1, false}, {2, 2, true}});
         r = Fixtures::NamedReading(QStringLiteral("Secret"));
         r.Issue = QStringLiteral("hidden words");
         r.EntryLocked = True16;
         r.EntryPassword = QStringLiteral("pw");
-        Deal(r, tarot_, line_, {2024, 3, 10}, {{1, 1, true}});
-        AppendRecord(ReadingsPath, r);
-        r = Fixtures::NamedReading(QStringLiteral("Bad date"));
-        Deal(r, tarot_, line_, {2024, 1, 1}, {{1, 3, true}});
-        r.SavedOn = 1e9;
-        AppendRecord(ReadingsPath, r);
+        Save(ReadingsPath, r, tarot_, line_, {2024, 3, 10}, {{1, 1, true}});
+        Save(ReadingsPath, Fixtures::NamedReading(QStringLiteral("Bad date")), tarot_, line_, {2024, 1, 1},
+             {{1, 3, true}});
+        ChangeRecord<ReadingRecord>(ReadingsPath, 4, [](ReadingRecord& bad) { bad.SavedOn = 1e9; });
 
-        DiaryRecord d = Fixtures::NamedDiary(QStringLiteral("Garden"));
-        Deal(d, tarot_, cross_, {2024, 1, 20}, {{2, 5, true}, {3, 1, true}});
-        AppendRecord(DiaryPath, d);
-        d = Fixtures::NamedDiary(QStringLiteral("Old deck"));
-        Deal(d, other_, line_, {2024, 2, 5}, {{1, 3, true}});
-        AppendRecord(DiaryPath, d);
-        d = Fixtures::NamedDiary(QStringLiteral("Gone deck"));
-        Deal(d, gone_, line_, {2024, 2, 6}, {{1, 4, false}});
-        AppendRecord(DiaryPath, d);
-        d = Fixtures::NamedDiary(QStringLiteral("Damaged"));
-        Deal(d, tarot_, line_, {2024, 2, 7}, {{1, 45, true}, {2, 2, false}});
-        AppendRecord(DiaryPath, d);
+        Save(DiaryPath, Fixtures::NamedDiary(QStringLiteral("Garden")), tarot_, cross_, {2024, 1, 20},
+             {{2, 5, true}, {3, 1, true}});
+        Save(DiaryPath, Fixtures::NamedDiary(QStringLiteral("Old deck")), other_, line_, {2024, 2, 5}, {{1, 3, true}});
+        Save(DiaryPath, Fixtures::NamedDiary(QStringLiteral("Gone deck")), gone_, line_, {2024, 2, 6}, {{1, 4, false}});
+        Save(DiaryPath, Fixtures::NamedDiary(QStringLiteral("Damaged")), tarot_, line_, {2024, 2, 7},
+             {{1, 45, true}, {2, 2, false}});
     }
 
     void init() {
