@@ -124,12 +124,6 @@ private slots:
         QCOMPARE(CurrentDeck.DeckCards(3).CardTitle.Trimmed(), QStringLiteral("Card 3"));
         QCOMPARE(ReadWholeFile(CardsPath), before);
 
-        // StoreListDeck hands the fields back for a save.
-        CurrentDeck.DeckTitle = QStringLiteral("Renamed");
-        StoreListDeck();
-        QCOMPARE(ListDeck.DeckTitle.Trimmed(), QStringLiteral("Renamed"));
-        QCOMPARE(ListDeck.CardCount, Integer(3));
-
         // A claim past what Cards.crd holds fails as a deck with missing
         // cards does, without a place for every card claimed.
         ListDeck.CardCount = 32767;
