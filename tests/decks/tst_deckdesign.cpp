@@ -6,7 +6,6 @@
 #include "core/decks/CardEditing.h"
 #include "core/store/Lookups.h"
 #include "screens/decks/DeckControls.h"
-#include "screens/decks/DeckLoadQuestion.h"
 #include "screens/decks/frmAddCard.h"
 #include "screens/decks/frmDeckCardProperties.h"
 #include "screens/decks/frmDeckInfo.h"
