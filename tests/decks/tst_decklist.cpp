@@ -28,10 +28,6 @@ class TestDeckList : public QObject {
         return spread;
     }
 
-    static bool Buttons(const frmDecks& decks) {
-        return decks.cmdEdit->isEnabled() && decks.cmdInfo->isEnabled() && decks.cmdDelete->isEnabled();
-    }
-
 private slots:
     void initTestCase() {
         MsgBoxScript::Enable();
@@ -54,7 +50,7 @@ private slots:
         QCOMPARE(decks.lstDecks->count(), 3);
         QCOMPARE(decks.lstDecks->Text().trimmed(), QStringLiteral("Alpha"));
         QCOMPARE(decks.lblCardsField->text(), QStringLiteral("3"));
-        QVERIFY(Buttons(decks));
+        QVERIFY(decks.cmdEdit->isEnabled() && decks.cmdInfo->isEnabled() && decks.cmdDelete->isEnabled());
 
         MsgBoxScript::Clear();
         MsgBoxScript::Answer(vbNo);

@@ -57,13 +57,6 @@ void Nudge(frmDesignSpread& designer, int index, Qt::Key key) {
 QPoint Place(frmDesignSpread& designer, int index) {
     return QPoint(designer.picLocation(index)->Left(), designer.picLocation(index)->Top());
 }
-
-// Opens the attributes of a location and types its title.
-void TypeTitle(frmDesignSpread& designer, int index, const QString& title) {
-    designer.cmdCardAttributes_Click(index);
-    frmLocationAttributes& attributes = Get<frmLocationAttributes>();
-    QTest::keyClicks(attributes.txtTitle, title);
-}
 }  // namespace
 
 class TestSpreadDesign : public QObject {
@@ -143,17 +136,19 @@ private slots:
         const QStringList titles = {QStringLiteral("Past"), QStringLiteral("Present"), QStringLiteral("Gone"),
                                     QStringLiteral("Future"), QStringLiteral("Hope"), QStringLiteral("Outcome")};
         for (int i = 1; i <= 6; ++i) {
-            TypeTitle(d, i, titles[i - 1].left(2));
+            d.cmdCardAttributes_Click(i);
+            frmLocationAttributes& attributes = Get<frmLocationAttributes>();
+            QTest::keyClicks(attributes.txtTitle, titles[i - 1].left(2));
             QCOMPARE(d.lblCardTitle(i)->text(), titles[i - 1].left(2));
-            QTest::keyClicks(Get<frmLocationAttributes>().txtTitle, titles[i - 1].mid(2));
+            QTest::keyClicks(attributes.txtTitle, titles[i - 1].mid(2));
             QCOMPARE(d.lblCardTitle(i)->text(), titles[i - 1]);
             if (i == 2) {
-                QTest::keyClicks(Get<frmLocationAttributes>().txtDescription, QStringLiteral("Where you stand"));
-                QTest::keyClicks(Get<frmLocationAttributes>().txtQuestion(3), QStringLiteral("Why now?"));
+                QTest::keyClicks(attributes.txtDescription, QStringLiteral("Where you stand"));
+                QTest::keyClicks(attributes.txtQuestion(3), QStringLiteral("Why now?"));
             }
             // Losing the focus closes the attributes.
-            Get<frmLocationAttributes>().NotifyActivated(true);
-            Get<frmLocationAttributes>().NotifyActivated(false);
+            attributes.NotifyActivated(true);
+            attributes.NotifyActivated(false);
             QVERIFY(!IsLoaded<frmLocationAttributes>());
         }
         QCOMPARE(SpreadLocations(2).LocationQuestion[2].Trimmed(), QStringLiteral("Why now?"));
