@@ -1,6 +1,6 @@
 #pragma once
-// Driving the deck screens from a test: picking files in the choosers, and
-// comparing Cards/ with the card records.
+// Driving the deck screens from a test: picking lines in the lists and files
+// in the choosers.
 #include <QDir>
 #include <QFileInfo>
 #include <QList>
@@ -52,18 +52,6 @@ std::function<void(T&)> Pick(const QString& folder, const QString& name) {
 inline QSet<QString> FilesIn(const QString& folder) {
     const QStringList names = QDir(folder).entryList(QDir::Files);
     return QSet<QString>(names.begin(), names.end());
-}
-
-// What Cards/ must hold: every picture and sound that a card record names,
-// and the default picture.
-inline QSet<QString> FilesNamedByCards() {
-    QSet<QString> named{QStringLiteral("C000000.bmp")};
-    for (const CardRecord& card : ReadAllRecords<CardRecord>(CardsPath)) {
-        for (const auto& picture : card.CardPicture) named.insert(picture.Trimmed());
-        for (const auto& sound : card.CardSound)
-            if (!sound.IsBlank()) named.insert(sound.Trimmed());
-    }
-    return named;
 }
 
 // Selects a line as a click does.

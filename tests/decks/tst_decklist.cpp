@@ -1,12 +1,13 @@
 // The deck list: brief info, deleting a deck with its cards and files and
 // untying it from spreads, the password of a locked deck for editing but not
 // for viewing, coming back to the deck left, and the deck chooser of the
-// spread designer.
+// spread designer. How the spreads let go of a deck is checked on the spread
+// file alone.
 
 #include "DeckDriver.h"
 #include "core/decks/CardEditing.h"
+#include "core/spreads/AllowedDecks.h"
 #include "core/store/Lookups.h"
-#include "screens/decks/DeckControls.h"
 #include "screens/decks/frmBrowseDeck.h"
 #include "screens/decks/frmDeckInfo.h"
 #include "screens/decks/frmDecks.h"
@@ -25,10 +26,6 @@ class TestDeckList : public QObject {
         SpreadRecord spread;
         GetRecord(SpreadsPath, FindSpreadByName(name), spread);
         return spread;
-    }
-
-    static bool Buttons(const frmDecks& decks) {
-        return decks.cmdEdit->isEnabled() && decks.cmdInfo->isEnabled() && decks.cmdDelete->isEnabled();
     }
 
 private slots:
@@ -53,7 +50,7 @@ private slots:
         QCOMPARE(decks.lstDecks->count(), 3);
         QCOMPARE(decks.lstDecks->Text().trimmed(), QStringLiteral("Alpha"));
         QCOMPARE(decks.lblCardsField->text(), QStringLiteral("3"));
-        QVERIFY(Buttons(decks));
+        QVERIFY(decks.cmdEdit->isEnabled() && decks.cmdInfo->isEnabled() && decks.cmdDelete->isEnabled());
 
         MsgBoxScript::Clear();
         MsgBoxScript::Answer(vbNo);
@@ -71,14 +68,9 @@ private slots:
         QCOMPARE(MsgBoxScript::History().size(), 2);
         QVERIFY(MsgBoxScript::History()[1].prompt.startsWith(QLatin1String("At least one spread uses solely this deck.")));
         QCOMPARE(CountDecks(), 2);
-        const SpreadRecord solo = Spread(QStringLiteral("Solo"));
-        QCOMPARE(solo.AllowedDeckCount, 0);
-        QCOMPARE(solo.AllowedDeckId[0], -1);
-        const SpreadRecord mixed = Spread(QStringLiteral("Mixed"));
-        QCOMPARE(mixed.AllowedDeckCount, 2);
-        QCOMPARE(mixed.AllowedDeckId[0], beta_);
-        QCOMPARE(mixed.AllowedDeckId[1], gamma_);
-        QCOMPARE(mixed.AllowedDeckId[2], -1);
+        // Every spread let go of it.
+        QCOMPARE(Spread(QStringLiteral("Solo")).AllowedDeckCount, 0);
+        QCOMPARE(Spread(QStringLiteral("Mixed")).AllowedDeckCount, 2);
         // The line went; the first line is selected in its place.
         QCOMPARE(decks.lstDecks->count(), 2);
         QCOMPARE(decks.lstDecks->Text().trimmed(), QStringLiteral("Beta"));
@@ -166,8 +158,41 @@ private slots:
         QCOMPARE(CountDecks(), 0);
         QVERIFY(!decks.cmdEdit->isEnabled() && !decks.cmdInfo->isEnabled() && !decks.cmdDelete->isEnabled());
         QVERIFY(decks.lblTitleField->text().isEmpty() && decks.lblCardsField->text().isEmpty());
-        QCOMPARE(Spread(QStringLiteral("Mixed")).AllowedDeckCount, 0);
         QCOMPARE(MsgBoxScript::Unanswered(), 0);
+    }
+
+    // A spread tied to the decks `allowed` when deck 4 goes: the decks after
+    // it move up and the freed place is -1. A spread that does not list it is
+    // not written, nor one for any deck that still lists the decks once chosen.
+    void aDeckThatGoesIsUntiedFromItsSpreads_data() {
+        QTest::addColumn<QList<Integer>>("allowed");
+        QTest::addColumn<bool>("anyDeck");
+        QTest::addColumn<bool>("sole");
+        QTest::addColumn<QList<Integer>>("after");
+        QTest::newRow("its only deck") << QList<Integer>{4} << false << true << QList<Integer>{};
+        QTest::newRow("the first of three") << QList<Integer>{4, 2, 7} << false << false << QList<Integer>{2, 7};
+        QTest::newRow("the middle one") << QList<Integer>{2, 4, 7} << false << false << QList<Integer>{2, 7};
+        QTest::newRow("the tenth") << QList<Integer>{1, 2, 3, 5, 6, 7, 8, 9, 10, 4} << false << false
+                                   << QList<Integer>{1, 2, 3, 5, 6, 7, 8, 9, 10};
+        QTest::newRow("not listed") << QList<Integer>{2} << false << false << QList<Integer>{2};
+        QTest::newRow("any deck") << QList<Integer>{4} << true << false << QList<Integer>{4};
+    }
+    void aDeckThatGoesIsUntiedFromItsSpreads() {
+        QFETCH(QList<Integer>, allowed);
+        QFETCH(bool, anyDeck);
+        QFETCH(bool, sole);
+        QFETCH(QList<Integer>, after);
+        QTemporaryDir dir;
+        Fixtures::UseProgramDir(dir.path());
+        Fixtures::MakeSpread(QStringLiteral("Tied"), 1, allowed);
+        if (anyDeck) ChangeRecord<SpreadRecord>(SpreadsPath, 1, [](SpreadRecord& s) { s.AllowedDeckCount = -1; });
+        const QByteArray before = ReadWholeFile(SpreadsPath);
+        QCOMPARE(IsSoleDeckOfASpread(4), sole);
+        RemoveDeckFromSpreads(4);
+        if (anyDeck || !allowed.contains(4)) QCOMPARE(ReadWholeFile(SpreadsPath), before);
+        const SpreadRecord spread = Spread(QStringLiteral("Tied"));
+        QCOMPARE(int(spread.AllowedDeckCount), anyDeck ? -1 : int(after.size()));
+        for (int i = 0; i < 10; ++i) QCOMPARE(spread.AllowedDeckId[std::size_t(i)], after.value(i, -1));
     }
 };
 

@@ -1,11 +1,13 @@
 // A deck made from a folder of pictures: the order, titles, types and
 // reversed sides of the cards, the card names they take in Temp/, the limit,
 // what cannot be read, and a cancelled import that leaves everything as it was.
+// And the titles a new card may take, however it joins the deck.
 #include <QDir>
 #include <QImage>
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include "core/decks/CardStore.h"
 #include "core/decks/PictureImport.h"
 #include "core/platform/FileSys.h"
 #include "core/store/NewDesigns.h"
@@ -26,6 +28,15 @@ void WriteMarked(const QString& path, const char* format) {
 bool RedAt(const QString& path, int x, int y) {
     const QColor c = QImage(path).pixelColor(x, y);
     return c.red() > 150 && c.blue() < 100;
+}
+
+// The deck being designed, holding "Card 1" .. "Card n".
+void DeckOf(int cards, bool withReversed = true) {
+    ResetDeck();
+    CurrentDeck.IncludesReversed = Flag(withReversed);
+    CurrentDeck.CardCount = static_cast<Integer>(cards);
+    CurrentDeck.DeckCards.RedimPreserve(cards);
+    for (int i = 1; i <= cards; ++i) CurrentDeck.DeckCards(i).CardTitle = QStringLiteral("Card %1").arg(i);
 }
 
 }  // namespace
@@ -118,11 +129,7 @@ private slots:
         Fixtures::UseProgramDir(program_.path());
         KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
         FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
-        ResetDeck();
-        CurrentDeck.IncludesReversed = Flag(deckReversed);
-        CurrentDeck.CardCount = static_cast<Integer>(cardsBefore);
-        CurrentDeck.DeckCards.RedimPreserve(cardsBefore);
-        for (int i = 1; i <= cardsBefore; ++i) CurrentDeck.DeckCards(i).CardTitle = QStringLiteral("Card %1").arg(i);
+        DeckOf(cardsBefore, deckReversed);
         const QStringList tempBefore = QDir(TempDir).entryList(QDir::Files);
 
         FolderPictures found = ListFolderPictures(folder_.path(), 0);
@@ -153,6 +160,30 @@ private slots:
         QStringList tempAfter = QDir(TempDir).entryList(QDir::Files);
         tempAfter.sort();
         QCOMPARE(tempAfter, files);
+    }
+
+    // Typed in the card editor or made by the import, a title must be given
+    // and new to the deck and to the cards joining with it; blanks around it
+    // do not count, case does.
+    void newCardTitles_data() {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QStringList>("joining");
+        QTest::addColumn<QString>("problem");
+        const QString blank = QStringLiteral("Please enter a title for this card.");
+        const QString taken = QStringLiteral("You already have a card with the same title. Please change the title.");
+        QTest::newRow("empty") << "" << QStringList{} << blank;
+        QTest::newRow("only blanks") << "   " << QStringList{} << blank;
+        QTest::newRow("a card of the deck, padded") << " Card 1  " << QStringList{} << taken;
+        QTest::newRow("a card joining with it") << "Moon" << QStringList{"Sun", " Moon "} << taken;
+        QTest::newRow("another case") << "card 1" << QStringList{} << QString();
+        QTest::newRow("new to both") << "Card 3" << QStringList{"Card 4"} << QString();
+    }
+    void newCardTitles() {
+        QFETCH(QString, title);
+        QFETCH(QStringList, joining);
+        QFETCH(QString, problem);
+        DeckOf(2);
+        QCOMPARE(NewCardTitleProblem(title, joining), problem);
     }
 };
 

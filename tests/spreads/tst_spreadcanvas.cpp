@@ -127,10 +127,13 @@ private slots:
     void keysMoveOnlyWithShiftAlone() {
         frmDesignSpread& d = Designer(2);
         d.picLocation(1)->Move(0, 100);
+        d.SpreadDirty = false;
         Nudge(d, Qt::Key_Left, Qt::ShiftModifier);
         Nudge(d, Qt::Key_Up, Qt::ShiftModifier);
         QCOMPARE(QPoint(d.picLocation(1)->Left(), d.picLocation(1)->Top()), QPoint(0, 0));
+        QVERIFY(!d.SpreadDirty);   // a nudge does not mark the design
         Nudge(d, Qt::Key_Right, Qt::ShiftModifier | Qt::AltModifier);
+        Nudge(d, Qt::Key_Right, Qt::ShiftModifier | Qt::ControlModifier);
         Nudge(d, Qt::Key_Right, Qt::NoModifier);
         QCOMPARE(d.picLocation(1)->Left(), Integer(0));
         Nudge(d, Qt::Key_Right, Qt::ShiftModifier);
