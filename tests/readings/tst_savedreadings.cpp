@@ -1,18 +1,17 @@
-// Saved readings that can no longer be shown as they were, and the selection
-// screen's lists and boxes: every refusal is one message, the screen stays,
-// nothing is written. And bad input: text past every limit, text the record
-// code page cannot hold, a saved reading that goes between the listing and
-// the opening.
+// Saved entries, readings and diary entries alike, that can no longer be
+// shown as they were, and the selection screen's lists and boxes: every
+// refusal is one message, the screen stays, nothing is written. And bad input:
+// text past every limit, text the record code page cannot hold, a saved
+// reading that goes between the listing and the opening.
 #include <QApplication>
 #include <QClipboard>
 
-#include "ReadingFixtures.h"
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
 #include "core/platform/OleDate.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
-#include "screens/diary/frmSaveDiary.h"
+#include "diary/DiaryFixtures.h"
 #include "screens/readings/frmReadingNotes.h"
 #include "screens/readings/frmSaveReading.h"
 #include "screens/store/frmGetPassword.h"
@@ -22,17 +21,8 @@ using namespace ReadingFixtures;
 
 namespace {
 
-const QString DeckGone = QStringLiteral(
-    "This Reading cannot be opened because the deck that was used to create it is no longer installed.");
-const QString SpreadGone = QStringLiteral(
-    "This reading cannot be opened because the spread that was used to create it is no longer installed.");
-const QString TooManyRemoved = QStringLiteral(
-    "The reading cannot be opened because the too many cards were removed from the deck that was used to create "
-    "this reading.");
-const QString DeckChanged = QStringLiteral(
-    "The deck used with this reading has changed since the reading was created. Do you still want to open it?\n"
-    "NOTE: If you choose 'Yes', the reading will be opened with the new deck version and the cards might be "
-    "corrupted.");
+// What has happened to the designs since an entry was saved.
+enum Change { DeckDeleted, SpreadDeleted, CardsRemoved, DeckRevised };
 
 // Pastes text over a line box's text as a user does.
 void PasteInto(QLineEdit* box, const QString& text) {
@@ -69,40 +59,67 @@ private slots:
 
     void init() {
         UnloadScreen<frmOpenReading>();
-        FreshRun(NewDir());
+        DiaryFixtures::FreshDiaryRun(NewDir());
         deckId_ = Fixtures::MakeDeck(QStringLiteral("Tarot"), 22, false);
         spreadId_ = Fixtures::MakeSpread(QStringLiteral("Big"), 20, {deckId_});
     }
 
-    void cleanup() { CloseReadingScreens(); }
-
-    void aDeletedDeckOrSpreadRefusesTheReading() {
-        SavedReading();
-        DeleteDeck(1);
-        ExpectRefusal(DeckGone);
-        MsgBoxScript::Clear();
-        UnloadScreen<frmOpenReading>();
-        deckId_ = Fixtures::MakeDeck(QStringLiteral("Again"), 22, false);
-        ChangeRecord<ReadingRecord>(ReadingsPath, 1, [this](ReadingRecord& r) { r.ReadingDeckId = deckId_; });
-        DeleteSpread(1);
-        ExpectRefusal(SpreadGone);
+    void cleanup() {
+        CloseReadingScreens();
+        DiaryFixtures::CloseDiaryScreens();
     }
 
-    void aChangedDeckIsCheckedOnTheFirstFifteenLocations() {
-        SavedReading(15, 22);
-        ChangeRecord<DeckRecord>(DecksPath, 1, [](DeckRecord& d) {
-            d.DeckRevision = 2;
-            d.CardCount = 21;
-        });
-        ExpectRefusal(TooManyRemoved);
-        // Declining the question about a changed deck ends there too.
-        MsgBoxScript::Clear();
-        UnloadScreen<frmOpenReading>();
-        ChangeRecord<ReadingRecord>(ReadingsPath, 1, [](ReadingRecord& r) { r.DealtCard[14] = 3; });
-        MsgBoxScript::Answer(vbNo);
-        TryOpen();
-        QCOMPARE(MsgBoxScript::History().at(0).prompt, DeckChanged);
-        QVERIFY(IsLoaded<frmOpenReading>());
+    // Opening is refused alike for both kinds of entry, each in its own words:
+    // a design gone, a card past a changed deck in the first fifteen
+    // locations, the question about a changed deck declined.
+    void anEntryThatCannotBeShownAsItWasIsRefused_data() {
+        QTest::addColumn<bool>("diary");
+        QTest::addColumn<int>("change");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("reading, deck deleted") << false << int(DeckDeleted) << QStringLiteral(
+            "This Reading cannot be opened because the deck that was used to create it is no longer installed.");
+        QTest::newRow("diary, deck deleted") << true << int(DeckDeleted) << QStringLiteral(
+            "This diary cannot be opened because the deck that was used to create it is no longer installed.");
+        QTest::newRow("reading, spread deleted") << false << int(SpreadDeleted) << QStringLiteral(
+            "This reading cannot be opened because the spread that was used to create it is no longer installed.");
+        QTest::newRow("diary, spread deleted") << true << int(SpreadDeleted) << QStringLiteral(
+            "This diary cannot be opened because the spread that was used to create it is no longer installed.");
+        QTest::newRow("reading, card 22 at location 15 of 21") << false << int(CardsRemoved) << QStringLiteral(
+            "The reading cannot be opened because the too many cards were removed from the deck that was used to "
+            "create this reading.");
+        QTest::newRow("diary, card 22 at location 15 of 21") << true << int(CardsRemoved) << QStringLiteral(
+            "The Diary cannot be opened because the too many cards were removed from the deck that was used to "
+            "create this diary.");
+        QTest::newRow("reading, changed deck declined") << false << int(DeckRevised) << QStringLiteral(
+            "The deck used with this reading has changed since the reading was created. Do you still want to open "
+            "it?\nNOTE: If you choose 'Yes', the reading will be opened with the new deck version and the cards "
+            "might be corrupted.");
+    }
+
+    void anEntryThatCannotBeShownAsItWasIsRefused() {
+        QFETCH(bool, diary);
+        QFETCH(int, change);
+        QFETCH(QString, message);
+        if (diary) {
+            const auto named = [](DiaryRecord& d) { d.DiaryName = QStringLiteral("Saved"); };
+            SaveEntry<DiaryRecord>(DiaryPath, deckId_, spreadId_, 20, named, 15, 22);
+        } else {
+            SavedReading(15, 22);
+        }
+        if (change == DeckDeleted) DeleteDeck(1);
+        if (change == SpreadDeleted) DeleteSpread(1);
+        if (change == CardsRemoved || change == DeckRevised)
+            ChangeRecord<DeckRecord>(DecksPath, 1, [change](DeckRecord& d) {
+                d.DeckRevision = 2;
+                if (change == CardsRemoved) d.CardCount = 21;
+            });
+        if (change == DeckRevised) MsgBoxScript::Answer(vbNo);
+        if (diary) {
+            ExpectRefusalOf<frmNewDiary, frmOpenDiary>(DiaryPath, CurrentDiary, message);
+            QVERIFY(!Get<frmNewDiary>().OpeningDiary);
+        } else {
+            ExpectRefusal(message);
+        }
     }
 
     void aCardPastTheDeckBeyondLocationFifteenClosesTheReadingCleanly() {
