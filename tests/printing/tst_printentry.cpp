@@ -222,10 +222,6 @@ private slots:
         QCOMPARE(texts.mid(0, 7), (QStringList{MakerWebAddress, QStringLiteral("Page 2"), QStringLiteral("Summary"),
                                                QString(), QString(), QStringLiteral("Line one"),
                                                QStringLiteral("Line two")}));
-        // Four blocks to a page after the summary's page.
-        QCOMPARE(Starting(texts, QStringLiteral("Page ")),
-                 (QStringList{QStringLiteral("Page 2"), QStringLiteral("Page 3"), QStringLiteral("Page 4"),
-                              QStringLiteral("Page 5")}));
         QStringList locations, cards;
         for (int i = 1; i <= Locations; ++i) {
             locations << QStringLiteral("Location: Position %1").arg(i);
@@ -259,16 +255,17 @@ private slots:
         QVERIFY(MsgBoxScript::History().isEmpty());
     }
 
+    // The diary's own Print button sends the entry as it stands: its cards
+    // wherever they were chosen, its notes, its own time of day.
     void diaryPrintsItsCardsWhereverTheyLie() {
-        frmNewReading& screen = Reading(0);
-        ResetDiary(CurrentDiary);
-        CurrentDiary.DealtCard[4] = 7;     // location 5, reversed
-        CurrentDiary.DealtUpright[4] = False16;
-        CurrentDiary.DealtCard[1] = 5;     // location 2, upright
-        CurrentDiary.DealtUpright[1] = True16;
+        frmNewDiary& diary = DiaryFixtures::NewDiary();
+        diary.cmdContinue->click();
+        DiaryFixtures::Choose(diary, 5, DiaryFixtures::CardText(7), true);
+        DiaryFixtures::Choose(diary, 2, DiaryFixtures::CardText(5));
         SetClockForTests(QDateTime(QDate(2026, 3, 5), QTime(9, 5, 3)));
         auto printer = RecorderChosen();
-        screen.PrintEntry(DiaryPrintout());
+        diary.cmdPrint->click();
+        QVERIFY(MsgBoxScript::History().isEmpty());
         const QList<PrinterCall> page = PageOne(*printer);
         QVERIFY(BoxTexts(page).contains(QStringLiteral("Thursday, 5 Mar 2026 - 09:05:03 AM")));
         // The cards lie above the empty places, the higher number on top.
@@ -282,13 +279,18 @@ private slots:
         QCOMPARE(Starting(texts, QStringLiteral("Card: ")),
                  (QStringList{QStringLiteral("Card: Card 5(Upright)"), QStringLiteral("Card: Card 7 (Reversed)")}));
         QVERIFY(texts.contains(QStringLiteral("Reversed meaning of card 7")));
+        // Notes make the summary page that an entry without them goes without.
+        CurrentDiary.DiaryNotes = QStringLiteral("Cards laid on the kitchen table.");
+        auto withNotes = RecorderChosen();
+        diary.cmdPrint->click();
+        QVERIFY(withNotes->Texts().contains(QStringLiteral("Cards laid on the kitchen table.")));
 
         // A printer that cannot be opened: the engine says so, then the
         // diary's own message.
         MsgBoxScript::Clear();
         auto broken = RecorderChosen();
         broken->LastError = 1;
-        screen.PrintEntry(DiaryPrintout());
+        diary.cmdPrint->click();
         QCOMPARE(MsgBoxScript::History().size(), 2);
         QCOMPARE(MsgBoxScript::History()[0].prompt, QStringLiteral("Unable to initialize printer."));
         QCOMPARE(MsgBoxScript::History()[0].style, int(vbExclamation));
@@ -317,22 +319,6 @@ private slots:
                                        QStringLiteral("Card: "), QStringLiteral("Location: Position 10"),
                                        QStringLiteral("Card: ")}),
                  qPrintable(readingText));
-    }
-
-    // The diary's own Print button sends the entry as it stands, notes and all.
-    void diaryPrintButtonSendsItsEntry() {
-        frmNewDiary& diary = DiaryFixtures::NewDiary();
-        diary.cmdContinue->click();
-        DiaryFixtures::Choose(diary, 2, DiaryFixtures::CardText(6), true);
-        diary.cmdNotes->click();
-        Get<frmDiaryNotes>().txtComments->setPlainText(QStringLiteral("Cards laid on the kitchen table."));
-        Get<frmDiaryNotes>().cmdClose->click();
-        auto printer = RecorderChosen();
-        diary.cmdPrint->click();
-        QVERIFY(MsgBoxScript::History().isEmpty());
-        const QStringList texts = printer->Texts();
-        QVERIFY(texts.contains(QStringLiteral("Cards laid on the kitchen table.")));
-        QCOMPARE(Starting(texts, QStringLiteral("Card: ")), QStringList{QStringLiteral("Card: Card 6 (Reversed)")});
     }
 
 private:
