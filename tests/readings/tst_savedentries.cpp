@@ -1,8 +1,10 @@
 // Saved entries, readings and diary entries alike, that can no longer be
 // shown as they were, and the selection screen's lists and boxes: every
-// refusal is one message, the screen stays, nothing is written. And bad input:
-// text past every limit, text the record code page cannot hold, a saved
-// reading that goes between the listing and the opening.
+// refusal is one message, the screen stays, nothing is written. A diary entry
+// whose cards point past a smaller deck beyond the checked locations opens
+// with those locations empty; saving under another entry's name overwrites it
+// in place. And bad input: text past every limit, text the record code page
+// cannot hold, a saved reading that goes between the listing and the opening.
 #include <QApplication>
 #include <QClipboard>
 
@@ -14,10 +16,11 @@
 #include "diary/DiaryFixtures.h"
 #include "screens/readings/frmReadingNotes.h"
 #include "screens/readings/frmSaveReading.h"
+#include "screens/shell/ClickLabel.h"
 #include "screens/store/frmGetPassword.h"
 #include "support/BadInput.h"
 
-using namespace ReadingFixtures;
+using namespace DiaryFixtures;
 
 namespace {
 
@@ -34,7 +37,7 @@ void PasteInto(QLineEdit* box, const QString& text) {
 
 }  // namespace
 
-class TestSavedReadings : public QObject, ScreenRun {
+class TestSavedEntries : public QObject, ScreenRun {
     Q_OBJECT
     Integer deckId_ = 0;
     Integer spreadId_ = 0;
@@ -48,6 +51,15 @@ class TestSavedReadings : public QObject, ScreenRun {
         };
         return SaveEntry<ReadingRecord>(ReadingsPath, deckId_, spreadId_, 20, own, highCardAt, highCard);
     }
+    // A diary entry of the same, its focus on location 7.
+    DiaryRecord SavedDiary(const QString& name, int highCardAt = 0, Integer highCard = 0) {
+        const auto own = [&name](DiaryRecord& d) {
+            d.DiaryName = name;
+            d.DiaryChoice = 7;
+            d.SavedOn = 46000;
+        };
+        return SaveEntry<DiaryRecord>(DiaryPath, deckId_, spreadId_, 20, own, highCardAt, highCard);
+    }
     static frmOpenReading& TryOpen() { return ReadingFixtures::TryOpen<frmNewReading, frmOpenReading>(); }
     static void ExpectRefusal(const QString& message) {
         ExpectRefusalOf<frmNewReading, frmOpenReading>(ReadingsPath, CurrentReading, message);
@@ -59,14 +71,14 @@ private slots:
 
     void init() {
         UnloadScreen<frmOpenReading>();
-        DiaryFixtures::FreshDiaryRun(NewDir());
+        FreshDiaryRun(NewDir());
         deckId_ = Fixtures::MakeDeck(QStringLiteral("Tarot"), 22, false);
         spreadId_ = Fixtures::MakeSpread(QStringLiteral("Big"), 20, {deckId_});
     }
 
     void cleanup() {
         CloseReadingScreens();
-        DiaryFixtures::CloseDiaryScreens();
+        CloseDiaryScreens();
     }
 
     // Opening is refused alike for both kinds of entry, each in its own words:
@@ -100,12 +112,8 @@ private slots:
         QFETCH(bool, diary);
         QFETCH(int, change);
         QFETCH(QString, message);
-        if (diary) {
-            const auto named = [](DiaryRecord& d) { d.DiaryName = QStringLiteral("Saved"); };
-            SaveEntry<DiaryRecord>(DiaryPath, deckId_, spreadId_, 20, named, 15, 22);
-        } else {
-            SavedReading(15, 22);
-        }
+        if (diary) SavedDiary(QStringLiteral("Saved"), 15, 22);
+        else SavedReading(15, 22);
         if (change == DeckDeleted) DeleteDeck(1);
         if (change == SpreadDeleted) DeleteSpread(1);
         if (change == CardsRemoved || change == DeckRevised)
@@ -120,6 +128,62 @@ private slots:
         } else {
             ExpectRefusal(message);
         }
+    }
+
+    // A changed deck is checked on the first fifteen locations only: a card
+    // past it at location 16 passes, and after the question the entry opens
+    // with location 16 empty, showing its number.
+    void aCardPastASmallerDeckBeyondLocationFifteenIsLeftOut() {
+        SavedDiary(QStringLiteral("Saved"), 16, 22);
+        ChangeRecord<DeckRecord>(DecksPath, 1, [](DeckRecord& d) {
+            d.DeckRevision = 2;
+            d.CardCount = 21;
+        });
+        MsgBoxScript::Answer(vbYes);
+        ReadingFixtures::TryOpen<frmNewDiary, frmOpenDiary>();
+        QVERIFY(!IsLoaded<frmOpenDiary>());
+        frmNewDiary& diary = Get<frmNewDiary>();
+        QVERIFY(diary.Visible());
+        QVERIFY(!diary.IntroductionShown());
+        QCOMPARE(diary.FocusLocation, Integer(7));
+        QCOMPARE(diary.cmdCardTitle(16)->text(), QStringLiteral(" [Select]"));
+        QVERIFY(!diary.lblCardNumber(16)->isHidden());
+        QCOMPARE(diary.lblCardNumber(16)->text(), QStringLiteral("16"));
+        QCOMPARE(diary.cmdCardTitle(15)->text(), CardText(15));
+        QCOMPARE(CurrentDiary.DealtCard[15], Integer(0));
+        // With duplicates off the cards of the entry have left the other lists.
+        QVERIFY(!Offered(diary, 16).contains(CardText(15)));
+        QCOMPARE(diary.cboCardName(16)->count(), 1 + 21 - 19);
+    }
+
+    void savingUnderAnotherEntrysNameOverwritesItInPlace() {
+        SavedDiary(QStringLiteral("First"));
+        SavedDiary(QStringLiteral("Second"));
+        OpenPastDiary(0);
+        frmNewDiary& diary = Get<frmNewDiary>();
+        QVERIFY(!diary.DiaryChanged);
+        // An empty entry saves too: no card is required.
+        for (int i = 1; i <= 20; ++i) diary.cboCardName_KeyUp(i, 46);
+        ModalScript script;
+        script.On<frmSaveDiary>([](frmSaveDiary& save) {
+            QCOMPARE(save.txtSaveAs->text(), QStringLiteral("First"));
+            QVERIFY(!save.cmdSave->isEnabled());
+            save.txtSaveAs->setText(QStringLiteral("Second"));
+            MsgBoxScript::Answer(vbYes);
+            save.cmdSave_Click();
+        });
+        diary.cmdSave->click();
+        QVERIFY(script.Done());
+        QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Diary already exists. Overwrite?"));
+        QCOMPARE(CountDiaries(), 2);
+        DiaryRecord second;
+        QVERIFY(GetRecord(DiaryPath, 2, second));
+        QCOMPARE(second.DiaryName.Trimmed(), QStringLiteral("Second"));
+        QCOMPARE(second.DealtCard, (std::array<Integer, 32>{}));
+        QCOMPARE(second.SaveCount, Integer(1));
+        DiaryRecord first;
+        QVERIFY(GetRecord(DiaryPath, 1, first));
+        QCOMPARE(first.DealtCard[0], Integer(1));
     }
 
     void aCardPastTheDeckBeyondLocationFifteenClosesTheReadingCleanly() {
@@ -308,5 +372,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestSavedReadings)
-#include "tst_savedreadings.moc"
+QTEST_MAIN(TestSavedEntries)
+#include "tst_savedentries.moc"
