@@ -167,6 +167,11 @@ private slots:
         MakeDesigns(Locations);
     }
 
+    void cleanup() {
+        CloseReadingScreens();
+        DiaryFixtures::CloseDiaryScreens();
+    }
+
     void cancelPrintsNothingAndSaysNothing() {
         frmNewReading& reading = Reading(Locations);
         auto printer = std::make_shared<RecordingPrinter>();
@@ -321,17 +326,6 @@ private slots:
                  qPrintable(readingText));
     }
 
-private:
-    void CloseAll() {
-        UnloadScreen<frmDiaryCards>();
-        UnloadScreen<frmNewDiary>();
-        UnloadScreen<frmReadingCards>();
-        if (frmNewReading* open = ScreenSlot<frmNewReading>()) open->CloseReading();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-
-private slots:
-    void cleanup() { CloseAll(); }
 };
 
 QTEST_MAIN(TestPrintEntry)

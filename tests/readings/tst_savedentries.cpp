@@ -279,11 +279,10 @@ private slots:
     }
 
     void theSelectionListsWhatCanRunAndDefendsItsBoxes() {
-        // A spread tied to a deleted deck, one tied to nothing, one to any deck.
+        // A spread tied to a deleted deck and one tied to any deck.
         Fixtures::MakeDeck(QStringLiteral("Reversed"), 30, true);
         const Integer gone = Fixtures::MakeDeck(QStringLiteral("Gone"), 22, false);
         Fixtures::MakeSpread(QStringLiteral("Orphan"), 3, {gone});
-        Fixtures::MakeSpread(QStringLiteral("Nothing"), 3, {});
         Fixtures::MakeSpread(QStringLiteral("Any"), 10, {}, true);
         DeleteDeck(FindDeckByName(QStringLiteral("Gone")));
 
