@@ -51,11 +51,10 @@ class TestSavedEntries : public QObject, ScreenRun {
         };
         return SaveEntry<ReadingRecord>(ReadingsPath, deckId_, spreadId_, 20, own, highCardAt, highCard);
     }
-    // A diary entry of the same, its focus on location 7.
+    // A diary entry of the same.
     DiaryRecord SavedDiary(const QString& name, int highCardAt = 0, Integer highCard = 0) {
         const auto own = [&name](DiaryRecord& d) {
             d.DiaryName = name;
-            d.DiaryChoice = 7;
             d.SavedOn = 46000;
         };
         return SaveEntry<DiaryRecord>(DiaryPath, deckId_, spreadId_, 20, own, highCardAt, highCard);
@@ -144,8 +143,6 @@ private slots:
         QVERIFY(!IsLoaded<frmOpenDiary>());
         frmNewDiary& diary = Get<frmNewDiary>();
         QVERIFY(diary.Visible());
-        QVERIFY(!diary.IntroductionShown());
-        QCOMPARE(diary.FocusLocation, Integer(7));
         QCOMPARE(diary.cmdCardTitle(16)->text(), QStringLiteral(" [Select]"));
         QVERIFY(!diary.lblCardNumber(16)->isHidden());
         QCOMPARE(diary.lblCardNumber(16)->text(), QStringLiteral("16"));
