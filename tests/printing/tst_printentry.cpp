@@ -138,15 +138,13 @@ class TestPrintEntry : public QObject, ScreenRun {
         });
     }
 
-    // A reading on its spread page with the issue given and the given
-    // number of cards dealt.
-    frmNewReading& Reading(int cards) {
+    // A reading on its spread page with the issue given, dealt in full or
+    // not at all.
+    frmNewReading& Reading(bool dealt = true) {
         frmNewReading& reading = NewReading();
         reading.txtIssue->setText(QStringLiteral("Will it rain?"));
         reading.cmdContinue->click();
-        if (cards >= CurrentSpread.LocationCount) reading.cmdAllCards->click();
-        else
-            for (int i = 0; i < cards; ++i) reading.cmdNextCard->click();
+        if (dealt) reading.cmdAllCards->click();
         return reading;
     }
 
@@ -173,7 +171,7 @@ private slots:
     }
 
     void cancelPrintsNothingAndSaysNothing() {
-        frmNewReading& reading = Reading(Locations);
+        frmNewReading& reading = Reading();
         auto printer = std::make_shared<RecordingPrinter>();
         SetCurrentPrinter(printer);
         PrinterDialogScript::Cancel();
@@ -184,7 +182,7 @@ private slots:
     }
 
     void readingPrintsTheSpreadPageThenSummaryAndBlocks() {
-        frmNewReading& reading = Reading(Locations);
+        frmNewReading& reading = Reading();
         CurrentReading.ReadingNotes = QStringLiteral("Line one\nLine two");
         auto printer = RecorderChosen();
         reading.cmdPrint->click();
@@ -246,7 +244,7 @@ private slots:
     }
 
     void beforeTheFirstCardOnlyPageOnePrints() {
-        frmNewReading& reading = Reading(0);
+        frmNewReading& reading = Reading(false);
         auto printer = RecorderChosen();
         reading.cmdPrint->click();
         QCOMPARE(Ops(*printer), (QStringList{QStringLiteral("EndDoc"), QStringLiteral("EndDoc"),
@@ -310,7 +308,7 @@ private slots:
         const QString readingPdf = OutputDir() + QStringLiteral("/reading.pdf");
         QFile::remove(readingPdf);
 
-        frmNewReading& reading = Reading(Locations);
+        frmNewReading& reading = Reading();
         CurrentReading.ReadingNotes = QStringLiteral("The weather turns by the end of the week.\nTake an umbrella.");
         PrinterDialogScript::PrintToPdf(readingPdf);
         reading.cmdPrint->click();
