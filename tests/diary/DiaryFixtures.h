@@ -40,29 +40,11 @@ inline void CloseDiaryScreens() {
     Settle();
 }
 
-// "New" of the Diary group with the first spread and deck, and whatever
-// adjust does to the selection screen's boxes.
 inline frmNewDiary& NewDiary(const std::function<void(frmSelectSpreadforDiary&)>& adjust = {}) {
-    ModalScript script;
-    script.On<frmSelectSpreadforDiary>([adjust](frmSelectSpreadforDiary& select) {
-        if (adjust) adjust(select);
-        select.cmdSelect->click();
-    });
-    Get<frmMainScreen>().lblButton_Click(3);
-    script.Require();
-    return Get<frmNewDiary>();
+    return NewEntry<frmSelectSpreadforDiary, frmNewDiary>(3, adjust);
 }
 
-// "Past" of the Diary group, opening the entry in the given row.
-inline void OpenPastDiary(int row) {
-    ModalScript script;
-    script.On<frmOpenDiary>([row](frmOpenDiary& open) {
-        open.lstEntries->setCurrentRow(row);
-        open.cmdOpen->click();
-    });
-    Get<frmMainScreen>().lblButton_Click(4);
-    QVERIFY(script.Done());
-}
+inline void OpenPastDiary(int row) { OpenPast<frmOpenDiary>(4, row); }
 
 inline int RowOf(const QListWidget* list, const QString& text) {
     for (int r = 0; r < list->count(); ++r)

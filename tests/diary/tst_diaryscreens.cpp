@@ -35,7 +35,6 @@ private slots:
 
     void anEntryChosenInAnyOrderSavesAndReopensAsItWas() {
         frmNewDiary& diary = NewDiary();
-        QVERIFY(!IsLoaded<frmSelectSpreadforDiary>());
         QCOMPARE(diary.Caption(), QStringLiteral("Diary - Four"));
         QVERIFY(!AllowDuplicateCards);
         diary.cmdContinue->click();

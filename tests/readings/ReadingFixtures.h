@@ -132,30 +132,39 @@ inline void FreshRun(const QString& dir) {
     SetRandomizeSeedForTests(4242);
 }
 
-// "New" of the Readings group, choosing the first spread and deck as the
-// selection screen proposes them, with whatever adjust does to its boxes.
-inline frmNewReading& NewReading(const std::function<void(frmSelectSpread&)>& adjust = {}) {
+// "New" of a group of the main screen: on the selection screen S, with
+// whatever adjust does to its boxes, the first spread and deck as it proposes
+// them, for the entry screen E.
+template <class S, class E>
+E& NewEntry(int button, const std::function<void(S&)>& adjust) {
     ModalScript script;
-    script.On<frmSelectSpread>([adjust](frmSelectSpread& select) {
+    script.On<S>([adjust](S& select) {
         if (adjust) adjust(select);
         select.cmdSelect->click();
     });
-    Get<frmMainScreen>().lblButton_Click(1);
+    Get<frmMainScreen>().lblButton_Click(button);
     script.Require();
-    return Get<frmNewReading>();
+    return Get<E>();
 }
 
-// "Past" of the Readings group, opening the entry in the given row.
-inline void OpenPastReading(int row, const std::function<void(frmOpenReading&)>& beforeOpen = {}) {
+// "Past" of a group of the main screen, opening the entry in the given row of
+// the open screen O.
+template <class O>
+void OpenPast(int button, int row) {
     ModalScript script;
-    script.On<frmOpenReading>([row, beforeOpen](frmOpenReading& open) {
+    script.On<O>([row](O& open) {
         open.lstEntries->setCurrentRow(row);
-        if (beforeOpen) beforeOpen(open);
         open.cmdOpen->click();
     });
-    Get<frmMainScreen>().lblButton_Click(2);
+    Get<frmMainScreen>().lblButton_Click(button);
     QVERIFY(script.Done());
 }
+
+inline frmNewReading& NewReading(const std::function<void(frmSelectSpread&)>& adjust = {}) {
+    return NewEntry<frmSelectSpread, frmNewReading>(1, adjust);
+}
+
+inline void OpenPastReading(int row) { OpenPast<frmOpenReading>(2, row); }
 
 // The table position that holds a deck card (duplicates off: each card lies once).
 inline int PositionOfCard(Integer card) {

@@ -66,7 +66,6 @@ private slots:
 
     void aWholeReadingFromSelectionToReopening() {
         frmNewReading& reading = NewReading();
-        QVERIFY(!IsLoaded<frmSelectSpread>());
         QVERIFY(reading.IntroductionShown());
         QCOMPARE(reading.Caption(), QStringLiteral("Reading - Cross"));
         QVERIFY(!reading.txtIssue->isHidden());

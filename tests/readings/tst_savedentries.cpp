@@ -1,38 +1,31 @@
-// Saved readings that can no longer be shown as they were, and the selection
-// screen's lists and boxes: every refusal is one message, the screen stays,
-// nothing is written. And bad input: text past every limit, text the record
-// code page cannot hold, a saved reading that goes between the listing and
-// the opening.
+// Saved entries, readings and diary entries alike, that can no longer be
+// shown as they were, and the selection screen's lists and boxes: every
+// refusal is one message, the screen stays, nothing is written. A diary entry
+// whose cards point past a smaller deck beyond the checked locations opens
+// with those locations empty; saving under another entry's name overwrites it
+// in place. And bad input: text past every limit, text the record code page
+// cannot hold, a saved reading that goes between the listing and the opening.
 #include <QApplication>
 #include <QClipboard>
 
-#include "ReadingFixtures.h"
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
 #include "core/platform/OleDate.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
-#include "screens/diary/frmSaveDiary.h"
+#include "diary/DiaryFixtures.h"
 #include "screens/readings/frmReadingNotes.h"
 #include "screens/readings/frmSaveReading.h"
+#include "screens/shell/ClickLabel.h"
 #include "screens/store/frmGetPassword.h"
 #include "support/BadInput.h"
 
-using namespace ReadingFixtures;
+using namespace DiaryFixtures;
 
 namespace {
 
-const QString DeckGone = QStringLiteral(
-    "This Reading cannot be opened because the deck that was used to create it is no longer installed.");
-const QString SpreadGone = QStringLiteral(
-    "This reading cannot be opened because the spread that was used to create it is no longer installed.");
-const QString TooManyRemoved = QStringLiteral(
-    "The reading cannot be opened because the too many cards were removed from the deck that was used to create "
-    "this reading.");
-const QString DeckChanged = QStringLiteral(
-    "The deck used with this reading has changed since the reading was created. Do you still want to open it?\n"
-    "NOTE: If you choose 'Yes', the reading will be opened with the new deck version and the cards might be "
-    "corrupted.");
+// What has happened to the designs since an entry was saved.
+enum Change { DeckDeleted, SpreadDeleted, CardsRemoved, DeckRevised };
 
 // Pastes text over a line box's text as a user does.
 void PasteInto(QLineEdit* box, const QString& text) {
@@ -44,7 +37,7 @@ void PasteInto(QLineEdit* box, const QString& text) {
 
 }  // namespace
 
-class TestSavedReadings : public QObject, ScreenRun {
+class TestSavedEntries : public QObject, ScreenRun {
     Q_OBJECT
     Integer deckId_ = 0;
     Integer spreadId_ = 0;
@@ -58,6 +51,14 @@ class TestSavedReadings : public QObject, ScreenRun {
         };
         return SaveEntry<ReadingRecord>(ReadingsPath, deckId_, spreadId_, 20, own, highCardAt, highCard);
     }
+    // A diary entry of the same.
+    DiaryRecord SavedDiary(const QString& name, int highCardAt = 0, Integer highCard = 0) {
+        const auto own = [&name](DiaryRecord& d) {
+            d.DiaryName = name;
+            d.SavedOn = 46000;
+        };
+        return SaveEntry<DiaryRecord>(DiaryPath, deckId_, spreadId_, 20, own, highCardAt, highCard);
+    }
     static frmOpenReading& TryOpen() { return ReadingFixtures::TryOpen<frmNewReading, frmOpenReading>(); }
     static void ExpectRefusal(const QString& message) {
         ExpectRefusalOf<frmNewReading, frmOpenReading>(ReadingsPath, CurrentReading, message);
@@ -69,40 +70,117 @@ private slots:
 
     void init() {
         UnloadScreen<frmOpenReading>();
-        FreshRun(NewDir());
+        FreshDiaryRun(NewDir());
         deckId_ = Fixtures::MakeDeck(QStringLiteral("Tarot"), 22, false);
         spreadId_ = Fixtures::MakeSpread(QStringLiteral("Big"), 20, {deckId_});
     }
 
-    void cleanup() { CloseReadingScreens(); }
-
-    void aDeletedDeckOrSpreadRefusesTheReading() {
-        SavedReading();
-        DeleteDeck(1);
-        ExpectRefusal(DeckGone);
-        MsgBoxScript::Clear();
-        UnloadScreen<frmOpenReading>();
-        deckId_ = Fixtures::MakeDeck(QStringLiteral("Again"), 22, false);
-        ChangeRecord<ReadingRecord>(ReadingsPath, 1, [this](ReadingRecord& r) { r.ReadingDeckId = deckId_; });
-        DeleteSpread(1);
-        ExpectRefusal(SpreadGone);
+    void cleanup() {
+        CloseReadingScreens();
+        CloseDiaryScreens();
     }
 
-    void aChangedDeckIsCheckedOnTheFirstFifteenLocations() {
-        SavedReading(15, 22);
+    // Opening is refused alike for both kinds of entry, each in its own words:
+    // a design gone, a card past a changed deck in the first fifteen
+    // locations, the question about a changed deck declined.
+    void anEntryThatCannotBeShownAsItWasIsRefused_data() {
+        QTest::addColumn<bool>("diary");
+        QTest::addColumn<int>("change");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("reading, deck deleted") << false << int(DeckDeleted) << QStringLiteral(
+            "This Reading cannot be opened because the deck that was used to create it is no longer installed.");
+        QTest::newRow("diary, deck deleted") << true << int(DeckDeleted) << QStringLiteral(
+            "This diary cannot be opened because the deck that was used to create it is no longer installed.");
+        QTest::newRow("reading, spread deleted") << false << int(SpreadDeleted) << QStringLiteral(
+            "This reading cannot be opened because the spread that was used to create it is no longer installed.");
+        QTest::newRow("diary, spread deleted") << true << int(SpreadDeleted) << QStringLiteral(
+            "This diary cannot be opened because the spread that was used to create it is no longer installed.");
+        QTest::newRow("reading, card 22 at location 15 of 21") << false << int(CardsRemoved) << QStringLiteral(
+            "The reading cannot be opened because the too many cards were removed from the deck that was used to "
+            "create this reading.");
+        QTest::newRow("diary, card 22 at location 15 of 21") << true << int(CardsRemoved) << QStringLiteral(
+            "The Diary cannot be opened because the too many cards were removed from the deck that was used to "
+            "create this diary.");
+        QTest::newRow("reading, changed deck declined") << false << int(DeckRevised) << QStringLiteral(
+            "The deck used with this reading has changed since the reading was created. Do you still want to open "
+            "it?\nNOTE: If you choose 'Yes', the reading will be opened with the new deck version and the cards "
+            "might be corrupted.");
+    }
+
+    void anEntryThatCannotBeShownAsItWasIsRefused() {
+        QFETCH(bool, diary);
+        QFETCH(int, change);
+        QFETCH(QString, message);
+        if (diary) SavedDiary(QStringLiteral("Saved"), 15, 22);
+        else SavedReading(15, 22);
+        if (change == DeckDeleted) DeleteDeck(1);
+        if (change == SpreadDeleted) DeleteSpread(1);
+        if (change == CardsRemoved || change == DeckRevised)
+            ChangeRecord<DeckRecord>(DecksPath, 1, [change](DeckRecord& d) {
+                d.DeckRevision = 2;
+                if (change == CardsRemoved) d.CardCount = 21;
+            });
+        if (change == DeckRevised) MsgBoxScript::Answer(vbNo);
+        if (diary) {
+            ExpectRefusalOf<frmNewDiary, frmOpenDiary>(DiaryPath, CurrentDiary, message);
+            QVERIFY(!Get<frmNewDiary>().OpeningDiary);
+        } else {
+            ExpectRefusal(message);
+        }
+    }
+
+    // A changed deck is checked on the first fifteen locations only: a card
+    // past it at location 16 passes, and after the question the entry opens
+    // with location 16 empty, showing its number.
+    void aCardPastASmallerDeckBeyondLocationFifteenIsLeftOut() {
+        SavedDiary(QStringLiteral("Saved"), 16, 22);
         ChangeRecord<DeckRecord>(DecksPath, 1, [](DeckRecord& d) {
             d.DeckRevision = 2;
             d.CardCount = 21;
         });
-        ExpectRefusal(TooManyRemoved);
-        // Declining the question about a changed deck ends there too.
-        MsgBoxScript::Clear();
-        UnloadScreen<frmOpenReading>();
-        ChangeRecord<ReadingRecord>(ReadingsPath, 1, [](ReadingRecord& r) { r.DealtCard[14] = 3; });
-        MsgBoxScript::Answer(vbNo);
-        TryOpen();
-        QCOMPARE(MsgBoxScript::History().at(0).prompt, DeckChanged);
-        QVERIFY(IsLoaded<frmOpenReading>());
+        MsgBoxScript::Answer(vbYes);
+        ReadingFixtures::TryOpen<frmNewDiary, frmOpenDiary>();
+        QVERIFY(!IsLoaded<frmOpenDiary>());
+        frmNewDiary& diary = Get<frmNewDiary>();
+        QVERIFY(diary.Visible());
+        QCOMPARE(diary.cmdCardTitle(16)->text(), QStringLiteral(" [Select]"));
+        QVERIFY(!diary.lblCardNumber(16)->isHidden());
+        QCOMPARE(diary.lblCardNumber(16)->text(), QStringLiteral("16"));
+        QCOMPARE(diary.cmdCardTitle(15)->text(), CardText(15));
+        QCOMPARE(CurrentDiary.DealtCard[15], Integer(0));
+        // With duplicates off the cards of the entry have left the other lists.
+        QVERIFY(!Offered(diary, 16).contains(CardText(15)));
+        QCOMPARE(diary.cboCardName(16)->count(), 1 + 21 - 19);
+    }
+
+    void savingUnderAnotherEntrysNameOverwritesItInPlace() {
+        SavedDiary(QStringLiteral("First"));
+        SavedDiary(QStringLiteral("Second"));
+        OpenPastDiary(0);
+        frmNewDiary& diary = Get<frmNewDiary>();
+        QVERIFY(!diary.DiaryChanged);
+        // An empty entry saves too: no card is required.
+        for (int i = 1; i <= 20; ++i) diary.cboCardName_KeyUp(i, 46);
+        ModalScript script;
+        script.On<frmSaveDiary>([](frmSaveDiary& save) {
+            QCOMPARE(save.txtSaveAs->text(), QStringLiteral("First"));
+            QVERIFY(!save.cmdSave->isEnabled());
+            save.txtSaveAs->setText(QStringLiteral("Second"));
+            MsgBoxScript::Answer(vbYes);
+            save.cmdSave_Click();
+        });
+        diary.cmdSave->click();
+        QVERIFY(script.Done());
+        QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Diary already exists. Overwrite?"));
+        QCOMPARE(CountDiaries(), 2);
+        DiaryRecord second;
+        QVERIFY(GetRecord(DiaryPath, 2, second));
+        QCOMPARE(second.DiaryName.Trimmed(), QStringLiteral("Second"));
+        QCOMPARE(second.DealtCard, (std::array<Integer, 32>{}));
+        QCOMPARE(second.SaveCount, Integer(1));
+        DiaryRecord first;
+        QVERIFY(GetRecord(DiaryPath, 1, first));
+        QCOMPARE(first.DealtCard[0], Integer(1));
     }
 
     void aCardPastTheDeckBeyondLocationFifteenClosesTheReadingCleanly() {
@@ -198,11 +276,10 @@ private slots:
     }
 
     void theSelectionListsWhatCanRunAndDefendsItsBoxes() {
-        // A spread tied to a deleted deck, one tied to nothing, one to any deck.
+        // A spread tied to a deleted deck and one tied to any deck.
         Fixtures::MakeDeck(QStringLiteral("Reversed"), 30, true);
         const Integer gone = Fixtures::MakeDeck(QStringLiteral("Gone"), 22, false);
         Fixtures::MakeSpread(QStringLiteral("Orphan"), 3, {gone});
-        Fixtures::MakeSpread(QStringLiteral("Nothing"), 3, {});
         Fixtures::MakeSpread(QStringLiteral("Any"), 10, {}, true);
         DeleteDeck(FindDeckByName(QStringLiteral("Gone")));
 
@@ -291,5 +368,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestSavedReadings)
-#include "tst_savedreadings.moc"
+QTEST_MAIN(TestSavedEntries)
+#include "tst_savedentries.moc"
