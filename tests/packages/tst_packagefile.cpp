@@ -13,7 +13,6 @@
 #include "screens/platform/MsgBox.h"
 #include "screens/store/Startup.h"
 #include "support/Fixtures.h"
-#include "support/Prompts.h"
 
 namespace {
 
@@ -118,15 +117,10 @@ private slots:
         QVERIFY(ExtractPackageFile(WritePackage(QByteArray()), TempDir));
         QVERIFY(TempNames().isEmpty());
 
+        // A member cut short is dropped with what follows (see the hostile
+        // sizes below); one whole after another is kept.
         const QByteArray first = Member("C:\\Cartomar\\Temp\\a.txt", "first");
         const QByteArray second = Member("b.txt", "second member");   // no backslash: the whole name
-        // Cut inside the second member's data, then inside its head.
-        for (int cut : {int(first.size() + second.size() - 3), int(first.size() + 5), int(first.size() + 1)}) {
-            ClearTemp();
-            QVERIFY(ExtractPackageFile(WritePackage((first + second).left(cut)), TempDir));
-            QCOMPARE(TempNames(), QStringList{QStringLiteral("a.txt")});
-        }
-        ClearTemp();
         QVERIFY(ExtractPackageFile(WritePackage(first + second), TempDir));
         QCOMPARE(ReadWholeFile(TempDir + QStringLiteral("b.txt")), QByteArray("second member"));
 
@@ -162,10 +156,11 @@ private slots:
             QVERIFY2(!ExtractPackageFile(WritePackage(good + Member(name, "payload")), TempDir), name.constData());
 
         // Sizes and lengths past the end, or below 0, end the reading quietly
-        // with what came before, as a cut-short member does.
+        // with what came before, as a member cut short in its data, its name
+        // or its name's length does.
         for (const QByteArray& tail :
              {Member("huge", "abc", 0x7fffffff), Member("negative", "abc", -5), Member("past", "abc", 4),
-              QByteArray("\x10\x00short", 7), QByteArray("\xff\xff", 2) + QByteArray(20, 'n')}) {
+              QByteArray("\x10\x00short", 7), QByteArray("\xff\xff", 2) + QByteArray(20, 'n'), QByteArray("\x05", 1)}) {
             ClearTemp();
             QVERIFY(ExtractPackageFile(WritePackage(good + tail), TempDir));
             QCOMPARE(TempNames(), QStringList{QStringLiteral("ok.txt")});

@@ -3,25 +3,15 @@
 // decks offered, packages refused or stopped part-way with nothing written);
 // what the screen does with a package it cannot install or that vanished
 // after the listing; and the creation screen's limits.
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QTimer>
-#include <deque>
-
 #include "core/packages/PackageFile.h"
 #include "core/packages/PackageStaging.h"
 #include "core/store/Lookups.h"
 #include "readings/ReadingFixtures.h"
-#include "screens/decks/DeckLoadQuestion.h"
 #include "screens/packages/PackageSummary.h"
 #include "screens/packages/frmCreatePackage.h"
 #include "screens/packages/frmInstallPackage.h"
 #include "screens/platform/CommonDialog.h"
 #include "screens/platform/FileLists.h"
-#include "screens/platform/ListBox.h"
 #include "screens/spreads/frmDeckChooser.h"
 #include "screens/store/Startup.h"
 #include "screens/store/frmDesignExists.h"
@@ -387,9 +377,15 @@ private slots:
     void theScreenStaysOnAPackageItCannotInstall() {
         QTemporaryDir a, b;
         FreshRun(a.path());
-        for (int i = 1; i <= 5; ++i) Fixtures::MakeDeck(QStringLiteral("Deck %1").arg(i), 1, false);
-        PackAllDecks(QStringLiteral("five.pck"));
+        PackageStaging five;
+        for (int i = 1; i <= 5; ++i) {
+            five.DeckNames << QStringLiteral("Deck %1").arg(i);
+            Fixtures::MakeDeck(five.DeckNames.last(), 1, false);
+        }
+        five.StageDecks();
+        five.StageCards();
         const QString packages = PackagesDir;
+        QVERIFY(CreatePackageFile(TempDir, packages + QStringLiteral("five.pck")));
         DeckRecord claims;
         claims.CardCount = 5;
         WriteWholeFile(packages + QStringLiteral("damaged.pck"), Member("C:\\Temp\\Temp.dck", EncodeRecord(claims)));
@@ -459,20 +455,6 @@ private slots:
     }
 
 private:
-    // Packs every deck of the present directory on the creation screen, into
-    // Packages/ under the name given.
-    void PackAllDecks(const QString& fileName) {
-        frmCreatePackage& create = Get<frmCreatePackage>();
-        for (int row = 0; row < create.lstAvailableDecks->count(); ++row)
-            create.lstAvailableDecks->item(row)->setCheckState(Qt::Checked);
-        create.txtFilename->setText(fileName);
-        ModalScript summaryScript;
-        summaryScript.On<frmCreatePackageSummary>([](frmCreatePackageSummary& s) { s.cmdCancel->click(); });
-        create.cmdCreate_Click();
-        QVERIFY(summaryScript.Done());
-        Settle();
-    }
-
     // The installation screen on a folder, with the package of that name chosen.
     static frmInstallPackage& Chosen(const QString& folder, const QString& name) {
         frmInstallPackage& install = Get<frmInstallPackage>();

@@ -2,7 +2,6 @@
 // record text, dates, the random generator, wildcard file operations,
 // scripted message boxes and the error report.
 #include <QApplication>
-#include <QBuffer>
 #include <QImage>
 
 #include "core/platform/Arrays.h"

@@ -4,7 +4,6 @@
 // loading, and every link of its contents leading somewhere.
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QImage>
 #include <QPixmap>
 #include <QRegularExpression>

@@ -1,7 +1,6 @@
 // Placing screens in the frame (the centring rule and its variants, at and
 // around their thresholds) and fitting pictures into image boxes (each case,
 // centring, the default picture for a missing or broken file).
-#include <QFile>
 #include <QMdiArea>
 
 #include "core/platform/Picture.h"
@@ -43,60 +42,55 @@ private slots:
         W = FrameInnerWidth();
         H = FrameInnerHeight();
         QVERIFY(W > 6000 && H > 4500);
+        // The frame's own corner, which some placements go by, is where the area stands.
+        QCOMPARE(FrameOwnTop(), PixelsToTwips(area_.y()));
         Fixtures::UseProgramDir(dir_.path());
     }
 
     void init() { MsgBoxScript::Clear(); }
 
-    void centreInFrameAndItsMargin() {
-        // Width, height, then left and top: up to 50 twips of room left is
-        // still centred; less puts the screen 50 from the edge.
-        const std::array<int, 4> cases[] = {
-            {3000, 1500, (W - 3000) / 2, (H - 1500) / 2}, {W - 60, H - 60, 30, 30}, {W - 45, H + 300, 50, 50}};
-        for (const auto& [width, height, left, top] : cases) {
-            frmProbe& f = Probe(width, height);
-            CentreInFrame(f);
-            QCOMPARE(QList<int>({f.Left(), f.Top()}), QList<int>({left, top}));
-        }
+    // Each placement of a screen of a size in twips, and where it puts it. Up
+    // to 50 twips of room left (150 low in the frame, 200 beside it) is still
+    // centred, in integer halves; less puts the screen 50 from the edge. With
+    // `own` it goes 150 inside the frame's own corner instead.
+    void placementsKeepTheirMargins_data() {
+        QTest::addColumn<QString>("placement");
+        QTest::addColumn<bool>("own");
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("height");
+        QTest::addColumn<int>("left");
+        QTest::addColumn<int>("top");
+        const int ownLeft = FrameOwnLeft() + 150, ownTop = FrameOwnTop() + 150;
+        const int centred = (W - 3000) / 2, beside = (W - 3000 - 200) / 2;
+        QTest::newRow("centred") << "centre" << false << 3000 << 1500 << centred << (H - 1500) / 2;
+        QTest::newRow("centred, 60 to spare") << "centre" << false << W - 60 << H - 60 << 30 << 30;
+        QTest::newRow("at the edge, 45 to spare") << "centre" << false << W - 45 << H + 300 << 50 << 50;
+        QTest::newRow("right") << "right" << false << 3000 << 1500 << centred << 50;
+        QTest::newRow("right, at the frame's top") << "right" << true << 3000 << 1500 << centred << ownTop;
+        QTest::newRow("beside") << "beside" << false << 3000 << 1500 << beside << 50;
+        QTest::newRow("beside, at the frame's top") << "beside" << true << 3000 << 1500 << beside << ownTop;
+        QTest::newRow("beside, 210 to spare") << "beside" << false << W - 210 << 1500 << 5 << 50;
+        QTest::newRow("beside, 195 to spare") << "beside" << false << W - 195 << 1500 << 50 << 50;
+        QTest::newRow("low, 165 to spare") << "low" << false << 3000 << H - 165 << beside << 82;
+        QTest::newRow("low, 135 to spare") << "low" << false << 3000 << H - 135 << beside << 50;
+        QTest::newRow("top left") << "top left" << false << 3000 << 1500 << 50 << 50;
+        QTest::newRow("top left, at the frame's corner") << "top left" << true << 3000 << 1500 << ownLeft << ownTop;
     }
 
-    void variantsUseTheirOwnMargins() {
-        frmProbe& f = Probe(3000, 1500);
-        PlaceInFrameRight(f, false);
-        QCOMPARE(f.Top(), 50);
-        QCOMPARE(f.Left(), (W - 3000) / 2);
-        PlaceInFrameRight(f, true);
-        QCOMPARE(f.Top(), FrameOwnTop() + 150);
-        QCOMPARE(FrameOwnTop(), PixelsToTwips(area_.y()));
-
-        PlaceBesideFrame(f, false);
-        QCOMPARE(f.Left(), (W - 3000 - 200) / 2);
-        QCOMPARE(f.Top(), 50);
-        PlaceBesideFrame(f, true);
-        QCOMPARE(f.Top(), FrameOwnTop() + 150);
-        Probe(W - 210, 1500);
-        PlaceBesideFrame(f, false);
-        QCOMPARE(f.Left(), 5);
-        Probe(W - 195, 1500);
-        PlaceBesideFrame(f, false);
-        QCOMPARE(f.Left(), 50);
-
-        // Low in the frame: centred downwards once 150 twips are left over,
-        // with integer halves.
-        Probe(3000, H - 165);
-        CentreLowInFrame(f);
-        QCOMPARE(f.Top(), 82);
-        QCOMPARE(f.Left(), (W - 3000 - 200) / 2);
-        Probe(3000, H - 135);
-        CentreLowInFrame(f);
-        QCOMPARE(f.Top(), 50);
-
-        PlaceTopLeft(f, false);
-        QCOMPARE(f.Left(), 50);
-        QCOMPARE(f.Top(), 50);
-        PlaceTopLeft(f, true);
-        QCOMPARE(f.Left(), FrameOwnLeft() + 150);
-        QCOMPARE(f.Top(), FrameOwnTop() + 150);
+    void placementsKeepTheirMargins() {
+        QFETCH(QString, placement);
+        QFETCH(bool, own);
+        QFETCH(int, width);
+        QFETCH(int, height);
+        QFETCH(int, left);
+        QFETCH(int, top);
+        frmProbe& f = Probe(width, height);
+        if (placement == QLatin1String("centre")) CentreInFrame(f);
+        if (placement == QLatin1String("right")) PlaceInFrameRight(f, own);
+        if (placement == QLatin1String("beside")) PlaceBesideFrame(f, own);
+        if (placement == QLatin1String("low")) CentreLowInFrame(f);
+        if (placement == QLatin1String("top left")) PlaceTopLeft(f, own);
+        QCOMPARE(QList<int>({f.Left(), f.Top()}), QList<int>({left, top}));
         UnloadScreen<frmProbe>();
     }
 
@@ -156,12 +150,9 @@ private slots:
         QVERIFY(MsgBoxScript::History().isEmpty());
 
         // A file that is no picture: the message, then the default picture.
-        QFile notPicture(CardsDir + QStringLiteral("CU00002.bmp"));
-        QVERIFY(notPicture.open(QIODevice::WriteOnly));
-        notPicture.write("this is not a bitmap");
-        notPicture.close();
+        WriteWholeFile(CardsDir + QStringLiteral("CU00002.bmp"), "this is not a bitmap");
         box.Move(0, 0, 1500, 1500);
-        FitPicture(box, notPicture.fileName(), false, false);
+        FitPicture(box, CardsDir + QStringLiteral("CU00002.bmp"), false, false);
         QCOMPARE(Prompts(), QStringList{QStringLiteral("Error while loading the picture. A default picture is selected instead.\n"
                                 "Please save all your work, exit Cartomar, and then run it again")});
         QCOMPARE(MsgBoxScript::History()[0].style, int(vbCritical));

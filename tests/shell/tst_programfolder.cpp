@@ -90,19 +90,6 @@ private slots:
         QVERIFY(!Exists(own + QStringLiteral("cartomar")));
         QVERIFY(!Exists(own + ProgramLockName));
         QVERIFY(!Exists(own + QStringLiteral("Temp")));
-
-        // The copied Location.loc makes it a present-format database: the
-        // start-up asks no conversion and leaves the installed folder alone.
-        bool converted = false;
-        const ConversionScreenHook previous = SetConversionScreenHook([&converted] { converted = true; });
-        MsgBoxScript::Answer(vbNo);   // the offer to install designs
-        QVERIFY(RunStartup(own));
-        SetConversionScreenHook(previous);
-        ReleaseProgramLock();
-        UnloadScreen<frmMainScreen>();
-        QVERIFY(!converted);
-        QVERIFY(Exists(own + QStringLiteral("Decks.dck")));
-        QVERIFY(!Exists(installed_ + QStringLiteral("Decks.dck")));
     }
 
     void laterStartsKeepTheUsersFilesAndFollowTheInstalledHelp() {
