@@ -1,7 +1,8 @@
 #pragma once
 // Acting on the modal screens that an operation opens inside its own run, in
 // the order they come up, each once.
-#include <QCoreApplication>
+#include <QApplication>
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QTest>
 #include <QTimer>
@@ -19,11 +20,21 @@ public:
                 Step step = std::move(steps_.front());
                 steps_.pop_front();
                 step.act();
+                waiting_.restart();
                 return;
             }
             for (const auto& refuse : refusals_)
                 if (refuse()) ++strays_;
+            // A modal screen that no step awaits would hold the test until
+            // its time ran out; after a while it is closed and counted.
+            auto* stray = qobject_cast<Form*>(QApplication::activeModalWidget());
+            if (stray && waiting_.hasExpired(StrayAfterMs)) {
+                stray->Unload();
+                ++strays_;
+                waiting_.restart();
+            }
         });
+        waiting_.start();
         timer_.start(2);
     }
     // Acts on the next modal showing of T. Should a check inside act fail,
@@ -65,7 +76,9 @@ private:
     };
     std::deque<Step> steps_;
     std::vector<std::function<bool()>> refusals_;
+    static constexpr int StrayAfterMs = 5000;
     int strays_ = 0;
+    QElapsedTimer waiting_;
     QTimer timer_;
 };
 
