@@ -12,6 +12,7 @@
 #include "DeckDriver.h"
 #include "core/decks/CardEditing.h"
 #include "core/decks/CardStore.h"
+#include "core/decks/CardTypeNames.h"
 #include "core/store/Lookups.h"
 #include "screens/decks/DeckLoadQuestion.h"
 #include "screens/decks/frmAddCard.h"
@@ -210,7 +211,8 @@ private slots:
             p.chkType[3]->click();   // a type without a name can't be used
             QVERIFY(!p.chkType[3]->isChecked());
             p.cmdClose_Click();
-            QCOMPARE(LastPrompt(), QStringLiteral("The names you chose for the types are not unique. Please change duplicate names."));
+            QVERIFY(!LastPrompt().isEmpty());
+            QCOMPARE(LastPrompt(), CardTypeNamesProblem({"Major", "Major ", "", ""}));
             QVERIFY(IsLoaded<frmDeckCardProperties>());
             p.txtCardTypeName[1]->setText(QStringLiteral("Minor"));
             p.chkUseReversed->click();

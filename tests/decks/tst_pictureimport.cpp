@@ -1,13 +1,15 @@
 // A deck made from a folder of pictures: the order, titles, types and
 // reversed sides of the cards, the card names they take in Temp/, the limit,
 // what cannot be read, and a cancelled import that leaves everything as it was.
-// And the titles a new card may take, however it joins the deck.
+// And the titles a new card may take, however it joins the deck, and the names
+// of the deck's card types.
 #include <QDir>
 #include <QImage>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include "core/decks/CardStore.h"
+#include "core/decks/CardTypeNames.h"
 #include "core/decks/PictureImport.h"
 #include "core/platform/FileSys.h"
 #include "core/store/NewDesigns.h"
@@ -184,6 +186,28 @@ private slots:
         QFETCH(QString, problem);
         DeckOf(2);
         QCOMPARE(NewCardTitleProblem(title, joining), problem);
+    }
+
+    // The deck's card types must have names that differ, blanks around them
+    // not counting and case counting; types left without a name clash with
+    // nothing.
+    void cardTypeNames_data() {
+        QTest::addColumn<QStringList>("names");
+        QTest::addColumn<QString>("problem");
+        const QString same =
+            QStringLiteral("The names you chose for the types are not unique. Please change duplicate names.");
+        QTest::newRow("four different") << QStringList{"Major", "Minor", "Court", "Extra"} << QString();
+        QTest::newRow("all without a name") << QStringList{"", " ", "", "  "} << QString();
+        QTest::newRow("two without a name") << QStringList{"Major", "", "Minor", ""} << QString();
+        QTest::newRow("another case") << QStringList{"Major", "major", "", ""} << QString();
+        QTest::newRow("the same twice") << QStringList{"Major", "Minor", "", "Major"} << same;
+        QTest::newRow("the same, padded") << QStringList{"Major", " Major ", "", ""} << same;
+        QTest::newRow("the last two the same") << QStringList{"Major", "Minor", "Cups", "Cups"} << same;
+    }
+    void cardTypeNames() {
+        QFETCH(QStringList, names);
+        QFETCH(QString, problem);
+        QCOMPARE(CardTypeNamesProblem(names), problem);
     }
 };
 

@@ -10,6 +10,7 @@
 
 #include "SpreadTestKit.h"
 #include "core/platform/Picture.h"
+#include "core/spreads/SpreadBackground.h"
 #include "core/store/Lookups.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/spreads/SpreadCanvas.h"
@@ -282,37 +283,44 @@ private slots:
         QCOMPARE(CurrentSpread.SpreadTitle.Trimmed(), QStringLiteral("Five Paths Title"));
     }
 
+    // A background must be there, be a BMP, JPG or GIF by its name and open
+    // as a picture, checked in that order; a refusal leaves no picture.
+    void theBackgroundIsCheckedInOrder_data() {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("problem");
+        const QString none = QStringLiteral("There is no file with the name you provided!");
+        const QString type =
+            QStringLiteral("Unsupported file type. Only files of type BMP, JPG and GIF are currently supported.");
+        const QString open =
+            QStringLiteral("Unable to open the file you selected. Please make sure it is of a valid type.");
+        QTest::newRow("no such file") << "none.bmp" << none;
+        QTest::newRow("no such file, of no supported type") << "none.png" << none;
+        QTest::newRow("a folder named as a picture") << "folder.bmp" << none;
+        QTest::newRow("a picture named .jpeg") << "photo.jpeg" << type;
+        QTest::newRow("a picture named .png") << "photo.png" << type;
+        QTest::newRow("a gif that is no picture") << "fake.gif" << open;
+        QTest::newRow("an empty bmp") << "empty.bmp" << open;
+        QTest::newRow("a bmp") << "back.bmp" << QString();
+        QTest::newRow("a jpg in small letters") << "photo.jpg" << QString();
+        QTest::newRow("a GIF in capitals") << "PHOTO.GIF" << QString();
+    }
     void theBackgroundIsCheckedInOrder() {
+        QFETCH(QString, file);
+        QFETCH(QString, problem);
+        const QDir folder(dir_.filePath(QStringLiteral("backgrounds")));
+        folder.mkpath(QStringLiteral("folder.bmp"));
+        for (const char* name : {"photo.jpeg", "photo.png", "back.bmp", "photo.jpg", "PHOTO.GIF"})
+            Fixtures::WritePicture(folder.filePath(QLatin1String(name)));
+        WriteWholeFile(folder.filePath(QStringLiteral("fake.gif")), QByteArray("not a picture"));
+        WriteWholeFile(folder.filePath(QStringLiteral("empty.bmp")), QByteArray());
+        QImage picture;
+        QCOMPARE(SpreadBackgroundProblem(folder.filePath(file), &picture), problem);
+        QCOMPARE(picture.isNull(), !problem.isEmpty());
+    }
+
+    void aBackgroundIsSetAndTakenAway() {
         Get<frmSpreads>().cmdDesign_Click();
         frmDesignSpread& d = Get<frmDesignSpread>();
-        const QString jpeg = dir_.path() + QStringLiteral("/photo.jpeg");
-        const QString fake = dir_.path() + QStringLiteral("/fake.gif");
-        Fixtures::WritePicture(jpeg);
-        WriteWholeFile(fake, QByteArray("not a picture"));
-        for (const QString& file : {dir_.path() + QStringLiteral("/none.bmp"), jpeg, fake}) {
-            ModalScript refused;
-            refused.On<frmGetSpreadBackground>([file](frmGetSpreadBackground& screen) {
-                screen.txtFilename->setText(file);
-                screen.cmdOK_Click();
-                QVERIFY(IsLoaded<frmGetSpreadBackground>());   // stays open
-                screen.cmdCancel_Click();
-            });
-            d.cmdPicture_Click();
-            QVERIFY(refused.Done());
-        }
-        QStringList prompts;
-        for (const auto& shown : MsgBoxScript::History()) {
-            QCOMPARE(shown.style & vbCritical, int(vbCritical));
-            prompts.append(shown.prompt);
-        }
-        QCOMPARE(prompts, (QStringList{
-                              QStringLiteral("There is no file with the name you provided!"),
-                              QStringLiteral("Unsupported file type. Only files of type BMP, JPG and GIF are "
-                                             "currently supported."),
-                              QStringLiteral("Unable to open the file you selected. Please make sure it is of a "
-                                             "valid type.")}));
-        QVERIFY(!d.SpreadDirty);
-
         // A gif keeps its small letters; an empty name then takes it away.
         QImage image(3, 3, QImage::Format_RGB32);
         image.fill(Qt::red);
@@ -392,6 +400,8 @@ private slots:
         designer.cmdPicture_Click();
         QVERIFY(script.Done());
         QCOMPARE(MsgBoxScript::History().size(), 1);
+        QCOMPARE(MsgBoxScript::History().first().prompt, SpreadBackgroundProblem(picture));
+        QCOMPARE(MsgBoxScript::History().first().style, int(vbCritical));
         QVERIFY(CurrentSpread.BackgroundFile.IsBlank());
 
         // A name the code page cannot hold is saved as the record holds it;

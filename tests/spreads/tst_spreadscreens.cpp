@@ -2,6 +2,7 @@
 // location file holds what does not belong to them.
 #include "SpreadTestKit.h"
 #include "core/platform/OleDate.h"
+#include "core/spreads/AllowedDecks.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
 #include "screens/shell/frmMainScreen.h"
@@ -226,6 +227,22 @@ private slots:
         QCOMPARE(Get<frmDeckChooser>().lstDecks->ListCount(), 0);
     }
 
+    // A spread works on at most ten named decks: the eleventh is refused.
+    void theDeckLimit_data() {
+        QTest::addColumn<int>("tied");
+        QTest::addColumn<QString>("problem");
+        const QString full = QStringLiteral("The maximum number of decks allowed cannot exceed 10.");
+        QTest::newRow("none yet") << 0 << QString();
+        QTest::newRow("the tenth fits") << 9 << QString();
+        QTest::newRow("ten, full") << 10 << full;
+        QTest::newRow("past the limit") << 11 << full;
+    }
+    void theDeckLimit() {
+        QFETCH(int, tied);
+        QFETCH(QString, problem);
+        QCOMPARE(SpreadDeckLimitProblem(tied), problem);
+    }
+
     void theChooserKeepsToTenDecksAndAsksAboutNone() {
         for (int i = 7; i <= 12; ++i) Fixtures::MakeDeck(QStringLiteral("Deck %1").arg(i, 2, 10, QLatin1Char('0')), 8, false);
         Fixtures::MakeSpread(QStringLiteral("Bare"), 1);
@@ -235,8 +252,8 @@ private slots:
         for (int i = 0; i < 11; ++i) chooser.cmdAddDeck_Click();
         QCOMPARE(chooser.lstDecks->ListCount(), 10);
         QCOMPARE(chooser.lstAvailableDecks->ListCount(), 1);
-        QCOMPARE(MsgBoxScript::History().last().prompt,
-                 QStringLiteral("The maximum number of decks allowed cannot exceed 10."));
+        QCOMPARE(MsgBoxScript::History().last().prompt, SpreadDeckLimitProblem(10));
+        QCOMPARE(MsgBoxScript::History().last().style, int(vbInformation));
         while (chooser.lstDecks->ListCount() > 0) chooser.cmdDeleteDeck_Click();
         // Not saved, then no decks: No stays, Yes goes.
         MsgBoxScript::Answer(vbNo);

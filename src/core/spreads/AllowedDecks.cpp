@@ -5,6 +5,12 @@
 #include "core/records/RecordFile.h"
 #include "core/store/RunState.h"
 
+QString SpreadDeckLimitProblem(int tied) {
+    if (tied < MaxSpreadDecks) return QString();
+    return QStringLiteral("The maximum number of decks allowed cannot exceed ") + QString::number(MaxSpreadDecks) +
+           QStringLiteral(".");
+}
+
 bool IsSoleDeckOfASpread(Integer deckId) {
     RecordReader<SpreadRecord> reader(SpreadsPath);
     SpreadRecord spread;

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QLineEdit>
 
+#include "core/decks/CardTypeNames.h"
 #include "core/store/RunState.h"
 #include "screens/decks/frmDesignDeck.h"
 #include "screens/platform/MsgBox.h"
@@ -72,16 +73,12 @@ void frmDeckCardProperties::txtCardTypeName_Change(int Index) {
 }
 
 void frmDeckCardProperties::cmdClose_Click() {
-    for (std::size_t a = 0; a < 4; ++a) {
-        const QString first = TrimField(txtCardTypeName[a]->text());
-        if (first.isEmpty()) continue;
-        for (std::size_t b = a + 1; b < 4; ++b) {
-            if (TrimField(txtCardTypeName[b]->text()) == first) {
-                MsgBox(QStringLiteral("The names you chose for the types are not unique. Please change duplicate names."),
-                       vbInformation);
-                return;
-            }
-        }
+    QStringList names;
+    for (const auto* name : txtCardTypeName) names.append(name->text());
+    const QString problem = CardTypeNamesProblem(names);
+    if (!problem.isEmpty()) {
+        MsgBox(problem, vbInformation);
+        return;
     }
     CurrentDeck.IncludesReversed = Flag(chkUseReversed->isChecked());
     CurrentDeck.DisplayCardTitles = Flag(chkDisplay->isChecked());

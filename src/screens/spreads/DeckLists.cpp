@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "core/records/RecordFile.h"
+#include "core/spreads/AllowedDecks.h"
 #include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 #include "screens/platform/ListBox.h"
@@ -63,8 +64,9 @@ void DeckLists::Move(ListBox* from, ListBox* to) {
 }
 
 void DeckLists::cmdAddDeck_Click() {
-    if (lstDecks->ListCount() >= MaxSpreadDecks) {
-        MsgBox(QStringLiteral("The maximum number of decks allowed cannot exceed 10."), vbInformation);
+    const QString problem = SpreadDeckLimitProblem(lstDecks->ListCount());
+    if (!problem.isEmpty()) {
+        MsgBox(problem, vbInformation);
     } else {
         Move(lstAvailableDecks, lstDecks);
     }

@@ -15,9 +15,6 @@ class QPushButton;
 class QWidget;
 class ListBox;
 
-// A spread may work on at most this many named decks.
-constexpr int MaxSpreadDecks = 10;
-
 class DeckLists {
 public:
     ListBox* lstAvailableDecks = nullptr;

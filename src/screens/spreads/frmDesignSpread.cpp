@@ -11,6 +11,7 @@
 #include "core/platform/OleDate.h"
 #include "core/platform/Picture.h"
 #include "core/platform/Twips.h"
+#include "core/spreads/AllowedDecks.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
@@ -491,8 +492,9 @@ void frmDesignSpread::cmdRemoveDeck_Click() {
 }
 
 void frmDesignSpread::cmdBrowseDeck_Click() {
-    if (lstDecks->ListCount() >= MaxSpreadDecks) {
-        MsgBox(QStringLiteral("The maximum number of decks allowed cannot exceed 10."), vbInformation);
+    const QString problem = SpreadDeckLimitProblem(lstDecks->ListCount());
+    if (!problem.isEmpty()) {
+        MsgBox(problem, vbInformation);
         return;
     }
     ShowBrowseDeck();

@@ -4,10 +4,9 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
-#include "core/platform/Picture.h"
 #include "core/platform/Twips.h"
+#include "core/spreads/SpreadBackground.h"
 #include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/shell/ImageBox.h"
@@ -20,11 +19,6 @@ const QString WorkingStem = QStringLiteral("sprpic");
 
 QRect At(int left, int top, int width, int height) {
     return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
-}
-
-bool IsSupportedType(const QString& fileName) {
-    const QString type = TrimField(fileName.right(4)).toUpper();
-    return type == QLatin1String(".JPG") || type == QLatin1String(".BMP") || type == QLatin1String(".GIF");
 }
 }  // namespace
 
@@ -81,22 +75,13 @@ void frmGetSpreadBackground::cmdBrowse_Click() {
 }
 
 bool frmGetSpreadBackground::Validate(const QString& fileName) {
-    if (!FileExists(fileName)) {
-        MsgBox(QStringLiteral("There is no file with the name you provided!"), vbCritical);
+    QImage picture;
+    const QString problem = SpreadBackgroundProblem(fileName, &picture);
+    if (!problem.isEmpty()) {
+        MsgBox(problem, vbCritical);
         return false;
     }
-    if (!IsSupportedType(fileName)) {
-        MsgBox(QStringLiteral("Unsupported file type. Only files of type BMP, JPG and GIF are currently supported."),
-               vbCritical);
-        return false;
-    }
-    try {
-        Image1->setPicture(LoadPicture(fileName).Image);
-    } catch (const RuntimeError&) {
-        MsgBox(QStringLiteral("Unable to open the file you selected. Please make sure it is of a valid type."),
-               vbCritical);
-        return false;
-    }
+    Image1->setPicture(picture);
     return true;
 }
 
