@@ -110,6 +110,10 @@ EntryStanding StandingOf(const JournalEntry& entry, std::span<const DealtLocatio
     return ownDeck ? EntryStanding::Present : EntryStanding::DeckRevised;
 }
 
+// A month as one number that counts on across years, so that months compare
+// and step as integers.
+int MonthIndex(const QDate& d) { return d.year() * 12 + d.month() - 1; }
+
 // Where an entry's parts lie in the journal's arrays while they still grow;
 // the entries' views are set once reading is done.
 struct EntryExtent {
@@ -126,7 +130,7 @@ void ReadEntries(const QString& path, int length, EntryKind kind, const EntryLay
         EntryExtent extent{journal.Dealt.size(), 0, journal.Text.size(), 0};
         entry.Kind = kind;
         entry.Date = DateOf(RawDouble(raw + at.SavedOn));
-        if (entry.Date.isValid()) entry.Month = entry.Date.year() * 12 + entry.Date.month() - 1;
+        if (entry.Date.isValid()) entry.Month = MonthIndex(entry.Date);
         entry.Name = FieldText(raw + at.Name, 50);
         entry.Locked = RawInteger(raw, at.EntryLocked) != 0 && !IsEntryUnlocked(kind, entry.Name);
         AppendFolded(journal.Text, raw + at.Name, 50);
@@ -291,10 +295,9 @@ private:
 // first and last; a range too wide to show falls back to the entries'.
 std::vector<NamedCount> MonthsOf(const MonthCounter& perMonth, const JournalQuery& query) {
     constexpr int WidestRange = 1200;
-    const auto monthIndex = [](const QDate& d) { return d.year() * 12 + d.month() - 1; };
     if (perMonth.Empty() && (query.From.isNull() || query.To.isNull())) return {};
-    int first = query.From.isNull() ? perMonth.First() : monthIndex(query.From);
-    int last = query.To.isNull() ? perMonth.Last() : monthIndex(query.To);
+    int first = query.From.isNull() ? perMonth.First() : MonthIndex(query.From);
+    int last = query.To.isNull() ? perMonth.Last() : MonthIndex(query.To);
     if (last - first >= WidestRange && !perMonth.Empty()) {
         first = perMonth.First();
         last = perMonth.Last();
