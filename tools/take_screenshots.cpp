@@ -680,7 +680,9 @@ void HelpViewer(const QString& manualFolder) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    CartomarApplication app(argc, argv);
+    // The manual is English, whatever the language of the desktop that
+    // takes its pictures.
+    CartomarApplication app(argc, argv, {QStringLiteral("en")});
     if (argc < 3) {
         std::fprintf(stderr, "usage: take_screenshots <empty program folder> <folder for the pictures> [help folder]\n");
         return 2;
