@@ -116,6 +116,31 @@ private slots:
         QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancel"));
     }
 
+    // The pseudo-translation marks every text and keeps what the program
+    // fills in or acts on: arguments, breaks, double spaces, the
+    // accelerator's letter.
+    void thePseudoTranslationKeepsWhatTheProgramActsOn_data() {
+        QTest::addColumn<QString>("context");
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<QStringList>("kept");
+        QTest::newRow("arguments and breaks") << "ErrorReport" << "Run-time error '%1':\n\n%2" << QStringList{"'%1':\n\n%2"};
+        QTest::newRow("accelerator") << "frmConvert" << "Con&vert" << QStringList{"&v"};
+        QTest::newRow("double space, argument at the end")
+            << "Startup"
+            << "Unable to convert to new database format as existing backups exist.  Please reinstall in a new "
+               "directory or contact %1."
+            << QStringList{".  ", "%1."};
+    }
+    void thePseudoTranslationKeepsWhatTheProgramActsOn() {
+        QFETCH(QString, context);
+        QFETCH(QString, source);
+        QFETCH(QStringList, kept);
+        QCOMPARE(UseLanguages({QStringLiteral("pseudo")}), QStringLiteral("pseudo"));
+        const QString text = QCoreApplication::translate(qPrintable(context), qPrintable(source));
+        QVERIFY2(text.startsWith(QLatin1Char('[')) && text.size() > source.size(), qPrintable(text));
+        for (const QString& piece : kept) QVERIFY2(text.contains(piece), qPrintable(text));
+    }
+
     // Record files and packages are the user's data: no text of the program
     // and no manner of the language may reach them. Both runs work in the
     // same folder, whose path a package records.
