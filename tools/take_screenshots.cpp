@@ -501,7 +501,7 @@ void Diary() {
 
 // A year of practice, written straight into the entry files: a reading or
 // a diary entry every nine days, on the sample spreads and the Moonlit Tarot.
-void Journal() {
+void JournalScreen() {
     const int deck = FindDeckRecordById(FindDeckIdByName(QStringLiteral("Moonlit Tarot")));
     DeckRecord tarot;
     GetRecord(DecksPath, deck, tarot);
@@ -711,7 +711,7 @@ int main(int argc, char** argv) {
     MainScreen();
     Reading();
     Diary();
-    Journal();
+    JournalScreen();
     Decks();
     Spreads();
     Packages();
