@@ -12,7 +12,6 @@
 #include <QString>
 #include <QStringList>
 #include <QThreadPool>
-#include <atomic>
 #include <vector>
 
 // Whether a comes before b as people count: runs of digits compare as
@@ -71,8 +70,14 @@ QList<ProposedCard> CardsWithinLimit(const QList<ProposedCard>& cards, QStringLi
 // card editor's message for it; -1 when every title may be taken.
 int FirstTitleProblem(const QList<ProposedCard>& cards, QString& message);
 
+// The names for a message, at most `shown` of them and how many more there
+// are, so that a box never grows past the screen.
+QString NamesForMessage(const QStringList& names, int shown = 10);
+
 // The pictures of a list of cards worked on all cores. Start returns at
-// once; Progress and Done report from the workers to the owner's thread.
+// once; Progress and Done are emitted in the owner's thread. Each worker is
+// handed its own copies of the names it needs and hands its result back to
+// the owner's thread: the threads share nothing that any of them writes.
 class PictureImport : public QObject {
     Q_OBJECT
 public:
@@ -80,13 +85,14 @@ public:
     ~PictureImport() override;   // cancels what is left
 
     void Start();
+    // Waits for every picture and takes in the results.
     void WaitForDone();
     // Stops the pictures not begun, waits for those under way and removes
     // every file the import wrote: Temp/ and the deck stay as they were.
     void Cancel();
     // Adds the worked cards to the deck in memory in list order, as the card
-    // editor stores new cards; the file names of the cards whose pictures
-    // could not be read, which are not added.
+    // editor stores new cards; the names of the files that could not be
+    // read, whose cards are not added.
     QStringList Commit();
 
 signals:
@@ -94,19 +100,30 @@ signals:
     void Done();
 
 private:
-    struct Worked {
-        QString Upright;    // name written in Temp/, empty on failure
-        QString Reversed;   // empty when the side stays on the default picture
-        bool Failed = true;   // until its work is done
+    // What one worker is given: a card's sources and where its working files go.
+    struct Job {
+        QString Upright;         // the picture's path
+        QString Reversed;        // the reversed side's source; empty for none
+        bool Turn = false;       // the reversed side is the upright turned
+        QString Folder;          // where the working files go (Temp/)
+        QString Number;          // tells this card's working files apart
     };
-    void WorkOn(int index);
+    // What a worker hands back.
+    struct Worked {
+        QString Upright;      // name written in Temp/, empty on failure
+        QString Reversed;     // empty when the side stays on the default picture
+        QString Unreadable;   // the source that failed; empty when none did
+    };
+    static Worked WorkOn(const Job& job);
+
+    void Take(std::size_t index, const Worked& result);
     void RemoveWorkFiles();
 
-    QString folder_;
+    QString tempDir_;
     QList<ProposedCard> cards_;
-    ReversedSide reversed_;
+    std::vector<Job> jobs_;
     std::vector<Worked> worked_;
-    std::atomic<bool> cancelled_{false};
-    std::atomic<int> done_{0};
+    int done_ = 0;
+    bool cancelled_ = false;
     QThreadPool pool_;
 };

@@ -5,7 +5,6 @@
 // from; OK works the pictures with a progress bar and adds the cards. Files
 // that are not pictures stand at the end of the list, greyed.
 #include <QThreadPool>
-#include <atomic>
 
 #include "core/decks/PictureImport.h"
 #include "screens/platform/Form.h"
@@ -58,5 +57,4 @@ private:
     QString folder_;
     QList<ProposedCard> proposed_;
     QThreadPool thumbnailPool_;
-    std::atomic<bool> closing_{false};
 };
