@@ -233,7 +233,8 @@ private slots:
     // saved by the designer's Save as a user saves and opened by Edit on the
     // deck list: no box comes, every card is whole, and every file its record
     // names is in Cards/. On the way, the screen's own steps: a title edited,
-    // a row left out by Delete, the type of a selection set.
+    // a row left out by Space on its title, another by Delete and taken in
+    // again by Space, the type of a selection set.
     void importedDecksSaveAndOpenWhole_data() {
         QTest::addColumn<int>("reversed");
         QTest::addColumn<bool>("deckReversed");
@@ -259,8 +260,11 @@ private slots:
         script.On<frmImportPictures>([reversed](frmImportPictures& s) {
             s.mdlPictures->item(1, 1)->setText(QStringLiteral("Moon Rising"));
             s.tblPictures->setFocus();
-            s.tblPictures->selectRow(5);
+            s.tblPictures->setCurrentIndex(s.mdlPictures->index(5, 1));
+            QTest::keyClick(s.tblPictures, Qt::Key_Space);
+            s.tblPictures->selectRow(4);
             QTest::keyClick(s.tblPictures, Qt::Key_Delete);
+            QTest::keyClick(s.tblPictures, Qt::Key_Space);
             s.tblPictures->selectRow(0);
             s.cboType->setCurrentIndex(1);
             s.cmdSetType->click();

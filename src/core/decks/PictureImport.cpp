@@ -9,11 +9,12 @@
 #include <QImageWriter>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QSet>
 #include <algorithm>
 
 #include "core/decks/CardStore.h"
-#include "core/platform/Errors.h"
 #include "core/platform/CodePage.h"
+#include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
 #include "core/platform/WriteFaults.h"
 #include "core/store/NewDesigns.h"
@@ -114,14 +115,12 @@ QString TitleFromFileName(const QString& fileName) {
     return FromAnsi(ToAnsi(words.join(QLatin1Char(' ')).left(50)));
 }
 
-QString UprightPartnerOf(const QString& fileName, const QStringList& names) {
+QString UprightPartnerOf(const QString& fileName, const QHash<QString, QString>& uprightByName) {
     const QString base = QFileInfo(fileName).completeBaseName();
     for (const QString& suffix : {QStringLiteral("-reversed"), QStringLiteral("_r"), QStringLiteral(" reversed")}) {
         if (!base.endsWith(suffix, Qt::CaseInsensitive) || base.size() == suffix.size()) continue;
-        const QString upright = base.chopped(suffix.size());
-        for (const QString& name : names)
-            if (name != fileName && QFileInfo(name).completeBaseName().compare(upright, Qt::CaseInsensitive) == 0)
-                return name;
+        const QString upright = uprightByName.value(base.chopped(suffix.size()).toCaseFolded());
+        if (!upright.isEmpty()) return upright;
     }
     return {};
 }
@@ -131,16 +130,26 @@ FolderPictures ListFolderPictures(const QString& folder, int cardType) {
     std::sort(names.begin(), names.end(), NaturalLess);
     FolderPictures found;
     QStringList pictures;
+    // Looked up by name rather than searched, so that a folder of thousands
+    // of files is sorted out at once.
+    QHash<QString, QString> byName;
     for (const QString& name : names) {
-        if (FormatOf(QDir(folder).filePath(name)).isEmpty()) found.NotPictures.append(name);
-        else pictures.append(name);
+        if (FormatOf(QDir(folder).filePath(name)).isEmpty()) {
+            found.NotPictures.append(name);
+            continue;
+        }
+        pictures.append(name);
+        const QString key = QFileInfo(name).completeBaseName().toCaseFolded();
+        if (!byName.contains(key)) byName.insert(key, name);
     }
-    QHash<QString, QString> reversedOf;
+    QHash<QString, QString> reversedOf;   // upright -> its reversed file
+    QSet<QString> reversedFiles;
     for (const QString& name : pictures) {
-        const QString upright = UprightPartnerOf(name, pictures);
-        if (!upright.isEmpty() && !reversedOf.contains(upright)) reversedOf.insert(upright, name);
+        const QString upright = UprightPartnerOf(name, byName);
+        if (upright.isEmpty() || reversedOf.contains(upright)) continue;
+        reversedOf.insert(upright, name);
+        reversedFiles.insert(name);
     }
-    const QList<QString> reversedFiles = reversedOf.values();
     for (const QString& name : pictures) {
         if (reversedFiles.contains(name)) continue;
         found.Cards.append({name, reversedOf.value(name), TitleFromFileName(name), cardType, true});

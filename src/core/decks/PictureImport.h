@@ -6,6 +6,7 @@
 // editor adds new cards one by one. The pictures are worked on all cores into
 // Temp/ under names of their own; only Commit gives them their card names, so
 // that a cancelled import leaves the design as it was.
+#include <QHash>
 #include <QImage>
 #include <QList>
 #include <QObject>
@@ -24,10 +25,12 @@ bool NaturalLess(const QString& a, const QString& b);
 // the title's 50 characters. A name that is only a number keeps it.
 QString TitleFromFileName(const QString& fileName);
 
-// The upright picture among names whose reversed side this file is by its
-// name: for "x.jpg", "x-reversed.jpg", "x_r.jpg" or "x reversed.jpg", of any
-// picture extension and any case. Empty when it is no such file.
-QString UprightPartnerOf(const QString& fileName, const QStringList& names);
+// The upright picture whose reversed side this file is by its name: for
+// "x.jpg", "x-reversed.jpg", "x_r.jpg" or "x reversed.jpg", of any picture
+// extension and any case. uprightByName holds each picture under its name
+// without extension, case folded (the first of the folder's order when two
+// share one). Empty when it is no such file.
+QString UprightPartnerOf(const QString& fileName, const QHash<QString, QString>& uprightByName);
 
 // Where the reversed sides of the imported cards come from.
 enum class ReversedSide { None, Turned, OwnFile };

@@ -236,11 +236,16 @@ void frmImportPictures::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handl
     if (key == Qt::Key_Escape) {
         handled = true;
         cmdCancel_Click();
-    } else if (key == Qt::Key_Delete && (!focus || focus == tblPictures)) {
-        // Delete leaves the selected rows out; a click on their box or Space
-        // takes them in again.
+    } else if ((key == Qt::Key_Delete || key == Qt::Key_Space) && (!focus || focus == tblPictures)) {
+        // Delete leaves the selected rows out; Space keeps them or leaves
+        // them out as the current row is not, on whichever column it stands
+        // (the view would begin to type over a title with it).
         handled = true;
+        const int current = tblPictures->currentIndex().row();
+        const bool keep = key == Qt::Key_Space && current >= 0 && current < proposed_.size() &&
+                          mdlPictures->item(current, ColPicture)->checkState() != Qt::Checked;
         for (const QModelIndex& index : tblPictures->selectionModel()->selectedRows())
-            if (index.row() < proposed_.size()) mdlPictures->item(index.row(), ColPicture)->setCheckState(Qt::Unchecked);
+            if (index.row() < proposed_.size())
+                mdlPictures->item(index.row(), ColPicture)->setCheckState(keep ? Qt::Checked : Qt::Unchecked);
     }
 }
