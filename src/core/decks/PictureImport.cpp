@@ -215,6 +215,11 @@ int FirstTitleProblem(const QList<ProposedCard>& cards, QString& message) {
     return -1;
 }
 
+std::mutex& HandoverLock() {
+    static std::mutex lock;
+    return lock;
+}
+
 QString NamesForMessage(const QStringList& names, int shown) {
     if (names.size() <= shown) return names.join(QStringLiteral(", "));
     return QCoreApplication::translate("PictureImport", "%1 and %2 more")
@@ -224,6 +229,7 @@ QString NamesForMessage(const QStringList& names, int shown) {
 
 PictureImport::PictureImport(const QString& folder, const QList<ProposedCard>& cards, ReversedSide reversed)
     : tempDir_(TempDir), cards_(cards), worked_(static_cast<std::size_t>(cards.size())) {
+    handedOver_.Results.resize(worked_.size());
     // A deck without reversed cards shows the default picture on that side
     // and saves only the upright one. In a deck with reversed cards every
     // card gets a reversed file of its own, as the card editor gives it: one
@@ -248,12 +254,9 @@ PictureImport::PictureImport(const QString& folder, const QList<ProposedCard>& c
 PictureImport::~PictureImport() { Cancel(); }
 
 void PictureImport::Start() {
-    for (std::size_t i = 0; i < jobs_.size(); ++i) {
-        pool_.start([this, i, job = jobs_[i]] {
-            const Worked result = WorkOn(job);
-            QMetaObject::invokeMethod(this, [this, i, result] { Take(i, result); }, Qt::QueuedConnection);
-        });
-    }
+    for (std::size_t i = 0; i < jobs_.size(); ++i)
+        RunForOwner<Worked>(pool_, [job = jobs_[i]] { return WorkOn(job); }, static_cast<int>(i), handedOver_, this,
+                            "Take");
 }
 
 PictureImport::Worked PictureImport::WorkOn(const Job& job) {
@@ -271,9 +274,9 @@ PictureImport::Worked PictureImport::WorkOn(const Job& job) {
     return result;
 }
 
-void PictureImport::Take(std::size_t index, const Worked& result) {
+void PictureImport::Take(int index) {
     if (cancelled_) return;
-    worked_[index] = result;
+    worked_[static_cast<std::size_t>(index)] = handedOver_.Take(index);
     ++done_;
     emit Progress(done_, static_cast<int>(jobs_.size()));
     if (done_ == static_cast<int>(jobs_.size())) emit Done();

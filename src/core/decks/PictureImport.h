@@ -12,7 +12,10 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QRunnable>
 #include <QThreadPool>
+#include <functional>
+#include <mutex>
 #include <vector>
 
 // Whether a comes before b as people count: runs of digits compare as
@@ -77,10 +80,62 @@ int FirstTitleProblem(const QList<ProposedCard>& cards, QString& message);
 // are, so that a box never grows past the screen.
 QString NamesForMessage(const QStringList& names, int shown = 10);
 
+// The lock of every handover between a pool's workers and their owner. It is
+// also the handover that ThreadSanitizer can see; Qt's own, inside the pool
+// and the event queue, it cannot. One for all, so that a worker takes it
+// before it reads anything of its own.
+std::mutex& HandoverLock();
+
+// What a pool's workers hand to the owner's thread: one result a worker, each
+// in its own place, put there and taken out under the handover lock.
+template <class Result>
+struct HandedOver {
+    std::vector<Result> Results;
+    Result Take(int index) {
+        const std::lock_guard<std::mutex> locked(HandoverLock());
+        return Results[static_cast<std::size_t>(index)];
+    }
+};
+
+// Runs work on a thread of pool, puts its result in into.Results[index] and
+// calls owner's method (Q_INVOKABLE, taking the index) in the owner's
+// thread. The work must hold its own copies of all it reads: the owner goes
+// on meanwhile. into.Results must have its places before the work starts.
+template <class Result>
+void RunForOwner(QThreadPool& pool, std::function<Result()> work, int index, HandedOver<Result>& into,
+                 QObject* owner, const char* method) {
+    class Runner : public QRunnable {
+    public:
+        Runner(std::function<Result()> w, int i, HandedOver<Result>& o, QObject* q, const char* m)
+            : work_(std::move(w)), index_(i), into_(o), owner_(q), method_(m) {}
+        void run() override {
+            // Everything the owner wrote before it handed this over.
+            { const std::lock_guard<std::mutex> locked(HandoverLock()); }
+            Result result = work_();
+            {
+                const std::lock_guard<std::mutex> locked(HandoverLock());
+                into_.Results[static_cast<std::size_t>(index_)] = std::move(result);
+            }
+            QMetaObject::invokeMethod(owner_, method_, Qt::QueuedConnection, Q_ARG(int, index_));
+        }
+
+    private:
+        std::function<Result()> work_;
+        int index_;
+        HandedOver<Result>& into_;
+        QObject* owner_;
+        const char* method_;
+    };
+    auto* runner = new Runner(std::move(work), index, into, owner, method);
+    { const std::lock_guard<std::mutex> locked(HandoverLock()); }
+    pool.start(runner);
+}
+
 // The pictures of a list of cards worked on all cores. Start returns at
 // once; Progress and Done are emitted in the owner's thread. Each worker is
 // handed its own copies of the names it needs and hands its result back to
-// the owner's thread: the threads share nothing that any of them writes.
+// the owner's thread (RunForOwner): the workers share nothing that any of
+// them writes.
 class PictureImport : public QObject {
     Q_OBJECT
 public:
@@ -119,12 +174,13 @@ private:
     };
     static Worked WorkOn(const Job& job);
 
-    void Take(std::size_t index, const Worked& result);
+    Q_INVOKABLE void Take(int index);
     void RemoveWorkFiles();
 
     QString tempDir_;
     QList<ProposedCard> cards_;
     std::vector<Job> jobs_;
+    HandedOver<Worked> handedOver_;
     std::vector<Worked> worked_;
     int done_ = 0;
     bool cancelled_ = false;

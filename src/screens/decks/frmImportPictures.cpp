@@ -84,8 +84,8 @@ frmImportPictures::frmImportPictures() {
 }
 
 frmImportPictures::~frmImportPictures() {
-    // Thumbnails not begun are dropped; those under way post to this screen,
-    // and Qt drops what is posted to a screen that is gone.
+    // Thumbnails not begun are dropped; those under way are waited for, and
+    // Qt drops the calls they posted to this screen once it is gone.
     thumbnailPool_.clear();
     thumbnailPool_.waitForDone();
 }
@@ -135,17 +135,16 @@ void frmImportPictures::ShowFolder(const QString& folder) {
 }
 
 void frmImportPictures::LoadThumbnails() {
+    thumbnails_.Results.resize(static_cast<std::size_t>(proposed_.size()));
     for (int row = 0; row < proposed_.size(); ++row) {
         const QString path = QDir(folder_).filePath(proposed_[row].File);
-        // The worker gets its own copy of the path and hands the picture
-        // back to the GUI thread, which alone touches the list.
-        thumbnailPool_.start([this, row, path] {
-            const QImage image = PictureThumbnail(path, ThumbnailSide);
-            QMetaObject::invokeMethod(this, [this, row, image] {
-                mdlPictures->item(row, ColPicture)->setData(QPixmap::fromImage(image), Qt::DecorationRole);
-            });
-        });
+        RunForOwner<QImage>(thumbnailPool_, [path] { return PictureThumbnail(path, ThumbnailSide); }, row, thumbnails_,
+                            this, "ShowThumbnail");
     }
+}
+
+void frmImportPictures::ShowThumbnail(int row) {
+    mdlPictures->item(row, ColPicture)->setData(QPixmap::fromImage(thumbnails_.Take(row)), Qt::DecorationRole);
 }
 
 ReversedSide frmImportPictures::ChosenReversedSide() const {

@@ -53,8 +53,10 @@ private:
     QList<ProposedCard> CardsInList() const;
     // Thumbnails are read on other threads and put in as they come.
     void LoadThumbnails();
+    Q_INVOKABLE void ShowThumbnail(int row);
 
     QString folder_;
     QList<ProposedCard> proposed_;
+    HandedOver<QImage> thumbnails_;
     QThreadPool thumbnailPool_;
 };
