@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QIcon>
+#include <QTranslator>
 
 #include "core/platform/Errors.h"
 #include "screens/platform/ErrorReport.h"
@@ -13,6 +14,15 @@ CartomarApplication::CartomarApplication(int& argc, char** argv) : QApplication(
     setDesktopFileName(QStringLiteral("com.ondinesoftware.Cartomar"));
     Q_INIT_RESOURCE(cartomar);
     setWindowIcon(QIcon(QStringLiteral(":/cartomar/cartomar-icon.png")));
+    InstallPluralForms();
+}
+
+void InstallPluralForms() {
+    QCoreApplication* app = QCoreApplication::instance();
+    if (app->findChild<QTranslator*>(QStringLiteral("PluralForms"), Qt::FindDirectChildrenOnly)) return;
+    auto* forms = new QTranslator(app);
+    forms->setObjectName(QStringLiteral("PluralForms"));
+    if (forms->load(QStringLiteral(":/i18n/cartomar_en.qm"))) QCoreApplication::installTranslator(forms);
 }
 
 bool CartomarApplication::notify(QObject* receiver, QEvent* event) {

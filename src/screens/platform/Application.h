@@ -9,6 +9,10 @@ public:
     bool notify(QObject* receiver, QEvent* event) override;
 };
 
+// Installs, once, the English forms of the texts that count ("1 entry",
+// "2 entries"); the application does so when it starts.
+void InstallPluralForms();
+
 // The folder of the executable, with a trailing '/'.
 QString ExecutableFolder();
 // The executable's own file name, without its folder.
