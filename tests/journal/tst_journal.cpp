@@ -274,6 +274,7 @@ private slots:
                                                        << QStringList{"Major Arcana", "Minor Arcana"};
         ChartData months;
         months.Shape = ChartShape::Columns;
+        months.FirstNumber = 2015 * 12;
         for (int m = 2015 * 12; m < 2025 * 12; ++m) months.Bars.push_back({MonthText(m), m % 7, 0});
         QTest::newRow("120 months") << months << QSize(760, 300) << QStringList{"Jan 2015", "0", "6"};
     }

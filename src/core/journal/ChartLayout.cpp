@@ -106,8 +106,10 @@ int LabelEvery(double labelWidth, double pitch) {
 }
 
 // Columns over a scale of figures at the left, with grid lines; the figure
-// over each column where it fits, the labels under them thinned so that
-// none runs into the next or off the chart.
+// over each column where it fits, the labels under them thinned to whole
+// periods so that none runs into the next or off the chart. A label stands
+// under its column where there is one for each column, else from the start
+// of its period on.
 void LayOutColumns(const ChartData& chart, const QRectF& inner, const ChartMetrics& m, ChartDrawing& d) {
     const double top = inner.top() + m.LineHeight;   // room for the figure over the tallest column
     const double height = inner.bottom() - m.LineHeight - m.Gap / 2 - top;
@@ -146,12 +148,13 @@ void LayOutColumns(const ChartData& chart, const QRectF& inner, const ChartMetri
             d.Texts.push_back({QRectF(band.left(), whole.top() - m.LineHeight, pitch, m.LineHeight), figure, figure,
                                Qt::AlignHCenter | Qt::AlignBottom});
         d.Bands.push_back(band);
-        if (i % static_cast<std::size_t>(every) != 0) continue;
-        // Centred under its column, but kept on the chart: the first and last
-        // labels move in rather than lose their ends.
+        if ((chart.FirstNumber + static_cast<int>(i)) % every != 0) continue;
         ChartText label = Fitted(bar.Label, 0, plot.bottom() + m.Gap / 2, m, Qt::AlignCenter);
         const double width = label.Box.width();
-        label.Box.moveLeft(std::max(labelsLeft, std::min(band.center().x() - width / 2, inner.right() - width)));
+        // Kept on the chart: a label at either end moves in rather than lose
+        // its end, and gives way where it would then run into the one before.
+        const double left = every == 1 ? band.center().x() - width / 2 : band.left();
+        label.Box.moveLeft(std::max(labelsLeft, std::min(left, inner.right() - width)));
         if (label.Box.left() < labelsEnd + m.Gap) continue;
         labelsEnd = label.Box.right();
         d.Texts.push_back(label);
@@ -193,7 +196,7 @@ ChartDrawing LayOutChart(const ChartData& chart, const QRectF& area, const Chart
 QString ChartBarFigures(const ChartData& chart, std::size_t i) {
     const ChartBar& bar = chart.Bars[i];
     if (chart.SecondPart.isEmpty())
-        return QCoreApplication::translate("ChartLayout", "%1: %2").arg(bar.Label, FigureText(bar.First));
+        return QCoreApplication::translate("ChartLayout", "%1: %2").arg(bar.Label, FigureText(bar.First + bar.Second));
     return QCoreApplication::translate("ChartLayout", "%1: %2 (%3 %4, %5 %6)")
         .arg(bar.Label, FigureText(bar.First + bar.Second), chart.FirstPart, FigureText(bar.First), chart.SecondPart,
              FigureText(bar.Second));

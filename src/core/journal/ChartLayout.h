@@ -27,6 +27,9 @@ struct ChartData {
     std::vector<ChartBar> Bars;
     QString FirstPart;    // what the parts of a bar stand for, named in the legend;
     QString SecondPart;   // both empty in a one-part chart, which has no legend
+    // The number of the first column in its series (a month's number), so
+    // that thinned labels fall on whole periods: every January, say.
+    int FirstNumber = 0;
 };
 
 // How the surface measures: its text in the chart's font, and its spacing.

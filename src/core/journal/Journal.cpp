@@ -571,14 +571,16 @@ ChartData TypesChart(const JournalStatistics& statistics) {
 
 ChartData FacingChart(const JournalStatistics& statistics) {
     ChartData chart;
+    // Each in its colour of the cards chart.
     chart.Bars = {{QCoreApplication::translate("Journal", "Upright"), statistics.Upright, 0},
-                  {QCoreApplication::translate("Journal", "Reversed"), statistics.Reversed, 0}};
+                  {QCoreApplication::translate("Journal", "Reversed"), 0, statistics.Reversed}};
     return chart;
 }
 
 ChartData MonthsChart(const JournalStatistics& statistics) {
     ChartData chart;
     chart.Shape = ChartShape::Columns;
+    if (!statistics.Months.empty()) chart.FirstNumber = statistics.Months.front().Month;
     for (const MonthCount& month : statistics.Months) chart.Bars.push_back({MonthText(month.Month), month.Count, 0});
     return chart;
 }

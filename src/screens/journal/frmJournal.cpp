@@ -115,7 +115,6 @@ frmJournal::frmJournal() {
     tabJournal = new QTabWidget(this);
     mdlResults = new JournalResultsModel(journal_, catalogue_, this);
     grdResults = MakeTable(mdlResults, 0, Qt::DescendingOrder, this);
-    grdResults->horizontalHeader()->setResizeContentsPrecision(200);
     tabJournal->addTab(grdResults, tr("&Results"));
 
     // The chart and the table side by side, the divide movable; the figures
@@ -126,6 +125,8 @@ frmJournal::frmJournal() {
     grdCards = MakeTable(mdlCards, 0, Qt::DescendingOrder, cardsPage);
     cardsPage->addWidget(chtCards);
     cardsPage->addWidget(grdCards);
+    cardsPage->setStretchFactor(0, 1);
+    cardsPage->setStretchFactor(1, 1);
     cardsPage->setChildrenCollapsible(false);
     tabJournal->addTab(cardsPage, tr("&Cards"));
 
@@ -210,7 +211,10 @@ void frmJournal::Form_Load() {
     Search();
     // Columns take the width of what they first show and keep it while the
     // user types; sizing them at each search would read every row.
-    grdResults->resizeColumnsToContents();
+    for (QTableView* table : {grdResults, grdCards}) {
+        table->horizontalHeader()->setResizeContentsPrecision(200);
+        table->resizeColumnsToContents();
+    }
     setMousePointer(MousePointer::Arrow);
 }
 
@@ -304,6 +308,7 @@ void frmJournal::ShowLocations() {
     mdlLocations->SetLocations(cboLocationSpread->currentIndex() < 0
                                    ? std::vector<LocationTally>()
                                    : TallyLocations(journal_, selected_, catalogue_, spreadId, TopPerLocation));
+    grdLocations->resizeColumnToContents(1);
 }
 
 JournalChart* frmJournal::ChartOnShow() const {
