@@ -4,7 +4,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QStyle>
 #include <QStyleOption>
@@ -23,73 +22,60 @@ QString WithoutMnemonic(const QString& text) {
     return shown;
 }
 
-QString Name(const QWidget& w) {
-    const QString kind = QString::fromLatin1(w.metaObject()->className());
-    return w.objectName().isEmpty() ? kind : kind + QLatin1Char(' ') + w.objectName();
+// Adds a line when a text needs more than its room.
+void Check(QStringList& out, const QWidget& w, const QString& text, const char* measure, int needs, int room) {
+    if (needs <= room) return;
+    const QString name = QString::fromLatin1(w.metaObject()->className()) + QLatin1Char(' ') + w.objectName();
+    out << QStringLiteral("%1 \"%2\": %3 %4, room %5").arg(name.trimmed(), text, QLatin1String(measure)).arg(needs).arg(room);
 }
 
-QString Report(const QWidget& w, const QString& text, const char* measure, int needs, int has) {
-    return QStringLiteral("%1 \"%2\": %3 %4, room %5").arg(Name(w), text, QLatin1String(measure)).arg(needs).arg(has);
-}
-
-int LineWidth(const QFontMetrics& metrics, const QString& text) {
+int Width(const QFontMetrics& metrics, const QString& text) {
     int widest = 0;
     for (const QString& line : text.split(QLatin1Char('\n'))) widest = std::max(widest, metrics.horizontalAdvance(line));
     return widest;
 }
 
 void CheckLabel(const QLabel& label, QStringList& out) {
-    const QString text = label.text();
-    if (text.isEmpty()) return;
-    const QRect room = label.contentsRect().adjusted(label.margin(), label.margin(), -label.margin(), -label.margin());
+    const QString text = label.buddy() ? WithoutMnemonic(label.text()) : label.text();
+    const int margin = label.margin();
+    const QRect room = label.contentsRect().adjusted(margin, margin, -margin, -margin);
+    QSize needs;
     if (label.textFormat() == Qt::RichText || (label.textFormat() == Qt::AutoText && Qt::mightBeRichText(text))) {
         QTextDocument document;
         document.setDefaultFont(label.font());
-        document.setHtml(text);
         document.setDocumentMargin(0);
+        document.setHtml(text);
         if (label.wordWrap()) document.setTextWidth(room.width());
-        const QSize needs = document.size().toSize();
-        if (!label.wordWrap() && needs.width() > room.width())
-            out << Report(label, text, "width", needs.width(), room.width());
-        else if (needs.height() > room.height()) out << Report(label, text, "height", needs.height(), room.height());
-        return;
+        needs = document.size().toSize();
+    } else if (label.wordWrap()) {
+        needs = label.fontMetrics().boundingRect(QRect(0, 0, room.width(), 1 << 20), Qt::TextWordWrap, text).size();
+    } else {
+        needs = {Width(label.fontMetrics(), text), 0};
     }
-    const QString shown = label.buddy() ? WithoutMnemonic(text) : text;
-    const QFontMetrics metrics(label.font());
-    if (label.wordWrap()) {
-        const int height = metrics.boundingRect(QRect(0, 0, room.width(), 1 << 20), Qt::TextWordWrap, shown).height();
-        if (height > room.height()) out << Report(label, shown, "height", height, room.height());
-    } else if (LineWidth(metrics, shown) > room.width()) {
-        out << Report(label, shown, "width", LineWidth(metrics, shown), room.width());
-    }
+    if (label.wordWrap()) Check(out, label, text, "height", needs.height(), room.height());
+    else Check(out, label, text, "width", needs.width(), room.width());
 }
 
 void CheckButton(const QAbstractButton& button, QStringList& out) {
-    if (button.text().isEmpty()) return;
-    QStyle::SubElement room;
     QStyleOptionButton option;
     option.initFrom(&button);
     option.text = button.text();
-    option.icon = button.icon();
-    option.iconSize = button.iconSize();
-    if (qobject_cast<const QPushButton*>(&button)) room = QStyle::SE_PushButtonContents;
-    else if (qobject_cast<const QCheckBox*>(&button)) room = QStyle::SE_CheckBoxContents;
-    else if (qobject_cast<const QRadioButton*>(&button)) room = QStyle::SE_RadioButtonContents;
-    else return;
-    const int has = button.style()->subElementRect(room, &option, &button).width();
+    const QStyle::SubElement room = qobject_cast<const QCheckBox*>(&button)      ? QStyle::SE_CheckBoxContents
+                                    : qobject_cast<const QRadioButton*>(&button) ? QStyle::SE_RadioButtonContents
+                                                                                 : QStyle::SE_PushButtonContents;
     const QString shown = WithoutMnemonic(button.text());
-    const int needs = LineWidth(button.fontMetrics(), shown) + (button.icon().isNull() ? 0 : button.iconSize().width() + 4);
-    if (needs > has) out << Report(button, shown, "width", needs, has);
+    Check(out, button, shown, "width",
+          Width(button.fontMetrics(), shown) + (button.icon().isNull() ? 0 : button.iconSize().width() + 4),
+          button.style()->subElementRect(room, &option, &button).width());
 }
 
+// Each tab on show: its text in the room its style leaves beside icon and
+// buttons, and the tab within the bar rather than scrolled out of it.
 void CheckTabs(const QTabBar& bar, QStringList& out) {
     for (int i = 0; i < bar.count(); ++i) {
         if (!bar.isTabVisible(i)) continue;
         const QString shown = WithoutMnemonic(bar.tabText(i));
-        if (!bar.rect().contains(bar.tabRect(i))) {
-            out << Report(bar, shown, "beyond the bar at", bar.tabRect(i).right(), bar.rect().right());
-            continue;
-        }
+        Check(out, bar, shown, "right edge", bar.tabRect(i).right(), bar.rect().right());
         QStyleOptionTab option;
         option.initFrom(&bar);
         option.rect = bar.tabRect(i);
@@ -98,12 +84,10 @@ void CheckTabs(const QTabBar& bar, QStringList& out) {
         option.icon = bar.tabIcon(i);
         option.iconSize = bar.iconSize();
         option.documentMode = bar.documentMode();
-        for (const auto side : {QTabBar::LeftSide, QTabBar::RightSide})
-            if (const QWidget* extra = bar.tabButton(i, side))
-                (side == QTabBar::LeftSide ? option.leftButtonSize : option.rightButtonSize) = extra->size();
-        const int has = bar.style()->subElementRect(QStyle::SE_TabBarTabText, &option, &bar).width();
-        const int needs = bar.fontMetrics().horizontalAdvance(shown);
-        if (needs > has) out << Report(bar, shown, "width", needs, has);
+        if (const QWidget* extra = bar.tabButton(i, QTabBar::LeftSide)) option.leftButtonSize = extra->size();
+        if (const QWidget* extra = bar.tabButton(i, QTabBar::RightSide)) option.rightButtonSize = extra->size();
+        Check(out, bar, shown, "width", bar.fontMetrics().horizontalAdvance(shown),
+              bar.style()->subElementRect(QStyle::SE_TabBarTabText, &option, &bar).width());
     }
 }
 
@@ -113,26 +97,27 @@ void CheckComboBox(const QComboBox& combo, QStringList& out) {
     option.initFrom(&combo);
     option.editable = combo.isEditable();
     option.frame = combo.hasFrame();
-    const int has =
+    const int room =
         combo.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo).width();
-    for (int i = 0; i < combo.count(); ++i) {
-        const QString text = combo.itemText(i);
-        const int needs = combo.fontMetrics().horizontalAdvance(text) +
-                          (combo.itemIcon(i).isNull() ? 0 : combo.iconSize().width() + 4);
-        if (needs > has) out << Report(combo, text, "width", needs, has);
-    }
+    for (int i = 0; i < combo.count(); ++i)
+        Check(out, combo, combo.itemText(i), "width",
+              combo.fontMetrics().horizontalAdvance(combo.itemText(i)) +
+                  (combo.itemIcon(i).isNull() ? 0 : combo.iconSize().width() + 4),
+              room);
 }
 
 }  // namespace
 
 QStringList TextsThatDoNotFit(const QWidget& root) {
     QStringList out;
-    QList<const QWidget*> widgets{&root};
-    for (const QWidget* w : root.findChildren<const QWidget*>()) widgets << w;
+    QList<const QWidget*> widgets = root.findChildren<const QWidget*>();
+    widgets.prepend(&root);
     for (const QWidget* w : widgets) {
         if (!w->isVisible()) continue;
         if (const auto* label = qobject_cast<const QLabel*>(w)) CheckLabel(*label, out);
-        else if (const auto* button = qobject_cast<const QAbstractButton*>(w)) CheckButton(*button, out);
+        else if (const auto* button = qobject_cast<const QAbstractButton*>(w);
+                 button && !button->text().isEmpty() && !button->inherits("QToolButton"))
+            CheckButton(*button, out);
         else if (const auto* bar = qobject_cast<const QTabBar*>(w)) CheckTabs(*bar, out);
         else if (const auto* combo = qobject_cast<const QComboBox*>(w)) CheckComboBox(*combo, out);
     }
