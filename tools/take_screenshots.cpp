@@ -501,7 +501,7 @@ void Diary() {
 
 // A year of practice, written straight into the entry files: a reading or
 // a diary entry every nine days, on the sample spreads and the Moonlit Tarot.
-void Journal() {
+void JournalShots() {
     const int deck = FindDeckRecordById(FindDeckIdByName(QStringLiteral("Moonlit Tarot")));
     DeckRecord tarot;
     GetRecord(DecksPath, deck, tarot);
@@ -709,7 +709,7 @@ int main(int argc, char** argv) {
     MainScreen();
     Reading();
     Diary();
-    Journal();
+    JournalShots();
     Decks();
     Spreads();
     Packages();

@@ -54,7 +54,7 @@ void AddParts(const ChartBar& bar, const QRectF& whole, bool across, ChartDrawin
 }
 
 // One bar a line: its label at the left, right-aligned, in a column as wide
-// as the widest label up to two fifths of the chart; the figure at its end.
+// as the widest label up to half the chart; the figure at its end.
 // As many bars as there are lines of text.
 void LayOutBars(const ChartData& chart, const QRectF& inner, const ChartMetrics& m, ChartDrawing& d) {
     const auto lines = static_cast<std::size_t>(std::max(0.0, std::floor(inner.height() / m.LineHeight)));
@@ -66,7 +66,7 @@ void LayOutBars(const ChartData& chart, const QRectF& inner, const ChartMetrics&
         labels = std::max(labels, m.Width(bar.Label));
         figures = std::max(figures, m.Width(FigureText(bar.First + bar.Second)));
     }
-    const double labelWidth = std::min(labels, inner.width() * 0.4) + m.Hairline;
+    const double labelWidth = std::min(labels, inner.width() * 0.5) + m.Hairline;
     figures += m.Hairline;
     const double plotLeft = inner.left() + labelWidth + m.Gap;
     const double plotWidth = std::max(0.0, inner.right() - plotLeft - m.Gap / 2 - figures);
