@@ -325,6 +325,16 @@ QString LocationTitleOf(const JournalCatalogue& catalogue, Integer spreadId, int
     return spread->LocationTitles[static_cast<std::size_t>(location - 1)];
 }
 
+// The CSV's date and kind of an entry: the program's own date format and
+// words, so that a spreadsheet reads the file alike in every language.
+QString EntryDateText(const JournalEntry& entry) {
+    return entry.Date.isValid() ? entry.Date.toString(QStringLiteral("yyyy/MM/dd")) : QString();
+}
+
+QString EntryKindText(EntryKind kind) {
+    return kind == EntryKind::Reading ? QStringLiteral("Reading") : QStringLiteral("Diary");
+}
+
 QByteArray CsvField(const QString& text) {
     QByteArray bytes = text.toUtf8();
     static constexpr std::string_view FormulaStarts = "=+-@\t\r";
@@ -498,14 +508,6 @@ std::vector<LocationTally> TallyLocations(const Journal& journal, const std::vec
         locations.push_back(std::move(location));
     }
     return locations;
-}
-
-QString EntryDateText(const JournalEntry& entry) {
-    return entry.Date.isValid() ? entry.Date.toString(QStringLiteral("yyyy/MM/dd")) : QString();
-}
-
-QString EntryKindText(EntryKind kind) {
-    return kind == EntryKind::Reading ? QStringLiteral("Reading") : QStringLiteral("Diary");
 }
 
 QString EntrySpreadText(const JournalEntry& entry, const JournalCatalogue& catalogue) {

@@ -185,10 +185,7 @@ ChartData TypesChart(const JournalStatistics& statistics);
 ChartData FacingChart(const JournalStatistics& statistics);
 ChartData MonthsChart(const JournalStatistics& statistics);
 
-// What the results list and the CSV show of an entry; the CSV keeps the
-// program's own date format, the list shows the date in the user's.
-QString EntryDateText(const JournalEntry& entry);
-QString EntryKindText(EntryKind kind);
+// An entry's spread and deck as the results list and the CSV show them.
 QString EntrySpreadText(const JournalEntry& entry, const JournalCatalogue& catalogue);
 QString EntryDeckText(const JournalEntry& entry, const JournalCatalogue& catalogue);
 
