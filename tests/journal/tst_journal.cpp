@@ -1,9 +1,14 @@
 // The journal over a small hand-made body of entries whose counts were worked
 // out by hand: what each search selects, what the statistics count, the CSV,
-// and that nothing is written. One test shows the screen's wiring.
+// the charts' and the print's texts, and that nothing is written. Two tests
+// show the screen's wiring.
 #include <QCryptographicHash>
 #include <QDirIterator>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -12,12 +17,17 @@
 #include "core/platform/OleDate.h"
 #include "core/records/RecordFile.h"
 #include "core/store/DeletePasses.h"
+#include "screens/journal/JournalCharts.h"
 #include "screens/journal/frmJournal.h"
+#include "screens/platform/Application.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/readings/frmNewReading.h"
 #include "support/Fixtures.h"
+#include "support/RecordingPrinter.h"
+#include "support/TextFit.h"
 
 Q_DECLARE_METATYPE(JournalQuery)
+Q_DECLARE_METATYPE(ChartData)
 
 namespace {
 
@@ -80,6 +90,8 @@ private slots:
     // revised since, D3 "Gone deck" on a removed deck, D4 "Damaged" with a
     // card beyond its deck.
     void initTestCase() {
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        InstallPluralForms();
         MsgBoxScript::Enable();
         Fixtures::StandUpFrame(frame_.path());
         Fixtures::UseProgramDir(dir_.path());
@@ -223,8 +235,8 @@ private slots:
         QCOMPARE(s.Types[0].Name + QString::number(s.Types[0].Count), QStringLiteral("Major Arcana9"));
         QCOMPARE(s.Types[1].Count, 1);
         QStringList months;
-        for (const NamedCount& m : s.Months) months << m.Name + QLatin1Char('=') + QString::number(m.Count);
-        QCOMPARE(months.join(QLatin1Char(' ')), QStringLiteral("2024/01=2 2024/02=3 2024/03=2"));
+        for (const MonthCount& m : s.Months) months << MonthText(m.Month) + QLatin1Char('=') + QString::number(m.Count);
+        QCOMPARE(months.join(QLatin1Char(' ')), QStringLiteral("Jan 2024=2 Feb 2024=3 Mar 2024=2"));
         JournalQuery range;
         range.From = {2023, 12, 1};
         range.To = {2024, 1, 31};
@@ -238,6 +250,75 @@ private slots:
         QCOMPARE(locations[1].Cards.size(), std::size_t(1));
         QCOMPARE(locations[1].Cards[0].Number, Integer(5));
         QCOMPARE(locations[2].Cards[0].Number, Integer(1));
+    }
+
+    // Every text a chart draws, on the screen and in a saved picture: whole
+    // where it has room, cut only where its box is narrower than it, inside
+    // the chart and clear of every other text.
+    void chartTextsFit_data() {
+        QTest::addColumn<ChartData>("chart");
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QStringList>("whole");   // texts that must be drawn uncut
+        const JournalStatistics s = TallyJournal(journal_, SearchJournal(journal_, {}), catalogue_, {});
+        ChartData cards = CardsChart(s, 20);
+        for (int n = 30; cards.Bars.size() < 20; --n) cards.Bars.push_back({QStringLiteral("Card %1 (Tarot)").arg(n), 1, 0});
+        QTest::newRow("twenty cards and the legend") << cards << QSize(480, 360)
+                                                     << QStringList{"Upright", "Reversed", "Card 4 (no longer installed)"};
+        QTest::newRow("card types with room to spare") << TypesChart(s) << QSize(560, 200)
+                                                       << QStringList{"Major Arcana", "Minor Arcana"};
+        ChartData months;
+        months.Shape = ChartShape::Columns;
+        months.FirstNumber = 2015 * 12;
+        for (int m = 2015 * 12; m < 2025 * 12; ++m) months.Bars.push_back({MonthText(m), m % 7, 0});
+        QTest::newRow("120 months") << months << QSize(760, 300) << QStringList{"Jan 2015", "0", "6"};
+    }
+
+    void chartTextsFit() {
+        QFETCH(ChartData, chart);
+        QFETCH(QSize, size);
+        QFETCH(QStringList, whole);
+        JournalChart widget;
+        widget.setChart(chart);
+        const QImage picture(size, QImage::Format_RGB32);
+        for (const QPaintDevice* surface : {static_cast<const QPaintDevice*>(&widget), static_cast<const QPaintDevice*>(&picture)}) {
+            const QFontMetricsF metrics(widget.font(), surface);
+            const ChartDrawing drawing = widget.Layout(size, *surface);
+            QStringList drawn;
+            for (const ChartText& t : drawing.Texts) {
+                drawn << t.Text;
+                QVERIFY2(metrics.horizontalAdvance(t.Text) <= t.Box.width() && metrics.height() <= t.Box.height() + 0.01,
+                         qPrintable(t.Text));
+                QVERIFY2(QRectF(QPointF(0, 0), size).contains(t.Box), qPrintable(t.Text));
+                QVERIFY2(t.Text == t.Full || metrics.horizontalAdvance(t.Full) > t.Box.width(), qPrintable(t.Full));
+                for (const ChartText& other : drawing.Texts) {
+                    const QRectF overlap = other.Box & t.Box;   // rows that only touch may share a rounding error
+                    QVERIFY2(&other == &t || overlap.width() < 0.01 || overlap.height() < 0.01,
+                             qPrintable(t.Text + " / " + other.Text));
+                }
+            }
+            for (const QString& text : whole) QVERIFY2(drawn.contains(text), qPrintable(text));
+        }
+    }
+
+    // The print: chart texts of 8 points or more, each in a box it fits, the
+    // table's headings apart, a removed deck's card named once in brackets.
+    void printedStatistics() {
+        RecordingPrinter printer;
+        PrintJournalStatistics(printer, TallyJournal(journal_, SearchJournal(journal_, {}), catalogue_, {}), 20);
+        QStringList boxed;
+        for (const PrinterCall& call : printer.CallsOf(QStringLiteral("PrintInBox"))) {
+            boxed << call.Text;
+            QVERIFY2(call.Size >= 8, qPrintable(call.Text));
+            QVERIFY2(printer.TextWidth(call.Text) <= call.W, qPrintable(call.Text));
+        }
+        for (const QString& legend : {"Upright", "Reversed", "Card 4 (no longer installed)", "Jan 2024"})
+            QVERIFY2(boxed.contains(legend), qPrintable(legend));
+        QVERIFY(!boxed.join(QLatin1Char('|')).contains(QLatin1String("((")));
+        QList<PrinterCall> headings;
+        for (const PrinterCall& call : printer.CallsOf(QStringLiteral("PrintInBox")))
+            if (call.Bold) headings << call;
+        QCOMPARE(headings.size(), 4);
+        for (int i = 1; i < headings.size(); ++i) QVERIFY(headings[i - 1].X + headings[i - 1].W < headings[i].X);
     }
 
     void csvAndNothingWritten() {
@@ -261,11 +342,45 @@ private slots:
         QCOMPARE(Snapshot(dir_.path()), before);
     }
 
+    // The screen shows every text whole on each tab; the card table keeps
+    // its figures in view and its rows in the chart's order, ties and all;
+    // the locations run from the first.
+    void screenShowsTheStatistics() {
+        frmJournal& screen = Get<frmJournal>();
+        screen.Show();
+        for (int tab = 0; tab < screen.tabJournal->count(); ++tab) {
+            screen.tabJournal->setCurrentIndex(tab);
+            QCoreApplication::processEvents();
+            QCOMPARE(TextsThatDoNotFit(screen).join(QLatin1Char('\n')), QString());
+        }
+        screen.tabJournal->setCurrentIndex(1);
+        QCoreApplication::processEvents();
+        const QHeaderView* header = screen.grdCards->horizontalHeader();
+        for (int figure = 0; figure < 3; ++figure)
+            QVERIFY(header->sectionViewportPosition(figure) + header->sectionSize(figure) <= header->viewport()->width());
+        const JournalStatistics s = TallyJournal(journal_, SearchJournal(journal_, {}), catalogue_, {});
+        const QAbstractItemModel* cards = screen.grdCards->model();
+        QCOMPARE(cards->rowCount(), static_cast<int>(s.Cards.size()));
+        for (int row = 0; row < cards->rowCount(); ++row)
+            QCOMPARE(cards->index(row, 3).data().toString() + '|' + cards->index(row, 4).data().toString(),
+                     s.Cards[static_cast<std::size_t>(row)].Title + '|' + s.Cards[static_cast<std::size_t>(row)].DeckName);
+        screen.cboLocationSpread->setCurrentIndex(screen.cboLocationSpread->findText(QStringLiteral("Cross")));
+        QStringList locations;
+        for (int row = 0; row < screen.grdLocations->model()->rowCount(); ++row)
+            locations << screen.grdLocations->model()->index(row, 0).data().toString();
+        QCOMPARE(locations.join(QLatin1Char(' ')), QStringLiteral("1 2 3"));
+        screen.grdResults->sortByColumn(2, Qt::AscendingOrder);
+        QCOMPARE(screen.grdResults->model()->index(0, 2).data().toString(), QStringLiteral("Bad date"));
+        UnloadScreen<frmJournal>();
+    }
+
     // The screen: typing selects, opening goes the Past screens' way.
     void screenSearchesAndOpens() {
         Get<frmJournal>().Show();
         QTest::keyClicks(Get<frmJournal>().txtWords, QStringLiteral("anna"));
         QTRY_COMPARE(Get<frmJournal>().grdResults->model()->rowCount(), 1);
+        QVERIFY(Get<frmJournal>().lblSummary->text().startsWith(QLatin1String("1 entry;")));
+        QCOMPARE(Get<frmJournal>().grdResults->model()->index(0, 0).data().toString(), QStringLiteral("1/15/24"));
         Get<frmJournal>().grdResults->selectRow(0);
         Get<frmJournal>().cmdOpen->click();
         QTRY_VERIFY(IsLoaded<frmNewReading>() && !IsLoaded<frmJournal>());

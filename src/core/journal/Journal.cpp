@@ -1,7 +1,10 @@
 #include "core/journal/Journal.h"
 
+#include <QColor>
+#include <QCoreApplication>
 #include <QHash>
-#include <QImage>
+#include <QLocale>
+#include <QRect>
 #include <QSet>
 #include <algorithm>
 #include <bit>
@@ -12,6 +15,7 @@
 
 #include "core/platform/CodePage.h"
 #include "core/platform/OleDate.h"
+#include "core/platform/Palette.h"
 #include "core/platform/Printer.h"
 #include "core/records/RecordFile.h"
 #include "core/store/RunState.h"
@@ -192,6 +196,7 @@ CardTally NewTally(const JournalCatalogue& catalogue, Integer deckId, Integer nu
     if (!deck) {
         tally.Title = QStringLiteral("Card %1").arg(number);
         tally.DeckName = QStringLiteral("(no longer installed)");
+        tally.DeckInstalled = false;
         return tally;
     }
     const JournalCard& card = deck->Cards[static_cast<std::size_t>(number - 1)];
@@ -293,7 +298,7 @@ private:
 
 // Months from the query's range where it is set, else from the entries'
 // first and last; a range too wide to show falls back to the entries'.
-std::vector<NamedCount> MonthsOf(const MonthCounter& perMonth, const JournalQuery& query) {
+std::vector<MonthCount> MonthsOf(const MonthCounter& perMonth, const JournalQuery& query) {
     constexpr int WidestRange = 1200;
     if (perMonth.Empty() && (query.From.isNull() || query.To.isNull())) return {};
     int first = query.From.isNull() ? perMonth.First() : MonthIndex(query.From);
@@ -302,11 +307,8 @@ std::vector<NamedCount> MonthsOf(const MonthCounter& perMonth, const JournalQuer
         first = perMonth.First();
         last = perMonth.Last();
     }
-    std::vector<NamedCount> months;
-    for (int m = first; m <= last && last - first < WidestRange; ++m)
-        months.push_back({QStringLiteral("%1/%2").arg(m / 12, 4, 10, QLatin1Char('0')).arg(m % 12 + 1, 2, 10,
-                                                                                            QLatin1Char('0')),
-                          perMonth.At(m)});
+    std::vector<MonthCount> months;
+    for (int m = first; m <= last && last - first < WidestRange; ++m) months.push_back({m, perMonth.At(m)});
     return months;
 }
 
@@ -321,6 +323,16 @@ QString LocationTitleOf(const JournalCatalogue& catalogue, Integer spreadId, int
     const JournalSpread* spread = catalogue.Spread(spreadId);
     if (!spread || location > static_cast<int>(spread->LocationTitles.size())) return {};
     return spread->LocationTitles[static_cast<std::size_t>(location - 1)];
+}
+
+// The CSV's date and kind of an entry: the program's own date format and
+// words, so that a spreadsheet reads the file alike in every language.
+QString EntryDateText(const JournalEntry& entry) {
+    return entry.Date.isValid() ? entry.Date.toString(QStringLiteral("yyyy/MM/dd")) : QString();
+}
+
+QString EntryKindText(EntryKind kind) {
+    return kind == EntryKind::Reading ? QStringLiteral("Reading") : QStringLiteral("Diary");
 }
 
 QByteArray CsvField(const QString& text) {
@@ -498,14 +510,6 @@ std::vector<LocationTally> TallyLocations(const Journal& journal, const std::vec
     return locations;
 }
 
-QString EntryDateText(const JournalEntry& entry) {
-    return entry.Date.isValid() ? entry.Date.toString(QStringLiteral("yyyy/MM/dd")) : QString();
-}
-
-QString EntryKindText(EntryKind kind) {
-    return kind == EntryKind::Reading ? QStringLiteral("Reading") : QStringLiteral("Diary");
-}
-
 QString EntrySpreadText(const JournalEntry& entry, const JournalCatalogue& catalogue) {
     if (entry.Locked) return {};
     const JournalSpread* spread = catalogue.Spread(entry.SpreadId);
@@ -543,58 +547,161 @@ QByteArray JournalCsv(const Journal& journal, const std::vector<int>& selected,
     return csv;
 }
 
-void PrintJournalStatistics(Printer& printer, const JournalStatistics& statistics, const QImage& cardsChart,
-                            const QImage& monthsChart) {
-    constexpr int Margin = 1080;   // three quarters of an inch
-    const int width = printer.Width() - 2 * Margin;
-    const auto line = [&](const QString& text) {
-        if (printer.CurrentY + printer.TextHeight() > printer.Height() - Margin) {
+QString CardLabel(const CardTally& card) {
+    return QCoreApplication::translate("Journal", "%1 (%2)")
+        .arg(card.Title, card.DeckInstalled ? card.DeckName
+                                            : QCoreApplication::translate("Journal", "no longer installed"));
+}
+
+QString MonthText(int month) {
+    return QLocale().toString(QDate(month / 12, month % 12 + 1, 1), QStringLiteral("MMM yyyy"));
+}
+
+ChartData CardsChart(const JournalStatistics& statistics, std::size_t top) {
+    ChartData chart{ChartShape::Bars, {}, QCoreApplication::translate("Journal", "Upright"),
+                    QCoreApplication::translate("Journal", "Reversed")};
+    for (std::size_t i = 0; i < statistics.Cards.size() && i < top; ++i)
+        chart.Bars.push_back({CardLabel(statistics.Cards[i]), statistics.Cards[i].Upright, statistics.Cards[i].Reversed});
+    return chart;
+}
+
+ChartData TypesChart(const JournalStatistics& statistics) {
+    ChartData chart;
+    for (const NamedCount& type : statistics.Types) chart.Bars.push_back({type.Name, type.Count, 0});
+    return chart;
+}
+
+ChartData FacingChart(const JournalStatistics& statistics) {
+    ChartData chart;
+    // Each in its colour of the cards chart.
+    chart.Bars = {{QCoreApplication::translate("Journal", "Upright"), statistics.Upright, 0},
+                  {QCoreApplication::translate("Journal", "Reversed"), 0, statistics.Reversed}};
+    return chart;
+}
+
+ChartData MonthsChart(const JournalStatistics& statistics) {
+    ChartData chart;
+    chart.Shape = ChartShape::Columns;
+    if (!statistics.Months.empty()) chart.FirstNumber = statistics.Months.front().Month;
+    for (const MonthCount& month : statistics.Months) chart.Bars.push_back({MonthText(month.Month), month.Count, 0});
+    return chart;
+}
+
+namespace {
+
+constexpr int PrintMargin = 1080;     // three quarters of an inch
+constexpr int PrintChartFont = 9;     // points: small, but read at arm's length
+constexpr int PrintGap = 240;         // twips between the columns of the table
+
+// A long colour (&HBBGGRR) as the printer takes it.
+int LongColour(const QColor& colour) { return colour.red() | colour.green() << 8 | colour.blue() << 16; }
+
+// Draws a chart's layout on the printer in the chart's font.
+void PrintChart(Printer& printer, const ChartData& chart, const QRect& box) {
+    printer.FontSize = PrintChartFont;
+    const ChartMetrics metrics{[&](const QString& text) { return double(printer.TextWidth(text)); },
+                               double(printer.TextHeight()), 90, 15};
+    const ChartDrawing drawing = LayOutChart(chart, box, metrics);
+    for (const ChartBlock& block : drawing.Blocks) {
+        const QRect r = block.Box.toAlignedRect();
+        const int colour = block.Ink == ChartInk::First    ? LongColour(QBColor(CurrentLocationColour))
+                           : block.Ink == ChartInk::Second ? LongColour(QBColor(OtherLocationColour))
+                           : block.Ink == ChartInk::Axis   ? 0x808080
+                                                           : 0xE0E0E0;
+        printer.FillRect(r.x(), r.y(), r.width(), r.height(), colour);
+    }
+    for (const ChartText& text : drawing.Texts) {
+        const QRect r = text.Box.toAlignedRect();
+        printer.PrintInBox(text.Text, r.x(), r.y(), r.width(), r.height(), text.Align);
+    }
+}
+
+}  // namespace
+
+void PrintJournalStatistics(Printer& printer, const JournalStatistics& statistics, std::size_t top) {
+    const int width = printer.Width() - 2 * PrintMargin;
+    const auto room = [&](int height) {
+        if (printer.CurrentY + height > printer.Height() - PrintMargin) {
             printer.NewPage();
-            printer.CurrentY = Margin;
+            printer.CurrentY = PrintMargin;
         }
-        printer.CurrentX = Margin;
+    };
+    const auto line = [&](const QString& text) {
+        room(printer.TextHeight());
+        printer.CurrentX = PrintMargin;
         printer.Print(text);
     };
-    const auto picture = [&](const QImage& image) {
-        if (image.isNull()) return;
-        const int height = width * image.height() / std::max(1, image.width());
-        if (printer.CurrentY + height > printer.Height() - Margin) {
-            printer.NewPage();
-            printer.CurrentY = Margin;
-        }
-        printer.PaintPicture(image, Margin, printer.CurrentY, width, height);
-        printer.CurrentY += height + 240;
-    };
+    const auto number = [](int n) { return QLocale().toString(n); };
 
-    printer.CurrentY = Margin;
+    printer.CurrentY = PrintMargin;
     printer.FontSize = 14;
     printer.FontBold = true;
-    line(QStringLiteral("Journal Statistics"));
+    line(QCoreApplication::translate("Journal", "Journal Statistics"));
     printer.FontSize = 10;
     printer.FontBold = false;
-    line(QStringLiteral("Entries: %1").arg(statistics.Entries));
-    line(QStringLiteral("Locked, not counted: %1").arg(statistics.Locked));
-    line(QStringLiteral("Not attributable to a present card: %1").arg(statistics.Unattributable));
-    line(QStringLiteral("Upright: %1    Reversed: %2").arg(statistics.Upright).arg(statistics.Reversed));
-    for (const NamedCount& type : statistics.Types) line(QStringLiteral("%1: %2").arg(type.Name).arg(type.Count));
-    line(QString());
-    picture(cardsChart);
-    picture(monthsChart);
-    // The table: three columns of figures, then the card.
-    const auto row = [&](const QStringList& cells) {
+    line(QCoreApplication::translate("Journal", "Entries: %1").arg(number(statistics.Entries)));
+    line(QCoreApplication::translate("Journal", "Locked, not counted: %1").arg(number(statistics.Locked)));
+    line(QCoreApplication::translate("Journal", "Not attributable to a present card: %1").arg(number(statistics.Unattributable)));
+    line(QCoreApplication::translate("Journal", "Upright: %1    Reversed: %2").arg(number(statistics.Upright), number(statistics.Reversed)));
+    for (const NamedCount& type : statistics.Types) line(QCoreApplication::translate("Journal", "%1: %2").arg(type.Name, number(type.Count)));
+
+    // Each chart under a heading, as tall as its bars need at the chart's font.
+    const auto chart = [&](const QString& heading, const ChartData& data, int height) {
+        printer.FontSize = 10;
+        printer.FontBold = true;
+        room(printer.TextHeight() * 2 + height);
         line(QString());
-        const int y = printer.CurrentY - printer.TextHeight();
-        for (int c = 0; c < cells.size(); ++c) {
-            printer.CurrentX = Margin + c * 1080;
-            printer.CurrentY = y;
-            printer.Print(cells[c]);
-        }
+        line(heading);
+        printer.FontBold = false;
+        PrintChart(printer, data, QRect(PrintMargin, printer.CurrentY, width, height));
+        printer.FontSize = 10;
+        printer.CurrentY += height;
     };
+    const ChartData cards = CardsChart(statistics, top);
+    printer.FontSize = PrintChartFont;
+    const int chartLine = printer.TextHeight();
+    chart(QCoreApplication::translate("Journal", "The Cards That Came Up Most"), cards,
+          chartLine * (static_cast<int>(cards.Bars.size()) + 2) * 5 / 4 + 4 * 90);
+    chart(QCoreApplication::translate("Journal", "Entries per Month"), MonthsChart(statistics), chartLine * 16);
+
+    // The table: three columns of figures, each as wide as its widest text,
+    // then the card in the width left; the headings again on each new page.
+    const QString headings[] = {QCoreApplication::translate("Journal", "Total"), QCoreApplication::translate("Journal", "Upright"), QCoreApplication::translate("Journal", "Reversed"), QCoreApplication::translate("Journal", "Card")};
+    int columns[3] = {0, 0, 0};
     printer.FontBold = true;
-    row({QStringLiteral("Total"), QStringLiteral("Upright"), QStringLiteral("Reversed"), QStringLiteral("Card")});
+    for (int c = 0; c < 3; ++c) columns[c] = printer.TextWidth(headings[c]);
     printer.FontBold = false;
-    for (const CardTally& card : statistics.Cards)
-        row({QString::number(card.Total()), QString::number(card.Upright), QString::number(card.Reversed),
-             card.Title + QStringLiteral(" (") + card.DeckName + QLatin1Char(')')});
+    for (const CardTally& card : statistics.Cards) {
+        const int figures[] = {card.Total(), card.Upright, card.Reversed};
+        for (int c = 0; c < 3; ++c) columns[c] = std::max(columns[c], printer.TextWidth(number(figures[c])));
+    }
+    const auto row = [&](const QString (&cells)[4]) {
+        const int height = printer.TextHeight();
+        int x = PrintMargin;
+        for (int c = 0; c < 3; ++c) {
+            printer.PrintInBox(cells[c], x, printer.CurrentY, columns[c], height, Qt::AlignRight | Qt::AlignVCenter);
+            x += columns[c] + PrintGap;
+        }
+        const int rest = PrintMargin + width - x;
+        printer.PrintInBox(ElideToWidth(cells[3], rest, [&](const QString& t) { return double(printer.TextWidth(t)); }),
+                           x, printer.CurrentY, rest, height, Qt::AlignLeft | Qt::AlignVCenter);
+        printer.CurrentY += height;
+    };
+    const auto headingRow = [&] {
+        printer.FontBold = true;
+        row(headings);
+        printer.FontBold = false;
+    };
+    printer.FontSize = 10;
+    line(QString());
+    room(printer.TextHeight() * 2);
+    headingRow();
+    for (const CardTally& card : statistics.Cards) {
+        if (printer.CurrentY + printer.TextHeight() > printer.Height() - PrintMargin) {
+            room(printer.Height());
+            headingRow();
+        }
+        row({number(card.Total()), number(card.Upright), number(card.Reversed), CardLabel(card)});
+    }
     printer.EndDoc();
 }

@@ -16,10 +16,10 @@
 #include <string_view>
 #include <vector>
 
+#include "core/journal/ChartLayout.h"
 #include "core/records/Records.h"
 
 class Printer;
-class QImage;
 
 enum class Facing { Any, Upright, Reversed };
 
@@ -132,6 +132,7 @@ struct CardTally {
     QString Title;
     QString DeckName;
     QString TypeName;   // empty when the card is not in the deck now
+    bool DeckInstalled = true;
     int Upright = 0;
     int Reversed = 0;
     int Total() const { return Upright + Reversed; }
@@ -139,6 +140,11 @@ struct CardTally {
 
 struct NamedCount {
     QString Name;
+    int Count = 0;
+};
+
+struct MonthCount {
+    int Month = 0;   // as JournalEntry::Month
     int Count = 0;
 };
 
@@ -150,7 +156,7 @@ struct JournalStatistics {
     int Reversed = 0;
     std::vector<CardTally> Cards;   // most frequent first, then by deck and number
     std::vector<NamedCount> Types;  // by the type names of the decks, most frequent first
-    std::vector<NamedCount> Months; // "yyyy/mm", every month from the first to the last
+    std::vector<MonthCount> Months; // every month from the first to the last
 };
 
 JournalStatistics TallyJournal(const Journal& journal, const std::vector<int>& selected,
@@ -166,9 +172,20 @@ struct LocationTally {
 std::vector<LocationTally> TallyLocations(const Journal& journal, const std::vector<int>& selected,
                                           const JournalCatalogue& catalogue, Integer spreadId, int top);
 
-// What the results list shows of an entry.
-QString EntryDateText(const JournalEntry& entry);
-QString EntryKindText(EntryKind kind);
+// A card as the charts, the locations and the print name it: its title and
+// its deck.
+QString CardLabel(const CardTally& card);
+// A month as the user's language writes it, short.
+QString MonthText(int month);
+
+// The charts of the statistics: the cards that came up most (upright and
+// reversed), the card types, upright against reversed, entries a month.
+ChartData CardsChart(const JournalStatistics& statistics, std::size_t top);
+ChartData TypesChart(const JournalStatistics& statistics);
+ChartData FacingChart(const JournalStatistics& statistics);
+ChartData MonthsChart(const JournalStatistics& statistics);
+
+// An entry's spread and deck as the results list and the CSV show them.
 QString EntrySpreadText(const JournalEntry& entry, const JournalCatalogue& catalogue);
 QString EntryDeckText(const JournalEntry& entry, const JournalCatalogue& catalogue);
 
@@ -179,7 +196,7 @@ QString EntryDeckText(const JournalEntry& entry, const JournalCatalogue& catalog
 QByteArray JournalCsv(const Journal& journal, const std::vector<int>& selected,
                       const JournalCatalogue& catalogue);
 
-// The statistics page on the printer: the figures, the two charts, the table
-// of cards. Ends the job.
-void PrintJournalStatistics(Printer& printer, const JournalStatistics& statistics, const QImage& cardsChart,
-                            const QImage& monthsChart);
+// The statistics on the printer: the figures, the cards chart (the `top`
+// cards) and the months chart drawn at the page's width, and the table of
+// every card. Ends the job.
+void PrintJournalStatistics(Printer& printer, const JournalStatistics& statistics, std::size_t top);

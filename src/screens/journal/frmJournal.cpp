@@ -1,5 +1,6 @@
 #include "screens/journal/frmJournal.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
@@ -7,8 +8,10 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
-#include <QStandardItemModel>
+#include <QSplitter>
+#include <QStyle>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTimer>
@@ -20,6 +23,7 @@
 #include "core/store/NewDesigns.h"
 #include "screens/diary/frmOpenDiary.h"
 #include "screens/journal/JournalCharts.h"
+#include "screens/journal/JournalModels.h"
 #include "screens/platform/CommonDialog.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/platform/QtPrinter.h"
@@ -29,34 +33,24 @@
 
 namespace {
 
-constexpr int TopCards = 20;        // cards in the bar chart
-constexpr int TopPerLocation = 3;   // cards named for each location
-constexpr int SearchDelay = 150;    // ms of quiet typing before the search runs
-const QSize PrintedChart(1200, 600);
+constexpr std::size_t TopCards = 20;   // cards in the bar chart
+constexpr int TopPerLocation = 3;      // cards named for each location
+constexpr int SearchDelay = 150;       // ms of quiet typing before the search runs
+constexpr int NameLength = 20;         // characters a box of designs' names shows at the least
 
-QTableView* MakeTable(QStandardItemModel* model, const QStringList& headings, QWidget* parent) {
-    model->setHorizontalHeaderLabels(headings);
+QTableView* MakeTable(JournalTable* model, int sortColumn, Qt::SortOrder order, QWidget* parent) {
     auto* view = new QTableView(parent);
     view->setModel(model);
+    view->horizontalHeader()->setSortIndicator(sortColumn, order);
     view->setSortingEnabled(true);
     view->setSelectionBehavior(QAbstractItemView::SelectRows);
     view->setSelectionMode(QAbstractItemView::SingleSelection);
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view->setWordWrap(false);
     view->verticalHeader()->hide();
     view->horizontalHeader()->setStretchLastSection(true);
     return view;
 }
-
-QStandardItem* Cell(const QString& text) { return new QStandardItem(text); }
-
-// A figure that sorts as a number.
-QStandardItem* Cell(int figure) {
-    auto* item = new QStandardItem;
-    item->setData(figure, Qt::DisplayRole);
-    return item;
-}
-
-QString CardLabel(const CardTally& card) { return card.Title + QStringLiteral(" (") + card.DeckName + QLatin1Char(')'); }
 
 // One row a card choice: its deck id and number.
 QVariant CardChoice(Integer deckId, int number) { return QPoint(deckId, number); }
@@ -65,29 +59,37 @@ QVariant CardChoice(Integer deckId, int number) { return QPoint(deckId, number);
 
 frmJournal::frmJournal() {
     setObjectName(QStringLiteral("frmJournal"));
-    setCaption(QStringLiteral("Journal"));
+    setCaption(tr("Journal"));
     resize(TwipsToPixels(12000), TwipsToPixels(8400));
 
     txtWords = new QLineEdit(this);
     cboCard = new QComboBox(this);
     cboOrientation = new QComboBox(this);
-    cboOrientation->addItems({QStringLiteral("Either Way"), QStringLiteral("Upright"), QStringLiteral("Reversed")});
+    cboOrientation->addItems({tr("Either Way"), tr("Upright"), tr("Reversed")});
     cboSpread = new QComboBox(this);
     cboDeck = new QComboBox(this);
     cboKind = new QComboBox(this);
-    cboKind->addItems({QStringLiteral("Readings and Diaries"), QStringLiteral("Readings"), QStringLiteral("Diaries")});
-    chkFrom = new QCheckBox(QStringLiteral("&From:"), this);
+    cboKind->addItems({tr("Readings and Diaries"), tr("Readings"), tr("Diaries")});
+    chkFrom = new QCheckBox(tr("&From:"), this);
     dtpFrom = new QDateEdit(this);
-    chkTo = new QCheckBox(QStringLiteral("&To:"), this);
+    chkTo = new QCheckBox(tr("&To:"), this);
     dtpTo = new QDateEdit(this);
     for (QDateEdit* date : {dtpFrom, dtpTo}) {
-        date->setDisplayFormat(QStringLiteral("yyyy/MM/dd"));
+        // The user's own way of writing a date, with the year in full.
+        QString format = QLocale().dateFormat(QLocale::ShortFormat);
+        if (!format.contains(QStringLiteral("yyyy"))) format.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
+        date->setDisplayFormat(format);
         date->setCalendarPopup(true);
         date->setMinimumDate(QDate(1900, 1, 1));
         date->setEnabled(false);
     }
-    QComboBox* combos[] = {cboCard, cboOrientation, cboSpread, cboDeck, cboKind};
-    for (QComboBox* combo : combos) combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    // The fixed choices show whole; the boxes of names show a fair length of
+    // a name, and their lists open as wide as the longest.
+    for (QComboBox* combo : {cboOrientation, cboKind}) combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    for (QComboBox* combo : {cboCard, cboSpread, cboDeck}) {
+        combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        combo->setMinimumContentsLength(NameLength);
+    }
 
     auto* filters = new QGridLayout;
     const auto labelled = [&](const QString& caption, QWidget* control, int row, int column) {
@@ -96,12 +98,12 @@ frmJournal::frmJournal() {
         filters->addWidget(label, row, column);
         filters->addWidget(control, row, column + 1);
     };
-    labelled(QStringLiteral("&Words:"), txtWords, 0, 0);
-    labelled(QStringLiteral("C&ard:"), cboCard, 0, 2);
-    labelled(QStringLiteral("&Orientation:"), cboOrientation, 0, 4);
-    labelled(QStringLiteral("&Spread:"), cboSpread, 1, 0);
-    labelled(QStringLiteral("&Deck:"), cboDeck, 1, 2);
-    labelled(QStringLiteral("&Kind:"), cboKind, 1, 4);
+    labelled(tr("&Words:"), txtWords, 0, 0);
+    labelled(tr("C&ard:"), cboCard, 0, 2);
+    labelled(tr("&Orientation:"), cboOrientation, 0, 4);
+    labelled(tr("&Spread:"), cboSpread, 1, 0);
+    labelled(tr("&Deck:"), cboDeck, 1, 2);
+    labelled(tr("&Kind:"), cboKind, 1, 4);
     filters->addWidget(chkFrom, 2, 0);
     filters->addWidget(dtpFrom, 2, 1);
     filters->addWidget(chkTo, 2, 2);
@@ -111,53 +113,56 @@ frmJournal::frmJournal() {
     filters->setColumnStretch(5, 1);
 
     tabJournal = new QTabWidget(this);
-    mdlResults = new QStandardItemModel(this);
-    grdResults = MakeTable(mdlResults, {QStringLiteral("Date"), QStringLiteral("Kind"), QStringLiteral("Name"),
-                                        QStringLiteral("Spread"), QStringLiteral("Deck"), QStringLiteral("Cards")},
-                           this);
-    tabJournal->addTab(grdResults, QStringLiteral("&Results"));
+    mdlResults = new JournalResultsModel(journal_, catalogue_, this);
+    grdResults = MakeTable(mdlResults, 0, Qt::DescendingOrder, this);
+    tabJournal->addTab(grdResults, tr("&Results"));
 
-    auto* cardsPage = new QWidget(this);
-    auto* cardsLayout = new QHBoxLayout(cardsPage);
-    chtCards = new JournalChart(JournalChart::Shape::Bars, QStringLiteral("upright"), QStringLiteral("reversed"));
-    mdlCards = new QStandardItemModel(this);
-    grdCards = MakeTable(mdlCards, {QStringLiteral("Card"), QStringLiteral("Deck"), QStringLiteral("Type"),
-                                    QStringLiteral("Upright"), QStringLiteral("Reversed"), QStringLiteral("Total")},
-                         cardsPage);
-    cardsLayout->addWidget(chtCards, 3);
-    cardsLayout->addWidget(grdCards, 2);
-    tabJournal->addTab(cardsPage, QStringLiteral("&Cards"));
+    // The chart and the table side by side, the divide movable; the figures
+    // lead the table, as in print, so that they are on show at any width.
+    auto* cardsPage = new QSplitter(this);
+    chtCards = new JournalChart(cardsPage);
+    mdlCards = new JournalCardsModel(this);
+    grdCards = MakeTable(mdlCards, 0, Qt::DescendingOrder, cardsPage);
+    cardsPage->addWidget(chtCards);
+    cardsPage->addWidget(grdCards);
+    cardsPage->setStretchFactor(0, 1);
+    cardsPage->setStretchFactor(1, 1);
+    cardsPage->setChildrenCollapsible(false);
+    tabJournal->addTab(cardsPage, tr("&Cards"));
 
     auto* balancePage = new QWidget(this);
     auto* balanceLayout = new QVBoxLayout(balancePage);
-    chtTypes = new JournalChart(JournalChart::Shape::Bars, QString(), QString());
-    chtFacing = new JournalChart(JournalChart::Shape::Bars, QString(), QString());
+    chtTypes = new JournalChart(balancePage);
+    chtFacing = new JournalChart(balancePage);
     balanceLayout->addWidget(chtTypes, 3);
     balanceLayout->addWidget(chtFacing, 1);
-    tabJournal->addTab(balancePage, QStringLiteral("&Balance"));
+    tabJournal->addTab(balancePage, tr("&Balance"));
 
     auto* locationsPage = new QWidget(this);
     auto* locationsLayout = new QVBoxLayout(locationsPage);
     cboLocationSpread = new QComboBox(locationsPage);
-    mdlLocations = new QStandardItemModel(this);
-    grdLocations = MakeTable(mdlLocations, {QStringLiteral("Location"), QStringLiteral("Title"),
-                                            QStringLiteral("Cards Most Often There")},
-                             locationsPage);
-    locationsLayout->addWidget(cboLocationSpread);
+    cboLocationSpread->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    cboLocationSpread->setMinimumContentsLength(NameLength);
+    mdlLocations = new JournalLocationsModel(this);
+    grdLocations = MakeTable(mdlLocations, 0, Qt::AscendingOrder, locationsPage);
+    grdLocations->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    locationsLayout->addWidget(cboLocationSpread, 0, Qt::AlignLeft);
     locationsLayout->addWidget(grdLocations);
-    tabJournal->addTab(locationsPage, QStringLiteral("&Locations"));
+    tabJournal->addTab(locationsPage, tr("&Locations"));
 
-    chtMonths = new JournalChart(JournalChart::Shape::Columns, QString(), QString());
-    tabJournal->addTab(chtMonths, QStringLiteral("&Months"));
+    chtMonths = new JournalChart(this);
+    tabJournal->addTab(chtMonths, tr("&Months"));
 
+    // The summary on a line of its own, wrapped, so that no figure is cut.
     lblSummary = new QLabel(this);
-    cmdOpen = new QPushButton(QStringLiteral("O&pen"), this);
-    cmdExport = new QPushButton(QStringLiteral("&Export CSV..."), this);
-    cmdSaveChart = new QPushButton(QStringLiteral("Save C&hart..."), this);
-    cmdPrint = new QPushButton(QStringLiteral("Pri&nt..."), this);
-    cmdClose = new QPushButton(QStringLiteral("C&lose"), this);
+    lblSummary->setWordWrap(true);
+    cmdOpen = new QPushButton(tr("O&pen"), this);
+    cmdExport = new QPushButton(tr("&Export CSV..."), this);
+    cmdSaveChart = new QPushButton(tr("Save C&hart..."), this);
+    cmdPrint = new QPushButton(tr("Pri&nt..."), this);
+    cmdClose = new QPushButton(tr("C&lose"), this);
     auto* buttons = new QHBoxLayout;
-    buttons->addWidget(lblSummary, 1);
+    buttons->addStretch(1);
     for (QPushButton* button : {cmdOpen, cmdExport, cmdSaveChart, cmdPrint, cmdClose}) {
         button->setAutoDefault(false);
         buttons->addWidget(button);
@@ -166,6 +171,7 @@ frmJournal::frmJournal() {
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(filters);
     layout->addWidget(tabJournal, 1);
+    layout->addWidget(lblSummary);
     layout->addLayout(buttons);
 
     tmrSearch = new QTimer(this);
@@ -173,7 +179,7 @@ frmJournal::frmJournal() {
     tmrSearch->setInterval(SearchDelay);
     connect(tmrSearch, &QTimer::timeout, this, Handler([this] { Search(); }));
     connect(txtWords, &QLineEdit::textChanged, tmrSearch, qOverload<>(&QTimer::start));
-    for (QComboBox* combo : combos)
+    for (QComboBox* combo : {cboCard, cboOrientation, cboSpread, cboDeck, cboKind})
         connect(combo, &QComboBox::currentIndexChanged, this, Handler([this] { Search(); }));
     for (QDateEdit* date : {dtpFrom, dtpTo}) connect(date, &QDateEdit::dateChanged, tmrSearch, qOverload<>(&QTimer::start));
     connect(chkFrom, &QCheckBox::toggled, this, Handler([this] {
@@ -203,6 +209,12 @@ void frmJournal::Form_Load() {
     FillChoices();
     cmdSaveChart->setEnabled(false);
     Search();
+    // Columns take the width of what they first show and keep it while the
+    // user types; sizing them at each search would read every row.
+    for (QTableView* table : {grdResults, grdCards}) {
+        table->horizontalHeader()->setResizeContentsPrecision(200);
+        table->resizeColumnsToContents();
+    }
     setMousePointer(MousePointer::Arrow);
 }
 
@@ -217,20 +229,24 @@ void frmJournal::FillChoices() {
     dtpTo->setDate(last.isNull() ? QDate::currentDate() : last);
 
     const QSignalBlocker blockCard(cboCard), blockSpread(cboSpread), blockDeck(cboDeck);
-    cboCard->addItem(QStringLiteral("(Any Card)"), CardChoice(-1, 0));
-    cboDeck->addItem(QStringLiteral("(Any Deck)"), -1);
+    cboCard->addItem(tr("(Any Card)"), CardChoice(-1, 0));
+    cboDeck->addItem(tr("(Any Deck)"), -1);
     for (const JournalDeck& deck : catalogue_.Decks) {
         cboDeck->addItem(deck.Name, deck.Id);
         for (std::size_t n = 0; n < deck.Cards.size(); ++n)
-            cboCard->addItem(deck.Cards[n].Title + QStringLiteral(" (") + deck.Name + QLatin1Char(')'),
+            cboCard->addItem(tr("%1 (%2)").arg(deck.Cards[n].Title, deck.Name),
                              CardChoice(deck.Id, static_cast<int>(n + 1)));
     }
-    cboSpread->addItem(QStringLiteral("(Any Spread)"), -1);
+    cboSpread->addItem(tr("(Any Spread)"), -1);
     for (const JournalSpread& spread : catalogue_.Spreads) {
         cboSpread->addItem(spread.Name, spread.Id);
         cboLocationSpread->addItem(spread.Name, spread.Id);
     }
-    for (QComboBox* combo : {cboCard, cboDeck, cboSpread, cboLocationSpread}) combo->model()->sort(0);
+    for (QComboBox* combo : {cboCard, cboDeck, cboSpread, cboLocationSpread}) {
+        combo->model()->sort(0);
+        // A name longer than the box shows whole in the open list.
+        combo->view()->setMinimumWidth(combo->view()->sizeHintForColumn(0) + 2 * combo->view()->frameWidth());
+    }
     cboCard->setCurrentIndex(cboCard->findData(CardChoice(-1, 0)));
     cboDeck->setCurrentIndex(cboDeck->findData(-1));
     cboSpread->setCurrentIndex(cboSpread->findData(-1));
@@ -263,62 +279,36 @@ void frmJournal::Search() {
 }
 
 void frmJournal::ShowResults() {
-    grdResults->setSortingEnabled(false);
-    mdlResults->removeRows(0, mdlResults->rowCount());
-    for (const int i : selected_) {
-        const JournalEntry& e = journal_.Entries[static_cast<std::size_t>(i)];
-        QList<QStandardItem*> row = {Cell(EntryDateText(e)), Cell(EntryKindText(e.Kind)), Cell(e.Name),
-                                     Cell(EntrySpreadText(e, catalogue_)), Cell(EntryDeckText(e, catalogue_)),
-                                     e.Locked ? Cell(QString()) : Cell(static_cast<int>(e.Cards.size()))};
-        row.front()->setData(i, Qt::UserRole);
-        if (e.Locked) row[2]->setToolTip(QStringLiteral("Locked: open it and give its password to see it"));
-        mdlResults->appendRow(row);
-    }
-    grdResults->setSortingEnabled(true);
-    grdResults->resizeColumnsToContents();
+    mdlResults->SetSelection(selected_);
     cmdOpen->setEnabled(!selected_.empty());
     if (!selected_.empty()) grdResults->selectRow(0);
 }
 
 void frmJournal::ShowStatistics() {
     const JournalStatistics& s = statistics_;
-    lblSummary->setText(QStringLiteral("%1 entries; %2 locked, not counted; %3 not attributable to a present card")
-                            .arg(s.Entries)
-                            .arg(s.Locked)
-                            .arg(s.Unattributable));
-    std::vector<ChartBar> top;
-    for (std::size_t i = 0; i < s.Cards.size() && i < static_cast<std::size_t>(TopCards); ++i)
-        top.push_back({CardLabel(s.Cards[i]), s.Cards[i].Upright, s.Cards[i].Reversed});
-    chtCards->setBars(std::move(top));
-
-    grdCards->setSortingEnabled(false);
-    mdlCards->removeRows(0, mdlCards->rowCount());
-    for (const CardTally& c : s.Cards)
-        mdlCards->appendRow({Cell(c.Title), Cell(c.DeckName), Cell(c.TypeName), Cell(c.Upright), Cell(c.Reversed),
-                             Cell(c.Total())});
-    grdCards->setSortingEnabled(true);
-    grdCards->sortByColumn(5, Qt::DescendingOrder);
-
-    std::vector<ChartBar> types;
-    for (const NamedCount& t : s.Types) types.push_back({t.Name, t.Count, 0});
-    chtTypes->setBars(std::move(types));
-    chtFacing->setBars({{QStringLiteral("Upright"), s.Upright, 0}, {QStringLiteral("Reversed"), s.Reversed, 0}});
-    std::vector<ChartBar> months;
-    for (const NamedCount& m : s.Months) months.push_back({m.Name, m.Count, 0});
-    chtMonths->setBars(std::move(months));
+    lblSummary->setText(tr("%1; %2; %3")
+                            .arg(tr("%Ln entries", "", s.Entries), tr("%Ln locked, not counted", "", s.Locked),
+                                 tr("%Ln not attributable to a present card", "", s.Unattributable)));
+    chtCards->setChart(CardsChart(s, TopCards));
+    mdlCards->SetCards(s.Cards);
+    // The figure columns as wide as their heading or the largest figure,
+    // worked out from the largest rather than by reading every row.
+    const int largest = s.Cards.empty() ? 0 : s.Cards.front().Total();
+    const int margin = 2 * (grdCards->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, grdCards) + 1);
+    for (int figure = 0; figure < 3; ++figure)
+        grdCards->setColumnWidth(figure, std::max(grdCards->horizontalHeader()->sectionSizeHint(figure),
+                                                  grdCards->fontMetrics().horizontalAdvance(QLocale().toString(largest)) + margin));
+    chtTypes->setChart(TypesChart(s));
+    chtFacing->setChart(FacingChart(s));
+    chtMonths->setChart(MonthsChart(s));
 }
 
 void frmJournal::ShowLocations() {
-    mdlLocations->removeRows(0, mdlLocations->rowCount());
-    if (cboLocationSpread->currentIndex() < 0) return;
     const auto spreadId = static_cast<Integer>(cboLocationSpread->currentData().toInt());
-    grdLocations->setSortingEnabled(false);
-    for (const LocationTally& l : TallyLocations(journal_, selected_, catalogue_, spreadId, TopPerLocation)) {
-        QStringList cards;
-        for (const CardTally& c : l.Cards) cards << QStringLiteral("%1 %2").arg(CardLabel(c)).arg(c.Total());
-        mdlLocations->appendRow({Cell(l.Location), Cell(l.Title), Cell(cards.join(QStringLiteral(", ")))});
-    }
-    grdLocations->setSortingEnabled(true);
+    mdlLocations->SetLocations(cboLocationSpread->currentIndex() < 0
+                                   ? std::vector<LocationTally>()
+                                   : TallyLocations(journal_, selected_, catalogue_, spreadId, TopPerLocation));
+    grdLocations->resizeColumnToContents(1);
 }
 
 JournalChart* frmJournal::ChartOnShow() const {
@@ -335,7 +325,7 @@ JournalChart* frmJournal::ChartOnShow() const {
 void frmJournal::cmdOpen_Click() {
     const QModelIndex current = grdResults->currentIndex();
     if (!current.isValid()) return;
-    const int i = mdlResults->item(current.row(), 0)->data(Qt::UserRole).toInt();
+    const int i = mdlResults->EntryAt(current.row());
     const JournalEntry& entry = journal_.Entries[static_cast<std::size_t>(i)];
     const QString name = entry.Name;
     bool opened = false;
@@ -355,9 +345,9 @@ void frmJournal::cmdOpen_Click() {
 
 void frmJournal::cmdExport_Click() {
     CommonDialog dialog;
-    dialog.DialogTitle = QStringLiteral("Export Results");
-    dialog.Filter = QStringLiteral("CSV Files (*.csv)|*.csv|All Files (*.*)|*.*");
-    dialog.FileName = QStringLiteral("Journal.csv");
+    dialog.DialogTitle = tr("Export Results");
+    dialog.Filter = tr("CSV Files (*.csv)|*.csv|All Files (*.*)|*.*");
+    dialog.FileName = tr("Journal.csv");
     dialog.Flags = CommonDialog::cdlOFNOverwritePrompt | CommonDialog::cdlOFNPathMustExist;
     if (!dialog.ShowSave()) return;
     WriteWholeFile(dialog.FileName, JournalCsv(journal_, selected_, catalogue_));
@@ -367,14 +357,13 @@ void frmJournal::cmdSaveChart_Click() {
     JournalChart* chart = ChartOnShow();
     if (!chart) return;
     CommonDialog dialog;
-    dialog.DialogTitle = QStringLiteral("Save Chart");
-    dialog.Filter = QStringLiteral("PNG Pictures (*.png)|*.png");
-    dialog.FileName = QStringLiteral("Chart.png");
+    dialog.DialogTitle = tr("Save Chart");
+    dialog.Filter = tr("PNG Pictures (*.png)|*.png");
+    dialog.FileName = tr("Chart.png");
     dialog.Flags = CommonDialog::cdlOFNOverwritePrompt | CommonDialog::cdlOFNPathMustExist;
     if (!dialog.ShowSave()) return;
     if (!chart->Render(chart->size()).save(dialog.FileName, "PNG"))
-        MsgBox(QStringLiteral("Unable to save the chart as '") + dialog.FileName + QStringLiteral("'."),
-               vbExclamation);
+        MsgBox(tr("Unable to save the chart as '%1'.").arg(dialog.FileName), vbExclamation);
 }
 
 void frmJournal::cmdPrint_Click() {
@@ -385,15 +374,12 @@ void frmJournal::cmdPrint_Click() {
         dialog.Flags = cdlPDNoPageNums | cdlPDNoSelection;
         ShowPrinter(dialog);
         chosen = true;
-        PrintJournalStatistics(CurrentPrinter(), statistics_, chtCards->Render(PrintedChart),
-                               chtMonths->Render(PrintedChart));
+        PrintJournalStatistics(CurrentPrinter(), statistics_, TopCards);
         CurrentPrinter().Close();
     } catch (const RuntimeError& error) {
         if (chosen) CurrentPrinter().Close();
         if (error.Number() == errCancel) return;
-        MsgBox(QStringLiteral("Unable to print! ") + QString::number(error.Number()) + QStringLiteral(" ") +
-                   error.Description(),
-               vbCritical);
+        MsgBox(tr("Unable to print! %1 %2").arg(error.Number()).arg(error.Description()), vbCritical);
     }
 }
 

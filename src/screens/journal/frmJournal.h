@@ -9,14 +9,16 @@
 #include "core/journal/Journal.h"
 #include "screens/platform/Form.h"
 
+class JournalCardsModel;
 class JournalChart;
+class JournalLocationsModel;
+class JournalResultsModel;
 class QCheckBox;
 class QComboBox;
 class QDateEdit;
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class QStandardItemModel;
 class QTabWidget;
 class QTableView;
 class QTimer;
@@ -77,7 +79,7 @@ private:
     std::vector<int> selected_;
     JournalStatistics statistics_;
     QTimer* tmrSearch = nullptr;
-    QStandardItemModel* mdlResults = nullptr;
-    QStandardItemModel* mdlCards = nullptr;
-    QStandardItemModel* mdlLocations = nullptr;
+    JournalResultsModel* mdlResults = nullptr;
+    JournalCardsModel* mdlCards = nullptr;
+    JournalLocationsModel* mdlLocations = nullptr;
 };

@@ -74,7 +74,18 @@ CartomarApplication::CartomarApplication(int& argc, char** argv, const QStringLi
     setDesktopFileName(QStringLiteral("com.ondinesoftware.Cartomar"));
     Q_INIT_RESOURCE(cartomar);
     setWindowIcon(QIcon(QStringLiteral(":/cartomar/cartomar-icon.png")));
+    // The English forms first: a language's catalogue, installed later,
+    // is asked before them, and they answer what it leaves unfinished.
+    InstallPluralForms();
     UseLanguages(languages);
+}
+
+void InstallPluralForms() {
+    QCoreApplication* app = QCoreApplication::instance();
+    if (app->findChild<QTranslator*>(QStringLiteral("PluralForms"), Qt::FindDirectChildrenOnly)) return;
+    auto* forms = new QTranslator(app);
+    forms->setObjectName(QStringLiteral("PluralForms"));
+    if (forms->load(QStringLiteral(":/i18n/cartomar_en.qm"))) QCoreApplication::installTranslator(forms);
 }
 
 bool CartomarApplication::notify(QObject* receiver, QEvent* event) {

@@ -29,6 +29,10 @@ QString ChooseLanguage(const QStringList& languages, const QStringList& translat
 // the language chosen, "" for English.
 QString UseLanguages(const QStringList& languages);
 
+// Installs, once, the English forms of the texts that count ("1 entry",
+// "2 entries"); the application does so when it starts.
+void InstallPluralForms();
+
 // The folder of the executable, with a trailing '/'.
 QString ExecutableFolder();
 // The executable's own file name, without its folder.
