@@ -1,0 +1,190 @@
+#include "core/decks/DeckStore.h"
+
+#include <QCoreApplication>
+#include <QSet>
+#include <array>
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include "core/platform/FileSys.h"
+#include "core/platform/OleDate.h"
+#include "core/records/RecordFile.h"
+#include "core/spreads/AllowedDecks.h"
+#include "core/store/DeckLoading.h"
+#include "core/store/DeletePasses.h"
+#include "core/store/DesignCommit.h"
+#include "core/store/Lookups.h"
+
+namespace {
+
+QString Tr(const char* text) { return QCoreApplication::translate("DeckStore", text); }
+
+// An error of the file pass is noted and the pass goes on.
+void NoteAndGoOn(QStringList& problems, const std::function<void()>& step) {
+    try {
+        step();
+    } catch (const RuntimeError& e) {
+        problems << Tr("Error number %1.  %2").arg(QString::number(e.Number()), e.Description());
+    }
+}
+
+// The final picture stems of one side, one per card: numbers upward whose
+// stem no file in Cards/ or Temp/ carries, the files of the deck being
+// replaced not counted.
+std::vector<QString> NameRow(int side, int count, const QStringList& going) {
+    std::vector<QString> row;
+    const TakenStems taken({CardsDir, TempDir}, going);
+    int n = 1;
+    for (int i = 0; i < count; ++i) {
+        while (taken.Contains(CardPictureStem(side, n))) ++n;
+        row.push_back(CardPictureStem(side, n++));
+    }
+    return row;
+}
+
+// The working files of the deck on their way to Cards/: each is copied there
+// under its final name and, once the save is made, takes that name in Temp/
+// too, so that the working folder stays in step for a later save of the same
+// design.
+class FilePass {
+public:
+    FilePass(DesignCommit& commit, QStringList& problems) : commit_(commit), problems_(problems) {}
+
+    void Move(const QString& from, const QString& to) {
+        const QString source = NativePath(TempDir + from);
+        // A working file that is not there (a second card on the same file,
+        // whose first took it along) is told for the copy and for the
+        // rename; the card keeps a name that no file answers to.
+        if (moved_.contains(source) || !FileExists(source)) {
+            for (int i = 0; i < 2; ++i) NoteAndGoOn(problems_, [] { RaiseError(errFileNotFound); });
+            return;
+        }
+        commit_.AddFile(source, to);
+        moved_.insert(source);
+        renames_.emplace_back(source, TempDir + to);
+    }
+
+    void RenameWorkingFiles() {
+        for (const auto& [from, to] : renames_) NoteAndGoOn(problems_, [&] { Name(from, to); });
+    }
+
+private:
+    DesignCommit& commit_;
+    QStringList& problems_;
+    QSet<QString> moved_;
+    std::vector<std::pair<QString, QString>> renames_;
+};
+
+}  // namespace
+
+DeckSaveCheck CheckDeckSave(const QString& typed) {
+    DeckSaveCheck check;
+    check.Name = TrimField(typed);
+    if (check.Name.isEmpty()) {
+        check.Refusal = Tr("Please select a name to save the deck as.");
+        return check;
+    }
+    check.Replacing = FindDeckByName(check.Name);
+    if (check.Replacing >= 0) check.Question = Tr("Deck already exists. Overwrite?");
+    return check;
+}
+
+DeckSaveResult SaveDeck(const DeckInMemory& inHand, const QString& name, int replacing) {
+    DeckSaveResult result;
+    DeckInMemory deck = inHand;
+    try {
+        // The deck being replaced goes in the same step as the new one comes,
+        // so ids and picture names are drawn as if it were gone already.
+        DeckRecord old;
+        const bool replacingOne = replacing >= 0 && GetRecord(DecksPath, replacing, old);
+        const int cardIdAt = OffsetOf(&CardRecord::CardDeckId);
+        QStringList going;
+        if (replacingOne) {
+            RecordReader<CardRecord> reader(CardsPath);
+            CardRecord card;
+            while (const char* raw = reader.NextRaw()) {
+                if (RawInteger(raw, cardIdAt) != old.DeckId) continue;
+                DecodeRecord(raw, card);
+                going << CardFilesOf(card);
+            }
+        }
+
+        deck.DeckName = name;
+        deck.ModifiedOn = OleToday();
+        deck.DeckRevision = static_cast<Integer>(deck.DeckRevision + 1);
+        deck.DeckId = NextDeckId(replacingOne ? replacing : 0);
+        const int sides = deck.IncludesReversed ? 2 : 1;
+        std::array<std::vector<QString>, 2> names;
+        for (int side = 0; side < sides; ++side)
+            names[static_cast<std::size_t>(side)] = NameRow(side, deck.DeckCards.Count(), going);
+
+        DesignCommit commit;
+        FilePass pass(commit, result.Problems);
+        QByteArray cards;
+        std::size_t i = 0;
+        for (CardRecord& card : deck.DeckCards) {
+            card.CardDeckId = deck.DeckId;
+            for (int side = 0; side < sides; ++side) {
+                auto& picture = card.CardPicture[static_cast<std::size_t>(side)];
+                auto& sound = card.CardSound[static_cast<std::size_t>(side)];
+                // The trimmed name never equals the 12-character default
+                // name, so a side on the default picture is renamed too: the
+                // first such side takes the working copy of the default
+                // picture with it, and the next finds no file to copy.
+                if (picture.Trimmed() == DefaultPictureName) continue;
+                const QString oldPicture = picture.Value();
+                picture = names[static_cast<std::size_t>(side)][i] + oldPicture.right(5);
+                pass.Move(oldPicture, picture.Value());
+                if (sound.IsBlank()) continue;
+                const QString oldSound = sound.Trimmed();
+                sound = QStringLiteral("M") + picture.Value().left(7) + oldSound.right(4);
+                pass.Move(oldSound, sound.Value());
+            }
+            cards += EncodeRecord(card);
+            ++i;
+        }
+        commit.AddRecordFile(CardsPath, CardRecord::Length, [&](const char* card, int) {
+            return replacingOne && RawInteger(card, cardIdAt) == old.DeckId ? nullptr : card;
+        }, cards);
+        const DeckRecord& record = deck;
+        commit.AddRecordFile(DecksPath, DeckRecord::Length, [&](const char* r, int number) {
+            return replacingOne && number == replacing ? nullptr : r;
+        }, EncodeRecord(record));
+        for (const QString& file : going) commit.DropFile(file);
+        commit.Commit();
+        // The save is made: the working folder follows it.
+        pass.RenameWorkingFiles();
+    } catch (const RuntimeError& e) {
+        result.Failure = e;
+        return result;
+    }
+    result.Deck = deck;
+    return result;
+}
+
+DeckDeleteCheck CheckDeckDelete(const QString& name) {
+    DeckDeleteCheck check;
+    check.RecordNumber = FindDeckByName(name);
+    DeckRecord deck;
+    if (check.RecordNumber < 0 || !GetRecord(DecksPath, check.RecordNumber, deck)) RaiseError(errInputPastEndOfFile);
+    check.Questions << Tr("Are you sure you want to delete deck '%1' ?\n"
+                          "Be aware that this deck will be removed from all spreads that use it.")
+                           .arg(name);
+    check.Questions << (IsSoleDeckOfASpread(deck.DeckId)
+                            ? Tr("At least one spread uses solely this deck. Further, any readings or diaries that\n"
+                                 "use this deck will not be able to be opened. Proceed anyway?")
+                            : Tr("Any readings or diaries using this deck will not be able to be opened.\n"
+                                 "Proceed anyway?"));
+    return check;
+}
+
+void RemoveDeck(int recordNumber) {
+    DeckRecord deck;
+    if (!GetRecord(DecksPath, recordNumber, deck)) return;
+    // The spreads let go of the deck before it goes: a process that dies in
+    // between leaves a deck that no spread names, never a spread naming an id
+    // that a later deck may take.
+    RemoveDeckFromSpreads(deck.DeckId);
+    DeleteDeck(recordNumber);
+}
