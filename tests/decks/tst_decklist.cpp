@@ -6,8 +6,12 @@
 
 #include "DeckDriver.h"
 #include "core/decks/CardEditing.h"
+#include "core/decks/CardStore.h"
+#include "core/decks/DeckStore.h"
 #include "core/spreads/AllowedDecks.h"
+#include "core/store/DeckLoading.h"
 #include "core/store/Lookups.h"
+#include "core/store/NewDesigns.h"
 #include "screens/decks/frmBrowseDeck.h"
 #include "screens/decks/frmDeckInfo.h"
 #include "screens/decks/frmDecks.h"
@@ -16,6 +20,60 @@
 #include "screens/store/frmGetPassword.h"
 #include "support/ScreenTest.h"
 
+namespace {
+
+// What a folder may hold before a deck is saved in it.
+enum LeftOver {
+    Nothing,
+    Overwritten,     // an installation that overwrote a deck left its 78 cards under the old id
+    KilledDelete,    // a delete killed between its two writes left a deck's cards
+    SharedFile,      // the same, one of them naming a file that another deck's card names
+    SharedId,        // two deck records carry one id
+};
+
+// Takes record n out of Decks.dck and nothing else, as a killed delete or an
+// overwriting installation leaves the folder.
+void DropDeckRecord(int n) {
+    QByteArray decks = ReadWholeFile(DecksPath);
+    decks.remove((n - 1) * DeckRecord::Length, DeckRecord::Length);
+    WriteWholeFile(DecksPath, decks);
+}
+
+void LeaveOver(LeftOver state) {
+    const Integer other = Fixtures::MakeDeck(QStringLiteral("Other"), 2, true);
+    if (state == Overwritten) {
+        Fixtures::MakeDeck(QStringLiteral("Starter"), 78, true);
+        Fixtures::MakeDeck(QStringLiteral("Starter"), 78, true);
+        DropDeckRecord(2);
+    } else if (state == KilledDelete || state == SharedFile) {
+        Fixtures::MakeDeck(QStringLiteral("Gone"), 3, false);
+        if (state == SharedFile) {
+            CardRecord shared;
+            GetRecord(CardsPath, 1, shared);
+            ChangeRecord<CardRecord>(CardsPath, 3, [&](CardRecord& c) { c.CardPicture[0] = shared.CardPicture[0]; });
+        }
+        DropDeckRecord(2);
+    } else if (state == SharedId) {
+        Fixtures::MakeDeck(QStringLiteral("Twin"), 2, true);
+        ChangeRecord<DeckRecord>(DecksPath, 2, [&](DeckRecord& d) { d.DeckId = other; });
+    }
+}
+
+// A deck as loading shows it: each card's title and the bytes of the files
+// its pictures name.
+QStringList Loaded(const QString& name) {
+    if (!GetRecord(DecksPath, FindDeckByName(name), ListDeck) || !LoadDeckCards()) return {QStringLiteral("(no deck)")};
+    QStringList cards;
+    for (const CardRecord& card : CurrentDeck.DeckCards) {
+        QString held = card.CardTitle.Trimmed();
+        for (const auto& picture : card.CardPicture)
+            held += QLatin1Char('|') + QString::fromLatin1(ReadWholeFile(CardsDir + picture.Value()).toHex());
+        cards << held;
+    }
+    return cards;
+}
+
+}  // namespace
 
 class TestDeckList : public QObject {
     Q_OBJECT
@@ -193,6 +251,77 @@ private slots:
         const SpreadRecord spread = Spread(QStringLiteral("Tied"));
         QCOMPARE(int(spread.AllowedDeckCount), anyDeck ? -1 : int(after.size()));
         for (int i = 0; i < 10; ++i) QCOMPARE(spread.AllowedDeckId[std::size_t(i)], after.value(i, -1));
+    }
+
+    // A new deck of five cards saved, reopened, saved again over itself and
+    // reopened: it holds its own five cards and pictures whatever the folder
+    // held before, and every other deck stays whole. Cards under the id it
+    // takes belong to no deck and go with the files they alone name.
+    void aSavedDeckHoldsItsOwnCards_data() {
+        QTest::addColumn<int>("leftOver");
+        QTest::addColumn<QString>("over");          // the deck it is saved over, if any
+        QTest::addColumn<bool>("defaultReversed");  // its reversed sides on the default picture
+        QTest::addColumn<int>("gone");              // a card whose working picture has gone, if any
+        QTest::newRow("nothing left over") << int(Nothing) << QString() << false << 0;
+        QTest::newRow("an overwriting installation's cards") << int(Overwritten) << QString() << false << 0;
+        QTest::newRow("a killed delete's cards") << int(KilledDelete) << QString() << false << 0;
+        QTest::newRow("a left-over card naming another deck's file") << int(SharedFile) << QString() << false << 0;
+        QTest::newRow("over a deck whose id another deck carries") << int(SharedId) << "Twin" << false << 0;
+        QTest::newRow("reversed sides on the default picture") << int(Nothing) << QString() << true << 0;
+        QTest::newRow("a working picture gone") << int(Nothing) << QString() << false << 3;
+    }
+    void aSavedDeckHoldsItsOwnCards() {
+        QFETCH(int, leftOver);
+        QFETCH(QString, over);
+        QFETCH(bool, defaultReversed);
+        QFETCH(int, gone);
+        QTemporaryDir dir;
+        Fixtures::UseProgramDir(dir.path());
+        LeaveOver(LeftOver(leftOver));
+        std::map<QString, QStringList> others;
+        for (const DeckRecord& other : ReadAllRecords<DeckRecord>(DecksPath))
+            if (other.DeckName.Trimmed() != over) others[other.DeckName.Trimmed()] = Loaded(other.DeckName.Value());
+        const QString defaultBytes = QString::fromLatin1(ReadWholeFile(DefaultPicturePath).toHex());
+
+        ResetDeck();
+        CurrentDeck.IncludesReversed = True16;
+        FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
+        QStringList mine;
+        for (int i = 1; i <= 5; ++i) {
+            CardRecord card;
+            ResetCard(card);
+            card.CardTitle = QStringLiteral("Mine %1").arg(i);
+            QString held = card.CardTitle.Trimmed();
+            for (int side = 0; side < 2; ++side) {
+                if (side == 1 && defaultReversed) {
+                    held += QLatin1Char('|') + defaultBytes;
+                    continue;
+                }
+                card.CardPicture[std::size_t(side)] = CardPictureStem(side, i) + QStringLiteral(".bmp");
+                Fixtures::WritePicture(TempDir + card.CardPicture[std::size_t(side)].Trimmed(), Fixtures::CardColour(i, side == 0));
+                held += QLatin1Char('|') + (side == 0 && i == gone ? defaultBytes
+                                           : QString::fromLatin1(ReadWholeFile(TempDir + card.CardPicture[std::size_t(side)].Trimmed()).toHex()));
+            }
+            if (i == gone) QFile::remove(TempDir + card.CardPicture[0].Trimmed());
+            AppendDeckCard(card);
+            mine << held;
+        }
+        const QString name = over.isEmpty() ? QStringLiteral("Mine") : over;
+        DeckInMemory deck = CurrentDeck;
+        for (int save = 1; save <= 2; ++save) {
+            const DeckSaveResult saved = SaveDeck(deck, name, FindDeckByName(name));
+            QVERIFY(!saved.Failure);
+            const QStringList problems = save == 1 && gone ? QStringList(2, QStringLiteral("Error number 53.  File not found"))
+                                                           : QStringList();
+            QCOMPARE(saved.Problems, problems);
+            deck = saved.Deck;
+            QCOMPARE(Loaded(name), mine);
+            int underItsId = 0;
+            for (const CardRecord& card : ReadAllRecords<CardRecord>(CardsPath)) underItsId += card.CardDeckId == deck.DeckId;
+            QCOMPARE(underItsId, 5);
+            for (const auto& [other, cards] : others) QCOMPARE(Loaded(other), cards);
+            QVERIFY(FileExists(DefaultPicturePath));
+        }
     }
 };
 

@@ -190,6 +190,21 @@ private slots:
         QVERIFY(InCards(DefaultPictureName));
     }
 
+    // A file that another deck's card names stays; so do the cards of an id
+    // that another deck record carries too (a damaged file).
+    void deleteDeckLeavesWhatAnotherDeckHolds() {
+        Fixtures::MakeDeck(QStringLiteral("First"), 2, false);
+        const Integer second = Fixtures::MakeDeck(QStringLiteral("Second"), 2, false);
+        ChangeRecord<CardRecord>(CardsPath, 3, [](CardRecord& c) { c.CardPicture[0] = QStringLiteral("CU00001.bmp"); });
+        DeleteDeck(1);
+        QVERIFY(InCards(QStringLiteral("CU00001.bmp")));
+        QVERIFY(!InCards(QStringLiteral("CU00002.bmp")));
+        Fixtures::MakeDeck(QStringLiteral("Twin"), 0, false);
+        ChangeRecord<DeckRecord>(DecksPath, 2, [&](DeckRecord& d) { d.DeckId = second; });
+        DeleteDeck(2);
+        QCOMPARE(CountCards(), 2);
+    }
+
     void deleteReadingAndDiaryDropEveryRecordOfTheName() {
         for (const char* name : {"Alpha", "Beta", " Alpha ", "Gamma"}) {
             AppendRecord(ReadingsPath, NamedReading(QString::fromLatin1(name)));

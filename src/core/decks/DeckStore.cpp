@@ -1,7 +1,7 @@
 #include "core/decks/DeckStore.h"
 
 #include <QCoreApplication>
-#include <QSet>
+#include <QHash>
 #include <array>
 #include <functional>
 #include <utility>
@@ -51,29 +51,39 @@ class FilePass {
 public:
     FilePass(DesignCommit& commit, QStringList& problems) : commit_(commit), problems_(problems) {}
 
-    void Move(const QString& from, const QString& to) {
+    // The working file `from` is to become `to` in Cards/. One that is not
+    // there is told for the copy and for the rename, and false says that
+    // the side keeps no file of its own.
+    bool Take(const QString& from, const QString& to) {
         const QString source = NativePath(TempDir + from);
-        // A working file that is not there (a second card on the same file,
-        // whose first took it along) is told for the copy and for the
-        // rename; the card keeps a name that no file answers to.
-        if (moved_.contains(source) || !FileExists(source)) {
+        if (!FileExists(source)) {
             for (int i = 0; i < 2; ++i) NoteAndGoOn(problems_, [] { RaiseError(errFileNotFound); });
-            return;
+            return false;
         }
         commit_.AddFile(source, to);
-        moved_.insert(source);
-        renames_.emplace_back(source, TempDir + to);
+        takes_.emplace_back(source, NativePath(TempDir + to));
+        return true;
     }
 
-    void RenameWorkingFiles() {
-        for (const auto& [from, to] : renames_) NoteAndGoOn(problems_, [&] { Name(from, to); });
+    // A working file that several sides take (the default picture above
+    // all) is copied for each; the last moves it, except the default
+    // picture's, which stays for the cards still to come on it.
+    void FollowInTemp() {
+        QHash<QString, int> left;
+        for (const auto& take : takes_) ++left[take.first];
+        const QString defaultPicture = NativePath(TempDir + DefaultPictureName);
+        for (const auto& [from, to] : takes_) {
+            NoteAndGoOn(problems_, [&, from = from, to = to] {
+                if (--left[from] > 0 || from == defaultPicture) FileCopyUnsynced(from, to);
+                else Name(from, to);
+            });
+        }
     }
 
 private:
     DesignCommit& commit_;
     QStringList& problems_;
-    QSet<QString> moved_;
-    std::vector<std::pair<QString, QString>> renames_;
+    std::vector<std::pair<QString, QString>> takes_;
 };
 
 }  // namespace
@@ -98,22 +108,34 @@ DeckSaveResult SaveDeck(const DeckInMemory& inHand, const QString& name, int rep
         // so ids and picture names are drawn as if it were gone already.
         DeckRecord old;
         const bool replacingOne = replacing >= 0 && GetRecord(DecksPath, replacing, old);
-        const int cardIdAt = OffsetOf(&CardRecord::CardDeckId);
-        QStringList going;
-        if (replacingOne) {
-            RecordReader<CardRecord> reader(CardsPath);
-            CardRecord card;
-            while (const char* raw = reader.NextRaw()) {
-                if (RawInteger(raw, cardIdAt) != old.DeckId) continue;
-                DecodeRecord(raw, card);
-                going << CardFilesOf(card);
-            }
-        }
-
         deck.DeckName = name;
         deck.ModifiedOn = OleToday();
         deck.DeckRevision = static_cast<Integer>(deck.DeckRevision + 1);
         deck.DeckId = NextDeckId(replacingOne ? replacing : 0);
+
+        // The cards that go in the same write: the replaced deck's, unless
+        // another deck record carries its id as well, and every card still
+        // under the id the deck takes, which no deck holds (a delete killed
+        // between its writes leaves such cards). Their files go with them,
+        // those that no staying card names.
+        const bool oldCardsGo = replacingOne && FindDeckRecordById(old.DeckId, replacing) < 0;
+        const int cardIdAt = OffsetOf(&CardRecord::CardDeckId);
+        const auto goes = [&](const char* card) {
+            const Integer id = RawInteger(card, cardIdAt);
+            return id == deck.DeckId || (oldCardsGo && id == old.DeckId);
+        };
+        LeavingCardFiles leaving;
+        for (const bool leavingPass : {true, false}) {
+            if (!leavingPass && leaving.IsEmpty()) break;
+            RecordReader<CardRecord> reader(CardsPath);
+            while (const char* card = reader.NextRaw()) {
+                if (goes(card) != leavingPass) continue;
+                if (leavingPass) leaving.Leaving(card);
+                else leaving.Staying(card);
+            }
+        }
+        const QStringList going = leaving.Files();
+
         const int sides = deck.IncludesReversed ? 2 : 1;
         std::array<std::vector<QString>, 2> names;
         for (int side = 0; side < sides; ++side)
@@ -129,23 +151,25 @@ DeckSaveResult SaveDeck(const DeckInMemory& inHand, const QString& name, int rep
                 auto& picture = card.CardPicture[static_cast<std::size_t>(side)];
                 auto& sound = card.CardSound[static_cast<std::size_t>(side)];
                 // The trimmed name never equals the 12-character default
-                // name, so a side on the default picture is renamed too: the
-                // first such side takes the working copy of the default
-                // picture with it, and the next finds no file to copy.
+                // name, so a side on the default picture takes a copy of it
+                // under a name of its own, as every other side is renamed.
                 if (picture.Trimmed() == DefaultPictureName) continue;
                 const QString oldPicture = picture.Value();
-                picture = names[static_cast<std::size_t>(side)][i] + oldPicture.right(5);
-                pass.Move(oldPicture, picture.Value());
+                const QString drawn = names[static_cast<std::size_t>(side)][i] + oldPicture.right(5);
+                // A working picture that has gone leaves the side on the
+                // default picture rather than on a name that no file answers
+                // to, which the next load would blank, losing the card.
+                picture = pass.Take(oldPicture, drawn) ? drawn : DefaultPictureName;
                 if (sound.IsBlank()) continue;
                 const QString oldSound = sound.Trimmed();
-                sound = QStringLiteral("M") + picture.Value().left(7) + oldSound.right(4);
-                pass.Move(oldSound, sound.Value());
+                const QString soundName = QStringLiteral("M") + drawn.left(7) + oldSound.right(4);
+                sound = pass.Take(oldSound, soundName) ? soundName : QString();
             }
             cards += EncodeRecord(card);
             ++i;
         }
         commit.AddRecordFile(CardsPath, CardRecord::Length, [&](const char* card, int) {
-            return replacingOne && RawInteger(card, cardIdAt) == old.DeckId ? nullptr : card;
+            return goes(card) ? nullptr : card;
         }, cards);
         const DeckRecord& record = deck;
         commit.AddRecordFile(DecksPath, DeckRecord::Length, [&](const char* r, int number) {
@@ -154,7 +178,7 @@ DeckSaveResult SaveDeck(const DeckInMemory& inHand, const QString& name, int rep
         for (const QString& file : going) commit.DropFile(file);
         commit.Commit();
         // The save is made: the working folder follows it.
-        pass.RenameWorkingFiles();
+        pass.FollowInTemp();
     } catch (const RuntimeError& e) {
         result.Failure = e;
         return result;

@@ -36,8 +36,10 @@ struct DeckSaveResult {
 // in Cards/, both drawn as if the replaced deck were gone already; its cards
 // are added after every other card. Card records that stand under the id it
 // takes belong to no deck and go in the same step, with the files that they
-// alone name. Temp/ follows the new names, so that the deck can be saved
-// again from it.
+// alone name. Every side gets a file of its own, one on the default picture a
+// copy of it; a side whose working file has gone is told twice in Problems
+// and left on the default picture, or without its sound. Temp/ follows the
+// new names, so that the deck can be saved again from it.
 DeckSaveResult SaveDeck(const DeckInMemory& deck, const QString& name, int replacing);
 
 // What deleting the deck listed under `name` asks first: each question is
