@@ -1,8 +1,8 @@
-// The deck list: brief info, deleting a deck with its cards and files and
-// untying it from spreads, the password of a locked deck for editing but not
-// for viewing, coming back to the deck left, and the deck chooser of the
-// spread designer. How the spreads let go of a deck is checked on the spread
-// file alone.
+// The saved decks: the deck list's wiring (brief info, the delete and its
+// questions, the password of a locked deck for editing but not for viewing,
+// coming back to the deck left, the spread designer's deck chooser), and the
+// deck store's rules, checked on the core: which spreads let go of a deleted
+// deck, and what a save leaves on the disk whatever the folder held before.
 
 #include "DeckDriver.h"
 #include "core/decks/CardEditing.h"
@@ -59,18 +59,21 @@ void LeaveOver(LeftOver state) {
     }
 }
 
-// A deck as loading shows it: each card's title and the bytes of the files
-// its pictures name.
+// Each card's title and the bytes of its pictures in a folder, as loading
+// shows a deck.
+QStringList Held(const BoundedArray<CardRecord>& cards, const QString& folder) {
+    QStringList held;
+    for (const CardRecord& card : cards)
+        held << QStringList{card.CardTitle.Trimmed(),
+                            QString::fromLatin1(ReadWholeFile(folder + card.CardPicture[0].Value()).toHex()),
+                            QString::fromLatin1(ReadWholeFile(folder + card.CardPicture[1].Value()).toHex())}
+                    .join(QLatin1Char('|'));
+    return held;
+}
+
 QStringList Loaded(const QString& name) {
     if (!GetRecord(DecksPath, FindDeckByName(name), ListDeck) || !LoadDeckCards()) return {QStringLiteral("(no deck)")};
-    QStringList cards;
-    for (const CardRecord& card : CurrentDeck.DeckCards) {
-        QString held = card.CardTitle.Trimmed();
-        for (const auto& picture : card.CardPicture)
-            held += QLatin1Char('|') + QString::fromLatin1(ReadWholeFile(CardsDir + picture.Value()).toHex());
-        cards << held;
-    }
-    return cards;
+    return Held(CurrentDeck.DeckCards, CardsDir);
 }
 
 }  // namespace
@@ -78,7 +81,6 @@ QStringList Loaded(const QString& name) {
 class TestDeckList : public QObject {
     Q_OBJECT
     QTemporaryDir program_;
-    Integer alpha_ = 0, beta_ = 0, gamma_ = 0;
 
     static SpreadRecord Spread(const QString& name) {
         SpreadRecord spread;
@@ -91,58 +93,37 @@ private slots:
         MsgBoxScript::Enable();
         Fixtures::UseProgramDir(program_.path());
         ResetDeckDesignState();
-        alpha_ = Fixtures::MakeDeck(QStringLiteral("Alpha"), 3, true);
-        beta_ = Fixtures::MakeDeck(QStringLiteral("Beta"), 2, false);
-        gamma_ = Fixtures::MakeDeck(QStringLiteral("Gamma"), 2, false);
+        const Integer alpha = Fixtures::MakeDeck(QStringLiteral("Alpha"), 3, true);
+        Fixtures::MakeDeck(QStringLiteral("Beta"), 2, false);
+        Fixtures::MakeDeck(QStringLiteral("Gamma"), 2, false);
         // Beta carries a design password.
         ChangeRecord<DeckRecord>(DecksPath, 2, [](DeckRecord& d) {
             d.DeckLocked = True16;
             d.DeckPassword = QStringLiteral("secret");
         });
-        Fixtures::MakeSpread(QStringLiteral("Solo"), 2, {alpha_});
-        Fixtures::MakeSpread(QStringLiteral("Mixed"), 2, {beta_, alpha_, gamma_});
+        Fixtures::MakeSpread(QStringLiteral("Solo"), 2, {alpha});
     }
 
-    void deleteAsksTwiceAndUntiesSpreads() {
+    // Which second question comes, and what the spreads do, is the table's
+    // below; here the list asks, stops at No, and deletes at Yes.
+    void deleteAsksAndUntiesSpreads() {
         frmDecks& decks = Get<frmDecks>();
-        QCOMPARE(decks.lstDecks->count(), 3);
-        QCOMPARE(decks.lstDecks->Text().trimmed(), QStringLiteral("Alpha"));
         QCOMPARE(decks.lblCardsField->text(), QStringLiteral("3"));
-        QVERIFY(decks.cmdEdit->isEnabled() && decks.cmdInfo->isEnabled() && decks.cmdDelete->isEnabled());
-
         MsgBoxScript::Clear();
         MsgBoxScript::Answer(vbNo);
         decks.cmdDelete_Click();
         QCOMPARE(CountDecks(), 3);
-        QCOMPARE(MsgBoxScript::History()[0].prompt,
-                 QStringLiteral("Are you sure you want to delete deck '") + decks.lstDecks->Text() +
-                     QStringLiteral("' ?\nBe aware that this deck will be removed from all spreads that use it."));
+        QCOMPARE(Prompts(), CheckDeckDelete(decks.lstDecks->Text()).Questions.mid(0, 1));
         QCOMPARE(MsgBoxScript::History()[0].style, vbYesNo | vbQuestion | vbDefaultButton2);
 
-        MsgBoxScript::Clear();
         MsgBoxScript::Answer(vbYes);
         MsgBoxScript::Answer(vbYes);
         decks.cmdDelete_Click();
-        QCOMPARE(MsgBoxScript::History().size(), 2);
-        QVERIFY(MsgBoxScript::History()[1].prompt.startsWith(QLatin1String("At least one spread uses solely this deck.")));
         QCOMPARE(CountDecks(), 2);
-        // Every spread let go of it.
         QCOMPARE(Spread(QStringLiteral("Solo")).AllowedDeckCount, 0);
-        QCOMPARE(Spread(QStringLiteral("Mixed")).AllowedDeckCount, 2);
         // The line went; the first line is selected in its place.
         QCOMPARE(decks.lstDecks->count(), 2);
-        QCOMPARE(decks.lstDecks->Text().trimmed(), QStringLiteral("Beta"));
         QCOMPARE(decks.lblTitleField->text(), QStringLiteral("Beta"));
-
-        // Gamma is tied with Beta, never alone: the milder second question.
-        ClickLine(decks.lstDecks, QStringLiteral("Gamma"));
-        MsgBoxScript::Clear();
-        MsgBoxScript::Answer(vbYes);
-        MsgBoxScript::Answer(vbNo);
-        decks.cmdDelete_Click();
-        QCOMPARE(MsgBoxScript::History()[1].prompt,
-                 QStringLiteral("Any readings or diaries using this deck will not be able to be opened.\nProceed anyway?"));
-        QCOMPARE(CountDecks(), 2);
     }
 
     void lockedDeckAsksPasswordToEditOnly() {
@@ -158,7 +139,6 @@ private slots:
         QVERIFY(wrong.Done());
         QCOMPARE(MsgBoxScript::History().size(), 1);   // the wrong password is refused
         QVERIFY(!IsLoaded<frmDesignDeck>());
-        QVERIFY(IsLoaded<frmDecks>());
 
         // Viewing asks nothing.
         decks.cmdInfo_Click();
@@ -175,8 +155,6 @@ private slots:
         Get<frmDecks>().cmdEdit_Click();
         QVERIFY(right.Done());
         QVERIFY(IsLoaded<frmDesignDeck>());
-        QVERIFY(!IsLoaded<frmDecks>());
-        QCOMPARE(Get<frmDesignDeck>().Caption(), QStringLiteral("Deck Design - Beta"));
         QCOMPARE(DesignMode, 0);
         Get<frmDesignDeck>().cmdBack_Click();
         QCOMPARE(Get<frmDecks>().lstDecks->Text().trimmed(), QStringLiteral("Beta"));
@@ -221,7 +199,8 @@ private slots:
 
     // A spread tied to the decks `allowed` when deck 4 goes: the decks after
     // it move up and the freed place is -1. A spread that does not list it is
-    // not written, nor one for any deck that still lists the decks once chosen.
+    // not written, nor one for any deck. The second question says whether a
+    // spread is left without a deck.
     void aDeckThatGoesIsUntiedFromItsSpreads_data() {
         QTest::addColumn<QList<Integer>>("allowed");
         QTest::addColumn<bool>("anyDeck");
@@ -242,11 +221,24 @@ private slots:
         QFETCH(QList<Integer>, after);
         QTemporaryDir dir;
         Fixtures::UseProgramDir(dir.path());
+        DeckRecord four;
+        four.DeckName = QStringLiteral("Four");
+        four.DeckId = 4;
+        AppendRecord(DecksPath, four);
         Fixtures::MakeSpread(QStringLiteral("Tied"), 1, allowed);
         if (anyDeck) ChangeRecord<SpreadRecord>(SpreadsPath, 1, [](SpreadRecord& s) { s.AllowedDeckCount = -1; });
         const QByteArray before = ReadWholeFile(SpreadsPath);
-        QCOMPARE(IsSoleDeckOfASpread(4), sole);
-        RemoveDeckFromSpreads(4);
+        const DeckDeleteCheck check = CheckDeckDelete(QStringLiteral("Four"));
+        QCOMPARE(check.Questions.size(), 2);
+        QCOMPARE(check.Questions[0], QStringLiteral("Are you sure you want to delete deck 'Four' ?\nBe aware that this "
+                                                    "deck will be removed from all spreads that use it."));
+        QCOMPARE(check.Questions[1],
+                 sole ? QStringLiteral("At least one spread uses solely this deck. Further, any readings or diaries "
+                                       "that\nuse this deck will not be able to be opened. Proceed anyway?")
+                      : QStringLiteral("Any readings or diaries using this deck will not be able to be opened.\n"
+                                       "Proceed anyway?"));
+        RemoveDeck(check.RecordNumber);
+        QCOMPARE(CountDecks(), 0);
         if (anyDeck || !allowed.contains(4)) QCOMPARE(ReadWholeFile(SpreadsPath), before);
         const SpreadRecord spread = Spread(QStringLiteral("Tied"));
         QCOMPARE(int(spread.AllowedDeckCount), anyDeck ? -1 : int(after.size()));
@@ -281,39 +273,35 @@ private slots:
         std::map<QString, QStringList> others;
         for (const DeckRecord& other : ReadAllRecords<DeckRecord>(DecksPath))
             if (other.DeckName.Trimmed() != over) others[other.DeckName.Trimmed()] = Loaded(other.DeckName.Value());
-        const QString defaultBytes = QString::fromLatin1(ReadWholeFile(DefaultPicturePath).toHex());
 
+        // The deck as the designer holds it: pictures in Temp/, the default
+        // picture beside them.
         ResetDeck();
         CurrentDeck.IncludesReversed = True16;
         FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
-        QStringList mine;
         for (int i = 1; i <= 5; ++i) {
             CardRecord card;
             ResetCard(card);
             card.CardTitle = QStringLiteral("Mine %1").arg(i);
-            QString held = card.CardTitle.Trimmed();
-            for (int side = 0; side < 2; ++side) {
-                if (side == 1 && defaultReversed) {
-                    held += QLatin1Char('|') + defaultBytes;
-                    continue;
-                }
+            for (int side = 0; side < (defaultReversed ? 1 : 2); ++side) {
                 card.CardPicture[std::size_t(side)] = CardPictureStem(side, i) + QStringLiteral(".bmp");
-                Fixtures::WritePicture(TempDir + card.CardPicture[std::size_t(side)].Trimmed(), Fixtures::CardColour(i, side == 0));
-                held += QLatin1Char('|') + (side == 0 && i == gone ? defaultBytes
-                                           : QString::fromLatin1(ReadWholeFile(TempDir + card.CardPicture[std::size_t(side)].Trimmed()).toHex()));
+                Fixtures::WritePicture(TempDir + card.CardPicture[std::size_t(side)].Value(), Fixtures::CardColour(i, side == 0));
             }
-            if (i == gone) QFile::remove(TempDir + card.CardPicture[0].Trimmed());
             AppendDeckCard(card);
-            mine << held;
         }
-        const QString name = over.isEmpty() ? QStringLiteral("Mine") : over;
         DeckInMemory deck = CurrentDeck;
+        // A gone picture shows, and is saved as, the default picture.
+        if (gone) QFile::remove(TempDir + deck.DeckCards(gone).CardPicture[0].Trimmed());
+        if (gone) deck.DeckCards(gone).CardPicture[0] = DefaultPictureName;
+        const QStringList mine = Held(deck.DeckCards, TempDir);
+        if (gone) deck.DeckCards(gone).CardPicture[0] = CurrentDeck.DeckCards(gone).CardPicture[0];
+
+        const QString name = over.isEmpty() ? QStringLiteral("Mine") : over;
         for (int save = 1; save <= 2; ++save) {
             const DeckSaveResult saved = SaveDeck(deck, name, FindDeckByName(name));
             QVERIFY(!saved.Failure);
-            const QStringList problems = save == 1 && gone ? QStringList(2, QStringLiteral("Error number 53.  File not found"))
-                                                           : QStringList();
-            QCOMPARE(saved.Problems, problems);
+            QCOMPARE(saved.Problems, save == 1 && gone ? QStringList(2, QStringLiteral("Error number 53.  File not found"))
+                                                       : QStringList());
             deck = saved.Deck;
             QCOMPARE(Loaded(name), mine);
             int underItsId = 0;
