@@ -59,15 +59,16 @@ void LeaveOver(LeftOver state) {
     }
 }
 
-// Each card's title and the bytes of its pictures in a folder, as loading
-// shows a deck.
+// Each card's title and the bytes of its pictures in a folder, a picture
+// that is not there read as the default picture, as loading shows a deck.
 QStringList Held(const BoundedArray<CardRecord>& cards, const QString& folder) {
     QStringList held;
-    for (const CardRecord& card : cards)
-        held << QStringList{card.CardTitle.Trimmed(),
-                            QString::fromLatin1(ReadWholeFile(folder + card.CardPicture[0].Value()).toHex()),
-                            QString::fromLatin1(ReadWholeFile(folder + card.CardPicture[1].Value()).toHex())}
-                    .join(QLatin1Char('|'));
+    for (const CardRecord& card : cards) {
+        held << card.CardTitle.Trimmed();
+        for (const auto& picture : card.CardPicture)
+            held.last() += QLatin1Char('|') + QString::fromLatin1(ReadWholeFile(
+                FileExists(folder + picture.Value()) ? folder + picture.Value() : DefaultPicturePath).toHex());
+    }
     return held;
 }
 
@@ -292,9 +293,7 @@ private slots:
         DeckInMemory deck = CurrentDeck;
         // A gone picture shows, and is saved as, the default picture.
         if (gone) QFile::remove(TempDir + deck.DeckCards(gone).CardPicture[0].Trimmed());
-        if (gone) deck.DeckCards(gone).CardPicture[0] = DefaultPictureName;
         const QStringList mine = Held(deck.DeckCards, TempDir);
-        if (gone) deck.DeckCards(gone).CardPicture[0] = CurrentDeck.DeckCards(gone).CardPicture[0];
 
         const QString name = over.isEmpty() ? QStringLiteral("Mine") : over;
         for (int save = 1; save <= 2; ++save) {
