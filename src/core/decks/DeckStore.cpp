@@ -18,14 +18,13 @@
 
 namespace {
 
-QString Tr(const char* text) { return QCoreApplication::translate("DeckStore", text); }
-
 // An error of the file pass is noted and the pass goes on.
 void NoteAndGoOn(QStringList& problems, const std::function<void()>& step) {
     try {
         step();
     } catch (const RuntimeError& e) {
-        problems << Tr("Error number %1.  %2").arg(QString::number(e.Number()), e.Description());
+        problems << QCoreApplication::translate("DeckStore", "Error number %1.  %2")
+                        .arg(QString::number(e.Number()), e.Description());
     }
 }
 
@@ -92,11 +91,12 @@ DeckSaveCheck CheckDeckSave(const QString& typed) {
     DeckSaveCheck check;
     check.Name = TrimField(typed);
     if (check.Name.isEmpty()) {
-        check.Refusal = Tr("Please select a name to save the deck as.");
+        check.Refusal = QCoreApplication::translate("DeckStore", "Please select a name to save the deck as.");
         return check;
     }
     check.Replacing = FindDeckByName(check.Name);
-    if (check.Replacing >= 0) check.Question = Tr("Deck already exists. Overwrite?");
+    if (check.Replacing >= 0)
+        check.Question = QCoreApplication::translate("DeckStore", "Deck already exists. Overwrite?");
     return check;
 }
 
@@ -192,14 +192,18 @@ DeckDeleteCheck CheckDeckDelete(const QString& name) {
     check.RecordNumber = FindDeckByName(name);
     DeckRecord deck;
     if (check.RecordNumber < 0 || !GetRecord(DecksPath, check.RecordNumber, deck)) RaiseError(errInputPastEndOfFile);
-    check.Questions << Tr("Are you sure you want to delete deck '%1' ?\n"
-                          "Be aware that this deck will be removed from all spreads that use it.")
+    check.Questions << QCoreApplication::translate("DeckStore",
+                                                   "Are you sure you want to delete deck '%1' ?\n"
+                                                   "Be aware that this deck will be removed from all spreads that use it.")
                            .arg(name);
     check.Questions << (IsSoleDeckOfASpread(deck.DeckId)
-                            ? Tr("At least one spread uses solely this deck. Further, any readings or diaries that\n"
-                                 "use this deck will not be able to be opened. Proceed anyway?")
-                            : Tr("Any readings or diaries using this deck will not be able to be opened.\n"
-                                 "Proceed anyway?"));
+                            ? QCoreApplication::translate("DeckStore",
+                                                          "At least one spread uses solely this deck. Further, any "
+                                                          "readings or diaries that\nuse this deck will not be able to "
+                                                          "be opened. Proceed anyway?")
+                            : QCoreApplication::translate("DeckStore",
+                                                          "Any readings or diaries using this deck will not be able to "
+                                                          "be opened.\nProceed anyway?"));
     return check;
 }
 
