@@ -185,7 +185,6 @@ const QList<Operation>& Operations() {
              save.cmdSave_Click();
          }},
         {"deck deleted and untied from its spread", {}, [] { RemoveDeck(1); }},
-        {"deck saved as new", [] { OpenDeckForSaving(1); }, [] { SaveDeckAs(QStringLiteral("Deck C")); }},
         // Deck B's record gone, its cards left: the new deck takes its id.
         {"deck saved as new over left-over cards",
          [] {
