@@ -29,6 +29,7 @@
 #include <vector>
 
 #include "BenchSupport.h"
+#include "core/decks/DeckStore.h"
 #include "core/platform/BinaryFile.h"
 #include "core/platform/FileSys.h"
 #include "core/platform/ProgramLock.h"
@@ -37,7 +38,6 @@
 #include "core/records/Records.h"
 #include "core/store/DeckLoading.h"
 #include "core/store/DeletePasses.h"
-#include "core/store/DesignCommit.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
@@ -287,15 +287,24 @@ int main(int argc, char** argv) {
         const double del = Time([&] { DeleteDeckCards(middle.DeckId); }, [&] { CopyOnce(keep, CardsPath); });
         Row("DeleteDeckCards on 32,000 cards", del, "copy of Cards.crd", copyCards, 2.0);
         // A deck save writes its cards in one replacement of the whole file,
-        // prepared beside it and put in place by the save's plan.
-        const double save = Time([] {
-            DesignCommit commit;
-            commit.AddRecordFile(CardsPath, CardRecord::Length, [](const char* card, int) { return card; },
-                                 EncodeRecord(ZeroRecord<CardRecord>()).repeated(100));
-            commit.Commit();
-        }, [&] { CopyOnce(keep, CardsPath); });
+        // prepared beside it and put in place by the save's plan, after a read
+        // for cards left under the id it takes. The deck is new, its 100
+        // cards on the default picture (a copy each), as the decks here are.
+        DeckInMemory hundred;
+        hundred.DeckCards.Redim(1, 100);
+        for (CardRecord& card : hundred.DeckCards) ResetCard(card);
+        hundred.CardCount = 100;
+        FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
+        const QString keepDecks = dir.filePath(QStringLiteral("Decks.keep"));
+        CopyOnce(DecksPath, keepDecks);
+        const double save = Time([&] { SaveDeck(hundred, QStringLiteral("Saved"), -1); }, [&] {
+            CopyOnce(keep, CardsPath);
+            CopyOnce(keepDecks, DecksPath);
+            KillIgnoringErrors(CardsDir + QStringLiteral("CU*"));
+        });
         Row("100 cards saved after 32,000 cards (deck save)", save, "copy of Cards.crd", copyCards, 2.0);
         Kill(keep);
+        Kill(keepDecks);
         Kill(copyPath);
     }
     if (Want("ids")) {

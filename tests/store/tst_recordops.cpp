@@ -154,7 +154,9 @@ private slots:
         const Integer first = Fixtures::MakeDeck(QStringLiteral("First"), 3, true);
         const Integer second = Fixtures::MakeDeck(QStringLiteral("Second"), 2, false);
         // A sound on one card of the first deck, and the default picture on
-        // the reversed side of another: the sound goes, the default stays.
+        // the reversed side of another: the sound goes, the default stays. A
+        // card of the second deck names the first deck's third picture: that
+        // stays too.
         ChangeRecord<CardRecord>(CardsPath, 1, [](CardRecord& c) { c.CardSound[0] = QStringLiteral("MCU00001.wav"); });
         WriteWholeFile(CardsDir + QStringLiteral("MCU00001.wav"), QByteArray("RIFF"));
         QString ownReversed;
@@ -162,6 +164,7 @@ private slots:
             ownReversed = c.CardPicture[1].Trimmed();
             c.CardPicture[1] = DefaultPictureName;
         });
+        ChangeRecord<CardRecord>(CardsPath, 4, [](CardRecord& c) { c.CardPicture[1] = QStringLiteral("CU00003.bmp"); });
 
         DeleteDeck(FindDeckByName(QStringLiteral("First")));
 
@@ -173,17 +176,22 @@ private slots:
         for (int i = 0; i < 2; ++i) {
             QCOMPARE(after[i].CardDeckId, second);
             QCOMPARE(after[i].CardTitle.Trimmed(), QStringLiteral("Card %1").arg(i + 1));
-            QVERIFY(InCards(after[i].CardPicture[0].Trimmed()));
+            QVERIFY(InCards(after[i].CardPicture[0].Trimmed()) && InCards(after[i].CardPicture[1].Trimmed()));
         }
         for (const QString& gone : {QStringLiteral("CU00001.bmp"), QStringLiteral("CU00002.bmp"),
-                                    QStringLiteral("CU00003.bmp"), QStringLiteral("CR00001.bmp"),
-                                    QStringLiteral("CR00003.bmp"), QStringLiteral("MCU00001.wav")})
+                                    QStringLiteral("CR00001.bmp"), QStringLiteral("CR00003.bmp"),
+                                    QStringLiteral("MCU00001.wav")})
             QVERIFY2(!InCards(gone), qPrintable(gone));
         QVERIFY(InCards(ownReversed));  // no longer named by any card, so nothing removes it
-        QVERIFY(InCards(DefaultPictureName));
         QVERIFY(!FileExists(TempDir + QStringLiteral("Decks.tmp")));
         QVERIFY(!FileExists(AppPath + QStringLiteral("Cards.tmp")));
 
+        // Two deck records with one id (a damaged file): deleting one leaves
+        // the cards that the other loads.
+        Fixtures::MakeDeck(QStringLiteral("Twin"), 0, false);
+        ChangeRecord<DeckRecord>(DecksPath, 2, [&](DeckRecord& d) { d.DeckId = second; });
+        DeleteDeck(2);
+        QCOMPARE(CountCards(), 2);
         DeleteDeck(1);
         QCOMPARE(FileLen(DecksPath), qint64(0));
         QCOMPARE(FileLen(CardsPath), qint64(0));

@@ -15,6 +15,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "core/decks/DeckStore.h"
 #include "core/packages/PackageStaging.h"
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
@@ -25,7 +26,6 @@
 #include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 #include "screens/decks/DeckLoadQuestion.h"
-#include "screens/decks/frmSaveDeck.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/spreads/TextBoxes.h"
 #include "screens/spreads/frmSaveSpread.h"
@@ -157,10 +157,8 @@ struct Operation {
 };
 
 void SaveDeckAs(const QString& name) {
-    MsgBoxScript::Answer(vbYes);   // to the overwrite question, if it comes
-    frmSaveDeck& save = Get<frmSaveDeck>();
-    save.txtSaveAs->setText(name);
-    save.cmdSave_Click();
+    const DeckSaveResult saved = SaveDeck(CurrentDeck, name, FindDeckByName(name));
+    if (saved.Failure) throw *saved.Failure;
 }
 
 const QList<Operation>& Operations() {
@@ -186,8 +184,14 @@ const QList<Operation>& Operations() {
              save.txtSaveAs->setText(QStringLiteral("Spread A"));
              save.cmdSave_Click();
          }},
-        {"deck deleted", {}, [] { DeleteDeck(1); }},
-        {"deck saved as new", [] { OpenDeckForSaving(1); }, [] { SaveDeckAs(QStringLiteral("Deck C")); }},
+        {"deck deleted and untied from its spread", {}, [] { RemoveDeck(1); }},
+        // Deck B's record gone, its cards left: the new deck takes its id.
+        {"deck saved as new over left-over cards",
+         [] {
+             WriteWholeFile(DecksPath, ReadWholeFile(DecksPath).left(DeckRecord::Length));
+             OpenDeckForSaving(1);
+         },
+         [] { SaveDeckAs(QStringLiteral("Deck C")); }},
         // Deck B over deck A: its pictures take the names of A's.
         {"deck saved over another", [] { OpenDeckForSaving(2); }, [] { SaveDeckAs(QStringLiteral("Deck A")); }},
         {"package installed", {},
@@ -215,7 +219,6 @@ class TestWriteFaults : public QObject {
         } catch (const RuntimeError&) {
         }
         WriteFaults::Disarm();
-        UnloadScreen<frmSaveDeck>();
         UnloadScreen<frmSaveSpread>();
     }
 

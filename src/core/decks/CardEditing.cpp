@@ -1,5 +1,9 @@
 #include "core/decks/CardEditing.h"
 
+#include "core/platform/FileSys.h"
+#include "core/records/RecordFile.h"
+#include "core/store/RunState.h"
+
 CardWorkingFiles& WorkingFiles() {
     static CardWorkingFiles files;
     return files;
@@ -19,4 +23,55 @@ void ResetDeckDesignState() {
     WorkingFiles() = CardWorkingFiles{};
     RememberedPictureFolder() = ChooserMemory{};
     RememberedSoundFolder() = ChooserMemory{};
+}
+
+namespace {
+
+QString TakePicked(const QString& stem, const QString& source, QString& working) {
+    const QString name = stem + source.right(4);
+    FileCopy(source, TempDir + name);
+    working = name;
+    return name;
+}
+
+}  // namespace
+
+QString TakePickedPicture(int side, const QString& source) {
+    return TakePicked(side == 0 ? UprightPictureStem : ReversedPictureStem, source,
+                      WorkingFiles().Picture[static_cast<std::size_t>(side)]);
+}
+
+QString TakePickedSound(int side, const QString& source) {
+    return TakePicked(side == 0 ? UprightSoundStem : ReversedSoundStem, source,
+                      WorkingFiles().Sound[static_cast<std::size_t>(side)]);
+}
+
+void PointReversedAtDefault(CardRecord& card) {
+    WorkingFiles().Picture[1] = DefaultPicturePath;
+    card.CardPicture[1] = DefaultPictureName;
+    FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
+}
+
+void DropUnstoredWorkingFiles() {
+    for (const QString& stem : {UprightPictureStem, ReversedPictureStem, UprightSoundStem, ReversedSoundStem})
+        KillIgnoringErrors(TempDir + stem + QStringLiteral(".*"));
+}
+
+void OpenWorkingFolder(const DeckRecord& deck, bool copyIn, bool skipDefaultReversed) {
+    KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
+    if (copyIn) {
+        RecordReader<CardRecord> reader(CardsPath);
+        CardRecord card;
+        int seen = 0;
+        while (seen < deck.CardCount && reader.Next(card)) {
+            if (card.CardDeckId != deck.DeckId) continue;
+            ++seen;
+            FileCopy(CardsDir + card.CardPicture[0].Value(), TempDir + card.CardPicture[0].Value());
+            if (!skipDefaultReversed || card.CardPicture[1].Value() != DefaultPictureName)
+                FileCopy(CardsDir + card.CardPicture[1].Value(), TempDir + card.CardPicture[1].Value());
+            for (const auto& sound : card.CardSound)
+                if (!sound.IsBlank()) FileCopy(CardsDir + sound.Value(), TempDir + sound.Value());
+        }
+    }
+    FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
 }

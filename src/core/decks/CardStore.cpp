@@ -1,5 +1,7 @@
 #include "core/decks/CardStore.h"
 
+#include "core/decks/CardEditing.h"
+
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
 #include "core/store/DeckLoading.h"
@@ -17,6 +19,31 @@ QString PlaceWorkingPicture(int side, const QString& workingName, bool keepWorki
     const QString finalName = CardPictureStem(side, FreeCardNumber(side, {TempDir})) + workingName.right(4);
     RenameWorkingFile(workingName, finalName, keepWorkingFile);
     return finalName;
+}
+
+void StoreWorkingFiles(CardRecord& card) {
+    CardWorkingFiles& files = WorkingFiles();
+    if (files.Picture[0].startsWith(UprightPictureStem)) card.CardPicture[0] = PlaceWorkingPicture(0, files.Picture[0]);
+    if (files.Picture[1].startsWith(ReversedPictureStem))
+        card.CardPicture[1] = PlaceWorkingPicture(1, files.Picture[1], files.Picture[1] == DefaultPicturePath);
+    const QString soundStems[2] = {UprightSoundStem, ReversedSoundStem};
+    for (std::size_t side = 0; side < 2; ++side) {
+        const QString& working = files.Sound[side];
+        if (!working.startsWith(soundStems[side])) continue;
+        card.CardSound[side] = QStringLiteral("M") + card.CardPicture[side].Value().left(7) + working.right(4);
+        RenameWorkingFile(working, card.CardSound[side].Value());
+    }
+    files.Picture = {};
+    files.Sound = {};
+}
+
+void RemoveDeckCard(DeckInMemory& deck, int position) {
+    for (const auto& picture : deck.DeckCards(position).CardPicture)
+        if (picture.Value() != DefaultPictureName) KillIgnoringErrors(TempDir + picture.Value());
+    const int count = deck.CardCount;
+    for (int i = position; i < count; ++i) deck.DeckCards(i) = deck.DeckCards(i + 1);
+    deck.CardCount = static_cast<Integer>(count - 1);
+    deck.DeckCards.RedimPreserve(count - 1);
 }
 
 int AppendDeckCard(const CardRecord& card) {

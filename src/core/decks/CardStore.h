@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include "core/records/Records.h"
+#include "core/store/RunState.h"
 
 // Gives a working file in Temp/ its final name there. A move that fails
 // leaves the card with a name that no file answers to; the store goes on
@@ -19,6 +20,17 @@ void RenameWorkingFile(const QString& workingName, const QString& finalName, boo
 // the first CU or CR number that no file in Temp/ takes and the working
 // name's last four characters. The working file takes that name.
 QString PlaceWorkingPicture(int side, const QString& workingName, bool keepWorkingFile = false);
+
+// Stores the card editor's picks into the card: each side's newly picked
+// picture takes its CU or CR name in Temp/, each newly picked sound the M
+// name of its side's picture; the working names are then forgotten. A media
+// player must have let go of the sounds.
+void StoreWorkingFiles(CardRecord& card);
+
+// Takes card `position` out of the deck in memory: the later cards move up
+// by one, and its pictures leave Temp/ (its sounds stay there until the
+// designer closes; nothing saves them).
+void RemoveDeckCard(DeckInMemory& deck, int position);
 
 // Appends a new card to CurrentDeck's DeckCards and counts it; its position.
 int AppendDeckCard(const CardRecord& card);

@@ -1,5 +1,8 @@
 #include "core/store/DeletePasses.h"
 
+#include <array>
+#include <cstring>
+
 #include "core/store/RecordPasses.h"
 
 using namespace RecordPasses;
@@ -24,15 +27,81 @@ void KillDesignFile(const QString& name) {
     if (!path.isEmpty()) KillIgnoringErrors(path);
 }
 
-QStringList CardFilesOf(const CardRecord& card) {
+namespace {
+
+using FileNames = std::array<FixedText<12>, 2>;
+
+QStringList FilesNamed(const FileNames& pictures, const FileNames& sounds) {
     QStringList files;
-    for (const auto& picture : card.CardPicture) {
+    for (const auto& picture : pictures) {
         // The shared default picture is recognised by the exact field value;
         // every other picture belongs to this card alone.
         if (picture.Value() != DefaultPictureName) files << DesignFilePath(picture.Value());
     }
-    for (const auto& sound : card.CardSound) files << DesignFilePath(sound.Value());
+    for (const auto& sound : sounds) files << DesignFilePath(sound.Value());
     files.removeAll(QString());
+    // A name from a package may spell the default picture otherwise (a zero
+    // byte for its space, or as a sound): the file is still everyone's.
+    files.removeAll(NativePath(DefaultPicturePath));
+    return files;
+}
+
+}  // namespace
+
+QStringList CardFilesOf(const CardRecord& card) { return FilesNamed(card.CardPicture, card.CardSound); }
+
+namespace {
+
+// The four file names of a card record, in its bytes.
+std::array<const char*, 4> NameFields(const char* rawCard) {
+    static const int picturesAt = OffsetOf(&CardRecord::CardPicture);
+    static const int soundsAt = OffsetOf(&CardRecord::CardSound);
+    return {rawCard + picturesAt, rawCard + picturesAt + 12, rawCard + soundsAt, rawCard + soundsAt + 12};
+}
+
+// A name's bytes as the file system meets them (see NativePath): without
+// trailing spaces and zero bytes, a backslash read as a slash. The code page
+// gives each byte a character of its own, so equal keys are equal files. The
+// key may point into the record: it lives no longer than the look-up.
+QByteArray NameKey(const char* field) {
+    int length = 12;
+    while (length > 0 && (field[length - 1] == ' ' || field[length - 1] == '\0')) --length;
+    QByteArray key = QByteArray::fromRawData(field, length);
+    if (key.contains('\\')) key.replace('\\', '/');
+    return key;
+}
+
+}  // namespace
+
+void LeavingCardFiles::Leaving(const char* rawCard) {
+    CardRecord card;
+    const auto fields = NameFields(rawCard);
+    for (std::size_t side = 0; side < 2; ++side) {
+        std::memcpy(card.CardPicture[side].Bytes.data(), fields[side], 12);
+        std::memcpy(card.CardSound[side].Bytes.data(), fields[2 + side], 12);
+    }
+    const QStringList files = CardFilesOf(card);
+    for (const char* field : fields) {
+        const QString path = DesignFilePath(DecodeText(field, 12));
+        if (!files.contains(path)) continue;
+        const QByteArray key = NameKey(field);
+        leaving_.insert(QByteArray(key.constData(), key.size()), path);
+    }
+}
+
+void LeavingCardFiles::Staying(const char* rawCard) {
+    if (leaving_.isEmpty()) return;
+    for (const char* field : NameFields(rawCard)) {
+        const QByteArray key = NameKey(field);
+        if (leaving_.contains(key)) kept_.insert(QByteArray(key.constData(), key.size()));
+    }
+}
+
+QStringList LeavingCardFiles::Files() const {
+    QStringList files;
+    for (auto it = leaving_.begin(); it != leaving_.end(); ++it)
+        if (!kept_.contains(it.key())) files << it.value();
+    files.sort();
     return files;
 }
 
@@ -93,15 +162,24 @@ void DeleteDeck(int recordNumber) {
         gone.push_back(r.DeckId);
         return true;
     });
-    for (Integer deckId : gone) DeleteDeckCards(deckId);
+    for (Integer deckId : gone)
+        if (FindDeckRecordById(deckId) < 0) DeleteDeckCards(deckId);
 }
 
 void DeleteDeckCards(Integer deckId) {
     const int idAt = OffsetOf(&CardRecord::CardDeckId);
-    // The files go once the records that name them are gone.
-    QStringList files;
+    // The files go once the records that name them are gone, and only those
+    // that no other card names.
+    LeavingCardFiles files;
+    {
+        RecordReader<CardRecord> reader(CardsPath);
+        while (const char* raw = reader.NextRaw())
+            if (RawInteger(raw, idAt) == deckId) files.Leaving(raw);
+    }
     RewriteWithout<CardRecord>(CardsPath, AppPath + CardsTmpName, [&](const char* raw) {
-        return RawInteger(raw, idAt) == deckId;
-    }, [&](const CardRecord& r) { files << CardFilesOf(r); });
-    for (const QString& file : files) KillIgnoringErrors(file);
+        if (RawInteger(raw, idAt) == deckId) return true;
+        files.Staying(raw);
+        return false;
+    }, [](const CardRecord&) {});
+    for (const QString& file : files.Files()) KillIgnoringErrors(file);
 }

@@ -38,9 +38,12 @@ Integer FindDeckIdByName(const QString& name) {
     return id;
 }
 
-int FindDeckRecordById(Integer deckId) {
+int FindDeckRecordById(Integer deckId, int leavingOut) {
     const int idAt = OffsetOf(&DeckRecord::DeckId);
-    return FindRaw<DeckRecord>(DecksPath, [&](const char* raw) { return RawInteger(raw, idAt) == deckId; });
+    int number = 0;
+    return FindRaw<DeckRecord>(DecksPath, [&](const char* raw) {
+        return ++number != leavingOut && RawInteger(raw, idAt) == deckId;
+    });
 }
 
 int FindSpreadRecordById(Integer spreadId) {

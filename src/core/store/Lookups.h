@@ -33,7 +33,9 @@ int FindDeckByName(const QString& name);
 int FindReadingByName(const QString& name);
 int FindDiaryByName(const QString& name);
 Integer FindDeckIdByName(const QString& name);     // the DeckId, or -1
-int FindDeckRecordById(Integer deckId);
+// The first deck record carrying the id, record number leavingOut not
+// counted.
+int FindDeckRecordById(Integer deckId, int leavingOut = 0);
 int FindSpreadRecordById(Integer spreadId);
 QString DeckNameById(Integer deckId);              // untrimmed, or ""
 QString SpreadNameById(Integer spreadId);          // untrimmed, or ""

@@ -5,9 +5,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
-#include "core/platform/FileSys.h"
+#include "core/decks/CardEditing.h"
 #include "core/platform/OleDate.h"
-#include "core/records/RecordFile.h"
 #include "core/store/RunState.h"
 #include "screens/decks/DeckControls.h"
 #include "screens/decks/frmDecks.h"
@@ -60,26 +59,9 @@ void DeckScreen::UpdateCardButtons() { cmdEditCard->setEnabled(lstCards->ListInd
 void DeckScreen::OpenDeck(bool existingDeck, bool skipDefaultReversed) {
     if (IsLoaded<frmDecks>()) OldDesignName = Get<frmDecks>().ChosenDeckName();
     CentreInFrame(*this);
-    KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
-    if (existingDeck) CopyDeckIn(skipDefaultReversed);
-    FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
+    OpenWorkingFolder(CurrentDeck, existingDeck, skipDefaultReversed);
     FillDeckFields();
     RefreshCardList();
-}
-
-void DeckScreen::CopyDeckIn(bool skipDefaultReversed) {
-    RecordReader<CardRecord> reader(CardsPath);
-    CardRecord card;
-    int seen = 0;
-    while (seen < CurrentDeck.CardCount && reader.Next(card)) {
-        if (card.CardDeckId != CurrentDeck.DeckId) continue;
-        ++seen;
-        FileCopy(CardsDir + card.CardPicture[0].Value(), TempDir + card.CardPicture[0].Value());
-        if (!skipDefaultReversed || card.CardPicture[1].Value() != DefaultPictureName)
-            FileCopy(CardsDir + card.CardPicture[1].Value(), TempDir + card.CardPicture[1].Value());
-        for (const auto& sound : card.CardSound)
-            if (!sound.IsBlank()) FileCopy(CardsDir + sound.Value(), TempDir + sound.Value());
-    }
 }
 
 void DeckScreen::FillDeckFields() {

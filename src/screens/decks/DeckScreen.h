@@ -45,8 +45,10 @@ protected:
     DeckScreen(const QString& captionStem, bool designing);
 
     // The opening common to both: note the deck list's line, centre, empty
-    // Temp/, copy the deck's files in (for an existing deck), put the default
-    // picture beside them, fill the fields and list the cards in memory. The
+    // Temp/, copy the deck's files in (for an existing deck; the designer
+    // leaves a reversed side on the default picture where it is, the viewer
+    // copies it like any other), put the default picture beside them, fill
+    // the fields and list the cards in memory. The
     // list comes from DeckCards even when nothing was copied in, so a deck
     // viewed without its files still lists its cards, on default pictures.
     void OpenDeck(bool existingDeck, bool skipDefaultReversed);
@@ -55,11 +57,5 @@ protected:
     virtual void UpdateCardButtons();
 
 private:
-    // The working copies of an existing deck's files: every card of the deck
-    // in Cards.crd gives its files in Temp/. The
-    // designer leaves a reversed side on the default picture where it is;
-    // the viewer copies it like any other.
-    void CopyDeckIn(bool skipDefaultReversed);
-
     QString captionStem_;
 };

@@ -7,7 +7,6 @@
 
 #include "core/decks/CardEditing.h"
 #include "core/decks/CardStore.h"
-#include "core/platform/FileSys.h"
 #include "core/store/DeckLoading.h"
 #include "core/store/RunState.h"
 #include "screens/decks/DeckControls.h"
@@ -140,28 +139,15 @@ void frmAddCard::StoreCard() {
         return;
     }
 
-    CardWorkingFiles& files = WorkingFiles();
-    if (files.Picture[0].startsWith(UprightPictureStem))
-        CurrentCard.CardPicture[0] = PlaceWorkingPicture(0, files.Picture[0]);
-    if (files.Picture[1].startsWith(ReversedPictureStem))
-        CurrentCard.CardPicture[1] = PlaceWorkingPicture(1, files.Picture[1], files.Picture[1] == DefaultPicturePath);
-    const std::array<QString, 2> soundFiles = files.Sound;
-    const QString soundStems[2] = {UprightSoundStem, ReversedSoundStem};
-    for (std::size_t side = 0; side < 2; ++side) {
-        if (!soundFiles[side].startsWith(soundStems[side])) continue;
-        CurrentCard.CardSound[side] =
-            QStringLiteral("M") + CurrentCard.CardPicture[side].Value().left(7) + soundFiles[side].right(4);
-        MediaPlayer1->Close();
-        RenameWorkingFile(soundFiles[side], CurrentCard.CardSound[side].Value());
-    }
+    // The player lets go of a sound before it takes its final name.
+    MediaPlayer1->Close();
+    StoreWorkingFiles(CurrentCard);
 
     UpdateThisCartoDeck_frmDesignDeck();
     DesignModified = false;
     Get<frmDesignDeck>().DesignModified = true;
     DesignMode = 0;
     SaveSuccessful = true;
-    files.Picture = {};
-    files.Sound = {};
 }
 
 void frmAddCard::UpdateThisCartoDeck_frmDesignDeck() {
@@ -198,8 +184,7 @@ void frmAddCard::cmdBack_Click() {
         }
     }
     MediaPlayer1->Close();
-    for (const QString& stem : {UprightPictureStem, ReversedPictureStem, UprightSoundStem, ReversedSoundStem})
-        KillIgnoringErrors(TempDir + stem + QStringLiteral(".*"));
+    DropUnstoredWorkingFiles();
     CloseForm = true;
     SetScreenPointer(MousePointer::Arrow);
     Unload();

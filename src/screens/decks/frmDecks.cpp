@@ -6,11 +6,10 @@
 #include <QPushButton>
 #include <algorithm>
 
+#include "core/decks/DeckStore.h"
 #include "core/platform/OleDate.h"
 #include "core/records/RecordFile.h"
-#include "core/spreads/AllowedDecks.h"
 #include "core/store/DeckLoading.h"
-#include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
@@ -207,20 +206,6 @@ void frmDecks::cmdClose_Click() {
     Unload();
 }
 
-bool frmDecks::AskDeleteQuestions(const QString& deckName, Integer deckId) {
-    if (MsgBox(QStringLiteral("Are you sure you want to delete deck '") + deckName +
-                   QStringLiteral("' ?\nBe aware that this deck will be removed from all spreads that use it."),
-               vbYesNo | vbQuestion | vbDefaultButton2) == vbNo)
-        return false;
-    const QString question =
-        IsSoleDeckOfASpread(deckId)
-            ? QStringLiteral("At least one spread uses solely this deck. Further, any readings or diaries that\n"
-                             "use this deck will not be able to be opened. Proceed anyway?")
-            : QStringLiteral("Any readings or diaries using this deck will not be able to be opened.\n"
-                             "Proceed anyway?");
-    return MsgBox(question, vbYesNo | vbQuestion | vbDefaultButton2) == vbYes;
-}
-
 QString frmDecks::ChosenDeckName() const { return lstDecks->Text(); }
 
 void frmDecks::cmdDelete_Click() {
@@ -230,15 +215,12 @@ void frmDecks::cmdDelete_Click() {
         UpdateButtons();
         return;
     }
-    const QString deckName = lstDecks->Text();
-    const int recordNumber = FindDeckByName(deckName);
-    DeckRecord deck;
-    if (recordNumber < 0 || !GetRecord(DecksPath, recordNumber, deck)) RaiseError(errInputPastEndOfFile);
-    if (!AskDeleteQuestions(deckName, deck.DeckId)) return;
+    const DeckDeleteCheck check = CheckDeckDelete(lstDecks->Text());
+    for (const QString& question : check.Questions)
+        if (MsgBox(question, vbYesNo | vbQuestion | vbDefaultButton2) == vbNo) return;
 
     SetScreenPointer(MousePointer::Hourglass);
-    RemoveDeckFromSpreads(deck.DeckId);
-    DeleteDeck(FindDeckByName(deckName));
+    RemoveDeck(check.RecordNumber);
 
     lstDecks->RemoveItem(line);
     lstDecks->setListIndex(line - 1);

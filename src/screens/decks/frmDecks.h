@@ -56,5 +56,4 @@ private:
     // Loads the selected deck for a designer or viewer; on a deck that
     // failed to load and was removed, drops its line.
     bool LoadSelectedDeck();
-    bool AskDeleteQuestions(const QString& deckName, Integer deckId);
 };

@@ -7,8 +7,8 @@
 
 #include "core/decks/CardEditing.h"
 #include "core/decks/CardStore.h"
-#include "core/platform/FileSys.h"
 #include "core/platform/OleDate.h"
+#include "core/store/Housekeeping.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
 #include "screens/decks/DeckControls.h"
@@ -123,9 +123,7 @@ void frmDesignDeck::cmdAddCard_Click() {
     bool picked = WorkingFiles().ImageSelected;
     if (picked) {
         if (!CurrentDeck.IncludesReversed) {
-            WorkingFiles().Picture[1] = DefaultPicturePath;
-            CurrentCard.CardPicture[1] = DefaultPictureName;
-            FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
+            PointReversedAtDefault(CurrentCard);
         } else {
             Get<frmGetImageFile>().ShowFor(2);
             picked = WorkingFiles().ImageSelected;
@@ -171,13 +169,7 @@ void frmDesignDeck::cmdDeleteCard_Click() {
         return;
     const int position = SelectedCardPosition();
     if (position < 1) return;
-    // Its sounds stay in Temp/ until the designer closes; nothing saves them.
-    for (const auto& picture : CurrentDeck.DeckCards(position).CardPicture)
-        if (picture.Value() != DefaultPictureName) KillIgnoringErrors(TempDir + picture.Value());
-    const int count = CurrentDeck.CardCount;
-    for (int i = position; i < count; ++i) CurrentDeck.DeckCards(i) = CurrentDeck.DeckCards(i + 1);
-    CurrentDeck.CardCount = static_cast<Integer>(count - 1);
-    CurrentDeck.DeckCards.RedimPreserve(count - 1);
+    RemoveDeckCard(CurrentDeck, position);
     lstCards->RemoveItem(lstCards->ListIndex());
     UpdateCardButtons();
     DesignModified = true;
@@ -207,7 +199,7 @@ void frmDesignDeck::cmdBack_Click() {
         if (answer == vbCancel) return;
         if (answer == vbYes) cmdSave_Click();
     }
-    KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
+    ClearTemp();
     SetScreenPointer(MousePointer::Hourglass);
     Get<frmDecks>().Show();
     SetScreenPointer(MousePointer::Arrow);

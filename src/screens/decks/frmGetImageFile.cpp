@@ -3,8 +3,6 @@
 #include <QCheckBox>
 
 #include "core/decks/CardEditing.h"
-#include "core/platform/FileSys.h"
-#include "core/store/RunState.h"
 #include "screens/decks/DeckControls.h"
 #include "screens/decks/frmAddCard.h"
 #include "screens/platform/FileLists.h"
@@ -50,12 +48,7 @@ void frmGetImageFile::chkPreview_Click() {
 }
 
 void frmGetImageFile::TakeFile(int side, const QString& source) {
-    // The working name changes only once the copy is there: a file that
-    // vanished since it was listed leaves the card as it was.
-    const QString name = (side == 0 ? UprightPictureStem : ReversedPictureStem) + source.right(4);
-    FileCopy(source, TempDir + name);
-    QString& working = WorkingFiles().Picture[static_cast<std::size_t>(side)];
-    working = name;
+    TakePickedPicture(side, source);
     if (IsLoaded<frmAddCard>()) {
         frmAddCard& editor = Get<frmAddCard>();
         editor.DesignModified = true;

@@ -1,8 +1,6 @@
 #include "screens/decks/frmGetSoundFile.h"
 
 #include "core/decks/CardEditing.h"
-#include "core/platform/FileSys.h"
-#include "core/store/RunState.h"
 #include "screens/decks/DeckControls.h"
 #include "screens/decks/frmAddCard.h"
 #include "screens/platform/MediaPlayer.h"
@@ -22,12 +20,7 @@ void frmGetSoundFile::ClearSelectedFile() { MediaPlayer1->Close(); }
 
 void frmGetSoundFile::TakeFile(int side, const QString& source) {
     MediaPlayer1->Close();
-    // The working name changes only once the copy is there: a file that
-    // vanished since it was listed leaves the card as it was.
-    const QString name = (side == 0 ? UprightSoundStem : ReversedSoundStem) + source.right(4);
-    FileCopy(source, TempDir + name);
-    QString& working = WorkingFiles().Sound[static_cast<std::size_t>(side)];
-    working = name;
+    const QString working = TakePickedSound(side, source);
     if (IsLoaded<frmAddCard>()) Get<frmAddCard>().TakeWorkingSound(side, working);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
-// "Save Deck": writes the deck being designed to Decks.dck and Cards.crd
-// under a new or an existing name, and moves its working pictures and sounds
-// from Temp/ into Cards/ under fresh CU, CR and M names.
+// "Save Deck": asks the name under which the deck being designed is saved,
+// and whether it may replace the deck of that name; the save itself is
+// DeckStore's.
 #include "screens/platform/Form.h"
 
 class QLineEdit;
@@ -26,9 +26,4 @@ public:
 protected:
     void Form_Load() override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
-
-private:
-    // Writes the deck in hand under the name, in place of deck record
-    // `existing` (-1: none), with its pictures and sounds in Cards/.
-    void SaveDeck(const QString& name, int existing);
 };
