@@ -170,12 +170,6 @@ private slots:
         QVERIFY(!failing.left());
         QVERIFY(!QApplication::overrideCursor());   // the hourglass went with the operation
         if (IsLoaded<frmMainScreen>()) QVERIFY(Get<frmMainScreen>().Visible());   // back where it was
-        // Another spread's View then shows that spread.
-        if (screen == 0) {
-            Get<frmSpreads>().SelectSpread(QStringLiteral("Second"));
-            Get<frmSpreads>().cmdInfo->click();
-            QCOMPARE(Get<frmSpreadInfo>().Caption(), QStringLiteral("Spread View - Second"));
-        }
         for (auto unload : {UnloadScreen<frmSpreadInfo>, UnloadScreen<frmSpreads>, UnloadScreen<frmDecks>,
                             UnloadScreen<frmMainScreen>})
             unload();
