@@ -1,12 +1,25 @@
 // The screen model: created at first use, loaded once, unloaded on request
-// (and only when the screen agrees), shown modally with the caller waiting,
-// keys seen by the screen before its controls.
+// (and only when the screen agrees), gone again when its loading fails, shown
+// modally with the caller waiting, keys seen by the screen before its
+// controls.
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QTimer>
+#include <functional>
 
 #include "core/platform/Twips.h"
+#include "screens/decks/frmDeckInfo.h"
+#include "screens/decks/frmDecks.h"
+#include "screens/diary/frmNewDiary.h"
+#include "screens/diary/frmOpenDiary.h"
+#include "screens/packages/frmCreatePackage.h"
+#include "screens/platform/ErrorReport.h"
 #include "screens/platform/Form.h"
+#include "screens/readings/frmNewReading.h"
+#include "screens/readings/frmOpenReading.h"
+#include "screens/shell/frmMainScreen.h"
+#include "screens/spreads/frmSpreadInfo.h"
+#include "screens/spreads/frmSpreads.h"
 #include "support/ScreenTest.h"
 
 namespace {
@@ -44,6 +57,47 @@ protected:
 class frmOther : public Form {
 public:
     frmOther() { resize(100, 100); }
+};
+
+// A screen of each kind whose loading meets a file it cannot use: how the
+// file is spoilt, how the user opens the screen, and whether anything the
+// opening loaded is left.
+struct FailingLoad {
+    std::function<void()> spoil;
+    std::function<void()> open;
+    std::function<bool()> left;
+};
+
+// A record file that cannot be read: a folder stands in its place.
+void Unreadable(const QString& path) {
+    QFile::remove(path);
+    QDir().mkdir(path);
+}
+
+std::function<void()> MainButton(int index) {
+    return [index] {
+        Get<frmMainScreen>().Show();
+        Guarded([index] { Get<frmMainScreen>().lblButton_Click(index); });
+    };
+}
+
+const FailingLoad kFailingLoads[] = {
+    {[] { ChangeRecord<SpreadRecord>(SpreadsPath, 1, [](SpreadRecord& s) { s.BackgroundFile = "S000001.bmp"; }); },
+     [] {
+         Get<frmSpreads>().SelectSpread(QStringLiteral("First"));
+         Get<frmSpreads>().cmdInfo->click();
+     },
+     IsLoaded<frmSpreadInfo>},
+    {[] { ChangeRecord<CardRecord>(CardsPath, 1, [](CardRecord& c) { c.CardSound[0] = "MCU00001.wav"; }); },
+     [] {
+         Get<frmDecks>().lstDecks->setListIndex(0);
+         Get<frmDecks>().cmdInfo->click();
+     },
+     IsLoaded<frmDeckInfo>},
+    {[] { Unreadable(ReadingsPath); }, MainButton(2),
+     [] { return IsLoaded<frmOpenReading>() || IsLoaded<frmNewReading>(); }},
+    {[] { Unreadable(DiaryPath); }, MainButton(4), [] { return IsLoaded<frmOpenDiary>() || IsLoaded<frmNewDiary>(); }},
+    {[] { Unreadable(DecksPath); }, MainButton(8), IsLoaded<frmCreatePackage>},
 };
 }  // namespace
 
@@ -86,6 +140,40 @@ private slots:
         QTimer::singleShot(50, [&] { f.Unload(); });
         f.Show(true);
         QVERIFY(!IsLoaded<frmSample>());
+    }
+
+    // A screen whose loading fails shows the error box and is gone, with
+    // what its opening loaded: the next use loads it afresh instead of
+    // bringing back the half-loaded one.
+    void aScreenThatFailsToLoadIsNotKept_data() {
+        QTest::addColumn<int>("screen");
+        QTest::newRow("the spread viewer, its background gone") << 0;
+        QTest::newRow("the deck viewer, a sound gone") << 1;
+        QTest::newRow("the saved readings, their file unreadable") << 2;
+        QTest::newRow("the saved diary entries, their file unreadable") << 3;
+        QTest::newRow("package creation, the decks unreadable") << 4;
+    }
+    void aScreenThatFailsToLoadIsNotKept() {
+        QFETCH(int, screen);
+        const FailingLoad& failing = kFailingLoads[screen];
+        QTemporaryDir dir;
+        Fixtures::UseProgramDir(dir.path());
+        MsgBoxScript::Clear();
+        for (const char* name : {"First", "Second"}) {
+            Fixtures::MakeDeck(QLatin1String(name), 2, false);
+            Fixtures::MakeSpread(QLatin1String(name), 2);
+        }
+        failing.spoil();
+        failing.open();
+        QCOMPARE(Prompts().size(), 1);
+        QVERIFY(Prompts().first().startsWith(QStringLiteral("Run-time error '")));
+        QVERIFY(!failing.left());
+        QVERIFY(!QApplication::overrideCursor());   // the hourglass went with the operation
+        if (IsLoaded<frmMainScreen>()) QVERIFY(Get<frmMainScreen>().Visible());   // back where it was
+        for (auto unload : {UnloadScreen<frmSpreadInfo>, UnloadScreen<frmSpreads>, UnloadScreen<frmDecks>,
+                            UnloadScreen<frmMainScreen>})
+            unload();
+        Settle();
     }
 
     void closeBoxIsARequest() {

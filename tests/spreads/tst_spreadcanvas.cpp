@@ -1,6 +1,7 @@
 // The designer's canvas: the grid and snapping arithmetic to the twip, the
-// limits of adding and removing locations, the keys of a rectangle, the
-// grid's 82 lines, and the stacking of rectangles above grid and picture.
+// limits of adding and removing locations, what opening the notes or a
+// location's attributes changes, the keys of a rectangle, the grid's 82
+// lines, and the stacking of rectangles above grid and picture.
 #include "SpreadTestKit.h"
 #include "core/store/NewDesigns.h"
 #include "screens/shell/ImageBox.h"
@@ -8,6 +9,7 @@
 #include "screens/spreads/TextBoxes.h"
 #include "screens/spreads/frmDesignSpread.h"
 #include "screens/spreads/frmLocationAttributes.h"
+#include "screens/spreads/frmSpreadComments.h"
 #include "screens/spreads/frmSpreads.h"
 #include "support/ScreenTest.h"
 
@@ -89,17 +91,12 @@ private slots:
         QVERIFY(!d.SpreadDirty);
         QVERIFY(d.picLocation(0)->isHidden());
 
-        // A new location is every byte zero; its attributes show blanks and
-        // leave it so until a box changes.
+        // A new location is every byte zero, until a box of its attributes
+        // changes: a title typed and taken back leaves blanks.
         Designer(1);
-        const QByteArray zeros(50, '\0');
-        QCOMPARE(SpreadLocations(1).LocationTitle.Raw(), zeros);
+        QCOMPARE(SpreadLocations(1).LocationTitle.Raw(), QByteArray(50, '\0'));
         d_->cmdCardAttributes_Click(1);
         frmLocationAttributes& attributes = Get<frmLocationAttributes>();
-        QCOMPARE(attributes.Caption(), QStringLiteral("Location Attriubtes - Location number 1"));
-        QVERIFY(attributes.txtTitle->text().isEmpty());
-        QCOMPARE(SpreadLocations(1).LocationTitle.Raw(), zeros);
-        QCOMPARE(SpreadLocations(1).LocationQuestion[0].Raw(), QByteArray(125, '\0'));
         QTest::keyClicks(attributes.txtTitle, QStringLiteral("A"));
         QTest::keyClick(attributes.txtTitle, Qt::Key_Backspace);
         QVERIFY(SpreadLocations(1).LocationTitle.Raw() == QByteArray(50, ' '));
@@ -122,6 +119,34 @@ private slots:
         MsgBoxScript::Answer(vbNo);
         d_->cmdRemoveCard_Click();
         QCOMPARE(CurrentSpread.LocationCount, Integer(2));
+    }
+
+    // Opening the notes or a location's attributes fills their boxes; only a
+    // fill that changes a box's text counts as a change. An empty field then
+    // keeps its bytes and leaves the spread clean, while one with text marks
+    // the spread, as the design has it.
+    void openingACompanionChangesOnlyWhatItFills_data() {
+        QTest::addColumn<bool>("notes");   // else the attributes of a new location
+        QTest::addColumn<QString>("text");
+        QTest::newRow("empty notes") << true << "";
+        QTest::newRow("notes with text") << true << "Slowly";
+        QTest::newRow("a location never edited") << false << "";
+        QTest::newRow("a location with a title") << false << "Past";
+    }
+    void openingACompanionChangesOnlyWhatItFills() {
+        QFETCH(bool, notes);
+        QFETCH(QString, text);
+        Designer(1);
+        if (notes) CurrentSpread.SpreadComments = text;
+        else if (!text.isEmpty()) SpreadLocations(1).LocationTitle = text;
+        const QByteArray before = EncodeRecord(CurrentSpread) + EncodeRecord(SpreadLocations(1));
+        d_->SpreadDirty = false;
+        if (notes) d_->cmdComments_Click();
+        else d_->cmdCardAttributes_Click(1);
+        UnloadScreen<frmSpreadComments>();
+        UnloadScreen<frmLocationAttributes>();
+        QCOMPARE(d_->SpreadDirty, !text.isEmpty());
+        if (text.isEmpty()) QCOMPARE(EncodeRecord(CurrentSpread) + EncodeRecord(SpreadLocations(1)), before);
     }
 
     void keysMoveOnlyWithShiftAlone() {
@@ -178,7 +203,6 @@ private slots:
         for (int i = 0; i < VerticalGridLines; ++i) shown += canvas->linVerticalGrid(i)->isVisible();
         QCOMPARE(shown, 82);
         QCOMPARE(canvas->linHorizontalGrid(24)->Y1, 24 * 243);
-        QCOMPARE(canvas->linHorizontalGrid(33)->X2, 11655);
         QCOMPARE(canvas->linVerticalGrid(47)->X1, 47 * 203);
         QCOMPARE(canvas->linVerticalGrid(47)->Y2, 6015);
 

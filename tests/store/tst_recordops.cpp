@@ -1,12 +1,15 @@
 // The record store: counts, lookups by name and id, free ids, the delete
-// passes with the files they take along, locations, and the tests of whether
-// a spread or deck can be dealt.
+// passes with the files they take along, locations, every write of a spread,
+// and the tests of whether a spread or deck can be dealt.
 #include <QTemporaryDir>
 #include <QtTest>
+#include <algorithm>
 #include <cstring>
 
 #include "core/platform/FileSys.h"
+#include "core/platform/OleDate.h"
 #include "core/records/RecordFile.h"
+#include "core/spreads/SpreadStore.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
@@ -57,6 +60,11 @@ QStringList LocationKeys() {
 }
 
 bool InCards(const QString& name) { return FileExists(CardsDir + name); }
+
+// Record n of a file of spreads, as bytes.
+QByteArray SpreadsAt(const QByteArray& file, int n) {
+    return file.mid((n - 1) * SpreadRecord::Length, SpreadRecord::Length);
+}
 
 }  // namespace
 
@@ -130,24 +138,118 @@ private slots:
         QCOMPARE(TrimField(DeckNameById(20)), QStringLiteral("Caf\u00e9 \u20AC"));
     }
 
-    void deleteSpreadTakesItsLocationsAndBackground() {
-        const Integer a = Fixtures::MakeSpread(QStringLiteral("A"), 2);
-        const Integer b = Fixtures::MakeSpread(QStringLiteral("B"), 3);
-        const Integer c = Fixtures::MakeSpread(QStringLiteral("C"), 1);
+    // A spread saved from the designer: Alpha, with one location retitled
+    // and a new picture in Temp/, under the name typed, beside Beta. Each
+    // has a background of its own in Cards/.
+    void aSpreadIsSavedInOneStep_data() {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<bool>("withPicture");
+        QTest::addColumn<int>("record");   // where it lands, and the record it replaces; 0: refused
+        QTest::addColumn<Integer>("id");
+        QTest::addColumn<QString>("background");
+        QTest::newRow("a new name") << "Gamma" << true << 3 << Integer(3) << "S000003.bmp";
+        QTest::newRow("its own name, its old picture's name retaken") << "  Alpha " << true << 1 << Integer(1)
+                                                                      << "S000001.bmp";
+        QTest::newRow("another spread's name, whose locations stay") << "Beta" << true << 2 << Integer(1)
+                                                                     << "S000002.bmp";
+        QTest::newRow("a picture gone from Temp/") << "Gamma" << false << 3 << Integer(3) << "";
+        QTest::newRow("a name of blanks") << "   " << true << 0 << Integer(0) << "";
+    }
+    void aSpreadIsSavedInOneStep() {
+        QFETCH(QString, typed);
+        QFETCH(bool, withPicture);
+        QFETCH(int, record);
+        QFETCH(Integer, id);
+        QFETCH(QString, background);
+        for (int n = 1; n <= 2; ++n) {
+            Fixtures::MakeSpread(n == 1 ? QStringLiteral("Alpha") : QStringLiteral("Beta"), 2);
+            const QString picture = QStringLiteral("S00000%1.bmp").arg(n);
+            ChangeRecord<SpreadRecord>(SpreadsPath, n, [&](SpreadRecord& s) { s.BackgroundFile = picture; });
+            Fixtures::WritePicture(CardsDir + picture);
+        }
+        SpreadDesign design;
+        GetRecord(SpreadsPath, 1, design.Spread);
+        LoadSpreadLocations(design.Spread.SpreadId, 2);
+        design.Locations = SpreadLocations;
+        design.Locations(2).LocationTitle = QStringLiteral("Retitled");
+        design.Spread.BackgroundFile = QStringLiteral("sprpic.bmp");
+        if (withPicture) Fixtures::WritePicture(TempDir + QStringLiteral("sprpic.bmp"), Qt::green);
+        const QByteArray picture = withPicture ? ReadWholeFile(TempDir + QStringLiteral("sprpic.bmp")) : QByteArray();
+        const QByteArray spreadsBefore = ReadWholeFile(SpreadsPath);
+
+        const SpreadNameCheck check = CheckSpreadName(typed);
+        const bool replacing = record > 0 && record < 3;
+        QCOMPARE(check.Replacing, replacing ? record : 0);
+        QCOMPARE(check.Question, replacing ? QStringLiteral("Spread already exists. Overwrite?") : QString());
+        QCOMPARE(check.Problem, record ? QString() : QStringLiteral("Please select a name to save the spread as."));
+        if (!record) return;
+        const QByteArray inHand = EncodeRecord(design.Spread);
+        const SpreadDesign saved = SaveSpread(design, check.Name, check.Replacing);
+        QCOMPARE(EncodeRecord(design.Spread), inHand);   // the design passed in stays as it was
+
+        // Reopened as saved: the record where it belongs, its locations by
+        // its id, its picture under its S name; the other spread as it was.
+        QCOMPARE(CountSpreads(), std::max(record, 2));
+        SpreadRecord onDisk;
+        QVERIFY(GetRecord(SpreadsPath, record, onDisk));
+        QCOMPARE(EncodeRecord(onDisk), EncodeRecord(saved.Spread));
+        QCOMPARE(onDisk.SpreadName.Trimmed(), TrimField(typed));
+        QCOMPARE(QList<Integer>({onDisk.SpreadId, onDisk.SpreadRevision}), QList<Integer>({id, 2}));
+        QCOMPARE(onDisk.ModifiedOn, OleToday());
+        QCOMPARE(onDisk.BackgroundFile.Trimmed(), background);
+        if (withPicture) QCOMPARE(ReadWholeFile(CardsDir + background), picture);
+        LoadSpreadLocations(id, 2);
+        for (int i = 1; i <= 2; ++i) QCOMPARE(EncodeRecord(SpreadLocations(i)), EncodeRecord(saved.Locations(i)));
+        QCOMPARE(SpreadLocations(2).LocationTitle.Trimmed(), QStringLiteral("Retitled"));
+        const int other = record == 1 ? 2 : 1;
+        QCOMPARE(SpreadsAt(ReadWholeFile(SpreadsPath), other), SpreadsAt(spreadsBefore, other));
+        QVERIFY(InCards(QStringLiteral("S00000%1.bmp").arg(other)));
+        // Its locations replace those of its own id alone: saved over Beta,
+        // Beta's stay, though no spread names them now.
+        QCOMPARE(LocationKeys().size(), record == 3 ? 6 : 4);
+    }
+
+    // Tying a spread to decks and deleting it find the spread by its name;
+    // a name no spread has changes nothing.
+    void aSpreadIsTiedOrDeletedByName_data() {
+        QTest::addColumn<bool>("deleting");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("found");
+        QTest::newRow("decks tied to a listed spread") << false << " Beta" << true;
+        QTest::newRow("decks tied to a spread gone") << false << "Gone" << false;
+        QTest::newRow("a listed spread deleted") << true << "Beta " << true;
+        QTest::newRow("a spread gone deleted") << true << "Gone" << false;
+    }
+    void aSpreadIsTiedOrDeletedByName() {
+        QFETCH(bool, deleting);
+        QFETCH(QString, name);
+        QFETCH(bool, found);
+        const Integer a = Fixtures::MakeSpread(QStringLiteral("Alpha"), 2);
+        const Integer b = Fixtures::MakeSpread(QStringLiteral("Beta"), 3, {a});
+        Fixtures::MakeSpread(QStringLiteral("Gamma"), 1);
         ChangeRecord<SpreadRecord>(SpreadsPath, 2, [](SpreadRecord& s) { s.BackgroundFile = QStringLiteral("S000001.bmp"); });
         Fixtures::WritePicture(CardsDir + QStringLiteral("S000001.bmp"));
-        Fixtures::WritePicture(CardsDir + QStringLiteral("S000002.bmp"));
+        const QByteArray spreads = ReadWholeFile(SpreadsPath);
+        const QStringList locations = LocationKeys();
 
-        DeleteSpread(2);
-        QCOMPARE(SpreadNames(), (QStringList{QStringLiteral("A"), QStringLiteral("C")}));
-        QCOMPARE(LocationKeys(), (QStringList{QStringLiteral("%1:1:Position 1").arg(a),
-                                              QStringLiteral("%1:2:Position 2").arg(a),
-                                              QStringLiteral("%1:1:Position 1").arg(c)}));
-        QVERIFY(!InCards(QStringLiteral("S000001.bmp")));
-        QVERIFY(InCards(QStringLiteral("S000002.bmp")));
-        QVERIFY(!FileExists(AppPath + QStringLiteral("Spreads.tmp")));
-        QVERIFY(!FileExists(AppPath + QStringLiteral("Location.tmp")));
-        QCOMPARE(FindSpreadRecordById(b), -1);
+        if (deleting) {
+            QCOMPARE(DeleteSpreadNamed(name), found);
+            QCOMPARE(SpreadNames(), (found ? QStringList{"Alpha", "Gamma"} : QStringList{"Alpha", "Beta", "Gamma"}));
+            QCOMPARE(LocationKeys().size(), found ? 3 : 6);
+            QCOMPARE(FindSpreadRecordById(b), found ? -1 : 2);
+            QCOMPARE(InCards(QStringLiteral("S000001.bmp")), !found);
+            return;
+        }
+        // Any deck now; the date and revision as they were given.
+        SpreadRecord spread = Spread(name, b);
+        spread.AllowedDeckCount = -1;
+        spread.SpreadRevision = 7;
+        const QString problem = SaveSpreadDecks(spread);
+        const QString gone = QStringLiteral("Unable to find this spread. Please 'close' and select another spread.");
+        QCOMPARE(problem, found ? QString() : gone);
+        QCOMPARE(SpreadsAt(ReadWholeFile(SpreadsPath), 2), found ? EncodeRecord(spread) : SpreadsAt(spreads, 2));
+        QCOMPARE(ReadWholeFile(SpreadsPath).size(), spreads.size());
+        QCOMPARE(LocationKeys(), locations);
     }
 
     void deleteDeckTakesItsCardsAndTheirFiles() {

@@ -22,13 +22,12 @@
 #include "core/platform/ProgramLock.h"
 #include "core/platform/WriteFaults.h"
 #include "core/records/RecordFile.h"
+#include "core/spreads/SpreadStore.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 #include "screens/decks/DeckLoadQuestion.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/spreads/TextBoxes.h"
-#include "screens/spreads/frmSaveSpread.h"
 #include "screens/store/Startup.h"
 #include "support/Fixtures.h"
 #include "support/InstallAnswers.h"
@@ -150,6 +149,18 @@ void OpenDeckForSaving(int record) {
             if (!FileExists(TempDir + picture.Value())) FileCopy(CardsDir + picture.Value(), TempDir + picture.Value());
 }
 
+// Spread A as the designer holds it: a location retitled, a new picture in
+// Temp/.
+SpreadDesign gSpreadA;
+void HoldSpreadA() {
+    GetRecord(SpreadsPath, 1, gSpreadA.Spread);
+    LoadSpreadLocations(gSpreadA.Spread.SpreadId, 3);
+    gSpreadA.Locations = SpreadLocations;
+    gSpreadA.Locations(2).LocationTitle = QStringLiteral("Moved");
+    Fixtures::WritePicture(TempDir + QStringLiteral("sprpic.bmp"), Qt::red);
+    gSpreadA.Spread.BackgroundFile = QStringLiteral("sprpic.bmp");
+}
+
 struct Operation {
     const char* name;
     std::function<void()> prepare;   // untouched by faults
@@ -168,22 +179,16 @@ const QList<Operation>& Operations() {
         {"diary entry saved over", {}, [] { PutRecord(DiaryPath, 1, NamedDiary(QStringLiteral("Moonday"))); }},
         {"reading deleted", {}, [] { DeleteReading(QStringLiteral("Second")); }},
         {"diary entry deleted", {}, [] { DeleteDiary(QStringLiteral("Tuesday")); }},
-        {"spread deleted", {}, [] { DeleteSpread(1); }},
+        {"spread deleted", {}, [] { DeleteSpreadNamed(QStringLiteral("Spread A")); }},
         // A new background, which takes the name of the old one.
-        {"spread saved over",
+        {"spread saved over", HoldSpreadA, [] { SaveSpread(gSpreadA, QStringLiteral("Spread A"), 1); }},
+        {"spread saved as new", HoldSpreadA, [] { SaveSpread(gSpreadA, QStringLiteral("Spread C"), 0); }},
+        {"spread tied to any deck",
          [] {
-             GetRecord(SpreadsPath, 1, CurrentSpread);
-             LoadSpreadLocations(CurrentSpread.SpreadId, 3);
-             SpreadLocations(2).LocationTitle = QStringLiteral("Moved");
-             Fixtures::WritePicture(TempDir + QStringLiteral("sprpic.bmp"), Qt::red);
-             CurrentSpread.BackgroundFile = QStringLiteral("sprpic.bmp");
+             GetRecord(SpreadsPath, 1, gSpreadA.Spread);
+             gSpreadA.Spread.AllowedDeckCount = -1;
          },
-         [] {
-             MsgBoxScript::Answer(vbYes);
-             frmSaveSpread& save = Get<frmSaveSpread>();
-             save.txtSaveAs->setText(QStringLiteral("Spread A"));
-             save.cmdSave_Click();
-         }},
+         [] { SaveSpreadDecks(gSpreadA.Spread); }},
         {"deck deleted and untied from its spread", {}, [] { RemoveDeck(1); }},
         // Deck B's record gone, its cards left: the new deck takes its id.
         {"deck saved as new over left-over cards",
@@ -219,7 +224,6 @@ class TestWriteFaults : public QObject {
         } catch (const RuntimeError&) {
         }
         WriteFaults::Disarm();
-        UnloadScreen<frmSaveSpread>();
     }
 
     // The process killed at a step, half-way through a write where the step

@@ -2,14 +2,19 @@
 
 #include <QCoreApplication>
 
+#include "screens/platform/Events.h"
 #include "screens/platform/MsgBox.h"
 
+// The operation that met the error ends with the box, and so does the
+// hourglass it may have put up: the box waits for the user.
 void ReportError(const RuntimeError& error) {
+    SetScreenPointer(MousePointer::Default);
     MsgBox(QCoreApplication::translate("ErrorReport", "Run-time error '%1':\n\n%2").arg(error.Number()).arg(error.Description()),
            vbOKOnly | vbCritical);
 }
 
 void ReportUnexpected(const std::exception& error) {
+    SetScreenPointer(MousePointer::Default);
     MsgBox(QCoreApplication::translate("ErrorReport", "Run-time error '%1':\n\n%2")
                .arg(51)
                .arg(QString::fromLocal8Bit(error.what())),

@@ -7,7 +7,8 @@
 #include "core/platform/Errors.h"
 
 // Shows the error box for an unexpected failure: critical icon, title
-// "Cartomar", text "Run-time error 'n':" and the description.
+// "Cartomar", text "Run-time error 'n':" and the description. The pointer
+// is the ordinary one again from here.
 void ReportError(const RuntimeError& error);
 void ReportUnexpected(const std::exception& error);
 

@@ -95,7 +95,15 @@ void Form::Load() {
     if (loaded_) return;
     loaded_ = true;
     watchChildren(this);
-    Form_Load();
+    // A screen whose loading fails goes again at once, so that the next use
+    // loads it afresh instead of showing it half-filled. Its unload hooks do
+    // not run: they belong to a screen that was loaded.
+    try {
+        Form_Load();
+    } catch (...) {
+        Dispose();
+        throw;
+    }
     watchChildren(this);
 }
 
@@ -177,6 +185,11 @@ bool Form::RunUnload(int mode) {
     if (cancel) return false;
     Form_Unload(cancel);
     if (cancel) return false;
+    Dispose();
+    return true;
+}
+
+void Form::Dispose() {
     unloading_ = true;
     if (onDestroyed_) {
         onDestroyed_();
@@ -186,7 +199,6 @@ bool Form::RunUnload(int mode) {
     if (modalLoop_) modalLoop_->quit();
     if (sub_) sub_->deleteLater();
     else deleteLater();
-    return true;
 }
 
 QString Form::Caption() const { return windowTitle(); }

@@ -27,7 +27,9 @@ public:
     explicit Form(QWidget* parent = nullptr);
     ~Form() override;
 
-    // Runs Form_Load the first time only; Get<T>() calls it.
+    // Runs Form_Load the first time only; Get<T>() calls it. A Form_Load
+    // that raises an error takes the screen away again before the error
+    // goes on to the caller.
     void Load();
     bool IsLoadedForm() const { return loaded_; }
 
@@ -93,6 +95,9 @@ protected:
 
 private:
     bool RunUnload(int mode);
+    // Hides the screen, empties its slot and destroys it once control is
+    // back in the event loop.
+    void Dispose();
     void watchChildren(QObject* root);
     void leaveFrame();
     void enterFrame();

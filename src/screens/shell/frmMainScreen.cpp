@@ -195,8 +195,22 @@ void frmMainScreen::lblButton_Click(int Index) {
 }
 
 // The first screen of each subsystem. The main screen hides before it opens
-// and is shown again by that screen's Close.
+// and is shown again by that screen's Close. An opening that fails takes
+// away the entry screen it opened beneath and shows the main screen again,
+// so that the user is not left before an empty frame.
 void frmMainScreen::OpenFirstLevelScreen(int Index) {
+    try {
+        OpenSubsystem(Index);
+    } catch (...) {
+        UnloadScreen<frmNewReading>();
+        UnloadScreen<frmNewDiary>();
+        Show();
+        setMousePointer(MousePointer::Arrow);
+        throw;
+    }
+}
+
+void frmMainScreen::OpenSubsystem(int Index) {
     switch (Index) {
     case 1:   // a new reading: frmNewReading, with frmSelectSpread over it
         ResetSpread(CurrentSpread);

@@ -51,6 +51,7 @@ private:
     void lblButton_MouseMove(int Index, Qt::MouseButtons buttons, int x, int y);
     void lblButton_MouseUp(int Index);
     void OpenFirstLevelScreen(int Index);
+    void OpenSubsystem(int Index);
     void LaunchHelp();
     void OpenJournal();
 

@@ -6,8 +6,19 @@
 #include <QMimeData>
 #include <QTextCursor>
 
+namespace {
+// Raises a box's Change when its text differs from what it was at the last
+// one; the toolkit signals also a text set anew to the same value.
+template <class Box>
+void ChangeOnNewText(Box* box, QString& shown, const QString& now) {
+    if (now == shown) return;
+    shown = now;
+    emit box->Change();
+}
+}  // namespace
+
 TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
-    connect(this, &QLineEdit::textChanged, this, [this] { emit Change(); });
+    connect(this, &QLineEdit::textChanged, this, [this] { ChangeOnNewText(this, shown_, text()); });
 }
 
 void TextBox::keyPressEvent(QKeyEvent* e) {
@@ -31,7 +42,7 @@ MultiLineTextBox::MultiLineTextBox(QWidget* parent) : QPlainTextEdit(parent) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setLineWrapMode(QPlainTextEdit::WidgetWidth);
-    connect(this, &QPlainTextEdit::textChanged, this, [this] { emit Change(); });
+    connect(this, &QPlainTextEdit::textChanged, this, [this] { ChangeOnNewText(this, shown_, toPlainText()); });
 }
 
 int MultiLineTextBox::RoomLeft() const {

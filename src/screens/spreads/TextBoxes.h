@@ -2,8 +2,10 @@
 // Text boxes whose limit holds for typing only, as the design screens need:
 // a field filled from a record keeps all of its text even when it is longer
 // than the box lets a user type, and so reaches the record again uncut.
-// Change is raised at every change of the text, also when the program fills
-// the box.
+// Change is raised whenever the text changes, also when the program fills the
+// box, and only then: a box given the text it already shows raises nothing,
+// so that opening a screen on an empty field neither marks the design
+// changed nor writes the field.
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -24,6 +26,7 @@ protected:
 
 private:
     int maxLength_ = 0;   // 0: no limit
+    QString shown_;       // the text at the last Change
 };
 
 class MultiLineTextBox : public QPlainTextEdit {
@@ -47,4 +50,5 @@ protected:
 private:
     int RoomLeft() const;
     int maxLength_ = 0;
+    QString shown_;   // the text at the last Change
 };

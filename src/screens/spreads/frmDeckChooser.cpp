@@ -5,8 +5,7 @@
 #include <QPushButton>
 
 #include "core/platform/Twips.h"
-#include "core/records/RecordFile.h"
-#include "core/store/Lookups.h"
+#include "core/spreads/SpreadStore.h"
 #include "core/store/RunState.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
@@ -123,14 +122,11 @@ void frmDeckChooser::cmdLink_Click() {
         ChooserDirty = false;
         return;
     }
-    // Tying a spread to other decks is not a new revision of its design:
-    // the date and the revision stay as they are.
-    const int n = FindSpreadByName(CurrentSpread.SpreadName.Trimmed());
-    if (n < 0) {
-        MsgBox(QStringLiteral("Unable to find this spread. Please 'close' and select another spread."));
+    const QString problem = SaveSpreadDecks(CurrentSpread);
+    if (!problem.isEmpty()) {
+        MsgBox(problem);
         return;
     }
-    PutRecord(SpreadsPath, n, CurrentSpread);
     ChooserDirty = false;
 }
 

@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <cmath>
-#include <functional>
 
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
@@ -12,6 +11,7 @@
 #include "core/platform/Picture.h"
 #include "core/platform/Twips.h"
 #include "core/spreads/AllowedDecks.h"
+#include "core/spreads/SpreadStore.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
@@ -56,17 +56,6 @@ QPushButton* Button(QWidget* parent, const QString& name, const QString& caption
 Integer Whole(double twips) { return static_cast<Integer>(std::lrint(twips)); }
 
 bool IsEnter(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter; }
-
-// Runs a file or picture operation whose failure the designer passes over
-// without a word.
-bool Quietly(const std::function<void()>& operation) {
-    try {
-        operation();
-        return true;
-    } catch (const RuntimeError&) {
-        return false;
-    }
-}
 }  // namespace
 
 frmDesignSpread::frmDesignSpread() {
@@ -270,27 +259,24 @@ void frmDesignSpread::FillFields() {
     SelectedLocation = CurrentSpread.LocationCount;
 
     picDesignLocations->imgBackground->setStretch(CurrentSpread.StretchBackground != 0);
-    const QString background = CurrentSpread.BackgroundFile.Value();
-    if (!background.contains(QLatin1Char('.'))) {
-        ClearBackground();
-        return;
-    }
     // The designer works on a copy in Temp/; a picture that has gone from
     // Cards/ leaves the spread without one, silently. The spread still opens
     // unchanged: nothing the user did needs saving, and the blank name
     // reaches the disk with the next save.
-    if (!Quietly([&] { FileCopy(CardsDir + background, TempDir + background); })) {
-        CurrentSpread.BackgroundFile = QString();
-        return;
-    }
-    ShowBackground(TempDir + background, CurrentSpread.StretchBackground != 0);
+    const WorkingBackground working = OpenWorkingBackground(CurrentSpread);
+    CurrentSpread = working.Spread;
+    if (working.Path.isEmpty()) ClearBackground();
+    else ShowBackground(working.Path, CurrentSpread.StretchBackground != 0);
 }
 
 void frmDesignSpread::ShowBackground(const QString& path, bool stretch) {
     QImage image;
     // A file that holds no picture shows none; its name stays with the
     // spread.
-    Quietly([&] { image = LoadPicture(path).Image; });
+    try {
+        image = LoadPicture(path).Image;
+    } catch (const RuntimeError&) {
+    }
     picDesignLocations->SetBackground(image, stretch);
 }
 

@@ -4,9 +4,8 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "core/platform/FileSys.h"
 #include "core/platform/Twips.h"
-#include "core/spreads/SpreadBackground.h"
+#include "core/spreads/SpreadStore.h"
 #include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/shell/ImageBox.h"
@@ -15,14 +14,10 @@
 #include "screens/spreads/frmDesignSpread.h"
 
 namespace {
-const QString WorkingStem = QStringLiteral("sprpic");
-
 QRect At(int left, int top, int width, int height) {
     return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
 }
 }  // namespace
-
-QString WorkingBackgroundName(const QString& fileName) { return WorkingStem + TrimField(fileName).right(4); }
 
 frmGetSpreadBackground::frmGetSpreadBackground() {
     setObjectName(QStringLiteral("frmGetSpreadBackground"));
@@ -74,42 +69,23 @@ void frmGetSpreadBackground::cmdBrowse_Click() {
     txtFilename->setText(CommonDialog1.FileName);
 }
 
-bool frmGetSpreadBackground::Validate(const QString& fileName) {
-    QImage picture;
-    const QString problem = SpreadBackgroundProblem(fileName, &picture);
-    if (!problem.isEmpty()) {
-        MsgBox(problem, vbCritical);
-        return false;
-    }
-    Image1->setPicture(picture);
-    return true;
-}
-
 void frmGetSpreadBackground::cmdOK_Click() {
-    frmDesignSpread* designer = IsLoaded<frmDesignSpread>() ? &Get<frmDesignSpread>() : nullptr;
     const QString typed = txtFilename->Text();
-    if (TrimField(typed).isEmpty()) {
-        if (CurrentSpread.BackgroundFile.Value().contains(QLatin1Char('.')) &&
-            MsgBox(QStringLiteral("Are you sure you want to remove the currently selected background picture?"),
-                   vbYesNo | vbQuestion) == vbNo)
-            return;
-        KillIgnoringErrors(TempDir + WorkingStem);
-        CurrentSpread.StretchBackground = Flag(chkStretchPicture->isChecked());
-        CurrentSpread.BackgroundFile = QString();
-        if (designer) designer->ClearBackground();
-    } else {
-        if (!Validate(typed)) return;
-        const QString fileName = TrimField(typed);
-        // The spread takes the picture only once the copy is there: a file
-        // that vanished since it was listed leaves the spread as it was.
-        const QString working = WorkingBackgroundName(fileName);
-        const QString copy = TempDir + working;
-        FileCopy(fileName, copy);
-        CurrentSpread.StretchBackground = Flag(chkStretchPicture->isChecked());
-        CurrentSpread.BackgroundFile = working;
-        if (designer) designer->ShowBackground(copy, CurrentSpread.StretchBackground != 0);
+    const QString question = WorkingBackgroundQuestion(CurrentSpread, typed);
+    if (!question.isEmpty() && MsgBox(question, vbYesNo | vbQuestion) == vbNo) return;
+    const WorkingBackground chosen = ChooseWorkingBackground(CurrentSpread, typed, chkStretchPicture->isChecked());
+    if (!chosen.Problem.isEmpty()) {
+        MsgBox(chosen.Problem, vbCritical);
+        return;
     }
-    if (designer) designer->SpreadDirty = true;
+    if (!chosen.Picture.isNull()) Image1->setPicture(chosen.Picture);
+    CurrentSpread = chosen.Spread;
+    if (IsLoaded<frmDesignSpread>()) {
+        frmDesignSpread& designer = Get<frmDesignSpread>();
+        if (chosen.Path.isEmpty()) designer.ClearBackground();
+        else designer.ShowBackground(chosen.Path, CurrentSpread.StretchBackground != 0);
+        designer.SpreadDirty = true;
+    }
     Unload();
 }
 

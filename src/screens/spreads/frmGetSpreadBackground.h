@@ -1,8 +1,8 @@
 #pragma once
 // "Set Spread Background": chooses the spread's background picture, or takes
-// it away. The chosen file is checked, copied to Temp/ under the working name
-// "sprpic" with its own extension and shown on the designer's canvas; only a
-// save gives it its permanent name in Cards/.
+// it away. The store checks the chosen file and copies it to Temp/ under its
+// working name; this screen asks, tells and shows it on the designer's
+// canvas. Only a save gives it its permanent name in Cards/.
 #include "screens/platform/CommonDialog.h"
 #include "screens/platform/Form.h"
 
@@ -32,12 +32,4 @@ protected:
     void Form_Load() override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
     void Form_KeyUp(int key, Qt::KeyboardModifiers shift, bool& handled) override;
-
-private:
-    // False, after its message, when the file cannot be a background.
-    bool Validate(const QString& fileName);
 };
-
-// The working name of a background in Temp/: "sprpic" and the last four
-// characters of the chosen file's name, in the case they were typed.
-QString WorkingBackgroundName(const QString& fileName);

@@ -3,15 +3,9 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "core/platform/Errors.h"
-#include "core/platform/FileSys.h"
-#include "core/platform/OleDate.h"
 #include "core/platform/Twips.h"
 #include "core/records/RecordFile.h"
-#include "core/store/DeckLoading.h"
-#include "core/store/DeletePasses.h"
-#include "core/store/DesignCommit.h"
-#include "core/store/Lookups.h"
+#include "core/spreads/SpreadStore.h"
 #include "core/store/RunState.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
@@ -77,70 +71,17 @@ void frmSaveSpread::lstSpreadNames_Click() {
 void frmSaveSpread::cmdCancel_Click() { Unload(); }
 
 void frmSaveSpread::cmdSave_Click() {
-    const QString name = TrimField(txtSaveAs->Text());
-    if (name.isEmpty()) {
-        MsgBox(QStringLiteral("Please select a name to save the spread as."), vbExclamation);
+    const SpreadNameCheck check = CheckSpreadName(txtSaveAs->Text());
+    if (!check.Problem.isEmpty()) {
+        MsgBox(check.Problem, vbExclamation);
         return;
     }
-    const int n = FindSpreadByName(name);
-    if (n >= 0 &&
-        MsgBox(QStringLiteral("Spread already exists. Overwrite?"), vbYesNo | vbQuestion | vbDefaultButton2) == vbNo)
-        return;
-    SaveSpread(name, n >= 0 ? n : CountSpreads() + 1);
-
-    if (IsLoaded<frmDesignSpread>()) {
-        Get<frmDesignSpread>().SpreadSaved();
-    }
+    if (!check.Question.isEmpty() && MsgBox(check.Question, vbYesNo | vbQuestion | vbDefaultButton2) == vbNo) return;
+    const SpreadDesign saved = SaveSpread({CurrentSpread, SpreadLocations}, check.Name, check.Replacing);
+    CurrentSpread = saved.Spread;
+    SpreadLocations = saved.Locations;
+    if (IsLoaded<frmDesignSpread>()) Get<frmDesignSpread>().SpreadSaved();
     Unload();
-}
-
-void frmSaveSpread::SaveSpread(const QString& name, int n) {
-    SpreadRecord spread = CurrentSpread;
-    const int count = CountSpreads();
-    // A new name is a new design: saving a known spread under it makes an
-    // independent copy and leaves the old record as it was. Over a record,
-    // the id stays and that record's background goes, in the same step as
-    // the new one comes, so that the new picture's name is drawn as if the
-    // old one were gone already.
-    QString going;
-    if (n > count) {
-        spread.SpreadId = NextSpreadId();
-    } else {
-        if (!GetRecord(SpreadsPath, n, ScratchSpread)) RaiseError(errInputPastEndOfFile);
-        going = DesignFilePath(ScratchSpread.BackgroundFile.Value());
-    }
-
-    DesignCommit commit;
-    // The picture in Temp/ takes its permanent S name in Cards/ here.
-    const QString working = spread.BackgroundFile.Value();
-    if (!TrimField(working).isEmpty() && FileExists(TempDir + TrimField(working))) {
-        spread.BackgroundFile = NewBackgroundName(working, TakenStems({CardsDir}, {going}));
-        commit.AddFile(TempDir + working, spread.BackgroundFile.Value());
-    } else {
-        spread.BackgroundFile = QString();
-    }
-    spread.SpreadName = name;
-    spread.ModifiedOn = OleToday();
-    spread.SpreadRevision = static_cast<Integer>(spread.SpreadRevision + 1);
-
-    // Its locations go after those of every other spread, numbered 1 up.
-    QByteArray locations;
-    for (int i = 1; i <= spread.LocationCount; ++i) {
-        SpreadLocations(i).LocationSpreadId = spread.SpreadId;
-        SpreadLocations(i).LocationNumber = static_cast<Integer>(i);
-        locations += EncodeRecord(SpreadLocations(i));
-    }
-    const int idAt = OffsetOf(&LocationRecord::LocationSpreadId);
-    commit.AddRecordFile(LocationsPath, LocationRecord::Length, [&](const char* location, int) {
-        return RawInteger(location, idAt) == spread.SpreadId ? nullptr : location;
-    }, locations);
-    const QByteArray record = EncodeRecord(spread);
-    commit.AddRecordFile(SpreadsPath, SpreadRecord::Length, [&](const char* r, int number) {
-        return number == n ? record.constData() : r;
-    }, n > count ? record : QByteArray());
-    commit.DropFile(going);
-    commit.Commit();
-    CurrentSpread = spread;
 }
 
 void frmSaveSpread::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) {

@@ -27,9 +27,4 @@ protected:
     void Form_Load() override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
     void Form_KeyUp(int key, Qt::KeyboardModifiers shift, bool& handled) override;
-
-private:
-    // Writes the spread in hand under the name as record n, in place of the
-    // record there (whose background goes) or after the last.
-    void SaveSpread(const QString& name, int n);
 };

@@ -7,7 +7,7 @@
 #include "core/platform/OleDate.h"
 #include "core/platform/Twips.h"
 #include "core/records/RecordFile.h"
-#include "core/store/DeletePasses.h"
+#include "core/spreads/SpreadStore.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
@@ -194,7 +194,7 @@ void frmSpreads::cmdDelete_Click() {
         return;
     const int noted = lstSpreads->ListIndex();
     SetScreenPointer(MousePointer::Hourglass);
-    DeleteSpread(FindSpreadByName(name));
+    DeleteSpreadNamed(name);
     lstSpreads->RemoveItem(noted);
     lstSpreads->setListIndex(noted - 1);
     if (lstSpreads->ListIndex() < 0 && lstSpreads->ListCount() > 0) lstSpreads->setListIndex(0);
