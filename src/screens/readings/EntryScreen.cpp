@@ -286,8 +286,5 @@ void EntryScreen::ClearLocationCard(int location) { imgCard(location)->ClearPict
 
 void EntryScreen::PrintEntry(EntryPrintout entry) const {
     entry.Issue = lblTheIssue->text();
-    entry.CanvasWidth = ControlWidth(picSpread);
-    entry.CanvasHeight = ControlHeight(picSpread);
-    entry.CardFrame = BoxGeometry{IMGTop, IMGLeft, IMGWidth, IMGHeight};
     ::PrintEntry(entry);
 }
