@@ -200,6 +200,8 @@ private slots:
     }
 
     void theFocusedLocationIsInterpreted() {
+        const QString longTitle = QStringLiteral("Queen of the Pentacles of Old");
+        ChangeRecord<CardRecord>(CardsPath, 4, [&](CardRecord& c) { c.CardTitle = longTitle; });
         frmNewDiary& diary = NewDiary();
         diary.cmdContinue->click();
         // An empty location: the compact page.
@@ -211,10 +213,12 @@ private slots:
         Settle();
         QCOMPARE(diary.chkReversed(1)->palette().color(QPalette::Window), QBColor(CurrentLocationColour));
 
-        Choose(diary, 2, CardText(4), true);
+        // A long title shows whole, broken over the label's two lines.
+        Choose(diary, 2, longTitle, true);
         diary.picLocation_Click(2);
         frmDiaryInterpretLocation& page = Get<frmDiaryInterpretLocation>();
-        QCOMPARE(page.lblCardTitle->text(), QStringLiteral("Card 4 (Reversed)"));
+        QCOMPARE(page.lblCardTitle->text(), longTitle + QStringLiteral(" (Reversed)"));
+        QVERIFY(page.lblCardTitle->heightForWidth(page.lblCardTitle->width()) <= page.lblCardTitle->height());
         // The player stays up while the picture is enlarged.
         const bool playerShown = !page.MediaPlayer1->isHidden();
         page.cmdEnlargePic->click();

@@ -135,6 +135,7 @@ private slots:
         QCOMPARE(page.lblText->toPlainText(), QStringLiteral("reversed keywords %1").arg(card));
         QCOMPARE(page.MediaPlayer1->FileName(), CardsDir + QStringLiteral("MCR%1.wav").arg(card, 5, 10, QLatin1Char('0')));
         QCOMPARE(again.picLocation(reversedAt)->BackColor(), QColor(192, 0, 0));
+        QCOMPARE(again.lblCardTitle(reversedAt)->BackColor(), QColor(192, 0, 0));   // its labels with it
         page.cmdEnlargePic->click();
         QVERIFY(!page.picEnlargedBackground->isHidden() && page.MediaPlayer1->isHidden());
         page.cmdClose->click();
