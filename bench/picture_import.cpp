@@ -3,7 +3,9 @@
 // copy of the same bytes, the machine's own limit; the imports that convert
 // (PNG to JPEG) or turn (the reversed side made from the upright) are worked
 // on all cores, and the longest wait of a 10 ms timer in the owner's thread
-// shows whether the screen would stay answering meanwhile.
+// shows whether the screen would stay answering meanwhile. And the listing of
+// a folder of 2,000 small pictures, half of them reversed sides found by
+// name, beside opening each file and reading its first bytes.
 //
 //   QT_QPA_PLATFORM=offscreen build/bench/bench_picture_import [runs]
 //
@@ -11,6 +13,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QEventLoop>
 #include <QImage>
 #include <QRandomGenerator>
@@ -121,5 +124,26 @@ int main(int argc, char** argv) {
     const double converted = Time([&] { Import(pngs, ReversedSide::None, &wait); }, EmptyDeck);
     std::printf("%-60s %9.2f ms | %.1f ms a card | longest wait of a 10 ms timer %.1f ms\n",
                 "import of 78 PNG pictures, converted to JPEG", converted, converted / Pictures, wait);
+
+    // Listed on the GUI thread before the screen shows: it must not grow
+    // with the square of the folder.
+    const QString many = dir.filePath(QStringLiteral("many"));
+    QDir().mkpath(many);
+    QImage small(16, 16, QImage::Format_RGB32);
+    small.fill(Qt::darkBlue);
+    small.save(many + QStringLiteral("/0001 card.jpg"), "JPEG");
+    for (int i = 1; i <= 1000; ++i)
+        for (const char* suffix : {"", "_r"})
+            QFile::copy(many + QStringLiteral("/0001 card.jpg"),
+                        many + QStringLiteral("/%1 card%2.jpg").arg(i, 4, 10, QLatin1Char('0')).arg(QLatin1String(suffix)));
+    const double heads = Time([&] {
+        char head[64];
+        for (const QString& name : QDir(many).entryList(QDir::Files)) {
+            QFile f(many + QLatin1Char('/') + name);
+            if (f.open(QIODevice::ReadOnly)) f.read(head, sizeof head);
+        }
+    });
+    const double listing = Time([&] { ListFolderPictures(many, 0); });
+    Row("listing a folder of 2,000 pictures, 1,000 reversed sides by name", listing, "first bytes of each", heads, 3.0);
     return 0;
 }

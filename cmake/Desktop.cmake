@@ -55,8 +55,14 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Sounds play through GStreamer; the screens are set in DejaVu.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "gstreamer1.0-plugins-base, gstreamer1.0-plugins-good, fonts-dejavu-core")
+# Qt reads WebP and TIFF pictures through plugins that no library names, so
+# the shared-library scan cannot find them: the import converts those pictures
+# only with this package.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-image-formats-plugins")
+# Sounds play through GStreamer; the screens are set in DejaVu; Qt's own
+# dialogues and buttons speak the user's language through Debian's catalogues.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
+    "gstreamer1.0-plugins-base, gstreamer1.0-plugins-good, fonts-dejavu-core, qt6-translations-l10n")
 include(CPack)
 
 # The installed layout, checked by the desktop's own validators.

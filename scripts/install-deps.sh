@@ -4,7 +4,8 @@
 set -euo pipefail
 packages=(
   build-essential cmake ninja-build ccache
-  qt6-base-dev qt6-multimedia-dev
+  qt6-base-dev qt6-multimedia-dev qt6-image-formats-plugins
+  qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
   gstreamer1.0-plugins-base gstreamer1.0-plugins-good
   fonts-dejavu-core poppler-utils xvfb xauth
   clang libclang-rt-dev

@@ -2,5 +2,5 @@
 # only when tools/screenshots.sh asks for it, so the normal build does not
 # pay for it.
 add_executable(take_screenshots EXCLUDE_FROM_ALL ${CMAKE_CURRENT_LIST_DIR}/take_screenshots.cpp)
-target_link_libraries(take_screenshots PRIVATE cartomar_core)
+target_link_libraries(take_screenshots PRIVATE cartomar_screens)
 target_compile_options(take_screenshots PRIVATE -Wall -Wextra)

@@ -501,7 +501,7 @@ void Diary() {
 
 // A year of practice, written straight into the entry files: a reading or
 // a diary entry every nine days, on the sample spreads and the Moonlit Tarot.
-void Journal() {
+void JournalScreen() {
     const int deck = FindDeckRecordById(FindDeckIdByName(QStringLiteral("Moonlit Tarot")));
     DeckRecord tarot;
     GetRecord(DecksPath, deck, tarot);
@@ -680,7 +680,9 @@ void HelpViewer(const QString& manualFolder) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    CartomarApplication app(argc, argv);
+    // The manual is English, whatever the language of the desktop that
+    // takes its pictures.
+    CartomarApplication app(argc, argv, {QStringLiteral("en")});
     if (argc < 3) {
         std::fprintf(stderr, "usage: take_screenshots <empty program folder> <folder for the pictures> [help folder]\n");
         return 2;
@@ -709,7 +711,7 @@ int main(int argc, char** argv) {
     MainScreen();
     Reading();
     Diary();
-    Journal();
+    JournalScreen();
     Decks();
     Spreads();
     Packages();

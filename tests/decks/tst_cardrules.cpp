@@ -6,8 +6,6 @@
 // and the pick.
 #include <QApplication>
 #include <QClipboard>
-#include <QStandardItemModel>
-#include <QTableView>
 
 #include "DeckDriver.h"
 #include "core/decks/CardEditing.h"
@@ -23,7 +21,6 @@
 #include "screens/decks/frmDesignDeck.h"
 #include "screens/decks/frmGetImageFile.h"
 #include "screens/decks/frmGetSoundFile.h"
-#include "screens/decks/frmImportPictures.h"
 #include "screens/decks/frmSaveDeck.h"
 #include "screens/platform/CommonDialog.h"
 #include "screens/platform/MediaPlayer.h"
@@ -97,36 +94,6 @@ private slots:
         QVERIFY(CommonDialogScript::History().isEmpty());
         QVERIFY(none.Done());
         QCOMPARE(CurrentDeck.CardCount, MaxDeckCards);
-    }
-
-    // The import's wiring: the folder asked, a title edited, a row left out
-    // by Delete, the type of a selection set, OK.
-    void importPicturesAddsTheKeptRows() {
-        const QString folder = src_ + QStringLiteral("/scans/");
-        QDir().mkpath(folder);
-        for (const QString name : {QStringLiteral("10 star.bmp"), QStringLiteral("2 moon.bmp"), QStringLiteral("1 sun.bmp")})
-            Fixtures::WritePicture(folder + name);
-        frmDesignDeck& designer = Design(QStringLiteral("Plain"));
-        CommonDialogScript::Answer(folder);
-        ModalScript import;
-        import.On<frmImportPictures>([](frmImportPictures& s) {
-            s.mdlPictures->item(1, 1)->setText(QStringLiteral("Moon Rising"));
-            s.tblPictures->setFocus();
-            s.tblPictures->selectRow(2);
-            QTest::keyClick(s.tblPictures, Qt::Key_Delete);
-            s.tblPictures->selectRow(0);
-            s.cboType->setCurrentIndex(1);
-            s.cmdSetType->click();
-            s.cmdOK->click();
-        });
-        QTest::mouseClick(designer.cmdImportPictures, Qt::LeftButton);
-        QVERIFY(import.Done());
-        QCOMPARE(CurrentDeck.CardCount, 4);
-        QCOMPARE(CurrentDeck.DeckCards(3).CardTitle.Trimmed(), QStringLiteral("Sun"));
-        QCOMPARE(CurrentDeck.DeckCards(3).CardType, 1);
-        QCOMPARE(CurrentDeck.DeckCards(4).CardTitle.Trimmed(), QStringLiteral("Moon Rising"));
-        QVERIFY(LineOf(designer.lstCards, QStringLiteral("Moon Rising")) >= 0);
-        QVERIFY(designer.DesignModified);
     }
 
     // Which titles are refused is checked on the store (tst_pictureimport);

@@ -1,20 +1,28 @@
 // A deck made from a folder of pictures: the order, titles, types and
 // reversed sides of the cards, the card names they take in Temp/, the limit,
-// what cannot be read, and a cancelled import that leaves everything as it was.
+// what cannot be read, and a cancelled import that leaves everything as it was;
+// the same import repeated, its pictures worked on threads; and every choice
+// of the screen saved by the designer's Save and opened again whole.
 // And the titles a new card may take, however it joins the deck, and the names
 // of the deck's card types.
 #include <QDir>
 #include <QImage>
-#include <QTemporaryDir>
-#include <QtTest>
+#include <QImageReader>
+#include <QStandardItemModel>
+#include <QTableView>
 
+#include "DeckDriver.h"
 #include "core/decks/CardStore.h"
 #include "core/decks/CardTypeNames.h"
 #include "core/decks/PictureImport.h"
-#include "core/platform/FileSys.h"
+#include "core/store/DeletePasses.h"
 #include "core/store/NewDesigns.h"
-#include "core/store/RunState.h"
-#include "support/Fixtures.h"
+#include "screens/decks/frmDecks.h"
+#include "screens/decks/frmDesignDeck.h"
+#include "screens/decks/frmImportPictures.h"
+#include "screens/decks/frmSaveDeck.h"
+#include "screens/platform/CommonDialog.h"
+#include "support/ScreenTest.h"
 
 namespace {
 
@@ -25,6 +33,12 @@ void WriteMarked(const QString& path, const char* format) {
     for (int y = 0; y < 8; ++y)
         for (int x = 0; x < 8; ++x) image.setPixel(x, y, qRgb(255, 0, 0));
     QVERIFY(image.save(path, format));
+}
+
+QByteArray FormatOf(const QString& path) {
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    return reader.format();
 }
 
 bool RedAt(const QString& path, int x, int y) {
@@ -47,9 +61,21 @@ class TestPictureImport : public QObject {
     Q_OBJECT
     QTemporaryDir program_;
     QTemporaryDir folder_;
+    QTemporaryDir clean_;   // five good pictures of every kind, and one more
 
 private slots:
     void initTestCase() {
+        MsgBoxScript::Enable();
+        CommonDialogScript::Enable();
+        const QString c = clean_.path() + QLatin1Char('/');
+        WriteMarked(c + QStringLiteral("1 sun.bmp"), "BMP");
+        WriteMarked(c + QStringLiteral("2 moon.jpg"), "JPEG");
+        WriteMarked(c + QStringLiteral("2 moon-reversed.bmp"), "BMP");
+        WriteMarked(c + QStringLiteral("3 star.png"), "PNG");
+        WriteMarked(c + QStringLiteral("3 star_r.png"), "PNG");
+        WriteMarked(c + QStringLiteral("4 tower.webp"), "WEBP");
+        WriteMarked(c + QStringLiteral("5 world.tiff"), "TIFF");
+        WriteMarked(c + QStringLiteral("6 left out.jpg"), "JPEG");
         const QString f = folder_.path() + QLatin1Char('/');
         WriteMarked(f + QStringLiteral("1_the-fool.png"), "PNG");
         WriteMarked(f + QStringLiteral("1_the-fool-reversed.jpg"), "JPEG");
@@ -58,9 +84,12 @@ private slots:
         WriteMarked(f + QStringLiteral("3 the empress.png"), "PNG");
         // Its header reads as a picture; its body is cut off.
         WriteWholeFile(f + QStringLiteral("3 the empress.png"), ReadWholeFile(f + QStringLiteral("3 the empress.png")).left(40));
+        WriteMarked(f + QStringLiteral("4 the emperor.webp"), "WEBP");
+        WriteMarked(f + QStringLiteral("5 the hierophant.tif"), "TIFF");
         WriteMarked(f + QStringLiteral("10 wheel_of-fortune.jpg"), "JPEG");
         WriteMarked(f + QStringLiteral("10 Wheel_of-Fortune REVERSED.jpg"), "JPEG");
         WriteMarked(f + QStringLiteral("11 justice.bmp"), "BMP");
+        WriteWholeFile(f + QStringLiteral("11 justice_r.png"), ReadWholeFile(f + QStringLiteral("3 the empress.png")));
         WriteWholeFile(f + QStringLiteral("notes.txt"), "a list of the cards");
         WriteWholeFile(f + QStringLiteral("broken.jpg"), "no picture at all");
     }
@@ -74,6 +103,7 @@ private slots:
         QTest::newRow("capitals inside words kept") << "page of WANDS.bmp" << "Page Of WANDS";
         QTest::newRow("a number inside kept") << "the 2nd tower.gif" << "The 2nd Tower";
         QTest::newRow("cut to the field") << QString(60, QLatin1Char('a')) + ".jpg" << "A" + QString(49, QLatin1Char('a'));
+        QTest::newRow("as the record holds it") << QStringLiteral("луна_sol.jpg") << "???? Sol";
     }
     void titles() {
         QFETCH(QString, file);
@@ -92,30 +122,37 @@ private slots:
         QTest::addColumn<QStringList>("unreadable");
         const int none = int(ReversedSide::None), turned = int(ReversedSide::Turned), own = int(ReversedSide::OwnFile);
         const QStringList empress{QStringLiteral("3 the empress.png")};
-        QTest::newRow("reversed files by name, a PNG converted")
+        // WebP and TIFF become JPEG; a card with no reversed file of its own
+        // gets a copy of the default picture under a CR name.
+        QTest::newRow("reversed files by name, other formats converted")
             << own << true << 0 << -1 << false
             << QStringList{"The Fool|0|CU00001.jpg|CR00001.jpg", "The Magician|1|CU00002.jpg|CR00002.bmp",
-                           "Wheel Of Fortune|0|CU00003.jpg|CR00003.jpg", "Justice|0|CU00004.bmp|C000000.bmp"}
-            << QStringList{} << empress;
+                           "The Emperor|0|CU00003.jpg|CR00003.bmp", "The Hierophant|0|CU00004.jpg|CR00004.bmp",
+                           "Wheel Of Fortune|0|CU00005.jpg|CR00005.jpg"}
+            << QStringList{} << (empress + QStringList{"11 justice_r.png"});
         QTest::newRow("the same picture turned")
             << turned << true << 0 << -1 << false
             << QStringList{"The Fool|0|CU00001.jpg|CR00001.jpg", "The Magician|1|CU00002.jpg|CR00002.jpg",
-                           "Wheel Of Fortune|0|CU00003.jpg|CR00003.jpg", "Justice|0|CU00004.bmp|CR00004.bmp"}
+                           "The Emperor|0|CU00003.jpg|CR00003.jpg", "The Hierophant|0|CU00004.jpg|CR00004.jpg",
+                           "Wheel Of Fortune|0|CU00005.jpg|CR00005.jpg", "Justice|0|CU00006.bmp|CR00006.bmp"}
             << QStringList{} << empress;
         QTest::newRow("no reversed side, one row left out")
-            << none << true << 0 << 4 << false
-            << QStringList{"The Fool|0|CU00001.jpg|C000000.bmp", "The Magician|1|CU00002.jpg|C000000.bmp",
-                           "Wheel Of Fortune|0|CU00003.jpg|C000000.bmp"}
+            << none << true << 0 << 6 << false
+            << QStringList{"The Fool|0|CU00001.jpg|CR00001.bmp", "The Magician|1|CU00002.jpg|CR00002.bmp",
+                           "The Emperor|0|CU00003.jpg|CR00003.bmp", "The Hierophant|0|CU00004.jpg|CR00004.bmp",
+                           "Wheel Of Fortune|0|CU00005.jpg|CR00005.bmp"}
             << QStringList{} << empress;
         QTest::newRow("deck without reversed cards")
             << own << false << 0 << -1 << false
             << QStringList{"The Fool|0|CU00001.jpg|C000000.bmp", "The Magician|1|CU00002.jpg|C000000.bmp",
-                           "Wheel Of Fortune|0|CU00003.jpg|C000000.bmp", "Justice|0|CU00004.bmp|C000000.bmp"}
+                           "The Emperor|0|CU00003.jpg|C000000.bmp", "The Hierophant|0|CU00004.jpg|C000000.bmp",
+                           "Wheel Of Fortune|0|CU00005.jpg|C000000.bmp", "Justice|0|CU00006.bmp|C000000.bmp"}
             << QStringList{} << empress;
         QTest::newRow("two places left")
             << own << true << 98 << -1 << false
             << QStringList{"The Fool|0|CU00001.jpg|CR00001.jpg", "The Magician|1|CU00002.jpg|CR00002.bmp"}
-            << QStringList{"The Empress", "Wheel Of Fortune", "Justice"} << QStringList{};
+            << QStringList{"The Empress", "The Emperor", "The Hierophant", "Wheel Of Fortune", "Justice"}
+            << QStringList{};
         QTest::newRow("cancelled") << turned << true << 0 << -1 << true << QStringList{} << QStringList{}
                                    << QStringList{};
     }
@@ -156,12 +193,113 @@ private slots:
             if (ReversedSide(reversed) == ReversedSide::Turned)
                 QVERIFY2(RedAt(TempDir + up, 2, 2) && RedAt(TempDir + rev, 13, 13) && !RedAt(TempDir + rev, 2, 2),
                          qPrintable(rev));
+            if (ReversedSide(reversed) == ReversedSide::None && deckReversed)
+                QCOMPARE(ReadWholeFile(TempDir + rev), ReadWholeFile(DefaultPicturePath));
+            // The bytes are in the format the name says.
+            for (const QString& file : {up, rev})
+                QCOMPARE(FormatOf(TempDir + file), file.endsWith(QLatin1String(".jpg")) ? "jpeg" : "bmp");
         }
         QCOMPARE(added, cards);
         files.sort();
         QStringList tempAfter = QDir(TempDir).entryList(QDir::Files);
         tempAfter.sort();
         QCOMPARE(tempAfter, files);
+    }
+
+    void namesForMessage() {
+        const QStringList names{"A", "B", "C", "D"};
+        QCOMPARE(NamesForMessage(names, 4), QStringLiteral("A, B, C, D"));
+        QCOMPARE(NamesForMessage(names, 2), QStringLiteral("A, B and 2 more"));
+    }
+
+    // The pictures are worked on threads that share nothing they write: the
+    // same folder imported again and again adds every picture each time.
+    void repeatedImportsAddEveryPicture() {
+        Fixtures::UseProgramDir(program_.path());
+        const FolderPictures found = ListFolderPictures(clean_.path(), 0);
+        for (int run = 0; run < 100; ++run) {
+            KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
+            DeckOf(0);
+            // The list stays alive beside the import, as the screen's does.
+            PictureImport work(clean_.path(), found.Cards, ReversedSide::Turned);
+            work.Start();
+            QCOMPARE(work.Commit(), QStringList());
+            QCOMPARE(CurrentDeck.CardCount, 6);
+            QCOMPARE(QDir(TempDir).entryList(QDir::Files).size(), 12);
+        }
+    }
+
+    // Every choice of the screen, in a deck with and without reversed cards,
+    // saved by the designer's Save as a user saves and opened by Edit on the
+    // deck list: no box comes, every card is whole, and every file its record
+    // names is in Cards/. On the way, the screen's own steps: a title edited,
+    // a row left out by Space on its title, another by Delete and taken in
+    // again by Space, the type of a selection set.
+    void importedDecksSaveAndOpenWhole_data() {
+        QTest::addColumn<int>("reversed");
+        QTest::addColumn<bool>("deckReversed");
+        for (const bool deckReversed : {true, false}) {
+            const char* deck = deckReversed ? "reversed cards" : "upright only";
+            QTest::addRow("%s, none", deck) << int(ReversedSide::None) << deckReversed;
+            QTest::addRow("%s, turned", deck) << int(ReversedSide::Turned) << deckReversed;
+            QTest::addRow("%s, own file", deck) << int(ReversedSide::OwnFile) << deckReversed;
+        }
+    }
+    void importedDecksSaveAndOpenWhole() {
+        QFETCH(int, reversed);
+        QFETCH(bool, deckReversed);
+        const QTemporaryDir program;
+        Fixtures::UseProgramDir(program.path());
+        Fixtures::MakeDeck(QStringLiteral("Before"), 2, deckReversed);
+        ClickLine(Get<frmDecks>().lstDecks, QStringLiteral("Before"));
+        Get<frmDecks>().cmdEdit->click();
+        frmDesignDeck& designer = Get<frmDesignDeck>();
+        MsgBoxScript::Clear();
+        CommonDialogScript::Answer(clean_.path());
+        ModalScript script;
+        script.On<frmImportPictures>([reversed](frmImportPictures& s) {
+            s.mdlPictures->item(1, 1)->setText(QStringLiteral("Moon Rising"));
+            s.tblPictures->setFocus();
+            s.tblPictures->setCurrentIndex(s.mdlPictures->index(5, 1));
+            QTest::keyClick(s.tblPictures, Qt::Key_Space);
+            s.tblPictures->selectRow(4);
+            QTest::keyClick(s.tblPictures, Qt::Key_Delete);
+            QTest::keyClick(s.tblPictures, Qt::Key_Space);
+            s.tblPictures->selectRow(0);
+            s.cboType->setCurrentIndex(1);
+            s.cmdSetType->click();
+            // Greyed in a deck without reversed cards: what it shows must do too.
+            QRadioButton* option = std::array{s.optNone, s.optTurned, s.optOwnFile}[std::size_t(reversed)];
+            if (option->isEnabled()) option->click();
+            else option->setChecked(true);
+            s.cmdOK->click();
+        });
+        script.On<frmSaveDeck>([](frmSaveDeck& s) {
+            s.txtSaveAs->setText(QStringLiteral("Imported"));
+            s.cmdSave->click();
+        });
+        designer.cmdImportPictures->click();
+        designer.cmdSave->click();
+        QVERIFY(script.Done());
+        designer.cmdBack->click();
+        ClickLine(Get<frmDecks>().lstDecks, QStringLiteral("Imported"));
+        Get<frmDecks>().cmdEdit->click();
+        QVERIFY2(MsgBoxScript::History().isEmpty(), qPrintable(MsgBoxScript::History().value(0).prompt));
+        QCOMPARE(CurrentDeck.CardCount, 7);
+        QCOMPARE(CurrentDeck.DeckCards(3).CardType, 1);
+        QCOMPARE(CurrentDeck.DeckCards(4).CardTitle.Trimmed(), QStringLiteral("Moon Rising"));
+        QVERIFY(LineOf(Get<frmDesignDeck>().lstCards, QStringLiteral("Moon Rising")) >= 0);
+        for (const CardRecord& card : CurrentDeck.DeckCards) {
+            for (const auto& picture : card.CardPicture) QVERIFY2(FileExists(CardsDir + picture.Value()), qPrintable(picture.Value()));
+            QCOMPARE(card.CardPicture[1].Value() == DefaultPictureName, !deckReversed);
+        }
+    }
+    void cleanup() {
+        if (IsLoaded<frmDesignDeck>()) {
+            Get<frmDesignDeck>().DesignModified = false;
+            Get<frmDesignDeck>().cmdBack_Click();
+        }
+        UnloadScreen<frmDecks>();
     }
 
     // Typed in the card editor or made by the import, a title must be given

@@ -38,8 +38,8 @@ if(contents MATCHES "_CPack_Packages|/mime/globs|mimeinfo.cache")
 endif()
 
 run(depends dpkg-deb -f "${debs}" Depends)
-if(NOT depends MATCHES "libqt6widgets6")
-  message(FATAL_ERROR "the package does not depend on Qt: ${depends}")
+if(NOT depends MATCHES "libqt6widgets6" OR NOT depends MATCHES "qt6-image-formats-plugins")
+  message(FATAL_ERROR "the package does not depend on Qt and its picture plugins: ${depends}")
 endif()
 
 run(ignored dpkg-deb -x "${debs}" "${OUT}/root")

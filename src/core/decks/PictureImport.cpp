@@ -1,16 +1,22 @@
 #include "core/decks/PictureImport.h"
 
+#include <QBuffer>
+#include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QImageWriter>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QSet>
 #include <algorithm>
 
 #include "core/decks/CardStore.h"
+#include "core/platform/CodePage.h"
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
+#include "core/platform/WriteFaults.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
 
@@ -53,6 +59,29 @@ QString KeptExtension(const QString& source, const QByteArray& format) {
     return ExtensionFor(format);
 }
 
+// A converted or turned picture into a working file: encoded in memory, then
+// written beside its name and renamed into place through the program's write
+// steps, so that no one finds it half written and a fault test can fail it.
+// Temp/ is emptied at every start, so nothing waits for the disk.
+bool WriteWorkingPicture(const QImage& image, const QByteArray& format, const QString& path) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, format);
+    writer.setQuality(90);
+    if (!writer.write(image)) return false;
+    const QString part = path + QStringLiteral(".part");
+    bool written = false;
+    {
+        QFile out(part);
+        written = out.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered) &&
+                  WriteStep(out, bytes.constData(), bytes.size()) == bytes.size();
+    }
+    if (written && RenameStep(part, path)) return true;
+    QFile::remove(part);
+    return false;
+}
+
 }  // namespace
 
 bool NaturalLess(const QString& a, const QString& b) {
@@ -81,17 +110,17 @@ QString TitleFromFileName(const QString& fileName) {
     title.remove(leadingNumber);
     QStringList words = title.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (QString& word : words) word[0] = word[0].toUpper();
-    return words.join(QLatin1Char(' ')).left(50);
+    // As the record will hold it, so that the list shows what is saved and
+    // two names the code page cannot hold meet as the same title at OK.
+    return FromAnsi(ToAnsi(words.join(QLatin1Char(' ')).left(50)));
 }
 
-QString UprightPartnerOf(const QString& fileName, const QStringList& names) {
+QString UprightPartnerOf(const QString& fileName, const QHash<QString, QString>& uprightByName) {
     const QString base = QFileInfo(fileName).completeBaseName();
     for (const QString& suffix : {QStringLiteral("-reversed"), QStringLiteral("_r"), QStringLiteral(" reversed")}) {
         if (!base.endsWith(suffix, Qt::CaseInsensitive) || base.size() == suffix.size()) continue;
-        const QString upright = base.chopped(suffix.size());
-        for (const QString& name : names)
-            if (name != fileName && QFileInfo(name).completeBaseName().compare(upright, Qt::CaseInsensitive) == 0)
-                return name;
+        const QString upright = uprightByName.value(base.chopped(suffix.size()).toCaseFolded());
+        if (!upright.isEmpty()) return upright;
     }
     return {};
 }
@@ -101,16 +130,26 @@ FolderPictures ListFolderPictures(const QString& folder, int cardType) {
     std::sort(names.begin(), names.end(), NaturalLess);
     FolderPictures found;
     QStringList pictures;
+    // Looked up by name rather than searched, so that a folder of thousands
+    // of files is sorted out at once.
+    QHash<QString, QString> byName;
     for (const QString& name : names) {
-        if (FormatOf(QDir(folder).filePath(name)).isEmpty()) found.NotPictures.append(name);
-        else pictures.append(name);
+        if (FormatOf(QDir(folder).filePath(name)).isEmpty()) {
+            found.NotPictures.append(name);
+            continue;
+        }
+        pictures.append(name);
+        const QString key = QFileInfo(name).completeBaseName().toCaseFolded();
+        if (!byName.contains(key)) byName.insert(key, name);
     }
-    QHash<QString, QString> reversedOf;
+    QHash<QString, QString> reversedOf;   // upright -> its reversed file
+    QSet<QString> reversedFiles;
     for (const QString& name : pictures) {
-        const QString upright = UprightPartnerOf(name, pictures);
-        if (!upright.isEmpty() && !reversedOf.contains(upright)) reversedOf.insert(upright, name);
+        const QString upright = UprightPartnerOf(name, byName);
+        if (upright.isEmpty() || reversedOf.contains(upright)) continue;
+        reversedOf.insert(upright, name);
+        reversedFiles.insert(name);
     }
-    const QList<QString> reversedFiles = reversedOf.values();
     for (const QString& name : pictures) {
         if (reversedFiles.contains(name)) continue;
         found.Cards.append({name, reversedOf.value(name), TitleFromFileName(name), cardType, true});
@@ -152,9 +191,7 @@ QString WorkOnPicture(const QString& source, const QString& folder, const QStrin
         image = opaque;
     }
     const QString name = stem + ExtensionFor(target);
-    QImageWriter writer(WithSlash(folder) + name, target);
-    writer.setQuality(90);
-    return writer.write(image) ? name : QString();
+    return WriteWorkingPicture(image, target, WithSlash(folder) + name) ? name : QString();
 }
 
 QList<ProposedCard> CardsWithinLimit(const QList<ProposedCard>& cards, QStringList& pastLimit) {
@@ -178,48 +215,88 @@ int FirstTitleProblem(const QList<ProposedCard>& cards, QString& message) {
     return -1;
 }
 
+std::mutex& HandoverLock() {
+    static std::mutex lock;
+    return lock;
+}
+
+QString NamesForMessage(const QStringList& names, int shown) {
+    if (names.size() <= shown) return names.join(QStringLiteral(", "));
+    return QCoreApplication::translate("PictureImport", "%1 and %2 more")
+        .arg(names.first(shown).join(QStringLiteral(", ")))
+        .arg(names.size() - shown);
+}
+
 PictureImport::PictureImport(const QString& folder, const QList<ProposedCard>& cards, ReversedSide reversed)
-    : folder_(folder), cards_(cards), reversed_(reversed), worked_(static_cast<std::size_t>(cards.size())) {
-    // A deck without reversed cards shows the default picture on that side.
-    if (!CurrentDeck.IncludesReversed) reversed_ = ReversedSide::None;
+    : tempDir_(TempDir), cards_(cards), worked_(static_cast<std::size_t>(cards.size())) {
+    handedOver_.Results.resize(worked_.size());
+    // A deck without reversed cards shows the default picture on that side
+    // and saves only the upright one. In a deck with reversed cards every
+    // card gets a reversed file of its own, as the card editor gives it: one
+    // of the default picture when there is no other, since the deck's save
+    // gives each side its own name in Cards/.
+    const bool reversedSides = CurrentDeck.IncludesReversed != 0;
+    const QString defaultPicture = NativePath(DefaultPicturePath);
+    const QDir from(folder);
+    for (int i = 0; i < cards.size(); ++i) {
+        Job job;
+        job.Upright = from.filePath(cards[i].File);
+        job.Folder = tempDir_;
+        job.Number = QString::number(i + 1);
+        if (reversedSides && reversed == ReversedSide::Turned) job.Turn = true;
+        else if (reversedSides && reversed == ReversedSide::OwnFile && !cards[i].ReversedFile.isEmpty())
+            job.Reversed = from.filePath(cards[i].ReversedFile);
+        else if (reversedSides) job.Reversed = defaultPicture;
+        jobs_.push_back(job);
+    }
 }
 
 PictureImport::~PictureImport() { Cancel(); }
 
 void PictureImport::Start() {
-    for (int i = 0; i < cards_.size(); ++i) pool_.start([this, i] { WorkOn(i); });
+    for (std::size_t i = 0; i < jobs_.size(); ++i)
+        RunForOwner<Worked>(pool_, [job = jobs_[i]] { return WorkOn(job); }, static_cast<int>(i), handedOver_, this,
+                            "Take");
 }
 
-void PictureImport::WaitForDone() { pool_.waitForDone(); }
+PictureImport::Worked PictureImport::WorkOn(const Job& job) {
+    Worked result;
+    result.Upright = WorkOnPicture(job.Upright, job.Folder, UprightWorkStem + job.Number, false);
+    if (result.Upright.isEmpty()) {
+        result.Unreadable = job.Upright;
+        return result;
+    }
+    if (job.Turn || !job.Reversed.isEmpty()) {
+        const QString source = job.Turn ? job.Upright : job.Reversed;
+        result.Reversed = WorkOnPicture(source, job.Folder, ReversedWorkStem + job.Number, job.Turn);
+        if (result.Reversed.isEmpty()) result.Unreadable = source;
+    }
+    return result;
+}
 
-void PictureImport::WorkOn(int index) {
+void PictureImport::Take(int index) {
     if (cancelled_) return;
-    const ProposedCard& card = cards_[index];
-    Worked& result = worked_[static_cast<std::size_t>(index)];
-    const QString number = QString::number(index + 1);
-    const QString source = QDir(folder_).filePath(card.File);
-    result.Upright = WorkOnPicture(source, TempDir, UprightWorkStem + number, false);
-    if (reversed_ == ReversedSide::Turned)
-        result.Reversed = WorkOnPicture(source, TempDir, ReversedWorkStem + number, true);
-    else if (reversed_ == ReversedSide::OwnFile && !card.ReversedFile.isEmpty())
-        result.Reversed = WorkOnPicture(QDir(folder_).filePath(card.ReversedFile), TempDir,
-                                        ReversedWorkStem + number, false);
-    const bool reversedWanted =
-        reversed_ == ReversedSide::Turned || (reversed_ == ReversedSide::OwnFile && !card.ReversedFile.isEmpty());
-    result.Failed = result.Upright.isEmpty() || (reversedWanted && result.Reversed.isEmpty());
-    const int done = ++done_;
-    emit Progress(done, static_cast<int>(cards_.size()));
-    if (done == cards_.size()) emit Done();
+    worked_[static_cast<std::size_t>(index)] = handedOver_.Take(index);
+    ++done_;
+    emit Progress(done_, static_cast<int>(jobs_.size()));
+    if (done_ == static_cast<int>(jobs_.size())) emit Done();
+}
+
+void PictureImport::WaitForDone() {
+    pool_.waitForDone();
+    // The results wait as calls posted to this object.
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
 }
 
 void PictureImport::RemoveWorkFiles() {
-    for (const QString& stem : {UprightWorkStem, ReversedWorkStem}) KillIgnoringErrors(TempDir + stem + QLatin1Char('*'));
+    for (const QString& stem : {UprightWorkStem, ReversedWorkStem})
+        KillIgnoringErrors(tempDir_ + stem + QLatin1Char('*'));
 }
 
 void PictureImport::Cancel() {
-    cancelled_ = true;
     pool_.clear();
     pool_.waitForDone();
+    cancelled_ = true;
     RemoveWorkFiles();
 }
 
@@ -227,10 +304,10 @@ QStringList PictureImport::Commit() {
     WaitForDone();
     QStringList unreadable;
     for (std::size_t i = 0; i < worked_.size(); ++i) {
-        const ProposedCard& proposed = cards_[static_cast<int>(i)];
+        const ProposedCard& proposed = cards_[static_cast<qsizetype>(i)];
         const Worked& result = worked_[i];
-        if (result.Failed) {
-            unreadable.append(proposed.File);
+        if (result.Upright.isEmpty() || !result.Unreadable.isEmpty()) {
+            unreadable.append(result.Unreadable.isEmpty() ? proposed.File : QFileInfo(result.Unreadable).fileName());
             continue;
         }
         CardRecord card;

@@ -6,13 +6,16 @@
 // editor adds new cards one by one. The pictures are worked on all cores into
 // Temp/ under names of their own; only Commit gives them their card names, so
 // that a cancelled import leaves the design as it was.
+#include <QHash>
 #include <QImage>
 #include <QList>
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QRunnable>
 #include <QThreadPool>
-#include <atomic>
+#include <functional>
+#include <mutex>
 #include <vector>
 
 // Whether a comes before b as people count: runs of digits compare as
@@ -25,10 +28,12 @@ bool NaturalLess(const QString& a, const QString& b);
 // the title's 50 characters. A name that is only a number keeps it.
 QString TitleFromFileName(const QString& fileName);
 
-// The upright picture among names whose reversed side this file is by its
-// name: for "x.jpg", "x-reversed.jpg", "x_r.jpg" or "x reversed.jpg", of any
-// picture extension and any case. Empty when it is no such file.
-QString UprightPartnerOf(const QString& fileName, const QStringList& names);
+// The upright picture whose reversed side this file is by its name: for
+// "x.jpg", "x-reversed.jpg", "x_r.jpg" or "x reversed.jpg", of any picture
+// extension and any case. uprightByName holds each picture under its name
+// without extension, case folded (the first of the folder's order when two
+// share one). Empty when it is no such file.
+QString UprightPartnerOf(const QString& fileName, const QHash<QString, QString>& uprightByName);
 
 // Where the reversed sides of the imported cards come from.
 enum class ReversedSide { None, Turned, OwnFile };
@@ -71,8 +76,66 @@ QList<ProposedCard> CardsWithinLimit(const QList<ProposedCard>& cards, QStringLi
 // card editor's message for it; -1 when every title may be taken.
 int FirstTitleProblem(const QList<ProposedCard>& cards, QString& message);
 
+// The names for a message, at most `shown` of them and how many more there
+// are, so that a box never grows past the screen.
+QString NamesForMessage(const QStringList& names, int shown = 10);
+
+// The lock of every handover between a pool's workers and their owner. It is
+// also the handover that ThreadSanitizer can see; Qt's own, inside the pool
+// and the event queue, it cannot. One for all, so that a worker takes it
+// before it reads anything of its own.
+std::mutex& HandoverLock();
+
+// What a pool's workers hand to the owner's thread: one result a worker, each
+// in its own place, put there and taken out under the handover lock.
+template <class Result>
+struct HandedOver {
+    std::vector<Result> Results;
+    Result Take(int index) {
+        const std::lock_guard<std::mutex> locked(HandoverLock());
+        return Results[static_cast<std::size_t>(index)];
+    }
+};
+
+// Runs work on a thread of pool, puts its result in into.Results[index] and
+// calls owner's method (Q_INVOKABLE, taking the index) in the owner's
+// thread. The work must hold its own copies of all it reads: the owner goes
+// on meanwhile. into.Results must have its places before the work starts.
+template <class Result>
+void RunForOwner(QThreadPool& pool, std::function<Result()> work, int index, HandedOver<Result>& into,
+                 QObject* owner, const char* method) {
+    class Runner : public QRunnable {
+    public:
+        Runner(std::function<Result()> w, int i, HandedOver<Result>& o, QObject* q, const char* m)
+            : work_(std::move(w)), index_(i), into_(o), owner_(q), method_(m) {}
+        void run() override {
+            // Everything the owner wrote before it handed this over.
+            { const std::lock_guard<std::mutex> locked(HandoverLock()); }
+            Result result = work_();
+            {
+                const std::lock_guard<std::mutex> locked(HandoverLock());
+                into_.Results[static_cast<std::size_t>(index_)] = std::move(result);
+            }
+            QMetaObject::invokeMethod(owner_, method_, Qt::QueuedConnection, Q_ARG(int, index_));
+        }
+
+    private:
+        std::function<Result()> work_;
+        int index_;
+        HandedOver<Result>& into_;
+        QObject* owner_;
+        const char* method_;
+    };
+    auto* runner = new Runner(std::move(work), index, into, owner, method);
+    { const std::lock_guard<std::mutex> locked(HandoverLock()); }
+    pool.start(runner);
+}
+
 // The pictures of a list of cards worked on all cores. Start returns at
-// once; Progress and Done report from the workers to the owner's thread.
+// once; Progress and Done are emitted in the owner's thread. Each worker is
+// handed its own copies of the names it needs and hands its result back to
+// the owner's thread (RunForOwner): the workers share nothing that any of
+// them writes.
 class PictureImport : public QObject {
     Q_OBJECT
 public:
@@ -80,13 +143,14 @@ public:
     ~PictureImport() override;   // cancels what is left
 
     void Start();
+    // Waits for every picture and takes in the results.
     void WaitForDone();
     // Stops the pictures not begun, waits for those under way and removes
     // every file the import wrote: Temp/ and the deck stay as they were.
     void Cancel();
     // Adds the worked cards to the deck in memory in list order, as the card
-    // editor stores new cards; the file names of the cards whose pictures
-    // could not be read, which are not added.
+    // editor stores new cards; the names of the files that could not be
+    // read, whose cards are not added.
     QStringList Commit();
 
 signals:
@@ -94,19 +158,31 @@ signals:
     void Done();
 
 private:
-    struct Worked {
-        QString Upright;    // name written in Temp/, empty on failure
-        QString Reversed;   // empty when the side stays on the default picture
-        bool Failed = true;   // until its work is done
+    // What one worker is given: a card's sources and where its working files go.
+    struct Job {
+        QString Upright;         // the picture's path
+        QString Reversed;        // the reversed side's source; empty for none
+        bool Turn = false;       // the reversed side is the upright turned
+        QString Folder;          // where the working files go (Temp/)
+        QString Number;          // tells this card's working files apart
     };
-    void WorkOn(int index);
+    // What a worker hands back.
+    struct Worked {
+        QString Upright;      // name written in Temp/, empty on failure
+        QString Reversed;     // empty when the side stays on the default picture
+        QString Unreadable;   // the source that failed; empty when none did
+    };
+    static Worked WorkOn(const Job& job);
+
+    Q_INVOKABLE void Take(int index);
     void RemoveWorkFiles();
 
-    QString folder_;
+    QString tempDir_;
     QList<ProposedCard> cards_;
-    ReversedSide reversed_;
+    std::vector<Job> jobs_;
+    HandedOver<Worked> handedOver_;
     std::vector<Worked> worked_;
-    std::atomic<bool> cancelled_{false};
-    std::atomic<int> done_{0};
+    int done_ = 0;
+    bool cancelled_ = false;
     QThreadPool pool_;
 };

@@ -1,5 +1,6 @@
 #include "core/platform/BinaryFile.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <unistd.h>
@@ -122,7 +123,7 @@ int RecordCountOf(const QString& path, int recordLength) {
 }
 
 bool ReadRecordBytes(const QString& path, int recordLength, int recordNumber, char* out) {
-    if (recordNumber < 1) RaiseError(errBadFileName, QStringLiteral("Bad record number"));
+    if (recordNumber < 1) RaiseError(errBadFileName, QCoreApplication::translate("Errors", "Bad record number"));
     QFile file(NativePath(path));
     if (!file.exists()) return false;
     OpenOrRaise(file, QIODevice::ReadOnly);
@@ -140,7 +141,7 @@ int RecordFileEdit::RecordCount() const {
 }
 
 void RecordFileEdit::Put(int recordNumber, const char* bytes) {
-    if (recordNumber < 1) RaiseError(errBadFileName, QStringLiteral("Bad record number"));
+    if (recordNumber < 1) RaiseError(errBadFileName, QCoreApplication::translate("Errors", "Bad record number"));
     changes_[recordNumber] = QByteArray(bytes, length_);
 }
 

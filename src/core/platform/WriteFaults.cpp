@@ -4,6 +4,7 @@
 #include <QIODevice>
 #include <csignal>
 #include <cstdio>
+#include <mutex>
 #include <unistd.h>
 
 namespace {
@@ -18,6 +19,13 @@ struct Plan {
 Plan& ThePlan() {
     static Plan plan;
     return plan;
+}
+
+// The picture import writes from several threads at once: the plan is
+// counted under this lock.
+std::mutex& PlanLock() {
+    static std::mutex lock;
+    return lock;
 }
 
 // Counts the step; true when this one meets the armed fault.
@@ -36,14 +44,21 @@ bool Faulted() {
 
 namespace WriteFaults {
 
-void Arm(Fault fault, int step) { ThePlan() = Plan{fault, step, 0, false}; }
+void Arm(Fault fault, int step) {
+    const std::lock_guard<std::mutex> locked(PlanLock());
+    ThePlan() = Plan{fault, step, 0, false};
+}
 
 void Disarm() {
+    const std::lock_guard<std::mutex> locked(PlanLock());
     ThePlan().fault = Fault::None;
     ThePlan().diskFull = false;
 }
 
-int Steps() { return ThePlan().count; }
+int Steps() {
+    const std::lock_guard<std::mutex> locked(PlanLock());
+    return ThePlan().count;
+}
 
 namespace {
 bool gSyncs = true;
@@ -57,17 +72,21 @@ bool Syncs() { return gSyncs; }
 
 qint64 WriteStep(QIODevice& device, const char* bytes, qint64 length) {
     using WriteFaults::Fault;
-    Plan& plan = ThePlan();
-    if (plan.diskFull) {
-        ++plan.count;
-        return -1;
+    Fault met = Fault::None;
+    {
+        const std::lock_guard<std::mutex> locked(PlanLock());
+        Plan& plan = ThePlan();
+        if (plan.diskFull) {
+            ++plan.count;
+            return -1;
+        }
+        if (Faulted()) met = plan.fault;
+        if (met == Fault::DiskFull) plan.diskFull = true;
     }
-    if (!Faulted()) return device.write(bytes, length);
-    switch (plan.fault) {
+    switch (met) {
     case Fault::Fail:
         return -1;
     case Fault::DiskFull:
-        plan.diskFull = true;
         return device.write(bytes, length / 2);
     case Fault::Kill:
         device.write(bytes, length / 2);
@@ -79,24 +98,25 @@ qint64 WriteStep(QIODevice& device, const char* bytes, qint64 length) {
     return device.write(bytes, length);
 }
 
+namespace {
+// Counts a step that writes nothing itself; true when it meets the armed
+// fault, and the process dies here when that fault is a kill.
+bool FaultedStep() {
+    const std::lock_guard<std::mutex> locked(PlanLock());
+    if (!Faulted()) return false;
+    if (ThePlan().fault == WriteFaults::Fault::Kill) Die();
+    return true;
+}
+}  // namespace
+
 bool SyncStep(int fileDescriptor) {
-    if (Faulted()) {
-        if (ThePlan().fault == WriteFaults::Fault::Kill) Die();
-        return false;
-    }
+    if (FaultedStep()) return false;
     return !WriteFaults::Syncs() || ::fsync(fileDescriptor) == 0;
 }
 
 bool RenameStep(const QString& from, const QString& to) {
-    if (Faulted()) {
-        if (ThePlan().fault == WriteFaults::Fault::Kill) Die();
-        return false;
-    }
+    if (FaultedStep()) return false;
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
 }
 
-bool OtherStep() {
-    if (!Faulted()) return true;
-    if (ThePlan().fault == WriteFaults::Fault::Kill) Die();
-    return false;
-}
+bool OtherStep() { return !FaultedStep(); }

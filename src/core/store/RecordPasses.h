@@ -2,6 +2,7 @@
 // What the store's operations share: finding a record by the bytes of a
 // field, rewriting a file without the records that go, the smallest free id,
 // and the names of the files a rewrite builds beside the real one.
+#include <QCoreApplication>
 #include <QString>
 #include <cstring>
 #include <vector>
@@ -129,7 +130,7 @@ Integer SmallestFreeId(const QString& path, Integer R::*idField, int leavingOut 
         if (!used[static_cast<std::size_t>(candidate)]) return static_cast<Integer>(candidate);
     }
     // Every 16-bit id is taken: the id would not fit its field.
-    RaiseError(6, QStringLiteral("Overflow"));
+    RaiseError(6, QCoreApplication::translate("Errors", "Overflow"));
 }
 
 inline void LoadLocationsFrom(const QString& path, Integer spreadId, int count) {

@@ -29,13 +29,13 @@ constexpr int TypeRole = Qt::UserRole + 1;
 
 frmImportPictures::frmImportPictures() {
     setObjectName(QStringLiteral("frmImportPictures"));
-    setCaption(QStringLiteral("Import Pictures"));
+    setCaption(tr("Import Pictures"));
     resize(TwipsToPixels(9600), TwipsToPixels(7200));
     lblFolder = MakeLabel(this, QString(), At(240, 120, 9120, 285), "lblFolder");
 
     mdlPictures = new QStandardItemModel(0, 4, this);
     mdlPictures->setHorizontalHeaderLabels(
-        {QStringLiteral("Picture"), QStringLiteral("Title"), QStringLiteral("Type"), QStringLiteral("Reversed Side")});
+        {tr("Picture"), tr("Title"), tr("Type"), tr("Reversed Side")});
     tblPictures = new QTableView(this);
     tblPictures->setObjectName(QStringLiteral("tblPictures"));
     tblPictures->setModel(mdlPictures);
@@ -52,19 +52,19 @@ frmImportPictures::frmImportPictures() {
     tblPictures->setColumnWidth(ColType, TwipsToPixels(1500));
     tblPictures->horizontalHeader()->setStretchLastSection(true);
 
-    QLabel* typeLabel = MakeLabel(this, QStringLiteral("T&ype of the selected cards:"), At(240, 5205, 2700, 285));
+    QLabel* typeLabel = MakeLabel(this, tr("T&ype of the selected cards:"), At(240, 5205, 2700, 285));
     cboType = new QComboBox(this);
     typeLabel->setBuddy(cboType);
     cboType->setObjectName(QStringLiteral("cboType"));
     cboType->setGeometry(At(2940, 5160, 2160, 360));
-    cmdSetType = MakeButton(this, "cmdSetType", QStringLiteral("&Set Type"), At(5220, 5130, 1320, 420));
+    cmdSetType = MakeButton(this, "cmdSetType", tr("&Set Type"), At(5220, 5130, 1320, 420));
 
-    fraReversed = new QGroupBox(QStringLiteral("Reversed Side"), this);
+    fraReversed = new QGroupBox(tr("Reversed Side"), this);
     fraReversed->setObjectName(QStringLiteral("fraReversed"));
     fraReversed->setGeometry(At(240, 5640, 6000, 1320));
-    optNone = new QRadioButton(QStringLiteral("&None: the default picture"), fraReversed);
-    optTurned = new QRadioButton(QStringLiteral("The same picture &turned"), fraReversed);
-    optOwnFile = new QRadioButton(QStringLiteral("A &file of its own, found by name"), fraReversed);
+    optNone = new QRadioButton(tr("&None: the default picture"), fraReversed);
+    optTurned = new QRadioButton(tr("The same picture &turned"), fraReversed);
+    optOwnFile = new QRadioButton(tr("A &file of its own, found by name"), fraReversed);
     int top = 300;
     for (QRadioButton* option : {optNone, optTurned, optOwnFile}) {
         option->setGeometry(At(180, top, 5640, 300));
@@ -75,8 +75,8 @@ frmImportPictures::frmImportPictures() {
     optTurned->setObjectName(QStringLiteral("optTurned"));
     optOwnFile->setObjectName(QStringLiteral("optOwnFile"));
 
-    cmdOK = MakeButton(this, "cmdOK", QStringLiteral("OK"), At(6600, 6540, 1260, 420));
-    cmdCancel = MakeButton(this, "cmdCancel", QStringLiteral("Cancel"), At(8100, 6540, 1260, 420));
+    cmdOK = MakeButton(this, "cmdOK", tr("OK"), At(6600, 6540, 1260, 420));
+    cmdCancel = MakeButton(this, "cmdCancel", tr("Cancel"), At(8100, 6540, 1260, 420));
     connect(cmdSetType, &QPushButton::clicked, this, Handler([this] { cmdSetType_Click(); }));
     connect(cmdOK, &QPushButton::clicked, this, Handler([this] { cmdOK_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
@@ -84,7 +84,8 @@ frmImportPictures::frmImportPictures() {
 }
 
 frmImportPictures::~frmImportPictures() {
-    closing_ = true;
+    // Thumbnails not begun are dropped; those under way are waited for, and
+    // Qt drops the calls they posted to this screen once it is gone.
     thumbnailPool_.clear();
     thumbnailPool_.waitForDone();
 }
@@ -113,7 +114,7 @@ void frmImportPictures::ShowFolder(const QString& folder) {
     // Never dropped silently: what cannot become a card is shown, greyed.
     for (const QString& name : found.NotPictures) {
         QList<QStandardItem*> row;
-        for (const QString& text : {name, QStringLiteral("Not a picture, or cannot be read"), QString(), QString()}) {
+        for (const QString& text : {name, tr("Not a picture, or cannot be read"), QString(), QString()}) {
             row.append(new QStandardItem(text));
             row.last()->setFlags(Qt::NoItemFlags);
         }
@@ -134,16 +135,16 @@ void frmImportPictures::ShowFolder(const QString& folder) {
 }
 
 void frmImportPictures::LoadThumbnails() {
+    thumbnails_.Results.resize(static_cast<std::size_t>(proposed_.size()));
     for (int row = 0; row < proposed_.size(); ++row) {
         const QString path = QDir(folder_).filePath(proposed_[row].File);
-        thumbnailPool_.start([this, row, path] {
-            if (closing_) return;
-            const QImage image = PictureThumbnail(path, ThumbnailSide);
-            QMetaObject::invokeMethod(this, [this, row, image] {
-                mdlPictures->item(row, ColPicture)->setData(QPixmap::fromImage(image), Qt::DecorationRole);
-            });
-        });
+        RunForOwner<QImage>(thumbnailPool_, [path] { return PictureThumbnail(path, ThumbnailSide); }, row, thumbnails_,
+                            this, "ShowThumbnail");
     }
+}
+
+void frmImportPictures::ShowThumbnail(int row) {
+    mdlPictures->item(row, ColPicture)->setData(QPixmap::fromImage(thumbnails_.Take(row)), Qt::DecorationRole);
 }
 
 ReversedSide frmImportPictures::ChosenReversedSide() const {
@@ -156,9 +157,9 @@ void frmImportPictures::optReversed_Click() {
     const ReversedSide side = ChosenReversedSide();
     for (int row = 0; row < proposed_.size(); ++row) {
         QString text;
-        if (side == ReversedSide::Turned) text = QStringLiteral("turned");
+        if (side == ReversedSide::Turned) text = tr("turned");
         else if (side == ReversedSide::OwnFile)
-            text = proposed_[row].ReversedFile.isEmpty() ? QStringLiteral("none found") : proposed_[row].ReversedFile;
+            text = proposed_[row].ReversedFile.isEmpty() ? tr("none found") : proposed_[row].ReversedFile;
         mdlPictures->item(row, ColReversed)->setText(text);
     }
 }
@@ -194,11 +195,11 @@ void frmImportPictures::cmdOK_Click() {
     QStringList pastLimit;
     const QList<ProposedCard> within = CardsWithinLimit(cards, pastLimit);
     if (!pastLimit.isEmpty())
-        MsgBox(CardLimitMessage() + QStringLiteral("\nThese cards were not added: ") + pastLimit.join(QStringLiteral(", ")),
+        MsgBox(CardLimitMessage() + QLatin1Char('\n') + tr("These cards were not added: %1").arg(NamesForMessage(pastLimit)),
                vbCritical);
     if (!within.isEmpty()) {
         PictureImport import(folder_, within, ChosenReversedSide());
-        QProgressDialog progress(QStringLiteral("Importing pictures..."), QStringLiteral("Cancel"), 0,
+        QProgressDialog progress(tr("Importing pictures..."), tr("Cancel"), 0,
                                  static_cast<int>(within.size()), this);
         progress.setWindowModality(Qt::WindowModal);
         progress.setMinimumDuration(400);
@@ -217,10 +218,9 @@ void frmImportPictures::cmdOK_Click() {
         progress.reset();
         frmDesignDeck& designer = Get<frmDesignDeck>();
         designer.RefreshCardList();
-        designer.DesignModified = true;
+        if (unreadable.size() < within.size()) designer.DesignModified = true;
         if (!unreadable.isEmpty())
-            MsgBox(QStringLiteral("These pictures could not be read and were not added: ") +
-                       unreadable.join(QStringLiteral(", ")),
+            MsgBox(tr("These pictures could not be read and were not added: %1").arg(NamesForMessage(unreadable)),
                    vbExclamation);
     }
     Unload();
@@ -235,11 +235,16 @@ void frmImportPictures::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handl
     if (key == Qt::Key_Escape) {
         handled = true;
         cmdCancel_Click();
-    } else if (key == Qt::Key_Delete && (!focus || focus == tblPictures)) {
-        // Delete leaves the selected rows out; a click on their box or Space
-        // takes them in again.
+    } else if ((key == Qt::Key_Delete || key == Qt::Key_Space) && (!focus || focus == tblPictures)) {
+        // Delete leaves the selected rows out; Space keeps them or leaves
+        // them out as the current row is not, on whichever column it stands
+        // (the view would begin to type over a title with it).
         handled = true;
+        const int current = tblPictures->currentIndex().row();
+        const bool keep = key == Qt::Key_Space && current >= 0 && current < proposed_.size() &&
+                          mdlPictures->item(current, ColPicture)->checkState() != Qt::Checked;
         for (const QModelIndex& index : tblPictures->selectionModel()->selectedRows())
-            if (index.row() < proposed_.size()) mdlPictures->item(index.row(), ColPicture)->setCheckState(Qt::Unchecked);
+            if (index.row() < proposed_.size())
+                mdlPictures->item(index.row(), ColPicture)->setCheckState(keep ? Qt::Checked : Qt::Unchecked);
     }
 }

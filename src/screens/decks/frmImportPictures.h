@@ -5,7 +5,6 @@
 // from; OK works the pictures with a progress bar and adds the cards. Files
 // that are not pictures stand at the end of the list, greyed.
 #include <QThreadPool>
-#include <atomic>
 
 #include "core/decks/PictureImport.h"
 #include "screens/platform/Form.h"
@@ -54,9 +53,10 @@ private:
     QList<ProposedCard> CardsInList() const;
     // Thumbnails are read on other threads and put in as they come.
     void LoadThumbnails();
+    Q_INVOKABLE void ShowThumbnail(int row);
 
     QString folder_;
     QList<ProposedCard> proposed_;
+    HandedOver<QImage> thumbnails_;
     QThreadPool thumbnailPool_;
-    std::atomic<bool> closing_{false};
 };

@@ -1,14 +1,18 @@
 #include "screens/platform/ErrorReport.h"
 
+#include <QCoreApplication>
+
 #include "screens/platform/MsgBox.h"
 
 void ReportError(const RuntimeError& error) {
-    MsgBox(QStringLiteral("Run-time error '%1':\n\n%2").arg(error.Number()).arg(error.Description()),
+    MsgBox(QCoreApplication::translate("ErrorReport", "Run-time error '%1':\n\n%2").arg(error.Number()).arg(error.Description()),
            vbOKOnly | vbCritical);
 }
 
 void ReportUnexpected(const std::exception& error) {
-    MsgBox(QStringLiteral("Run-time error '%1':\n\n%2").arg(51).arg(QString::fromLocal8Bit(error.what())),
+    MsgBox(QCoreApplication::translate("ErrorReport", "Run-time error '%1':\n\n%2")
+               .arg(51)
+               .arg(QString::fromLocal8Bit(error.what())),
            vbOKOnly | vbCritical);
 }
 
@@ -19,7 +23,7 @@ bool Guarded(const std::function<void()>& operation) {
     } catch (const RuntimeError& e) {
         ReportError(e);
     } catch (const std::bad_alloc&) {
-        ReportError(RuntimeError(7, QStringLiteral("Out of memory")));
+        ReportError(RuntimeError(7, QCoreApplication::translate("Errors", "Out of memory")));
     } catch (const std::exception& e) {
         ReportUnexpected(e);
     }

@@ -1,5 +1,6 @@
 #include "screens/platform/FileLists.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -58,7 +59,7 @@ QString DriveListBox::Drive() const { return currentText(); }
 
 void DriveListBox::setDrive(const QString& path) {
     const QString volume = VolumeOf(CleanFolder(path), Volumes());
-    if (!QFileInfo(volume).isReadable()) RaiseError(68, QStringLiteral("Device unavailable"));
+    if (!QFileInfo(volume).isReadable()) RaiseError(68, QCoreApplication::translate("Errors", "Device unavailable"));
     int i = findText(volume);
     if (i < 0) {
         addItem(volume);

@@ -87,7 +87,7 @@ int Scripted(const QString& prompt, int style, const QString& title) {
 }  // namespace
 
 int MsgBox(const QString& prompt, int style, const QString& title) {
-    const QString caption = title.isEmpty() ? QStringLiteral("Cartomar") : title;
+    const QString caption = title.isEmpty() ? QCoreApplication::translate("MsgBox", "Cartomar") : title;
     const QString text = BoxText(prompt);
     if (TheScript().enabled) return Scripted(text, style, caption);
 

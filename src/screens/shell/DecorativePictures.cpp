@@ -1,5 +1,6 @@
 #include "screens/shell/DecorativePictures.h"
 
+#include <QCoreApplication>
 #include <QFont>
 #include <QLinearGradient>
 #include <QPainter>
@@ -206,7 +207,7 @@ QImage MainScreenPicture(int width, int height) {
     tagline.setPointSize(12);
     p.setFont(tagline);
     p.setPen(PaleGold);
-    p.drawText(QRect(0, 160, width, 30), Qt::AlignCenter, QStringLiteral("Unlock the Door to Future Possibilities"));
+    p.drawText(QRect(0, 160, width, 30), Qt::AlignCenter, QCoreApplication::translate("DecorativePictures", "Unlock the Door to Future Possibilities"));
     p.end();
     return image;
 }

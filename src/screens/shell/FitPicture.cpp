@@ -1,5 +1,6 @@
 #include "screens/shell/FitPicture.h"
 
+#include <QCoreApplication>
 #include <QtMath>
 
 #include "core/platform/Errors.h"
@@ -19,7 +20,7 @@ Picture LoadPictureOrDefault(const QString& path) {
     try {
         return LoadPicture(source);
     } catch (const RuntimeError&) {
-        MsgBox(QStringLiteral("Error while loading the picture. A default picture is selected instead.\n"
+        MsgBox(QCoreApplication::translate("FitPicture", "Error while loading the picture. A default picture is selected instead.\n"
                               "Please save all your work, exit Cartomar, and then run it again"),
                vbCritical);
     }
@@ -34,7 +35,7 @@ void FitPicture(ImageBox& box, const QString& path, bool CentrePicture, bool Kee
     BoxGeometry geometry{box.Top(), box.Left(), box.Width(), box.Height()};
     box.setStretch(true);
     if (FitBoxToPicture(picture.Height, picture.Width, geometry, CentrePicture, KeepTop) == 0) {
-        MsgBox(QStringLiteral("Error. Please contact Ondine Software Inc."));
+        MsgBox(QCoreApplication::translate("FitPicture", "Error. Please contact Ondine Software Inc."));
         EndProcess(1);
         return;
     }

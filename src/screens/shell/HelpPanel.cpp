@@ -1,5 +1,6 @@
 #include "screens/shell/HelpPanel.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -52,20 +53,20 @@ void HelpPicture::paintEvent(QPaintEvent*) {
     p.setFont(font);
     p.setPen(Ink);
     p.drawText(QRect(LocationBox.left(), LocationBox.top() + 6, LocationBox.width(), 20), Qt::AlignCenter,
-               QStringLiteral("1. The Present"));
+               QCoreApplication::translate("HelpPanel", "1. The Present"));
     p.setPen(QPen(Marker, 2));
     p.setBrush(Qt::NoBrush);
     p.drawRect(LocationBox);
     p.drawImage(CardBox, DefaultCardPicture());
     p.setPen(Ink);
     p.drawText(QRect(LocationBox.left(), CardBox.bottom() + 6, LocationBox.width(), 20), Qt::AlignCenter,
-               QStringLiteral("The Star"));
+               QCoreApplication::translate("HelpPanel", "The Star"));
 
-    Pointer(p, QStringLiteral("Location Title"), QPoint(136, 40), QPoint(LocationBox.left() + 8, LocationBox.top() + 16),
+    Pointer(p, QCoreApplication::translate("HelpPanel", "Location Title"), QPoint(136, 40), QPoint(LocationBox.left() + 8, LocationBox.top() + 16),
             Qt::AlignLeft);
-    Pointer(p, QStringLiteral("Spread Location"), QPoint(136, 130), QPoint(LocationBox.left(), 130), Qt::AlignLeft);
-    Pointer(p, QStringLiteral("Card Image"), QPoint(300, 110), QPoint(CardBox.right() - 10, 110), Qt::AlignRight);
-    Pointer(p, QStringLiteral("Card Title"), QPoint(136, 262), QPoint(LocationBox.left() + 22, CardBox.bottom() + 16),
+    Pointer(p, QCoreApplication::translate("HelpPanel", "Spread Location"), QPoint(136, 130), QPoint(LocationBox.left(), 130), Qt::AlignLeft);
+    Pointer(p, QCoreApplication::translate("HelpPanel", "Card Image"), QPoint(300, 110), QPoint(CardBox.right() - 10, 110), Qt::AlignRight);
+    Pointer(p, QCoreApplication::translate("HelpPanel", "Card Title"), QPoint(136, 262), QPoint(LocationBox.left() + 22, CardBox.bottom() + 16),
             Qt::AlignLeft);
 
     if (!withCardsList_) return;
@@ -74,21 +75,22 @@ void HelpPicture::paintEvent(QPaintEvent*) {
     p.setBrush(QColor(250, 248, 240));
     p.drawRect(CardsList);
     p.setPen(QColor(30, 30, 30));
-    const QStringList cards = {QStringLiteral("The Fool"), QStringLiteral("The Magician"),
-                               QStringLiteral("The High Priestess"), QStringLiteral("The Empress"),
-                               QStringLiteral("The Emperor"), QStringLiteral("The Star")};
+    const QStringList cards = {QCoreApplication::translate("HelpPanel", "The Fool"), QCoreApplication::translate("HelpPanel", "The Magician"),
+                               QCoreApplication::translate("HelpPanel", "The High Priestess"), QCoreApplication::translate("HelpPanel", "The Empress"),
+                               QCoreApplication::translate("HelpPanel", "The Emperor"), QCoreApplication::translate("HelpPanel", "The Star")};
+    // The last card is the one chosen.
     for (int i = 0; i < cards.size(); ++i) {
         const QRect line(CardsList.left() + 4, CardsList.top() + 4 + i * 20, CardsList.width() - 8, 20);
-        if (cards[i] == QStringLiteral("The Star")) p.fillRect(line, QColor(60, 70, 160));
-        p.setPen(cards[i] == QStringLiteral("The Star") ? Ink : QColor(30, 30, 30));
+        if (i == cards.size() - 1) p.fillRect(line, QColor(60, 70, 160));
+        p.setPen(i == cards.size() - 1 ? Ink : QColor(30, 30, 30));
         p.drawText(line.adjusted(3, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, cards[i]);
     }
     p.setPen(Ink);
     p.setBrush(Qt::NoBrush);
     p.drawRect(QRect(CardsList.left(), CardsList.bottom() + 12, 12, 12));
     p.drawText(QRect(CardsList.left() + 18, CardsList.bottom() + 8, 100, 20), Qt::AlignVCenter | Qt::AlignLeft,
-               QStringLiteral("Reversed"));
-    Pointer(p, QStringLiteral("Cards List"), QPoint(390, 40), QPoint(CardsList.left() + 20, CardsList.top()),
+               QCoreApplication::translate("HelpPanel", "Reversed"));
+    Pointer(p, QCoreApplication::translate("HelpPanel", "Cards List"), QPoint(390, 40), QPoint(CardsList.left() + 20, CardsList.top()),
             Qt::AlignLeft);
 }
 
@@ -98,7 +100,7 @@ HelpPanelForm::HelpPanelForm(const QString& caption, const QString& helpText, bo
     lblHelp = new QLabel(helpText, this);
     lblHelp->setWordWrap(true);
     lblHelp->setFixedWidth(PictureWidth);
-    cmdEndHelp = new QPushButton(QStringLiteral("&Close"), this);
+    cmdEndHelp = new QPushButton(tr("&Close"), this);
     connect(cmdEndHelp, &QPushButton::clicked, this, Handler([this] { Unload(); }));
 
     auto* layout = new QVBoxLayout(this);

@@ -38,7 +38,7 @@ void OpenPackageFile(const QString& packageFile) {
 }  // namespace
 
 MDIMainForm::MDIMainForm() {
-    setCaption(QStringLiteral("Cartomar - Unlock the Door to Future Possibilities"));
+    setCaption(tr("Cartomar - Unlock the Door to Future Possibilities"));
     area_ = new QMdiArea(this);
     area_->setBackground(QColor(24, 20, 48));
     auto* layout = new QVBoxLayout(this);
@@ -90,8 +90,8 @@ void MDIMainForm::resizeEvent(QResizeEvent* e) {
 }
 
 void ExitQuestion() {
-    const int answer = MsgBox(QStringLiteral("Are you sure you want to EXIT Cartomar?"),
-                              vbYesNo | vbQuestion | vbDefaultButton2, QStringLiteral("Cartomar"));
+    const int answer = MsgBox(MDIMainForm::tr("Are you sure you want to EXIT Cartomar?"),
+                              vbYesNo | vbQuestion | vbDefaultButton2, MDIMainForm::tr("Cartomar"));
     if (answer != vbYes) return;
     if (IsLoaded<MDIMainForm>()) Get<MDIMainForm>().Unload();
     EndProcess(0);

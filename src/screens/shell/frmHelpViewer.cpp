@@ -10,16 +10,16 @@
 #include "screens/shell/ScreenPlacement.h"
 
 frmHelpViewer::frmHelpViewer() {
-    setCaption(QStringLiteral("Cartomar Help"));
+    setCaption(tr("Cartomar Help"));
     // Wide enough for the pictures of the screens at their own size.
     resize(960, 680);
 
     txtHelp = new QTextBrowser(this);
     txtHelp->setOpenLinks(true);
     txtHelp->setOpenExternalLinks(false);
-    cmdContents = new QPushButton(QStringLiteral("C&ontents"), this);
-    cmdBack = new QPushButton(QStringLiteral("&Back"), this);
-    cmdClose = new QPushButton(QStringLiteral("&Close"), this);
+    cmdContents = new QPushButton(tr("C&ontents"), this);
+    cmdBack = new QPushButton(tr("&Back"), this);
+    cmdClose = new QPushButton(tr("&Close"), this);
     cmdBack->setEnabled(false);
 
     auto* buttons = new QHBoxLayout;

@@ -50,17 +50,19 @@ struct ButtonDesign {
 // The diary buttons carry the tooltips of the reading buttons; their group
 // heading tells what they work on.
 constexpr ButtonDesign Buttons[] = {
-    {1, 0, 0, "New", "Make a New Reading"},
-    {2, 0, 1, "Past", "Open a Saved Reading"},
-    {3, 1, 0, "New", "Make a New Reading"},
-    {4, 1, 1, "Past", "Open a Saved Reading"},
-    {5, 2, 0, "Decks", "Create, Edit or View Decks"},
-    {6, 2, 1, "Spreads", "Create, Edit, View or Manage Spreads"},
-    {7, 3, 0, "Install", "Install a Package"},
-    {8, 3, 1, "Create", "Create a New Package"},
-    {frmMainScreen::JournalButton, 0, 2, "Journal", "Search and Count Past Readings and Diaries", 2},
-    {9, 4, 0, "Help", "Display Help"},
-    {11, 4, 1, "Exit", "Exit Cartomar"},
+    {1, 0, 0, QT_TRANSLATE_NOOP("frmMainScreen", "New"), QT_TRANSLATE_NOOP("frmMainScreen", "Make a New Reading")},
+    {2, 0, 1, QT_TRANSLATE_NOOP("frmMainScreen", "Past"), QT_TRANSLATE_NOOP("frmMainScreen", "Open a Saved Reading")},
+    {3, 1, 0, QT_TRANSLATE_NOOP("frmMainScreen", "New"), QT_TRANSLATE_NOOP("frmMainScreen", "Make a New Reading")},
+    {4, 1, 1, QT_TRANSLATE_NOOP("frmMainScreen", "Past"), QT_TRANSLATE_NOOP("frmMainScreen", "Open a Saved Reading")},
+    {5, 2, 0, QT_TRANSLATE_NOOP("frmMainScreen", "Decks"), QT_TRANSLATE_NOOP("frmMainScreen", "Create, Edit or View Decks")},
+    {6, 2, 1, QT_TRANSLATE_NOOP("frmMainScreen", "Spreads"),
+     QT_TRANSLATE_NOOP("frmMainScreen", "Create, Edit, View or Manage Spreads")},
+    {7, 3, 0, QT_TRANSLATE_NOOP("frmMainScreen", "Install"), QT_TRANSLATE_NOOP("frmMainScreen", "Install a Package")},
+    {8, 3, 1, QT_TRANSLATE_NOOP("frmMainScreen", "Create"), QT_TRANSLATE_NOOP("frmMainScreen", "Create a New Package")},
+    {frmMainScreen::JournalButton, 0, 2, QT_TRANSLATE_NOOP("frmMainScreen", "Journal"),
+     QT_TRANSLATE_NOOP("frmMainScreen", "Search and Count Past Readings and Diaries"), 2},
+    {9, 4, 0, QT_TRANSLATE_NOOP("frmMainScreen", "Help"), QT_TRANSLATE_NOOP("frmMainScreen", "Display Help")},
+    {11, 4, 1, QT_TRANSLATE_NOOP("frmMainScreen", "Exit"), QT_TRANSLATE_NOOP("frmMainScreen", "Exit Cartomar")},
 };
 
 constexpr int ColumnWidth = 112;
@@ -98,7 +100,7 @@ QString ProgramDirectoryShown() {
 }  // namespace
 
 frmMainScreen::frmMainScreen() {
-    setCaption(QStringLiteral("Cartomar"));
+    setCaption(tr("Cartomar"));
     setFixedSize(ScreenWidth, ScreenHeight);
 
     imgMainScreen = new ImageBox(this);
@@ -107,8 +109,7 @@ frmMainScreen::frmMainScreen() {
 
     lblProductName = MakeCaption(this, QString(), QRect(0, 70, ScreenWidth, 72), 40, true, Gold);
 
-    const QStringList headings = {QStringLiteral("Readings"), QStringLiteral("Diary"), QStringLiteral("Design"),
-                                  QStringLiteral("Package"), QStringLiteral("File Menu")};
+    const QStringList headings = {tr("Readings"), tr("Diary"), tr("Design"), tr("Package"), tr("File Menu")};
     QLabel** headingLabels[] = {&lblReadings, &lblDiary, &lblTools, &lblPackage, &lblFileMenu};
     for (int column = 0; column < 5; ++column)
         *headingLabels[column] = MakeCaption(this, headings[column],
@@ -116,8 +117,8 @@ frmMainScreen::frmMainScreen() {
 
     for (const ButtonDesign& b : Buttons) {
         auto* label = new ClickLabel(this);
-        label->setText(QString::fromLatin1(b.Caption));
-        label->setToolTip(QString::fromLatin1(b.ToolTip));
+        label->setText(tr(b.Caption));
+        label->setToolTip(tr(b.ToolTip));
         label->setAlignment(Qt::AlignCenter);
         QFont font(QStringLiteral("DejaVu Sans"));
         font.setPointSize(11);
@@ -146,10 +147,10 @@ frmMainScreen::frmMainScreen() {
 void frmMainScreen::Form_Load() {
     CentreInFrame(*this);
     ButtonDownColour_ = QBColor(15);
-    lblProductName->setText(QStringLiteral("Cartomar"));
-    lblTools->setText(QStringLiteral("Design"));
-    lblButton(5)->setToolTip(QStringLiteral("Create, Edit or View Decks"));
-    lblButton(6)->setToolTip(QStringLiteral("Create, Edit, View or Manage Spreads"));
+    lblProductName->setText(tr("Cartomar"));
+    lblTools->setText(tr("Design"));
+    lblButton(5)->setToolTip(tr("Create, Edit or View Decks"));
+    lblButton(6)->setToolTip(tr("Create, Edit, View or Manage Spreads"));
     lblButton(8)->setVisible(true);
     lblButton(7)->setEnabled(true);
     ClearTemp();
@@ -257,8 +258,9 @@ void frmMainScreen::LaunchHelp() {
         ShowHelpFile(helpFile);
         return;
     }
-    MsgBox(QStringLiteral("Unable to locate help file. The file is longer in the '") + ProgramDirectoryShown() +
-               QStringLiteral("' directory. Recopy the help file or reinstall Cartomar."),
+    MsgBox(tr("Unable to locate help file. The file is longer in the '%1' directory. Recopy the help file or "
+              "reinstall Cartomar.")
+               .arg(ProgramDirectoryShown()),
            vbCritical);
 }
 

@@ -1,8 +1,8 @@
 #include "screens/shell/frmQuickHelp.h"
 
 frmQuickHelp::frmQuickHelp()
-    : HelpPanelForm(QStringLiteral("Quick Help"),
-                    QStringLiteral(
+    : HelpPanelForm(tr("Quick Help"),
+                    tr(
                         "The Tarot Spread is meant to aid you in your everyday life.  Examine the spread as a whole "
                         "and use the additional tools included on the spread to help you understand the meaning "
                         "behind each card.  By clicking on a card, you get the description of the specific spread "

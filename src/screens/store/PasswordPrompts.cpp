@@ -1,5 +1,7 @@
 #include "screens/store/PasswordPrompts.h"
 
+#include <QCoreApplication>
+
 #include "core/store/Passwords.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/store/frmGetPassword.h"
@@ -11,7 +13,8 @@ bool CheckPassword(const QString& storedPassword) {
     // Cancel unloads the screen; what it left in Password was "".
     const QString typed = IsLoaded<frmGetPassword>() ? screen.Password : QString();
     const PasswordJudgement judgement = JudgePassword(storedPassword, typed);
-    if (judgement == PasswordJudgement::Wrong) MsgBox(QStringLiteral("Incorrect password. Access Denied."), vbCritical);
+    if (judgement == PasswordJudgement::Wrong) 
+        MsgBox(QCoreApplication::translate("PasswordPrompts", "Incorrect password. Access Denied."), vbCritical);
     const bool result = judgement == PasswordJudgement::Right;
     UnloadScreen<frmGetPassword>();
     return result;

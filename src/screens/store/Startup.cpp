@@ -1,5 +1,6 @@
 #include "screens/store/Startup.h"
 
+#include <QCoreApplication>
 #include <cstdio>
 #include <cstdlib>
 
@@ -35,7 +36,7 @@ void ShowConversionScreen() {
 }  // namespace
 
 void FatalError() {
-    MsgBox(QStringLiteral("Cartomar Error. If this problem persists, please contact Ondine Software Inc."),
+    MsgBox(QCoreApplication::translate("Startup", "Cartomar Error. If this problem persists, please contact Ondine Software Inc."),
            vbCritical);
     EndProcess(1);
 }
@@ -45,8 +46,9 @@ bool RunStartup(const QString& programDir, bool offerInstall) {
     // Before anything is touched: a second copy on the same folder would
     // empty the first one's Temp/ under its feet.
     if (!TakeProgramLock(programDir)) {
-        MsgBox(QStringLiteral("Cartomar is already running from the folder '") + programDir +
-                   QStringLiteral("'. Only one copy can work on the same designs at a time."),
+        MsgBox(QCoreApplication::translate("Startup", "Cartomar is already running from the folder '%1'. Only one copy can "
+                                           "work on the same designs at a time.")
+                   .arg(programDir),
                vbExclamation);
         EndProcess(1);
         return false;
@@ -62,9 +64,9 @@ bool RunStartup(const QString& programDir, bool offerInstall) {
         if (FileExists(DecksPath + QStringLiteral(".bkp"))) {
             // A conversion was begun here before; doing it again would
             // overwrite the only copies of the old data.
-            MsgBox(QStringLiteral("Unable to convert to new database format as existing backups exist.  "
-                                  "Please reinstall in a new directory or contact ") +
-                   SupportAddress + QLatin1Char('.'));
+            MsgBox(QCoreApplication::translate("Startup", "Unable to convert to new database format as existing backups exist.  "
+                                               "Please reinstall in a new directory or contact %1.")
+                       .arg(SupportAddress));
             EndProcess(1);
             return false;
         }
@@ -77,7 +79,7 @@ bool RunStartup(const QString& programDir, bool offerInstall) {
     const int deckCount = CountDecks();
     ShowMainScreen();
     if (offerInstall && spreadCount == 0 && deckCount == 0) {
-        const int answer = MsgBox(QStringLiteral("You don't have any designs installed. Do you want install any now?"),
+        const int answer = MsgBox(QCoreApplication::translate("Startup", "You don't have any designs installed. Do you want install any now?"),
                                   vbYesNo | vbInformation);
         if (answer == vbYes) {
             frmMainScreen& mainScreen = Get<frmMainScreen>();

@@ -27,17 +27,17 @@ public:
 }  // namespace
 
 frmConvert::frmConvert() {
-    setCaption(QStringLiteral("Cartomar Converter"));
+    setCaption(tr("Cartomar Converter"));
     setFixedSize(TwipsToPixels(6600), TwipsToPixels(2400));
 
-    lblMessage = new QLabel(QStringLiteral(
+    lblMessage = new QLabel(tr(
         "Cartomar detected an older database version.  Would you like to convert the old files to a new "
         "compatible version?  (Note that a *.bkp copies will be created of the old database files.)"), this);
     lblMessage->setObjectName(QStringLiteral("lblMessage"));
     lblMessage->setWordWrap(true);
-    cmdConvert = new QPushButton(QStringLiteral("Con&vert"), this);
+    cmdConvert = new QPushButton(tr("Con&vert"), this);
     cmdConvert->setObjectName(QStringLiteral("cmdConvert"));
-    cmdClose = new QPushButton(QStringLiteral("&Cancel"), this);
+    cmdClose = new QPushButton(tr("&Cancel"), this);
     cmdClose->setObjectName(QStringLiteral("cmdClose"));
 
     auto* buttons = new QHBoxLayout;

@@ -27,15 +27,15 @@ frmDesignExists::frmDesignExists() {
     picDoWhat = new QWidget(this);
     picDoWhat->setObjectName(QStringLiteral("picDoWhat"));
     auto* doWhat = new QVBoxLayout(picDoWhat);
-    lblDoWhat = new QLabel(QStringLiteral("Design Already Exists. What do you want to do?"), picDoWhat);
+    lblDoWhat = new QLabel(tr("Design Already Exists. What do you want to do?"), picDoWhat);
     doWhat->addWidget(lblDoWhat);
     auto* row1 = new QHBoxLayout;
     auto* row2 = new QHBoxLayout;
-    cmdOverwrite = Button(picDoWhat, QStringLiteral("&Overwrite"), "cmdOverwrite");
-    cmdSkip = Button(picDoWhat, QStringLiteral("&Skip"), "cmdSkip");
-    cmdRename = Button(picDoWhat, QStringLiteral("&Rename"), "cmdRename");
-    cmdOverwriteAll = Button(picDoWhat, QStringLiteral("Overwrite &All"), "cmdOverwriteAll");
-    cmdSkipAll = Button(picDoWhat, QStringLiteral("S&kip All"), "cmdSkipAll");
+    cmdOverwrite = Button(picDoWhat, tr("&Overwrite"), "cmdOverwrite");
+    cmdSkip = Button(picDoWhat, tr("&Skip"), "cmdSkip");
+    cmdRename = Button(picDoWhat, tr("&Rename"), "cmdRename");
+    cmdOverwriteAll = Button(picDoWhat, tr("Overwrite &All"), "cmdOverwriteAll");
+    cmdSkipAll = Button(picDoWhat, tr("S&kip All"), "cmdSkipAll");
     row1->addWidget(cmdOverwrite);
     row1->addWidget(cmdSkip);
     row1->addWidget(cmdRename);
@@ -48,14 +48,14 @@ frmDesignExists::frmDesignExists() {
     picRename = new QWidget(this);
     picRename->setObjectName(QStringLiteral("picRename"));
     auto* rename = new QVBoxLayout(picRename);
-    rename->addWidget(new QLabel(QStringLiteral("Enter the new design name:"), picRename));
+    rename->addWidget(new QLabel(tr("Enter the new design name:"), picRename));
     txtDesignName = new QLineEdit(picRename);
     txtDesignName->setObjectName(QStringLiteral("txtDesignName"));
     txtDesignName->setMaxLength(30);
     rename->addWidget(txtDesignName);
     auto* row3 = new QHBoxLayout;
-    cmdOK = Button(picRename, QStringLiteral("&OK"), "cmdOK");
-    cmdCancel = Button(picRename, QStringLiteral("&Cancel"), "cmdCancel");
+    cmdOK = Button(picRename, tr("&OK"), "cmdOK");
+    cmdCancel = Button(picRename, tr("&Cancel"), "cmdCancel");
     row3->addWidget(cmdOK);
     row3->addWidget(cmdCancel);
     rename->addLayout(row3);
@@ -79,9 +79,11 @@ void frmDesignExists::Form_Load() { CentreInFrame(*this); }
 void frmDesignExists::Ask(int design, const QString& title) {
     Design = design;
     Title = title;
-    static const char* const kKinds[3] = {"Card", "Deck", "Spread"};
-    const QString kind = QLatin1String(kKinds[(design >= 0 && design <= 2) ? design : 0]);
-    setCaption(kind + QStringLiteral(" '") + Title + QStringLiteral("' exists."));
+    // One sentence for each kind, so that a language can agree its words
+    // with the kind.
+    static const char* const kCaptions[3] = {QT_TR_NOOP("Card '%1' exists."), QT_TR_NOOP("Deck '%1' exists."),
+                                             QT_TR_NOOP("Spread '%1' exists.")};
+    setCaption(tr(kCaptions[(design >= 0 && design <= 2) ? design : 0]).arg(Title));
     Beep();
     Show(true);
 }
@@ -99,7 +101,9 @@ void frmDesignExists::cmdSkipAll_Click() { Choose(DesignExistsSkipAll); }
 void frmDesignExists::cmdRename_Click() {
     picDoWhat->hide();
     picRename->show();
-    // The proposal keeps room for " (Copy)" within the 30 characters.
+    // The proposal keeps room for " (Copy)" within the 30 characters. It is
+    // not translated: a name the program proposes becomes the design's, and
+    // designs come out the same in every language.
     const QString padded = (Title + QString(30, QLatin1Char(' '))).left(23);
     txtDesignName->setText(padded.trimmed() + QStringLiteral(" (Copy)"));
     txtDesignName->setFocus();
@@ -113,14 +117,14 @@ void frmDesignExists::cmdCancel_Click() {
 
 void frmDesignExists::cmdOK_Click() {
     if (TrimField(txtDesignName->text()).isEmpty()) {
-        MsgBox(QStringLiteral("You must enter a design name."), vbInformation);
+        MsgBox(tr("You must enter a design name."), vbInformation);
         return;
     }
     const QString name = txtDesignName->text().left(30);
     const QString padded = name + QString(30 - name.size(), QLatin1Char(' '));
     if (NameInUse && NameInUse(Design, padded)) {
-        MsgBox(QStringLiteral("You already have a design with this name. Please enter a change the name or "
-                              "click 'Cancel' to return to the previous page."),
+        MsgBox(tr("You already have a design with this name. Please enter a change the name or "
+                  "click 'Cancel' to return to the previous page."),
                vbInformation);
         return;
     }

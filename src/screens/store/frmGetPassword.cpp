@@ -10,15 +10,15 @@
 frmGetPassword::frmGetPassword() {
     setObjectName(QStringLiteral("frmGetPassword"));
     auto* grid = new QGridLayout(this);
-    grid->addWidget(new QLabel(QStringLiteral("Password:"), this), 0, 0);
+    grid->addWidget(new QLabel(tr("Password:"), this), 0, 0);
     txtPassword = new QLineEdit(this);
     txtPassword->setObjectName(QStringLiteral("txtPassword"));
     txtPassword->setEchoMode(QLineEdit::Password);
     txtPassword->setMaxLength(25);
     grid->addWidget(txtPassword, 0, 1, 1, 2);
-    cmdOK = new QPushButton(QStringLiteral("&OK"), this);
+    cmdOK = new QPushButton(tr("&OK"), this);
     cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
+    cmdCancel = new QPushButton(tr("&Cancel"), this);
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     grid->addWidget(cmdOK, 1, 1);
     grid->addWidget(cmdCancel, 1, 2);
@@ -30,7 +30,7 @@ frmGetPassword::frmGetPassword() {
 }
 
 void frmGetPassword::Form_Load() {
-    setCaption(QStringLiteral("Confirm Password"));
+    setCaption(tr("Confirm Password"));
     CentreInFrame(*this);
 }
 

@@ -11,8 +11,8 @@
 frmSetPassword::frmSetPassword() {
     setObjectName(QStringLiteral("frmSetPassword"));
     auto* grid = new QGridLayout(this);
-    grid->addWidget(new QLabel(QStringLiteral("Enter Password:"), this), 0, 0);
-    grid->addWidget(new QLabel(QStringLiteral("Confirm Password:"), this), 1, 0);
+    grid->addWidget(new QLabel(tr("Enter Password:"), this), 0, 0);
+    grid->addWidget(new QLabel(tr("Confirm Password:"), this), 1, 0);
     txtPassword1 = new QLineEdit(this);
     txtPassword1->setObjectName(QStringLiteral("txtPassword1"));
     txtPassword2 = new QLineEdit(this);
@@ -23,9 +23,9 @@ frmSetPassword::frmSetPassword() {
     }
     grid->addWidget(txtPassword1, 0, 1, 1, 2);
     grid->addWidget(txtPassword2, 1, 1, 1, 2);
-    cmdOK = new QPushButton(QStringLiteral("&OK"), this);
+    cmdOK = new QPushButton(tr("&OK"), this);
     cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
+    cmdCancel = new QPushButton(tr("&Cancel"), this);
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     grid->addWidget(cmdOK, 2, 1);
     grid->addWidget(cmdCancel, 2, 2);
@@ -38,7 +38,7 @@ frmSetPassword::frmSetPassword() {
 }
 
 void frmSetPassword::Form_Load() {
-    setCaption(QStringLiteral("Set Password"));
+    setCaption(tr("Set Password"));
     CentreInFrame(*this);
 }
 
@@ -49,7 +49,7 @@ void frmSetPassword::cmdOK_Click() {
         Hide();
         return;
     }
-    MsgBox(QStringLiteral("The two passwords do not match."), vbInformation);
+    MsgBox(tr("The two passwords do not match."), vbInformation);
     txtPassword1->clear();
     txtPassword2->clear();
     txtPassword1->setFocus();
