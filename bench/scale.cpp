@@ -34,6 +34,7 @@
 #include "core/platform/FileSys.h"
 #include "core/platform/ProgramLock.h"
 #include "core/platform/Rnd.h"
+#include "core/readings/EntryStore.h"
 #include "core/records/RecordFile.h"
 #include "core/records/Records.h"
 #include "core/store/DeckLoading.h"
@@ -353,7 +354,8 @@ int main(int argc, char** argv) {
         const QString copyPath = dir.filePath(QStringLiteral("copy.bin"));
         const double copyReadings = Time([&] { CopyOnce(ReadingsPath, copyPath); });
         const ReadingRecord reading = ZeroRecord<ReadingRecord>();
-        Row("a reading saved over one of 5,000", Time([&] { PutRecord(ReadingsPath, 2500, reading); }),
+        Row("a reading saved over one of 5,000",
+            Time([&] { SaveEntry(reading, QStringLiteral("Reading 2500"), 2500, CardTypeSelected); }),
             "copy of Readings.red", copyReadings, 2.0);
     }
     if (Want("lists")) {
@@ -378,8 +380,8 @@ int main(int argc, char** argv) {
         for (int c = 1; c <= 100; ++c) CurrentDeck.DeckCards(c).CardType = 0;
         CardTypeSelected = {true, false, false, false};
         ResetReading(CurrentReading);
-        frmNewReading& reading = Get<frmNewReading>();
-        reading.DeckCardsLeft = 100;
+        Get<frmNewReading>();
+        ReadingDeal.DeckCardsLeft = 100;
         frmReadingCards& table = Get<frmReadingCards>();
         long moves = 0;
         struct Counter : QObject {

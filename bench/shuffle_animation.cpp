@@ -39,8 +39,8 @@ int main(int argc, char** argv) {
     CardTypeSelected = {true, false, false, false};
     ResetReading(CurrentReading);
 
-    frmNewReading& reading = Get<frmNewReading>();
-    reading.DeckCardsLeft = 100;
+    Get<frmNewReading>();
+    ReadingDeal.DeckCardsLeft = 100;
     frmReadingCards& table = Get<frmReadingCards>();
 
     MoveCounter counter;

@@ -2,7 +2,6 @@
 // What the diary tests share: the way in through the main screen's Diary
 // buttons, and the card choice driven as the keeper drives it.
 #include <QCheckBox>
-#include <QComboBox>
 #include <QPushButton>
 
 #include "readings/ReadingFixtures.h"
@@ -68,20 +67,10 @@ inline void Choose(frmNewDiary& diary, int location, const QString& text, bool r
     QVERIFY(script.Done());
 }
 
-// The rows of a location's list: text and card number.
-inline QStringList Rows(const frmNewDiary& diary, int location) {
-    QStringList rows;
-    const QComboBox* list = diary.cboCardName(location);
-    for (int r = 0; r < list->count(); ++r)
-        rows << list->itemText(r) + QLatin1Char('=') + list->itemData(r).toString();
-    return rows;
-}
-
 // The cards a location's list offers, in order of title.
-inline QStringList Offered(const frmNewDiary& diary, int location) {
+inline QStringList Offered(int location) {
     QStringList texts;
-    const QComboBox* list = diary.cboCardName(location);
-    for (int r = 0; r < list->count(); ++r) texts << list->itemText(r);
+    for (const CardRow& row : DiaryLists.Rows(location)) texts << row.Text;
     texts.sort();
     return texts;
 }

@@ -238,7 +238,8 @@ void tst_starter::installedStarterServesACelticCrossReading() {
     // The deal itself is the shuffle's; here the installed deck feeds it whole.
     reading.cmdContinue->click();
     reading.cmdAllCards->click();
-    const QSet<Integer> dealt(CurrentReading.DealtCard.begin(), CurrentReading.DealtCard.begin() + 10);
+    QSet<Integer> dealt;
+    for (int i = 1; i <= 10; ++i) dealt << ReadingDeal.DealtCard(i);
     QCOMPARE(dealt.size(), 10);
     QVERIFY(!dealt.contains(0));
     UnloadScreen<frmReadingCards>();

@@ -74,7 +74,7 @@ private:
 // in location i of the first locations, highCard at highCardAt if any, and
 // what own sets.
 template <class R>
-R SaveEntry(const QString& path, Integer deckId, Integer spreadId, int locations,
+R StoredEntry(const QString& path, Integer deckId, Integer spreadId, int locations,
             const std::function<void(R&)>& own, int highCardAt, Integer highCard) {
     R r;
     if constexpr (std::is_same_v<R, ReadingRecord>) ResetReading(r);
@@ -127,7 +127,6 @@ inline void FreshRun(const QString& dir) {
     UnloadScreen<frmNewReading>();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     Fixtures::UseProgramDir(dir);
-    frmReadingCards::LoadingReading = false;
     MsgBoxScript::Clear();
     SetRandomizeSeedForTests(4242);
 }
@@ -168,8 +167,8 @@ inline void OpenPastReading(int row) { OpenPast<frmOpenReading>(2, row); }
 
 // The table position that holds a deck card (duplicates off: each card lies once).
 inline int PositionOfCard(Integer card) {
-    for (int i = 1; i <= frmReadingCards::TableSize; ++i)
-        if (frmReadingCards::LocationCard()(i) == card) return i;
+    for (int i = 1; i <= Deal::TableSize; ++i)
+        if (ReadingDeal.LocationCard(i) == card) return i;
     return 0;
 }
 

@@ -1,10 +1,12 @@
-// Saved entries, readings and diary entries alike, that can no longer be
-// shown as they were, and the selection screen's lists and boxes: every
-// refusal is one message, the screen stays, nothing is written. A diary entry
-// whose cards point past a smaller deck beyond the checked locations opens
-// with those locations empty; saving under another entry's name overwrites it
-// in place. And bad input: text past every limit, text the record code page
-// cannot hold, a saved reading that goes between the listing and the opening.
+// Saved entries, readings and diary entries alike: the core's judgement of a
+// saved entry that may no longer be shown as it was (its refusals and
+// questions in order), and its saves, reopened from the disk; then the
+// screens' wiring: a refusal is one message, the screen stays, nothing is
+// written; a diary entry whose cards point past a smaller deck beyond the
+// checked locations opens with those locations empty; the selection screen's
+// lists and boxes. And bad input: text past every limit, text the record code
+// page cannot hold, a saved reading that goes between the listing and the
+// opening.
 #include <QApplication>
 #include <QClipboard>
 
@@ -25,7 +27,14 @@ using namespace DiaryFixtures;
 namespace {
 
 // What has happened to the designs since an entry was saved.
-enum Change { DeckDeleted, SpreadDeleted, CardsRemoved, DeckRevised };
+enum Change { Unchanged, DeckDeleted, SpreadDeleted, CardsRemoved, DeckRevised, SpreadRevised, DeckRevisedSpreadDeleted };
+
+// The steps of an opening, a refusal as "!" and a question as "?" before its text.
+QStringList Steps(const QList<OpeningStep>& steps) {
+    QStringList out;
+    for (const OpeningStep& step : steps) out << (step.Refusal ? QStringLiteral("!") : QStringLiteral("?")) + step.Text;
+    return out;
+}
 
 // Pastes text over a line box's text as a user does.
 void PasteInto(QLineEdit* box, const QString& text) {
@@ -49,7 +58,7 @@ class TestSavedEntries : public QObject, ScreenRun {
             r.DealtCount = 20;
             r.SavedOn = 46000;
         };
-        return SaveEntry<ReadingRecord>(ReadingsPath, deckId_, spreadId_, 20, own, highCardAt, highCard);
+        return StoredEntry<ReadingRecord>(ReadingsPath, deckId_, spreadId_, 20, own, highCardAt, highCard);
     }
     // A diary entry of the same.
     DiaryRecord SavedDiary(const QString& name, int highCardAt = 0, Integer highCard = 0) {
@@ -57,7 +66,43 @@ class TestSavedEntries : public QObject, ScreenRun {
             d.DiaryName = name;
             d.SavedOn = 46000;
         };
-        return SaveEntry<DiaryRecord>(DiaryPath, deckId_, spreadId_, 20, own, highCardAt, highCard);
+        return StoredEntry<DiaryRecord>(DiaryPath, deckId_, spreadId_, 20, own, highCardAt, highCard);
+    }
+    // The entry in hand saved under the typed name of the test's row, in a
+    // file of "First" and "Second", and read back from the disk.
+    template <class R>
+    void SaveAndReadBack(EntryKind kind, const QString& path) {
+        QFETCH(QString, typed);
+        QFETCH(int, record);
+        R entry;
+        for (const char* name : {"First", "Second"}) {
+            if constexpr (std::is_same_v<R, ReadingRecord>) entry = Fixtures::NamedReading(QLatin1String(name));
+            else entry = Fixtures::NamedDiary(QLatin1String(name));
+            AppendRecord(path, entry);
+        }
+        const QByteArray before = ReadWholeFile(path);
+        const EntryNameCheck check = CheckEntryName(kind, typed);
+        QTEST(check.Problem, "problem");
+        QTEST(check.Question, "question");
+        QCOMPARE(check.Replacing, record == 3 ? 0 : record);
+        entry.SaveCount = 4;
+        entry.DealtCard[1] = 9;
+        const EntrySave<R> save = SaveEntry(entry, typed, check.Replacing, {false, true, true, false});
+        QCOMPARE(save.RecordNumber, record);
+        if (record == 0) {
+            QCOMPARE(ReadWholeFile(path), before);
+            return;
+        }
+        R saved;
+        QVERIFY(GetRecord(path, record, saved));
+        QCOMPARE(EncodeRecord(saved), EncodeRecord(save.Saved));
+        QCOMPARE(QList<double>({double(saved.SaveCount), saved.SavedOn, double(saved.DealtCard[1])}),
+                 QList<double>({5, OleToday(), 9}));
+        QCOMPARE(saved.CardTypeSelected, (std::array<Integer, 4>{False16, True16, True16, False16}));
+        QStringList names{QStringLiteral("First"), QStringLiteral("Second")};
+        if (record == 3) names << typed.trimmed();
+        else names[0] = typed.trimmed();
+        QCOMPARE(SavedEntryNames(kind), names);
     }
     static frmOpenReading& TryOpen() { return ReadingFixtures::TryOpen<frmNewReading, frmOpenReading>(); }
     static void ExpectRefusal(const QString& message) {
@@ -80,53 +125,114 @@ private slots:
         CloseDiaryScreens();
     }
 
-    // Opening is refused alike for both kinds of entry, each in its own words:
-    // a design gone, a card past a changed deck in the first fifteen
-    // locations, the question about a changed deck declined.
-    void anEntryThatCannotBeShownAsItWasIsRefused_data() {
+    // Each kind of entry in its own words; a card at location 16 of a
+    // smaller deck passes, as only the first fifteen are checked.
+    void openingASavedEntryMeetsItsChecksInOrder_data() {
         QTest::addColumn<bool>("diary");
         QTest::addColumn<int>("change");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("reading, deck deleted") << false << int(DeckDeleted) << QStringLiteral(
-            "This Reading cannot be opened because the deck that was used to create it is no longer installed.");
-        QTest::newRow("diary, deck deleted") << true << int(DeckDeleted) << QStringLiteral(
-            "This diary cannot be opened because the deck that was used to create it is no longer installed.");
-        QTest::newRow("reading, spread deleted") << false << int(SpreadDeleted) << QStringLiteral(
-            "This reading cannot be opened because the spread that was used to create it is no longer installed.");
-        QTest::newRow("diary, spread deleted") << true << int(SpreadDeleted) << QStringLiteral(
-            "This diary cannot be opened because the spread that was used to create it is no longer installed.");
-        QTest::newRow("reading, card 22 at location 15 of 21") << false << int(CardsRemoved) << QStringLiteral(
-            "The reading cannot be opened because the too many cards were removed from the deck that was used to "
-            "create this reading.");
-        QTest::newRow("diary, card 22 at location 15 of 21") << true << int(CardsRemoved) << QStringLiteral(
-            "The Diary cannot be opened because the too many cards were removed from the deck that was used to "
-            "create this diary.");
-        QTest::newRow("reading, changed deck declined") << false << int(DeckRevised) << QStringLiteral(
-            "The deck used with this reading has changed since the reading was created. Do you still want to open "
+        QTest::addColumn<int>("highCardAt");
+        QTest::addColumn<QStringList>("steps");
+        const QString deckGoneR = QStringLiteral(
+            "!This Reading cannot be opened because the deck that was used to create it is no longer installed.");
+        const QString spreadGoneR = QStringLiteral(
+            "!This reading cannot be opened because the spread that was used to create it is no longer installed.");
+        const QString deckChangedR = QStringLiteral(
+            "?The deck used with this reading has changed since the reading was created. Do you still want to open "
             "it?\nNOTE: If you choose 'Yes', the reading will be opened with the new deck version and the cards "
             "might be corrupted.");
+        const QString deckChangedD = QStringLiteral(
+            "?The deck used with this diary has changed since the diary was created. Do you still want to open "
+            "it?\nNOTE: If you choose 'Yes', the diary will be opened with the new deck version and the cards might "
+            "be corrupted.");
+        QTest::newRow("reading, unchanged") << false << int(Unchanged) << 15 << QStringList();
+        QTest::newRow("reading, deck deleted") << false << int(DeckDeleted) << 15 << QStringList{deckGoneR};
+        QTest::newRow("diary, deck deleted") << true << int(DeckDeleted) << 15 << QStringList{QStringLiteral(
+            "!This diary cannot be opened because the deck that was used to create it is no longer installed.")};
+        QTest::newRow("reading, spread deleted") << false << int(SpreadDeleted) << 15 << QStringList{spreadGoneR};
+        QTest::newRow("diary, spread deleted") << true << int(SpreadDeleted) << 15 << QStringList{QStringLiteral(
+            "!This diary cannot be opened because the spread that was used to create it is no longer installed.")};
+        QTest::newRow("reading, card 22 at location 15 of 21") << false << int(CardsRemoved) << 15 << QStringList{
+            QStringLiteral("!The reading cannot be opened because the too many cards were removed from the deck that "
+                           "was used to create this reading.")};
+        QTest::newRow("diary, card 22 at location 15 of 21") << true << int(CardsRemoved) << 15 << QStringList{
+            QStringLiteral("!The Diary cannot be opened because the too many cards were removed from the deck that "
+                           "was used to create this diary.")};
+        QTest::newRow("diary, card 22 at location 16 of 21") << true << int(CardsRemoved) << 16 << QStringList{deckChangedD};
+        QTest::newRow("reading, deck revised") << false << int(DeckRevised) << 15 << QStringList{deckChangedR};
+        QTest::newRow("reading, spread revised") << false << int(SpreadRevised) << 15 << QStringList{QStringLiteral(
+            "?The spread used with this reading has changed since the reading was created. Do you still want to open "
+            "it?\nNOTE: If you choose 'Yes', the reading will be opened with the new spread and the card locations "
+            "might very well be corrupted.")};
+        QTest::newRow("diary, spread revised") << true << int(SpreadRevised) << 15 << QStringList{QStringLiteral(
+            "?The spread used with this diary has changed since the diary was created. Do you still want to open "
+            "it?\nNOTE: If you choose 'Yes', the diary will be opened with the new spread and the card locations "
+            "might very well be corrupted.")};
+        QTest::newRow("reading, deck revised and spread deleted")
+            << false << int(DeckRevisedSpreadDeleted) << 15 << QStringList{deckChangedR, spreadGoneR};
     }
 
-    void anEntryThatCannotBeShownAsItWasIsRefused() {
+    void openingASavedEntryMeetsItsChecksInOrder() {
         QFETCH(bool, diary);
         QFETCH(int, change);
-        QFETCH(QString, message);
-        if (diary) SavedDiary(QStringLiteral("Saved"), 15, 22);
-        else SavedReading(15, 22);
+        QFETCH(int, highCardAt);
+        if (diary) SavedDiary(QStringLiteral("Saved"), highCardAt, 22);
+        else SavedReading(highCardAt, 22);
         if (change == DeckDeleted) DeleteDeck(1);
-        if (change == SpreadDeleted) DeleteSpread(1);
-        if (change == CardsRemoved || change == DeckRevised)
+        if (change == SpreadDeleted || change == DeckRevisedSpreadDeleted) DeleteSpread(1);
+        if (change == SpreadRevised) ChangeRecord<SpreadRecord>(SpreadsPath, 1, [](SpreadRecord& s) { s.SpreadRevision = 2; });
+        if (change == CardsRemoved || change == DeckRevised || change == DeckRevisedSpreadDeleted)
             ChangeRecord<DeckRecord>(DecksPath, 1, [change](DeckRecord& d) {
                 d.DeckRevision = 2;
                 if (change == CardsRemoved) d.CardCount = 21;
             });
-        if (change == DeckRevised) MsgBoxScript::Answer(vbNo);
-        if (diary) {
-            ExpectRefusalOf<frmNewDiary, frmOpenDiary>(DiaryPath, CurrentDiary, message);
-            QVERIFY(!Get<frmNewDiary>().OpeningDiary);
-        } else {
-            ExpectRefusal(message);
-        }
+        const QStringList steps = diary ? Steps(JudgeDiaryOpening(QStringLiteral(" Saved")).Steps)
+                                  : Steps(JudgeReadingOpening(QStringLiteral("Saved ")).Steps);
+        QTEST(steps, "steps");
+    }
+
+    // Through the screen: a refusal is told and the opening stops; so does a
+    // question answered No.
+    void theOpenScreenTellsAndAsksWhatTheCoreFound() {
+        SavedDiary(QStringLiteral("Saved"));
+        DeleteSpread(1);
+        ExpectRefusalOf<frmNewDiary, frmOpenDiary>(DiaryPath, CurrentDiary, QString());
+        QVERIFY(!Get<frmNewDiary>().OpeningDiary);
+        QCOMPARE(MsgBoxScript::History().at(0).style, int(vbInformation));
+        UnloadScreen<frmOpenDiary>();
+        MsgBoxScript::Clear();
+        SavedReading();
+        ChangeRecord<DeckRecord>(DecksPath, 1, [](DeckRecord& d) { d.DeckRevision = 2; });
+        MsgBoxScript::Answer(vbNo);
+        ExpectRefusal(QString());
+        QCOMPARE(MsgBoxScript::History().at(0).style, int(vbYesNo | vbQuestion));
+    }
+
+    // The name typed decides: no name is refused, a name in use asks first
+    // and goes in place of its entry, a new one goes after the last. The
+    // entry is written named, dated, counted, with the run's card types, and
+    // read back as it was written.
+    void savingAnEntryWritesItWhole_data() {
+        QTest::addColumn<bool>("diary");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("problem");
+        QTest::addColumn<QString>("question");
+        QTest::addColumn<int>("record");
+        QTest::newRow("reading, no name") << false << QStringLiteral("  ")
+                                          << QStringLiteral("Please select a name to save the reading as.") << QString() << 0;
+        QTest::newRow("diary, no name") << true << QString()
+                                        << QStringLiteral("Please select a name to save the diary as.") << QString() << 0;
+        QTest::newRow("reading, name in use") << false << QStringLiteral(" First ") << QString()
+                                              << QStringLiteral("Reading already exists. Overwrite?") << 1;
+        QTest::newRow("diary, name in use") << true << QStringLiteral("First") << QString()
+                                            << QStringLiteral("Diary already exists. Overwrite?") << 1;
+        QTest::newRow("reading, new name") << false << QStringLiteral("Evening ") << QString() << QString() << 3;
+        QTest::newRow("diary, new name") << true << QStringLiteral("Evening") << QString() << QString() << 3;
+    }
+
+    void savingAnEntryWritesItWhole() {
+        QFETCH(bool, diary);
+        if (diary) SaveAndReadBack<DiaryRecord>(EntryKind::Diary, DiaryPath);
+        else SaveAndReadBack<ReadingRecord>(EntryKind::Reading, ReadingsPath);
     }
 
     // A changed deck is checked on the first fifteen locations only: a card
@@ -142,45 +248,12 @@ private slots:
         ReadingFixtures::TryOpen<frmNewDiary, frmOpenDiary>();
         QVERIFY(!IsLoaded<frmOpenDiary>());
         frmNewDiary& diary = Get<frmNewDiary>();
-        QVERIFY(diary.Visible());
         QCOMPARE(diary.cmdCardTitle(16)->text(), QStringLiteral(" [Select]"));
         QVERIFY(!diary.lblCardNumber(16)->isHidden());
-        QCOMPARE(diary.lblCardNumber(16)->text(), QStringLiteral("16"));
         QCOMPARE(diary.cmdCardTitle(15)->text(), CardText(15));
         QCOMPARE(CurrentDiary.DealtCard[15], Integer(0));
         // With duplicates off the cards of the entry have left the other lists.
-        QVERIFY(!Offered(diary, 16).contains(CardText(15)));
-        QCOMPARE(diary.cboCardName(16)->count(), 1 + 21 - 19);
-    }
-
-    void savingUnderAnotherEntrysNameOverwritesItInPlace() {
-        SavedDiary(QStringLiteral("First"));
-        SavedDiary(QStringLiteral("Second"));
-        OpenPastDiary(0);
-        frmNewDiary& diary = Get<frmNewDiary>();
-        QVERIFY(!diary.DiaryChanged);
-        // An empty entry saves too: no card is required.
-        for (int i = 1; i <= 20; ++i) diary.cboCardName_KeyUp(i, 46);
-        ModalScript script;
-        script.On<frmSaveDiary>([](frmSaveDiary& save) {
-            QCOMPARE(save.txtSaveAs->text(), QStringLiteral("First"));
-            QVERIFY(!save.cmdSave->isEnabled());
-            save.txtSaveAs->setText(QStringLiteral("Second"));
-            MsgBoxScript::Answer(vbYes);
-            save.cmdSave_Click();
-        });
-        diary.cmdSave->click();
-        QVERIFY(script.Done());
-        QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Diary already exists. Overwrite?"));
-        QCOMPARE(CountDiaries(), 2);
-        DiaryRecord second;
-        QVERIFY(GetRecord(DiaryPath, 2, second));
-        QCOMPARE(second.DiaryName.Trimmed(), QStringLiteral("Second"));
-        QCOMPARE(second.DealtCard, (std::array<Integer, 32>{}));
-        QCOMPARE(second.SaveCount, Integer(1));
-        DiaryRecord first;
-        QVERIFY(GetRecord(DiaryPath, 1, first));
-        QCOMPARE(first.DealtCard[0], Integer(1));
+        QCOMPARE(DiaryLists.Rows(16).size(), 1 + 21 - 19);
     }
 
     void aCardPastTheDeckBeyondLocationFifteenClosesTheReadingCleanly() {
@@ -193,7 +266,7 @@ private slots:
         QVERIFY(MsgBoxScript::History().at(1).prompt.contains(ErrorDescription(errSubscriptOutOfRange)));
         QVERIFY(!IsLoaded<frmNewReading>());
         QVERIFY(!IsLoaded<frmReadingCards>());
-        QVERIFY(!frmReadingCards::LoadingReading);
+        QVERIFY(!ReadingDeal.LoadingReading);
         QVERIFY(Get<frmMainScreen>().Visible());
         QCOMPARE(ReadWholeFile(ReadingsPath), file);
     }
@@ -215,7 +288,7 @@ private slots:
         TryOpen();
         QVERIFY(script.Done());
         QVERIFY(!IsLoaded<frmOpenReading>());
-        QCOMPARE(Get<frmNewReading>().ThisLocationNumber, Integer(21));
+        QCOMPARE(ReadingDeal.ThisLocationNumber, Integer(21));
         QCOMPARE(MsgBoxScript::History().size(), 0);
     }
 
@@ -227,8 +300,7 @@ private slots:
         frmOpenReading& open = Get<frmOpenReading>();
         QCOMPARE(open.lstEntries->count(), 2);
         QVERIFY(open.lstEntries->item(0)->text().startsWith(FormatSortDate(46000) + QStringLiteral(" - Earlier")));
-        QCOMPARE(open.SelectedName().trimmed(), QStringLiteral("Earlier"));
-        QCOMPARE(open.SelectedName().size(), 50);
+        QCOMPARE(open.SelectedName(), QStringLiteral("Earlier").leftJustified(50));
         MsgBoxScript::Answer(vbNo);
         open.cmdDelete_Click();
         QCOMPARE(CountReadings(), 2);
@@ -243,36 +315,27 @@ private slots:
         QVERIFY(!open.cmdOpen->isEnabled() && !open.cmdDelete->isEnabled());
     }
 
-    void saveRefusesBlankNamesAndAsksBeforeOverwriting() {
+    // The save screen tells the core's refusal and asks its question, No
+    // by default; the arrow key onto a saved name and Enter overwrite it.
+    void theSaveScreenTellsAndAsksWhatTheCoreFound() {
         SavedReading();
         frmSaveReading& save = Get<frmSaveReading>();
         save.txtSaveAs->setText(QStringLiteral("   "));
         save.cmdSave_Click();
-        QCOMPARE(MsgBoxScript::History().at(0).prompt, QStringLiteral("Please select a name to save the reading as."));
-        QVERIFY(IsLoaded<frmSaveReading>());
+        QCOMPARE(MsgBoxScript::History().at(0).style, int(vbExclamation));
         save.txtSaveAs->setText(QStringLiteral(" Saved "));
         MsgBoxScript::Answer(vbNo);
         save.cmdSave_Click();
-        QCOMPARE(MsgBoxScript::History().at(1).prompt, QStringLiteral("Reading already exists. Overwrite?"));
-        QCOMPARE(CountReadings(), 1);
+        QCOMPARE(MsgBoxScript::History().at(1).style, int(vbYesNo | vbDefaultButton2 | vbQuestion));
         QVERIFY(IsLoaded<frmSaveReading>());
-        // The arrow key onto the saved entry and Enter overwrite that entry.
         save.txtSaveAs->setText(QStringLiteral("Other"));
         save.lstNames->setFocus();
         QTest::keyClick(save.lstNames, Qt::Key_Down);
         MsgBoxScript::Answer(vbYes);
         QTest::keyClick(save.lstNames, Qt::Key_Return);
-        QCOMPARE(MsgBoxScript::History().size(), 3);
+        QVERIFY(!IsLoaded<frmSaveReading>());
         QCOMPARE(CountReadings(), 1);
-        QVERIFY(!IsLoaded<frmSaveReading>());
-        Get<frmSaveReading>().txtSaveAs->setText(QStringLiteral("Second"));
-        Get<frmSaveReading>().cmdSave_Click();
-        QCOMPARE(CountReadings(), 2);
-        QVERIFY(!IsLoaded<frmSaveReading>());
-        ReadingRecord second;
-        GetRecord(ReadingsPath, 2, second);
-        QCOMPARE(second.ReadingName.Trimmed(), QStringLiteral("Second"));
-        QCOMPARE(second.SaveCount, Integer(2));   // the reading in hand, saved twice
+        QCOMPARE(CurrentReading.SaveCount, Integer(1));   // the screen keeps the entry as saved
     }
 
     void theSelectionListsWhatCanRunAndDefendsItsBoxes() {
@@ -290,7 +353,6 @@ private slots:
         QCOMPARE(spreads, (QStringList{QStringLiteral("Any"), QStringLiteral("Big")}));
         QCOMPARE(select.lstDecks->count(), 2);   // Any: both usable decks
         select.lstDecks->setCurrentRow(1);       // Tarot: no reversed sides
-        QCOMPARE(select.lstDecks->currentItem()->text(), QStringLiteral("Tarot"));
         QVERIFY(!select.chkUseReversed->isEnabled() && !select.chkUseReversed->isChecked());
         select.chkUseReversed->setChecked(true);
         QVERIFY(!select.chkUseReversed->isChecked());
@@ -316,7 +378,6 @@ private slots:
         QVERIFY(!IsLoaded<frmSelectSpread>());
         QVERIFY(AllowDuplicateCards && UseReversed);
         QCOMPARE(CurrentReading.AllowDuplicateCards, True16);
-        QCOMPARE(Get<frmNewReading>().Caption(), QStringLiteral("Reading - Any"));
         QCOMPARE(Get<frmSelectSpread>().chkAllowDuplicateCards->isChecked(), true);
         SelectSpreadScreen::LastAllowDuplicateCards = false;
         UnloadScreen<frmSelectSpread>();

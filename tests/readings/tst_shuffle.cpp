@@ -1,11 +1,15 @@
 // The shuffle and the draw against a sequence worked out here from the
-// generator's formula, and the table of face-down cards: the deal of a click,
-// the geometry, and the animation (it yields, restores the homes of nested
-// runs, stops when told and when its table goes).
+// generator's formula; the rules of the deal on the core's value (a draw, the
+// location Interpret shows, Deal again, the save and the reopening of a deal,
+// enough cards chosen); and the table of face-down cards: the deal of a
+// click, the geometry, and the animation (it yields, restores the homes of
+// nested runs, stops when told and when its table goes).
 #include <QtTest>
 
 #include "ReadingFixtures.h"
+#include "core/readings/Deal.h"
 #include "core/readings/Shuffle.h"
+#include "core/store/NewDesigns.h"
 #include "screens/shell/ClickLabel.h"
 
 using namespace ReadingFixtures;
@@ -35,6 +39,16 @@ QList<Integer> GroupedByType(int cards) {
     for (int first = 2; first >= 1; --first)
         for (int c = first; c <= cards; c += 2) list << Integer(c);
     return list;
+}
+
+// A deck in memory of `cards` cards, the first 22 of type 0, the rest of
+// type 1.
+DeckInMemory DeckOf(int cards) {
+    DeckInMemory deck;
+    deck.CardCount = static_cast<Integer>(cards);
+    deck.DeckCards.Redim(1, cards);
+    for (int n = 1; n <= cards; ++n) deck.DeckCards(n).CardType = static_cast<Integer>(n <= 22 ? 0 : 1);
+    return deck;
 }
 
 struct Expected {
@@ -106,8 +120,8 @@ private slots:
         BoundedArray<CardRecord> deck(1, 20);
         for (int n = 1; n <= 20; ++n) deck(n).CardType = static_cast<Integer>(n % 2);
         CardTypeSelected = {true, true, false, false};
-        BoundedArray<Integer> cards(1, frmReadingCards::TableSize);
-        BoundedArray<Integer> upright(1, frmReadingCards::TableSize);
+        BoundedArray<Integer> cards(1, Deal::TableSize);
+        BoundedArray<Integer> upright(1, Deal::TableSize);
         QCOMPARE(PoolSize(deck, 20), 20);
         ListPool(cards, deck, 20);
         SetRandomizeSeedForTests(seed);
@@ -117,6 +131,147 @@ private slots:
             QCOMPARE(cards(i), e.cards[i - 1]);
             QCOMPARE(upright(i), e.upright[i - 1]);
         }
+    }
+
+    // A draw from each kind of table: where the card goes, what becomes of
+    // its position, of the table and of the Shuffle button.
+    void aDrawDealsIntoTheNextLocation_data() {
+        QTest::addColumn<bool>("duplicates");
+        QTest::addColumn<int>("next");
+        QTest::addColumn<int>("left");
+        QTest::addColumn<int>("leftAfter");
+        QTest::addColumn<int>("fate");
+        QTest::addColumn<bool>("reshuffles");
+        QTest::addColumn<bool>("shuffleAllowed");
+        const int stays = int(TableFate::Stays), empty = int(TableFate::RanEmpty), done = int(TableFate::DealComplete);
+        QTest::newRow("first card") << false << 1 << 30 << 29 << stays << false << true;
+        QTest::newRow("last location") << false << 6 << 25 << 24 << done << false << true;
+        QTest::newRow("last card of the table") << false << 3 << 1 << 0 << empty << false << false;
+        QTest::newRow("two cards left") << false << 3 << 2 << 1 << stays << false << false;
+        QTest::newRow("duplicates, locations open") << true << 2 << 12 << 12 << stays << true << true;
+        QTest::newRow("duplicates, last location") << true << 6 << 12 << 12 << done << false << true;
+    }
+
+    void aDrawDealsIntoTheNextLocation() {
+        QFETCH(bool, duplicates);
+        QFETCH(int, next);
+        QFETCH(int, left);
+        Deal deal;
+        deal.ThisLocationNumber = Integer(next);
+        deal.DeckCardsLeft = Integer(left);
+        deal.LocationCard(9) = 17;
+        deal.LocationIsUpright(9) = False16;
+        deal.FaceDown(9) = True16;
+        QCOMPARE(DealFromPosition(deal, 9, duplicates), next);
+        QCOMPARE(deal.DealtCard(next), Integer(17));
+        QCOMPARE(deal.DealtUpright(next), False16);
+        QCOMPARE(deal.ThisLocationNumber, Integer(next + 1));
+        QCOMPARE(deal.FaceDown(9) != 0, duplicates);
+        QTEST(int(deal.DeckCardsLeft), "leftAfter");
+        QTEST(int(TableAfterDraw(deal, 6)), "fate");
+        QTEST(ReshufflesAfterDraw(deal, 6, duplicates), "reshuffles");
+        QTEST(ShuffleAllowed(deal), "shuffleAllowed");
+    }
+
+    void interpretShowsTheLastCardDealt_data() {
+        QTest::addColumn<int>("next");
+        QTest::addColumn<int>("shown");
+        QTest::newRow("before the first card") << 1 << 1;
+        QTest::newRow("after three cards") << 4 << 3;
+        QTest::newRow("deal complete") << 7 << 6;
+        QTest::newRow("no location") << 0 << 0;
+    }
+
+    void interpretShowsTheLastCardDealt() {
+        QFETCH(int, next);
+        Deal deal;
+        deal.ThisLocationNumber = Integer(next);
+        QTEST(LocationToInterpret(deal, 6), "shown");
+    }
+
+    // Deal over a complete deal starts the reading again, keeping its name
+    // and notes, with the run's options; after a table that ran empty it
+    // only counts the deck anew.
+    void dealAgainStartsOverOnlyACompleteDeal() {
+        for (const bool complete : {true, false}) {
+            Deal deal;
+            deal.ThisLocationNumber = Integer(complete ? 7 : 4);
+            deal.DealtCard(1) = 5;
+            ReadingRecord reading;
+            reading.ReadingName = QStringLiteral("Kept");
+            reading.ReadingNotes = QStringLiteral("Notes kept");
+            reading.IssueAsked = True16;
+            QCOMPARE(DealAgain(deal, reading, 30, 6, DealOptions{true, true, {false, true, false, false}}), complete);
+            QCOMPARE(QList<Integer>({deal.DeckCardsLeft, deal.ThisLocationNumber, deal.DealtCard(1), reading.IssueAsked,
+                                     reading.AllowDuplicateCards, reading.CardTypeSelected[1]}),
+                     complete ? QList<Integer>({30, 1, 0, False16, True16, True16})
+                              : QList<Integer>({30, 4, 5, True16, False16, False16}));
+            QCOMPARE(reading.ReadingName.Trimmed() + reading.ReadingNotes.Trimmed(), QStringLiteral("KeptNotes kept"));
+        }
+    }
+
+    // A deal saved and reopened: the save keeps the table only while cards
+    // are left and locations open; reopening lays a fresh pool, puts back the
+    // saved order and the cards face down, and counts them on top of the pool.
+    void aSavedDealReopensAsItWasSaved_data() {
+        QTest::addColumn<int>("types");   // 1: type 0 only (22 cards), 2: type 1 only (8), 3: both
+        QTest::addColumn<int>("locations");
+        QTest::addColumn<int>("draws");
+        QTest::addColumn<int>("keptFaceDown");
+        QTest::addColumn<int>("cardsLeft");
+        QTest::newRow("half dealt") << 3 << 6 << 2 << 28 << 30 + 28;
+        QTest::newRow("deal complete") << 3 << 6 << 6 << 0 << 30;
+        QTest::newRow("table ran empty") << 2 << 10 << 8 << 0 << 8;
+    }
+
+    void aSavedDealReopensAsItWasSaved() {
+        QFETCH(int, types);
+        QFETCH(int, locations);
+        QFETCH(int, draws);
+        QFETCH(int, keptFaceDown);
+        const DeckInMemory deck = DeckOf(30);
+        const DealOptions options{true, false, {(types & 1) != 0, (types & 2) != 0, false, false}};
+        Deal deal;
+        ReadingRecord reading;
+        ::LayTable(deal, deck, options, reading);
+        QCOMPARE(reading.LocationCard[0], deal.LocationCard(1));   // the reading keeps the order
+        for (int d = 0; d < draws; ++d) DealFromPosition(deal, PickRandomPosition(deal), false);
+        SpreadRecord spread;
+        spread.LocationCount = Integer(locations);
+        spread.SpreadRevision = 4;
+        GatherReading(deal, reading, DeckRecord(), spread, QStringLiteral("  Issue  "));
+        QCOMPARE(int(std::count(reading.TableCardVisible.begin(), reading.TableCardVisible.end(), True16)), keptFaceDown);
+        QCOMPARE(QList<Integer>({reading.DealtCount, reading.ReadingSpreadRevision}), QList<Integer>({Integer(draws), 4}));
+
+        Deal reopened;
+        const QByteArray saved = EncodeRecord(reading);
+        RestoreDeal(reopened, reading, deck, locations, options);
+        QVERIFY(reopened.LoadingReading);
+        QCOMPARE(EncodeRecord(reading), saved);   // the laying leaves the record alone
+        QCOMPARE(reopened.ThisLocationNumber, Integer(draws + 1));
+        QCOMPARE(reopened.MaxCardsUsed, Integer(keptFaceDown + draws));
+        QTEST(int(reopened.DeckCardsLeft), "cardsLeft");
+        for (int i = 1; i <= Deal::TableSize; ++i) {
+            QCOMPARE(reopened.LocationCard(i), deal.LocationCard(i));
+            QCOMPARE(reopened.FaceDown(i) != 0, keptFaceDown > 0 && deal.FaceDown(i) != 0);
+        }
+        for (int i = 1; i <= Deal::MaxLocations; ++i) QCOMPARE(reopened.DealtCard(i), deal.DealtCard(i));
+    }
+
+    // Twelve locations on the deck of 22 cards of type 0 and 8 of type 1.
+    void enoughCardsAreChosen_data() {
+        QTest::addColumn<QList<int>>("chosen");
+        QTest::addColumn<bool>("enough");
+        QTest::newRow("the larger type") << QList<int>{0} << true;
+        QTest::newRow("the smaller type") << QList<int>{1} << false;
+        QTest::newRow("both types") << QList<int>{0, 1} << true;
+        QTest::newRow("a name no type has") << QList<int>{-1} << false;
+        QTest::newRow("none") << QList<int>{} << false;
+    }
+
+    void enoughCardsAreChosen() {
+        QFETCH(QList<int>, chosen);
+        QTEST(EnoughCardsSelected(DeckOf(30), chosen, 12), "enough");
     }
 
     void thePickDrawsOnlyFaceDownPositions() {
@@ -139,7 +294,7 @@ private slots:
         QCOMPARE(frmReadingCards::HomeTop(100), 120 + 720);
         QVERIFY(!table.picCard(20)->isHidden() && table.picCard(21)->isHidden() && table.picCard(0)->isHidden());
         QCOMPARE(table.picCard(3)->BackColor(), QBColor(CurrentLocationColour));
-        QCOMPARE(frmReadingCards::MaxCardsUsed, Integer(20));
+        QCOMPARE(ReadingDeal.MaxCardsUsed, Integer(20));
     }
 
     void theAnimationYieldsRestoresAndStops() {
@@ -173,7 +328,7 @@ private slots:
             QCOMPARE(table.CardTop(i), frmReadingCards::HomeTop(i));
         }
         // The order of the cards is not the animation's business.
-        QCOMPARE(CurrentReading.LocationCard[0], frmReadingCards::LocationCard()(1));
+        QCOMPARE(CurrentReading.LocationCard[0], ReadingDeal.LocationCard(1));
     }
 
     void closingTheReadingEndsTheAnimation() {
@@ -202,10 +357,10 @@ private slots:
         table.picCard_Click(4);
         // The card stays in the pool and the table was shuffled anew.
         QVERIFY(!table.picCard(4)->isHidden());
-        QCOMPARE(reading.DeckCardsLeft, Integer(12));
+        QCOMPARE(ReadingDeal.DeckCardsLeft, Integer(12));
         reading.cmdAllCards->click();
         stopper.stop();
-        QCOMPARE(reading.ThisLocationNumber, Integer(13));
+        QCOMPARE(ReadingDeal.ThisLocationNumber, Integer(13));
         QVERIFY(stops >= 11);
         QVERIFY(!IsLoaded<frmReadingCards>());
     }

@@ -21,6 +21,7 @@
 #include "core/platform/FileSys.h"
 #include "core/platform/ProgramLock.h"
 #include "core/platform/WriteFaults.h"
+#include "core/readings/EntryStore.h"
 #include "core/records/RecordFile.h"
 #include "core/spreads/SpreadStore.h"
 #include "core/store/DeletePasses.h"
@@ -174,11 +175,11 @@ void SaveDeckAs(const QString& name) {
 
 const QList<Operation>& Operations() {
     static const QList<Operation> all = {
-        {"reading saved anew", {}, [] { PutRecord(ReadingsPath, CountReadings() + 1, NamedReading(QStringLiteral("New"))); }},
-        {"reading saved over", {}, [] { PutRecord(ReadingsPath, 2, NamedReading(QStringLiteral("Second"))); }},
-        {"diary entry saved over", {}, [] { PutRecord(DiaryPath, 1, NamedDiary(QStringLiteral("Moonday"))); }},
-        {"reading deleted", {}, [] { DeleteReading(QStringLiteral("Second")); }},
-        {"diary entry deleted", {}, [] { DeleteDiary(QStringLiteral("Tuesday")); }},
+        {"reading saved anew", {}, [] { SaveEntry(NamedReading(QStringLiteral("New")), QStringLiteral("New"), 0, {}); }},
+        {"reading saved over", {}, [] { SaveEntry(NamedReading(QString()), QStringLiteral("Second"), 2, {}); }},
+        {"diary entry saved over", {}, [] { SaveEntry(NamedDiary(QString()), QStringLiteral("Moonday"), 1, {}); }},
+        {"reading deleted", {}, [] { DeleteEntry(EntryKind::Reading, QStringLiteral("Second")); }},
+        {"diary entry deleted", {}, [] { DeleteEntry(EntryKind::Diary, QStringLiteral("Tuesday")); }},
         {"spread deleted", {}, [] { DeleteSpreadNamed(QStringLiteral("Spread A")); }},
         // A new background, which takes the name of the old one.
         {"spread saved over", HoldSpreadA, [] { SaveSpread(gSpreadA, QStringLiteral("Spread A"), 1); }},

@@ -8,6 +8,8 @@
 #include "core/platform/OleDate.h"
 #include "core/platform/Palette.h"
 #include "core/platform/Picture.h"
+#include "core/platform/PictureFit.h"
+#include "core/readings/Deal.h"
 #include "core/platform/Printer.h"
 #include "core/store/Lookups.h"
 #include "core/store/MakerAddresses.h"
@@ -21,6 +23,11 @@ namespace {
 constexpr int PageWidth = 11970, PageHeight = 15855;
 constexpr int CanvasLeft = 840, CanvasTop = 2880, CanvasWidth = 10095, CanvasHeight = 5895;
 constexpr int LocationWidth = 1695, LocationHeight = 975;
+// The image box of a card inside its location; the picture is fitted into it
+// as into the screen's.
+constexpr int CardBoxWidth = 735, CardBoxHeight = 975;
+// The canvases of the entry screens the locations were placed on.
+constexpr int ScreenCanvasWidth = 9615, ReadingCanvasHeight = 5895, DiaryCanvasHeight = 6495;
 constexpr int CaptionLeft = 1680, ValueLeft = 3000, CaptionWidth = 1320, ValueWidth = 7000, LineHeight = 375;
 constexpr int LabelPoints = 9, LocationPoints = 7, CopyrightPoints = 8, NamePoints = 20;
 constexpr int Black = 0x000000, White = 0xFFFFFF;
@@ -111,7 +118,7 @@ bool PrintLocation(Printer& printer, const EntryPrintout& entry, const Pictures&
     const bool hasCard = pictures.contains(i);
     if (hasCard) {
         const Picture& picture = pictures[i];
-        BoxGeometry frame = entry.CardFrame;
+        BoxGeometry frame{0, 0, CardBoxWidth, CardBoxHeight};
         if (FitBoxToPicture(picture.Height, picture.Width, frame, true, false) == 0) return false;
         printer.PaintPicture(picture.Image, x + frame.Left, y + frame.Top, frame.Width, frame.Height);
     }
@@ -209,32 +216,38 @@ QString FormatTimeHhMmSsAmPm(double oleDate) {
         .arg(t.hour() < 12 ? QStringLiteral("AM") : QStringLiteral("PM"));
 }
 
-EntryPrintout ReadingPrintout(int thisLocationNumber) {
+EntryPrintout ReadingPrintout(const Deal& deal, const ReadingRecord& reading) {
     EntryPrintout entry;
     entry.Kind = EntryKind::Reading;
     entry.FormatTime = FormatTimeHmsAmPm;
     entry.ReversedWord = QStringLiteral("(Reversed)");
     entry.UprightWord = QStringLiteral("(Upright)");
-    for (int i = 1; i < thisLocationNumber; ++i) entry.CardLocations.append(i);
-    entry.DealtCard = CurrentReading.DealtCard;
-    entry.DealtUpright = CurrentReading.DealtUpright;
-    entry.Notes = CurrentReading.ReadingNotes.Value();
-    entry.Issue = CurrentReading.Issue.Value();
+    for (int i = 1; i <= Deal::MaxLocations; ++i) {
+        if (CardLiesAt(deal, i)) entry.CardLocations.append(i);
+        entry.DealtCard[static_cast<std::size_t>(i - 1)] = deal.DealtCard(i);
+        entry.DealtUpright[static_cast<std::size_t>(i - 1)] = deal.DealtUpright(i);
+    }
+    entry.Notes = reading.ReadingNotes.Value();
+    entry.Issue = reading.Issue.Value();
+    entry.CanvasWidth = ScreenCanvasWidth;
+    entry.CanvasHeight = ReadingCanvasHeight;
     return entry;
 }
 
-EntryPrintout DiaryPrintout() {
+EntryPrintout DiaryPrintout(const DiaryRecord& diary) {
     EntryPrintout entry;
     entry.Kind = EntryKind::Diary;
     entry.FormatTime = FormatTimeHhMmSsAmPm;
     entry.ReversedWord = QStringLiteral(" (Reversed)");
     entry.UprightWord = QStringLiteral("(Upright)");
-    for (int i = 1; i <= static_cast<int>(CurrentDiary.DealtCard.size()); ++i)
-        if (At(CurrentDiary.DealtCard, i) > 0) entry.CardLocations.append(i);
-    entry.DealtCard = CurrentDiary.DealtCard;
-    entry.DealtUpright = CurrentDiary.DealtUpright;
-    entry.Notes = CurrentDiary.DiaryNotes.Value();
-    entry.Issue = CurrentDiary.Issue.Value();
+    for (int i = 1; i <= static_cast<int>(diary.DealtCard.size()); ++i)
+        if (At(diary.DealtCard, i) > 0) entry.CardLocations.append(i);
+    entry.DealtCard = diary.DealtCard;
+    entry.DealtUpright = diary.DealtUpright;
+    entry.Notes = diary.DiaryNotes.Value();
+    entry.Issue = diary.Issue.Value();
+    entry.CanvasWidth = ScreenCanvasWidth;
+    entry.CanvasHeight = DiaryCanvasHeight;
     return entry;
 }
 

@@ -9,12 +9,11 @@
 #include <QString>
 #include <array>
 
-#include "core/platform/PictureFit.h"
 #include "core/printing/PrintLayout.h"
 #include "core/records/Records.h"
 
+struct Deal;
 class Printer;
-
 
 struct EntryPrintout {
     EntryKind Kind = EntryKind::Reading;
@@ -29,23 +28,21 @@ struct EntryPrintout {
     std::array<Integer, 32> DealtCard{};
     std::array<Integer, 32> DealtUpright{};
     QString Notes;
-
-    // From the screen the entry is on. The issue in hand: after a new deal
-    // the screen keeps it until the next save returns it to the record.
-    QString Issue;
-    // The screen's canvas, twips, from which page 1 scales the locations'
-    // places, and the frame inside a location that a card picture is fitted
-    // into.
+    // The canvas of the entry's screen, twips, from which page 1 scales the
+    // locations' places: the reading's is 9615 by 5895, the diary's 9615 by
+    // 6495.
     int CanvasWidth = 0;
     int CanvasHeight = 0;
-    BoxGeometry CardFrame;
+
+    // The issue in hand, from the screen the entry is on: after a new deal
+    // the screen keeps it until the next save returns it to the record.
+    QString Issue;
 };
 
-// The reading in CurrentReading, whose cards lie in locations 1 to
-// thisLocationNumber - 1.
-EntryPrintout ReadingPrintout(int thisLocationNumber);
-// The diary entry in CurrentDiary, whose cards lie wherever they were chosen.
-EntryPrintout DiaryPrintout();
+// The reading in hand, whose cards lie where its deal put them.
+EntryPrintout ReadingPrintout(const Deal& deal, const ReadingRecord& reading);
+// The diary entry in hand, whose cards lie wherever they were chosen.
+EntryPrintout DiaryPrintout(const DiaryRecord& diary);
 
 // "h:m:s AMPM" is the reading's; the diary's is "hh:mm:ss AMPM".
 QString FormatTimeHhMmSsAmPm(double oleDate);

@@ -4,21 +4,23 @@
 #include <utility>
 
 #include "core/platform/Rnd.h"
-#include "core/store/DeckLoading.h"
-#include "core/store/RunState.h"
 
 int RandomPosition(int n, float r) { return static_cast<int>(std::floor(static_cast<float>(n) * r)) + 1; }
 
-int PoolSize(const BoundedArray<CardRecord>& deckCards, int cardCount) {
+int PoolSize(const BoundedArray<CardRecord>& deckCards, int cardCount, const std::array<bool, 4>& types) {
     int pool = 0;
-    for (int t = 0; t <= 3; ++t) pool += CountSelectedCardsOfType(deckCards, cardCount, t);
+    for (int c = 1; c <= cardCount; ++c) {
+        const int type = deckCards(c).CardType;
+        if (type >= 0 && type <= 3 && types[static_cast<std::size_t>(type)]) ++pool;
+    }
     return pool;
 }
 
-void ListPool(BoundedArray<Integer>& positions, const BoundedArray<CardRecord>& deckCards, int cardCount) {
+void ListPool(BoundedArray<Integer>& positions, const BoundedArray<CardRecord>& deckCards, int cardCount,
+              const std::array<bool, 4>& types) {
     int counter = 0;
     for (int t = 0; t <= 3; ++t) {
-        if (!CardTypeSelected[static_cast<std::size_t>(t)]) continue;
+        if (!types[static_cast<std::size_t>(t)]) continue;
         for (int c = 1; c <= cardCount; ++c) {
             if (deckCards(c).CardType != t) continue;
             ++counter;

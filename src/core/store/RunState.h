@@ -6,13 +6,17 @@
 //   read-only to everyone else;
 // - the records in hand are handed from screen to screen: the screen that
 //   opens a design or an entry fills them, the screens it opens read and
-//   change them, and its save writes them;
+//   change them, and its save writes them; the deal of a reading and the
+//   diary's lists of cards change only through their rules in
+//   core/readings;
 // - the options of the run are set by the screen that asks for them and read
 //   by the ones that follow.
 #include <QString>
 #include <array>
 
 #include "core/platform/Arrays.h"
+#include "core/readings/Deal.h"
+#include "core/readings/DiaryCards.h"
 #include "core/records/Records.h"
 
 // Where everything lives. Directories end in '/'.
@@ -54,6 +58,10 @@ struct RunState {
     BoundedArray<LocationRecord> SpreadLocations;   // indexed by LocationNumber
     ReadingRecord CurrentReading;
     DiaryRecord CurrentDiary;
+    // The deal of the reading in hand, and the cards the locations of the
+    // diary entry in hand may still take.
+    Deal ReadingDeal;
+    DiaryCardLists DiaryLists;
     // Records read only to be looked at and dropped.
     CardRecord ScratchCard;
     DeckRecord ScratchDeck;
@@ -104,6 +112,8 @@ inline SpreadRecord& CurrentSpread = TheRun.CurrentSpread;
 inline BoundedArray<LocationRecord>& SpreadLocations = TheRun.SpreadLocations;
 inline ReadingRecord& CurrentReading = TheRun.CurrentReading;
 inline DiaryRecord& CurrentDiary = TheRun.CurrentDiary;
+inline Deal& ReadingDeal = TheRun.ReadingDeal;
+inline DiaryCardLists& DiaryLists = TheRun.DiaryLists;
 inline CardRecord& ScratchCard = TheRun.ScratchCard;
 inline DeckRecord& ScratchDeck = TheRun.ScratchDeck;
 inline SpreadRecord& ScratchSpread = TheRun.ScratchSpread;

@@ -1,11 +1,11 @@
 #include "screens/diary/frmDiaryCards.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 
 #include "core/platform/Twips.h"
+#include "core/readings/DiaryCards.h"
 #include "core/store/RunState.h"
 #include "screens/diary/frmNewDiary.h"
 #include "screens/platform/ListBox.h"
@@ -97,22 +97,21 @@ void frmDiaryCards::lstCardTypes_ItemCheck() { UpdateCards(); }
 
 void frmDiaryCards::UpdateCards() {
     lstCards->Clear();
-    const QList<QPair<QString, int>> rows = Diary().CardRows(pick_);
+    const QList<CardRow>& rows = DiaryLists.Rows(pick_);
     for (int r = 0; r < rows.size(); ++r) {
-        const auto& [text, number] = rows[r];
         if (r > 0) {
             // The card's type is taken as the row of the type list, as it
             // always was: a deck that leaves out a type shifts the rows.
-            const CardRecord* card = CardOfRow(number, text);
+            const CardRecord* card = CardOfRow(rows[r].Card, rows[r].Text);
             if (!card || !lstCardTypes->Selected(card->CardType)) continue;
         }
-        lstCards->AddItem(text, number);
+        lstCards->AddItem(rows[r].Text, rows[r].Card);
     }
     imgCard->ClearPicture();
 }
 
 void frmDiaryCards::ShowSelectedCard() {
-    if (!Diary().HasCardIn(pick_)) return;
+    if (!HasCardIn(DiaryLists, pick_)) return;
     const Integer dealt = Element(CurrentDiary.DealtCard, pick_);
     for (int r = 0; r < lstCards->ListCount(); ++r) {
         if (lstCards->ItemData(r) != dealt) continue;

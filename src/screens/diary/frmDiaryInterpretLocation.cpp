@@ -1,7 +1,6 @@
 #include "screens/diary/frmDiaryInterpretLocation.h"
 
-#include <QComboBox>
-
+#include "core/readings/DiaryCards.h"
 #include "core/store/RunState.h"
 #include "screens/diary/frmNewDiary.h"
 
@@ -13,7 +12,7 @@ frmDiaryInterpretLocation::frmDiaryInterpretLocation() : InterpretLocationScreen
 int frmDiaryInterpretLocation::Location() const { return Get<frmNewDiary>().PickLocation; }
 
 bool frmDiaryInterpretLocation::CardLiesThere() const {
-    return Get<frmNewDiary>().HasCardIn(Location());
+    return HasCardIn(DiaryLists, Location());
 }
 
 int frmDiaryInterpretLocation::CardNumber() const { return Element(CurrentDiary.DealtCard, Location()); }

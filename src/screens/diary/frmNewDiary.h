@@ -1,16 +1,15 @@
 #pragma once
 // The screen of a diary entry: a reading done with real cards. The keeper
 // says, for each location of the spread, which card lay there and whether it
-// lay reversed, in any order and as often as wanted; nothing is drawn. Each
-// location keeps a hidden list of the cards it may still take (with duplicates
-// off, a card chosen elsewhere leaves it), a visible button with the chosen
-// card's title, which opens the card choice, and a hidden box that holds the
-// orientation.
+// lay reversed, in any order and as often as wanted; nothing is drawn. The
+// cards each location may still take are the core's (DiaryLists: with
+// duplicates off, a card chosen elsewhere leaves them); each location shows a
+// button with the chosen card's title, which opens the card choice, and keeps
+// a hidden box that holds the orientation.
 #include "core/platform/Arrays.h"
 #include "screens/readings/EntryScreen.h"
 
 class QCheckBox;
-class QComboBox;
 
 class frmNewDiary : public EntryScreen {
     Q_OBJECT
@@ -22,28 +21,17 @@ public:
     Integer PickLocation = 0;        // the location the card choice and the interpretation work on
     Integer FocusLocation = 1;       // the location in focus; saved with the entry
     QString SelectedCardText;        // the focused location's row before the present change
-    QString SelectPrompt;            // the row of no card
-    bool Initializing = false;
     bool FillingLocation = false;
 
-    BoundedArray<QComboBox*> cboCardName;     // row 0 " [Select]", then card titles with their numbers
-    BoundedArray<QPushButton*> cmdCardTitle;  // the location's button, captioned with the selected row
+    BoundedArray<QPushButton*> cmdCardTitle;  // the location's button, captioned with its row
     BoundedArray<QCheckBox*> chkReversed;     // checked: the card lay reversed
 
     void Initialize() override;
     // Rebuilds the entry from a saved diary entry in CurrentDiary.
     void FillFields();
     void GiveFocusToCard(int index);
-    int getIndexOfNONE(int index) const;
-    // Whether a card is selected for the location.
-    bool HasCardIn(int location) const;
     // The location's title as its label shows it.
     QString LocationTitle(int location) const;
-    // The rows of the location's card box: the text and the card number
-    // (0 for the row of no card).
-    QList<QPair<QString, int>> CardRows(int location) const;
-    // The card number a location's selected row stands for, 0 for none.
-    int CardNumberOfRow(int index) const;
     // The reversal box is marked with its location.
     void MarkLocation(int location, bool marked) override;
 
@@ -55,9 +43,10 @@ public:
     void cmdQuickHelp_Click();
     void cmdClose_Click() override;
     void cmdCardTitle_Click(int Index);
-    void cboCardName_DropDown(int Index);
-    void cboCardName_Click(int Index);
-    void cboCardName_KeyUp(int Index, int KeyCode);
+    // Opens the card choice for the focused location and shows what it chose.
+    void ChooseCard(int Index);
+    // Delete on a location: it goes back to its row of no card.
+    void EmptyLocation(int Index);
     void chkReversed_Click(int Index);
     void txtIssue_LostFocus() override;
     void picLocation_Click(int Index) override;
@@ -72,10 +61,8 @@ protected:
 
 private:
     void ResetOrientation();
-    void FillCardLists();
-    void ReturnCardToLists(int index, const QString& text);
-    void TakeCardFromLists(int index);
-    // Selects a row of a location's list as a click on it does.
+    // Puts a location on a row of its list, as choosing the row does, and
+    // shows the card it now holds.
     void SelectRow(int index, int row);
     // Sets the orientation box as a click on it does.
     void SetReversed(int index, bool reversed);

@@ -1,5 +1,5 @@
 #pragma once
-// "Save Diary": writes CurrentDiary to the diary file under a name.
+// "Save Diary": saves the diary entry in hand (CurrentDiary) under a name.
 #include "screens/readings/SaveEntryScreen.h"
 
 class frmSaveDiary : public SaveEntryScreen {
@@ -9,9 +9,6 @@ public:
 
 protected:
     QString ProposedName() const override;
-    QStringList SavedNames() const override;
-    int FindEntryByName(const QString& name) const override;
-    int CountEntries() const override;
-    void WriteEntry(int recordNumber, const QString& name) override;
+    void SaveAs(const QString& name, int replacing) override;
     void MarkEntrySaved() override;
 };

@@ -265,7 +265,10 @@ void EntryScreen::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handl
 void EntryScreen::MarkLocation(int location, bool marked) {
     if (location < 1 || location > MaxLocations) return;
     static const QColor MarkedLocationColour(192, 0, 0);   // bright red
-    picLocation(location)->setBackColor(marked ? MarkedLocationColour : QBColor(CurrentLocationColour));
+    const QColor colour = marked ? MarkedLocationColour : QBColor(CurrentLocationColour);
+    // The labels inside stand on the location's colour, so they take it too.
+    picLocation(location)->setBackColor(colour);
+    for (ClickLabel* label : picLocation(location)->findChildren<ClickLabel*>()) label->setBackColor(colour);
 }
 
 void EntryScreen::TakeIssue(const QString& issue) { txtIssue->setText(issue.trimmed()); }
@@ -286,8 +289,5 @@ void EntryScreen::ClearLocationCard(int location) { imgCard(location)->ClearPict
 
 void EntryScreen::PrintEntry(EntryPrintout entry) const {
     entry.Issue = lblTheIssue->text();
-    entry.CanvasWidth = ControlWidth(picSpread);
-    entry.CanvasHeight = ControlHeight(picSpread);
-    entry.CardFrame = BoxGeometry{IMGTop, IMGLeft, IMGWidth, IMGHeight};
     ::PrintEntry(entry);
 }

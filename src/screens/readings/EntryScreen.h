@@ -9,6 +9,7 @@
 
 #include "core/platform/Arrays.h"
 #include "core/printing/EntryPrintout.h"
+#include "core/readings/Element.h"
 #include "core/records/Records.h"
 #include "screens/platform/Form.h"
 
@@ -29,19 +30,6 @@ int ControlHeight(const QWidget* control);
 // of an entry lay them out.
 QLabel* MakeCaption(QWidget* parent, const QString& caption, int left, int top, int width);
 ListBox* MakeList(QWidget* parent, const QString& name, int left, int top, int width, int height);
-
-// Element i (from 1) of a record's array of locations or table positions; an
-// index outside it is a subscript error.
-template <class T, std::size_t N>
-T& Element(std::array<T, N>& values, int i) {
-    if (i < 1 || i > static_cast<int>(N)) RaiseError(errSubscriptOutOfRange);
-    return values[static_cast<std::size_t>(i - 1)];
-}
-template <class T, std::size_t N>
-const T& Element(const std::array<T, N>& values, int i) {
-    if (i < 1 || i > static_cast<int>(N)) RaiseError(errSubscriptOutOfRange);
-    return values[static_cast<std::size_t>(i - 1)];
-}
 
 // The picture file of one side of a deck card in Cards/.
 QString CardPicturePath(const CardRecord& card, bool upright);
@@ -115,9 +103,8 @@ public:
     void TakeIssue(const QString& issue);
     void FocusIssue();
 
-    // Prints the entry from its record, with what only the screen holds: the
-    // issue in hand, the canvas the locations are placed on and the frame a
-    // card picture is fitted into.
+    // Prints the entry from its record, with the issue in hand, which only
+    // the screen holds.
     void PrintEntry(EntryPrintout entry) const;
 
 protected:

@@ -73,19 +73,20 @@ InterpretLocationScreen::InterpretLocationScreen(bool enlargeHidesPlayer) : enla
     imgCard = new ImageBox(this);
     imgCard->setObjectName(QStringLiteral("imgCard"));
     imgCard->Move(120, 3600, 1815, 2655);
-    lblCardTitle = MakeLabel(this, QStringLiteral("lblCardTitle"), 2100, 3600, 3675, 375);
+    // Room for two lines: a long title with "(Reversed)" behind it breaks.
+    lblCardTitle = MakeLabel(this, QStringLiteral("lblCardTitle"), 2100, 3600, 3675, 570);
     lblCardTitle->setFont(bold);
     optDescription = new QRadioButton(QStringLiteral("Description"), this);
     optDescription->setObjectName(QStringLiteral("optDescription"));
     optDescription->setChecked(true);
-    PlaceControl(optDescription, 2100, 4020, 1695, 300);
+    PlaceControl(optDescription, 2100, 4200, 1695, 300);
     optKeywords = new QRadioButton(QStringLiteral("Keywords"), this);
     optKeywords->setObjectName(QStringLiteral("optKeywords"));
-    PlaceControl(optKeywords, 3900, 4020, 1695, 300);
+    PlaceControl(optKeywords, 3900, 4200, 1695, 300);
     lblText = new QPlainTextEdit(this);
     lblText->setObjectName(QStringLiteral("lblText"));
     lblText->setReadOnly(true);
-    PlaceControl(lblText, 2100, 4380, 3675, 1875);
+    PlaceControl(lblText, 2100, 4530, 3675, 1725);
 
     MediaPlayer1 = new MediaPlayer(this);
     MediaPlayer1->setObjectName(QStringLiteral("MediaPlayer1"));

@@ -2,13 +2,10 @@
 
 #include <QLabel>
 #include <QPushButton>
-#include <algorithm>
 
+#include "core/journal/Journal.h"
 #include "core/platform/OleDate.h"
 #include "core/platform/Twips.h"
-#include "core/records/RecordFile.h"
-#include "core/store/Lookups.h"
-#include "core/store/RunState.h"
 #include "screens/decks/DeckLoadQuestion.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
@@ -22,7 +19,7 @@ namespace {
 constexpr int NameStart = 13;
 }  // namespace
 
-OpenEntryScreen::OpenEntryScreen(const OpenEntryTexts& texts) : texts_(texts) {
+OpenEntryScreen::OpenEntryScreen(EntryKind kind, const OpenEntryTexts& texts) : kind_(kind), texts_(texts) {
     setCaption(texts.Caption);
     resize(TwipsToPixels(6495), TwipsToPixels(4215));
     lblEntries = new QLabel(texts.ListLabel, this);
@@ -58,7 +55,7 @@ void OpenEntryScreen::Form_Load() {
     CentreInFrame(*this);
     cmdDelete->setEnabled(false);
     cmdOpen->setEnabled(false);
-    for (const auto& [savedOn, name] : SavedEntries())
+    for (const auto& [savedOn, name] : SavedEntryDates(kind_))
         lstEntries->AddItem(FormatSortDate(savedOn) + QStringLiteral(" - ") + name);
     if (lstEntries->ListCount() > 0) lstEntries->setListIndex(0);
 }
@@ -76,8 +73,8 @@ QString OpenEntryScreen::SelectedName() const {
 void OpenEntryScreen::cmdDelete_Click() {
     if (lstEntries->ListIndex() < 0) return;
     const QString question = texts_.DeleteQuestion + lstEntries->Text().trimmed() + QStringLiteral("' ?");
-    if (MsgBox(question, vbYesNo | vbDefaultButton2 | texts_.DeleteIcon) != vbYes) return;
-    DeleteEntry(SelectedName());
+    if (MsgBox(question, vbYesNo | vbDefaultButton2 | vbQuestion) != vbYes) return;
+    DeleteEntry(kind_, SelectedName());
     lstEntries->Clear();
     Form_Load();
 }
@@ -88,19 +85,21 @@ void OpenEntryScreen::cmdOpen_Click() {
 }
 
 bool OpenEntryScreen::OpenEntry(const QString& name) {
-    EntryHead head;
-    if (!ReadEntry(name, head)) return false;
-    if (head.EntryLocked) {
-        if (!CheckPassword(head.EntryPassword)) return false;
-        RememberEntryUnlocked(Kind(), name);
+    const OpeningChecks checks = Judge(name);
+    if (!checks.Found) return false;
+    if (checks.Locked) {
+        if (!CheckPassword(checks.Password)) return false;
+        RememberEntryUnlocked(kind_, name);
+    }
+    for (const OpeningStep& step : checks.Steps) {
+        if (step.Refusal) {
+            MsgBox(step.Text, vbInformation);
+            return false;
+        }
+        if (MsgBox(step.Text, vbYesNo | vbQuestion) != vbYes) return false;
     }
 
-    DeckRecord deck;
-    if (!DeckAllowsOpening(head, deck)) return false;
-    SpreadRecord spread;
-    if (!SpreadAllowsOpening(head, spread)) return false;
-
-    AdoptEntry(deck, spread);
+    AdoptEntry();
     bool removed = false;
     if (!LoadDeck(removed)) {
         if (removed && lstEntries->ListIndex() >= 0 && SelectedName() == name)
@@ -109,35 +108,6 @@ bool OpenEntryScreen::OpenEntry(const QString& name) {
     }
     ShowEntry();
     return true;
-}
-
-bool OpenEntryScreen::DeckAllowsOpening(const EntryHead& head, DeckRecord& deck) {
-    const int deckNumber = FindDeckRecordById(head.DeckId);
-    if (deckNumber == -1) {
-        MsgBox(texts_.DeckGone, vbInformation);
-        return false;
-    }
-    GetRecord(DecksPath, deckNumber, deck);
-    if (deck.DeckRevision == head.DeckRevision) return true;
-    // A changed deck: the cards of the first locations must still be there.
-    const auto first = head.DealtCard.begin();
-    const Integer highest = *std::max_element(first, first + CheckedLocations);
-    if (highest > deck.CardCount) {
-        MsgBox(texts_.TooManyCardsRemoved, vbInformation);
-        return false;
-    }
-    return MsgBox(texts_.DeckChanged, vbYesNo | vbQuestion) == vbYes;
-}
-
-bool OpenEntryScreen::SpreadAllowsOpening(const EntryHead& head, SpreadRecord& spread) {
-    const int spreadNumber = FindSpreadRecordById(head.SpreadId);
-    if (spreadNumber == -1) {
-        MsgBox(texts_.SpreadGone, vbInformation);
-        return false;
-    }
-    GetRecord(SpreadsPath, spreadNumber, spread);
-    if (spread.SpreadRevision == head.SpreadRevision) return true;
-    return MsgBox(texts_.SpreadChanged, vbYesNo | vbQuestion) == vbYes;
 }
 
 void OpenEntryScreen::cmdCancel_Click() {

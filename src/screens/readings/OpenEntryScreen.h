@@ -1,16 +1,11 @@
 #pragma once
 // Opening or deleting a saved entry, reading or diary. The list shows each
 // entry as its date ("yyyy/mm/dd"), " - " and its name, so that it stands in
-// order of date. Opening checks, in a fixed order, that the entry can still be
-// shown: its password if it is locked, its deck (still installed, and if
-// changed, still holding the cards of the first locations), its spread (still
-// installed, and if changed, the user's consent). A refused opening says why
-// and leaves everything as it was.
-#include <array>
-#include <utility>
-#include <vector>
-
-#include "core/journal/Journal.h"
+// order of date. The core judges whether the entry can still be shown
+// (JudgeReadingOpening, JudgeDiaryOpening) and deletes it (DeleteEntry); this
+// screen asks the password and the questions, and tells the refusals. A
+// refused opening leaves everything as it was.
+#include "core/readings/EntryStore.h"
 #include "core/records/Records.h"
 #include "screens/platform/Form.h"
 
@@ -23,37 +18,19 @@ struct OpenEntryTexts {
     QString ListName;           // "lstReadings"
     QString ListLabel;          // "Select Reading:"
     QString DeleteQuestion;     // "Are you sure you want to delete reading '"
-    int DeleteIcon = 0;
-    QString DeckGone;
-    QString TooManyCardsRemoved;
-    QString DeckChanged;
-    QString SpreadGone;
-    QString SpreadChanged;
 };
 
-// What the checks read from a saved entry.
-struct EntryHead {
-    bool EntryLocked = false;
-    QString EntryPassword;
-    Integer DeckId = 0;
-    Integer DeckRevision = 0;
-    Integer SpreadId = 0;
-    Integer SpreadRevision = 0;
-    std::array<Integer, 32> DealtCard{};
+// What the screen needs of the core's judgement of a saved entry.
+struct OpeningChecks {
+    bool Found = false;
+    bool Locked = false;
+    QString Password;
+    QList<OpeningStep> Steps;
 };
-
-template <class R>
-EntryHead HeadOf(const R& entry) {
-    return {entry.EntryLocked != 0, entry.EntryPassword.Value(), entry.ReadingDeckId, entry.ReadingDeckRevision,
-            entry.ReadingSpreadId, entry.ReadingSpreadRevision, entry.DealtCard};
-}
 
 class OpenEntryScreen : public Form {
     Q_OBJECT
 public:
-    // Only the cards of the first locations are checked against a changed deck.
-    static constexpr int CheckedLocations = 15;
-
     QLabel* lblEntries = nullptr;
     ListBox* lstEntries = nullptr;
     QPushButton* cmdOpen = nullptr;
@@ -74,27 +51,33 @@ public:
     QString SelectedName() const;
 
 protected:
-    explicit OpenEntryScreen(const OpenEntryTexts& texts);
+    OpenEntryScreen(EntryKind kind, const OpenEntryTexts& texts);
 
-    // Date and name (as stored) of every saved entry, in file order.
-    virtual std::vector<std::pair<double, QString>> SavedEntries() const = 0;
-    virtual void DeleteEntry(const QString& name) = 0;
-    // Reads the entry of that name into the screen's own copy; false if none.
-    virtual bool ReadEntry(const QString& name, EntryHead& head) = 0;
-    // Makes the screen's copies the entry, spread and deck in hand.
-    virtual void AdoptEntry(const DeckRecord& deck, const SpreadRecord& spread) = 0;
+    // The core's judgement of the entry of that name; the screen keeps the
+    // entry, its deck and its spread as they were found.
+    virtual OpeningChecks Judge(const QString& name) = 0;
+    // Makes the entry, spread and deck found the ones in hand.
+    virtual void AdoptEntry() = 0;
     // Takes the entry's options as the run's, then shows the entry.
     virtual void ShowEntry() = 0;
     // The entry screen below goes and the main screen comes back.
     virtual void CloseEntryScreen() = 0;
-    virtual EntryKind Kind() const = 0;
 
     void Form_Load() override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 
-private:
-    bool DeckAllowsOpening(const EntryHead& head, DeckRecord& deck);
-    bool SpreadAllowsOpening(const EntryHead& head, SpreadRecord& spread);
+    // Keeps what the core found for AdoptEntry.
+    template <class R>
+    OpeningChecks Keep(const EntryOpening<R>& opening, R& entry) {
+        entry = opening.Entry;
+        deck_ = opening.Deck;
+        spread_ = opening.Spread;
+        return {opening.Found, opening.Locked, opening.Password, opening.Steps};
+    }
+    DeckRecord deck_;
+    SpreadRecord spread_;
 
+private:
+    EntryKind kind_;
     OpenEntryTexts texts_;
 };

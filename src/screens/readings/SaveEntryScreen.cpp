@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "core/platform/Twips.h"
+#include "core/readings/EntryStore.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/readings/EntryScreen.h"
@@ -16,7 +17,7 @@ QString FirstNonBlank(std::initializer_list<QString> texts) {
     return QString();
 }
 
-SaveEntryScreen::SaveEntryScreen(const SaveEntryTexts& texts) : texts_(texts) {
+SaveEntryScreen::SaveEntryScreen(EntryKind kind, const SaveEntryTexts& texts) : kind_(kind) {
     setCaption(texts.Caption);
     resize(TwipsToPixels(4935), TwipsToPixels(4215));
     auto* label = new QLabel(QStringLiteral("Save As:"), this);
@@ -47,7 +48,7 @@ SaveEntryScreen::SaveEntryScreen(const SaveEntryTexts& texts) : texts_(texts) {
 void SaveEntryScreen::Form_Load() {
     CentreInFrame(*this);
     txtSaveAs->setText(ProposedName());
-    for (const QString& name : SavedNames()) lstNames->AddItem(name);
+    for (const QString& name : SavedEntryNames(kind_)) lstNames->AddItem(name);
     cmdSave->setEnabled(false);
 }
 
@@ -63,18 +64,13 @@ void SaveEntryScreen::lstNames_Click() {
 
 void SaveEntryScreen::cmdSave_Click() {
     const QString text = txtSaveAs->text();
-    // Empty, or nothing but blanks, is no name.
-    if (QString::compare(QString(31, QLatin1Char(' ')), text, Qt::CaseInsensitive) > 0) {
-        MsgBox(texts_.NoNameMessage, vbExclamation);
+    const EntryNameCheck check = CheckEntryName(kind_, text);
+    if (!check.Problem.isEmpty()) {
+        MsgBox(check.Problem, vbExclamation);
         return;
     }
-    int recordNumber = FindEntryByName(text);
-    if (recordNumber > 0) {
-        if (MsgBox(texts_.ExistsQuestion, vbYesNo | vbDefaultButton2 | vbQuestion) != vbYes) return;
-    } else {
-        recordNumber = CountEntries() + 1;
-    }
-    WriteEntry(recordNumber, text.trimmed());
+    if (!check.Question.isEmpty() && MsgBox(check.Question, vbYesNo | vbDefaultButton2 | vbQuestion) != vbYes) return;
+    SaveAs(text, check.Replacing);
     MarkEntrySaved();
     Unload();
 }

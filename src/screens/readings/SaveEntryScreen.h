@@ -1,8 +1,10 @@
 #pragma once
 // Saving an entry, reading or diary, under a name. The name box proposes the
 // entry's own name, else its issue, else the spread's name; the list shows the
-// names already saved, and a click on one takes it. A name in use is
-// overwritten after a question, in its own record; a new name is appended.
+// names already saved, and a click on one takes it. The core judges the name
+// and writes the entry (EntryStore); this screen asks the question of a name
+// in use and tells the refusal of a blank one.
+#include "core/records/Records.h"
 #include "screens/platform/Form.h"
 
 class QLineEdit;
@@ -12,8 +14,6 @@ class QPushButton;
 struct SaveEntryTexts {
     QString Caption;          // "Save Reading"
     QString ListName;         // "lstReadingNames"
-    QString NoNameMessage;    // "Please select a name to save the reading as."
-    QString ExistsQuestion;   // "Reading already exists. Overwrite?"
 };
 
 class SaveEntryScreen : public Form {
@@ -33,21 +33,19 @@ public:
     void cmdCancel_Click();
 
 protected:
-    explicit SaveEntryScreen(const SaveEntryTexts& texts);
+    SaveEntryScreen(EntryKind kind, const SaveEntryTexts& texts);
 
     virtual QString ProposedName() const = 0;
-    virtual QStringList SavedNames() const = 0;     // trimmed, file order
-    virtual int FindEntryByName(const QString& name) const = 0;   // record number or -1
-    virtual int CountEntries() const = 0;
-    // Names the entry, stamps it and writes it at that record number.
-    virtual void WriteEntry(int recordNumber, const QString& name) = 0;
+    // Saves the entry in hand under the name, in place of that record (0 for
+    // a new one), and keeps the entry as saved.
+    virtual void SaveAs(const QString& name, int replacing) = 0;
     virtual void MarkEntrySaved() = 0;
 
     void Form_Load() override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 
 private:
-    SaveEntryTexts texts_;
+    EntryKind kind_;
 };
 
 // The first of the texts that is not blank, trimmed.

@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "core/platform/Twips.h"
+#include "core/readings/Deal.h"
 #include "core/records/RecordFile.h"
 #include "core/store/DeckLoading.h"
 #include "core/store/Lookups.h"
@@ -173,12 +174,6 @@ void SelectSpreadScreen::chkAllowDuplicateCards_Click() {
     if (!SpreadAndDeckSelected()) chkAllowDuplicateCards->setChecked(LastAllowDuplicateCards);
 }
 
-bool SelectSpreadScreen::EnoughCardsSelected() const {
-    int cards = 0;
-    for (int row = 0; row < lstCardTypes->ListCount(); ++row)
-        if (lstCardTypes->Selected(row)) cards += CountCardsOfTypeName(lstCardTypes->List(row));
-    return cards >= CurrentSpread.LocationCount;
-}
 
 void SelectSpreadScreen::cmdSelect_Click() {
     if (lstDecks->ListIndex() < 0) return;
@@ -190,7 +185,10 @@ void SelectSpreadScreen::cmdSelect_Click() {
         }
         return;
     }
-    if (!EnoughCardsSelected()) {
+    QList<int> chosenTypes;
+    for (int row = 0; row < lstCardTypes->ListCount(); ++row)
+        if (lstCardTypes->Selected(row)) chosenTypes << CardTypeIndex(lstCardTypes->List(row));
+    if (!EnoughCardsSelected(CurrentDeck, chosenTypes, CurrentSpread.LocationCount)) {
         MsgBox(QStringLiteral("The card types you have selected are not enough to run this spread.\n"
                               "Please check more type(s) or change the deck."),
                vbInformation);

@@ -41,9 +41,6 @@ public:
     void chkAllowDuplicateCards_Click();
     void cmdSelect_Click();
     void cmdCancel_Click();
-    // The selected card types hold at least as many cards as the spread has
-    // locations.
-    bool EnoughCardsSelected() const;
 
 protected:
     explicit SelectSpreadScreen(const QString& caption);

@@ -8,12 +8,11 @@
 #include <QTimer>
 
 #include "core/platform/Palette.h"
+#include "core/readings/Deal.h"
 #include "core/store/Lookups.h"
-#include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
 #include "screens/platform/ErrorReport.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/readings/frmReadingCards.h"
 #include "screens/readings/frmReadingInterpretLocation.h"
 #include "screens/readings/frmReadingNotes.h"
 #include "screens/readings/frmSaveReading.h"
@@ -48,11 +47,11 @@ void ShuffleButton::keyReleaseEvent(QKeyEvent* e) {
 
 namespace {
 
-frmReadingCards& Table() { return Get<frmReadingCards>(); }
-
 const QString ReadingCaption = QStringLiteral("Reading - ");
 
 }  // namespace
+
+TableWatcher* ReadingScreen() { return ScreenSlot<frmNewReading>(); }
 
 frmNewReading::frmNewReading() : EntryScreen(QStringLiteral("Reading")), lblCardName(1, MaxLocations) {
     setObjectName(QStringLiteral("frmNewReading"));
@@ -112,7 +111,7 @@ void frmNewReading::Form_Load() {
 }
 
 void frmNewReading::Initialize() {
-    DeckCardsLeft = CurrentDeck.CardCount;
+    NewDeal(ReadingDeal, CurrentDeck.CardCount);
     LoadSpreadLocations(CurrentSpread.SpreadId, CurrentSpread.LocationCount);
     ShowSpreadTexts();
 
@@ -123,7 +122,6 @@ void frmNewReading::Initialize() {
 
     const QString title = CurrentSpread.SpreadTitle.Trimmed();
     if (!title.isEmpty()) setCaption(ReadingCaption + title);
-    ThisLocationNumber = 1;
 
     for (int i = 1; i <= CurrentSpread.LocationCount; ++i) {
         PlaceLocation(i);
@@ -149,7 +147,7 @@ void frmNewReading::cmdContinue_Click() {
         CurrentReading.ReadingSpreadId = CurrentSpread.SpreadId;
         CurrentReading.ReadingDeckId = CurrentDeck.DeckId;
         PlaceInFrameRight(*this, false);
-        Table().Show();
+        Table().ShowTable();
         TableShown = true;
     }
 
@@ -164,8 +162,8 @@ void frmNewReading::cmdContinue_Click() {
     cmdNextCard->setEnabled(Forward);
     cmdAllCards->setEnabled(Forward);
     if (frmReadingCardsIsLoaded) {
-        if (Forward) Table().Show();
-        else Table().Hide();
+        if (Forward) Table().ShowTable();
+        else Table().HideTable();
     }
     for (QPushButton* button : {cmdNotes, cmdInterpret, cmdSave, cmdQuickHelp, cmdPrint,
                                 static_cast<QPushButton*>(cmdFakeShuffle)})
@@ -191,30 +189,19 @@ void frmNewReading::txtIssue_LostFocus() {
 }
 
 void frmNewReading::cmdDeal_Click() {
-    if (ThisLocationNumber > CurrentSpread.LocationCount) {
-        // A new deal over a complete one: the name and notes stay with the
-        // reading, everything else starts again.
+    const int count = CurrentSpread.LocationCount;
+    if (DealAgain(ReadingDeal, CurrentReading, CurrentDeck.CardCount, count, RunDealOptions())) {
         cmdNextCard->setEnabled(true);
         cmdAllCards->setEnabled(true);
         cmdContinue->setEnabled(true);
         cmdDeal->setEnabled(false);
-        const FixedText<2500> notes = CurrentReading.ReadingNotes;
-        const FixedText<50> name = CurrentReading.ReadingName;
-        ResetReading(CurrentReading);
-        CurrentReading.ReadingNotes = notes;
-        CurrentReading.ReadingName = name;
-        CurrentReading.UseReversed = Flag(UseReversed);
-        CurrentReading.AllowDuplicateCards = Flag(AllowDuplicateCards);
-        for (std::size_t t = 0; t < 4; ++t) CurrentReading.CardTypeSelected[t] = Flag(CardTypeSelected[t]);
-        ThisLocationNumber = 1;
-        for (int i = 1; i <= CurrentSpread.LocationCount; ++i) {
+        for (int i = 1; i <= count; ++i) {
             ClearLocationCard(i);
             lblCardName(i)->clear();
             lblCardNumber(i)->show();
         }
     }
-    DeckCardsLeft = CurrentDeck.CardCount;
-    Table().Show();
+    Table().ShowTable();
 }
 
 void frmNewReading::TableLoaded(bool loaded) {
@@ -227,7 +214,7 @@ void frmNewReading::TableUp() {
     cmdAllCards->setEnabled(true);
     cmdNextCard->setEnabled(true);
     cmdDeal->setEnabled(false);
-    if (DeckCardsLeft > 1) cmdFakeShuffle->setEnabled(true);
+    if (ShuffleAllowed(ReadingDeal)) cmdFakeShuffle->setEnabled(true);
 }
 
 void frmNewReading::TableGone() {
@@ -239,16 +226,17 @@ void frmNewReading::TableGone() {
 
 void frmNewReading::EnableShuffle(bool enabled) { cmdFakeShuffle->setEnabled(enabled); }
 
-void frmNewReading::DealCard(Integer card, Integer upright) {
+void frmNewReading::ShowDealtCard(int location) {
+    const int card = ReadingDeal.DealtCard(location);
+    ShowCardInLocation(location, card, ReadingDeal.DealtUpright(location) == True16);
+    lblCardNumber(location)->hide();
+    lblCardName(location)->setText(DeckCard(card).CardTitle.Trimmed());
+}
+
+void frmNewReading::CardDealt(int location) {
     ReadingChanged = true;
     cmdContinue->setEnabled(false);
-    const int L = ThisLocationNumber;
-    ShowCardInLocation(L, card, upright == True16);
-    lblCardNumber(L)->hide();
-    lblCardName(L)->setText(DeckCard(card).CardTitle.Trimmed());
-    Element(CurrentReading.DealtCard, L) = card;
-    Element(CurrentReading.DealtUpright, L) = upright;
-    ThisLocationNumber = static_cast<Integer>(L + 1);
+    ShowDealtCard(location);
     cmdInterpret->setEnabled(true);
     Show();
 }
@@ -257,38 +245,34 @@ void frmNewReading::cmdNextCard_Click() { Table().PickRandomCard(); }
 
 void frmNewReading::cmdAllCards_Click() {
     QPointer<frmNewReading> self(this);
+    const Deal& deal = ReadingDeal;
     do {
-        if (DeckCardsLeft == 0) {
-            // Lay a fresh table: the loaded one anew, or a new one.
-            if (frmReadingCards* table = ScreenSlot<frmReadingCards>()) table->Form_Load();
+        // An empty table is laid afresh: the loaded one anew, or a new one.
+        if (deal.DeckCardsLeft == 0) {
+            if (ReadingTable* table = LoadedTable()) table->LayAgain();
             else Table();
         }
-        const Integer before = ThisLocationNumber;
+        const Integer before = deal.ThisLocationNumber;
         Table().PickRandomCard();
         // The reading may have closed while a shuffle ran between two cards.
         if (!self || ScreenSlot<frmNewReading>() != self.data()) return;
-        if (ThisLocationNumber == before) return;
-    } while (ThisLocationNumber <= CurrentSpread.LocationCount);
+        if (deal.ThisLocationNumber == before) return;
+    } while (deal.ThisLocationNumber <= CurrentSpread.LocationCount);
 }
 
 void frmNewReading::cmdFakeShuffle_Press() { Table().FakeShuffle(); }
 
 void frmNewReading::cmdFakeShuffle_Release() {
-    if (frmReadingCards* table = ScreenSlot<frmReadingCards>()) table->StopShuffle();
+    if (ReadingTable* table = LoadedTable()) table->StopShuffle();
 }
 
 void frmNewReading::cmdInterpret_Click() {
-    const int t = ThisLocationNumber;
-    if (t > CurrentSpread.LocationCount) {
-        QueryLocation = CurrentSpread.LocationCount;
-    } else if (t >= 2) {
-        QueryLocation = static_cast<Integer>(t - 1);   // the last card dealt
-    } else if (t == 1) {
-        QueryLocation = 1;                             // the location shows without a card
-    } else {
+    const int location = LocationToInterpret(ReadingDeal, CurrentSpread.LocationCount);
+    if (location == 0) {
         cmdInterpret->setEnabled(false);
         return;
     }
+    QueryLocation = static_cast<Integer>(location);
     ShowInterpretation();
 }
 
@@ -307,27 +291,12 @@ void frmNewReading::ShowInterpretation() {
 
 void frmNewReading::cmdNotes_Click() { Get<frmReadingNotes>().Show(); }
 
-void frmNewReading::cmdPrint_Click() { PrintEntry(ReadingPrintout(ThisLocationNumber)); }
+void frmNewReading::cmdPrint_Click() { PrintEntry(ReadingPrintout(ReadingDeal, CurrentReading)); }
 
 void frmNewReading::cmdQuickHelp_Click() { Get<frmQuickHelp>().Show(); }
 
 void frmNewReading::cmdSave_Click() {
-    const bool onTable = DeckCardsLeft != 0 && ThisLocationNumber <= CurrentSpread.LocationCount;
-    frmReadingCards* table = ScreenSlot<frmReadingCards>();
-    for (int i = 1; i <= frmReadingCards::TableSize; ++i) {
-        const bool visible = onTable && table && table->IsFaceDown(i);
-        Element(CurrentReading.TableCardVisible, i) = Flag(visible);
-    }
-    CurrentReading.DealtCount = static_cast<Integer>(ThisLocationNumber - 1);
-    CurrentReading.ReadingDeckId = CurrentDeck.DeckId;
-    CurrentReading.ReadingDeckRevision = CurrentDeck.DeckRevision;
-    CurrentReading.Issue = lblTheIssue->text();
-    CurrentReading.ReadingSpreadId = CurrentSpread.SpreadId;
-    CurrentReading.ReadingSpreadRevision = CurrentSpread.SpreadRevision;
-    for (int i = 1; i <= frmReadingCards::TableSize; ++i) {
-        Element(CurrentReading.LocationIsUpright, i) = frmReadingCards::LocationIsUpright()(i);
-        Element(CurrentReading.LocationCard, i) = frmReadingCards::LocationCard()(i);
-    }
+    GatherReading(ReadingDeal, CurrentReading, CurrentDeck, CurrentSpread, lblTheIssue->text());
     Get<frmSaveReading>().Show(true);
 }
 
@@ -337,7 +306,7 @@ void frmNewReading::cmdClose_Click() {
 }
 
 void frmNewReading::CloseReading() {
-    UnloadScreen<frmReadingCards>();
+    UnloadTable();
     Get<frmMainScreen>().Show();
     Unload();
 }
@@ -372,7 +341,7 @@ bool frmNewReading::OpenSavedReading() {
     } catch (const RuntimeError& error) {
         // A saved reading that points past its deck cannot be shown: the
         // error is reported and the reading closes, nothing written.
-        frmReadingCards::LoadingReading = false;
+        ReadingDeal.LoadingReading = false;
         ReportError(error);
         CloseReading();
         return false;
@@ -380,61 +349,26 @@ bool frmNewReading::OpenSavedReading() {
 }
 
 void frmNewReading::FillFields() {
-    frmReadingCards::LoadingReading = true;
     Initialize();
-    QueryLocation = static_cast<Integer>(CurrentReading.DealtCount + 1);
+    RestoreDeal(ReadingDeal, CurrentReading, CurrentDeck, CurrentSpread.LocationCount, RunDealOptions());
+    const int dealt = CurrentReading.DealtCount;
+    QueryLocation = static_cast<Integer>(dealt + 1);
 
     PlaceInFrameRight(*this, false);
     Show();
     txtIssue->setText(CurrentReading.Issue.Trimmed());
+    // The first passage to the spread page shows the table the deal holds.
     cmdContinue_Click();
 
-    const int dealt = CurrentReading.DealtCount;
-    const int locationCount = CurrentSpread.LocationCount;
-    const bool open = dealt < locationCount;
+    const bool open = dealt < CurrentSpread.LocationCount;
     cmdNextCard->setEnabled(open);
     cmdAllCards->setEnabled(open);
     cmdDeal->setEnabled(!open);
     for (QPushButton* button : {cmdNotes, cmdSave, cmdPrint, cmdQuickHelp}) button->setEnabled(true);
-
-    for (int i = 1; i <= dealt; ++i) {
-        const int card = Element(CurrentReading.DealtCard, i);
-        ShowCardInLocation(i, card, Element(CurrentReading.DealtUpright, i) != 0);
-        lblCardNumber(i)->hide();
-        lblCardName(i)->setText(DeckCard(card).CardTitle.Trimmed());
-    }
-    ThisLocationNumber = static_cast<Integer>(dealt + 1);
-
-    if (open) {
-        frmReadingCards& table = Table();
-        table.Show();
-        for (int i = 1; i <= CurrentDeck.CardCount; ++i)
-            table.SetFaceDown(i, Element(CurrentReading.TableCardVisible, i) != 0);
-    } else {
-        UnloadScreen<frmReadingCards>();
-    }
-
-    for (int i = 1; i <= frmReadingCards::TableSize; ++i) {
-        frmReadingCards::LocationCard()(i) = Element(CurrentReading.LocationCard, i);
-        frmReadingCards::LocationIsUpright()(i) = Element(CurrentReading.LocationIsUpright, i);
-    }
-
-    // The cards still on the table are counted on top of what laying the
-    // table left in DeckCardsLeft: the count stands above the true number of
-    // cards, as it always has.
-    frmReadingCards::MaxCardsUsed = 0;
-    if (frmReadingCards* table = ScreenSlot<frmReadingCards>()) {
-        for (int i = 1; i <= frmReadingCards::TableSize; ++i) {
-            table->PaintBack(i);
-            if (!table->IsFaceDown(i)) continue;
-            ++frmReadingCards::MaxCardsUsed;
-            ++DeckCardsLeft;
-        }
-    }
-    frmReadingCards::MaxCardsUsed = static_cast<Integer>(frmReadingCards::MaxCardsUsed + dealt);
+    for (int i = 1; i <= dealt; ++i) ShowDealtCard(i);
+    if (!open) UnloadTable();
 
     ReadingChanged = false;
     Show();
-    if (!open) UnloadScreen<frmReadingCards>();
-    frmReadingCards::LoadingReading = false;
+    ReadingDeal.LoadingReading = false;
 }

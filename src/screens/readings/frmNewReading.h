@@ -1,14 +1,16 @@
 #pragma once
 // The screen on which a reading takes place. The introduction page shows the
 // spread and takes the issue; the spread page shows the locations into which
-// cards are dealt from the table below the screen (frmReadingCards). The
-// buttons follow the life of the table: Next Card, All Cards and Shuffle while
-// it is up, Deal once it has gone.
+// cards are dealt from the table below the screen. Both show the deal in hand
+// (ReadingDeal): which location holds which card is the deal's, and the
+// screen only shows it. The buttons follow the life of the table: Next Card,
+// All Cards and Shuffle while it is up, Deal once it has gone.
 #include <QPushButton>
 #include <functional>
 
 #include "core/platform/Arrays.h"
 #include "screens/readings/EntryScreen.h"
+#include "screens/readings/ReadingTable.h"
 
 class QTimer;
 
@@ -27,16 +29,14 @@ protected:
     void keyReleaseEvent(QKeyEvent* e) override;
 };
 
-class frmNewReading : public EntryScreen {
+class frmNewReading : public EntryScreen, public TableWatcher {
     Q_OBJECT
 public:
     frmNewReading();
 
     bool ReadingChanged = false;
     bool frmReadingCardsIsLoaded = false;
-    Integer ThisLocationNumber = 1;   // receives the next card; cards dealt = this - 1
     Integer QueryLocation = 0;        // the location the interpretation shows
-    Integer DeckCardsLeft = 0;        // cards left on the table
 
     QPushButton* cmdDeal = nullptr;
     QPushButton* cmdNextCard = nullptr;
@@ -71,16 +71,15 @@ public:
     void picLocation_Click(int Index) override;
     void imgCard_Click(int Index) override;
 
-    // What the table below tells this screen. TableLoaded keeps this screen
-    // following the table while it stands; TableUp and TableGone turn the
-    // buttons to drawing from it or to dealing a new one.
-    void TableLoaded(bool loaded);
-    void TableUp();
-    void TableGone();
-    void EnableShuffle(bool enabled);
-    // Deals the card (and orientation) of a table position into the next
-    // location.
-    void DealCard(Integer card, Integer upright);
+    // What the table below tells this screen.
+    void TableLoaded(bool loaded) override;
+    void TableUp() override;
+    void TableGone() override;
+    void EnableShuffle(bool enabled) override;
+    void CardDealt(int location) override;
+    void TakeFocus() override { Show(); }
+    int TableLeft() const override { return Left(); }
+    int TableTop() const override { return Top() + OuterHeight() + 50; }
 
     // Ends the reading without a question: the table goes, the main screen
     // comes back and this screen unloads.
@@ -95,6 +94,8 @@ protected:
 private:
     void ShowInterpretation();
     void UpdateCaption();
+    // Shows the card the deal holds in a location.
+    void ShowDealtCard(int location);
 
     bool TableShown = false;       // the table was shown once for this reading
     bool DealWasEnabled = false;   // cmdDeal's state, kept while the introduction page is up

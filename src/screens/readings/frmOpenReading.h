@@ -9,13 +9,10 @@ public:
     frmOpenReading();
 
 protected:
-    std::vector<std::pair<double, QString>> SavedEntries() const override;
-    void DeleteEntry(const QString& name) override;
-    bool ReadEntry(const QString& name, EntryHead& head) override;
-    void AdoptEntry(const DeckRecord& deck, const SpreadRecord& spread) override;
+    OpeningChecks Judge(const QString& name) override;
+    void AdoptEntry() override;
     void ShowEntry() override;
     void CloseEntryScreen() override;
-    EntryKind Kind() const override { return EntryKind::Reading; }
 
 private:
     ReadingRecord reading_;   // the screen's own copy until the opening succeeds

@@ -2,34 +2,19 @@
 
 #include <QLabel>
 #include <QPointer>
-#include <QTimer>
 #include <cmath>
 
 #include "core/platform/Palette.h"
 #include "core/platform/Rnd.h"
 #include "core/platform/Twips.h"
+#include "core/readings/Deal.h"
 #include "core/readings/Shuffle.h"
-#include "core/store/DeckLoading.h"
 #include "core/store/RunState.h"
 #include "screens/platform/ErrorReport.h"
 #include "screens/platform/Events.h"
-#include "screens/readings/frmNewReading.h"
 #include "screens/shell/ClickLabel.h"
-#include "screens/shell/ImageBox.h"
 
-Integer frmReadingCards::MaxCardsUsed = 0;
-bool frmReadingCards::LoadingReading = false;
 bool frmReadingCards::StopShuffleFlag = false;
-
-BoundedArray<Integer>& frmReadingCards::LocationCard() {
-    static BoundedArray<Integer> cards(1, TableSize);
-    return cards;
-}
-
-BoundedArray<Integer>& frmReadingCards::LocationIsUpright() {
-    static BoundedArray<Integer> upright(1, TableSize);
-    return upright;
-}
 
 namespace {
 
@@ -43,16 +28,18 @@ constexpr float JumpAcross = 9120.0f;
 // same, so that Stop is heard even when every listed card has been drawn.
 constexpr int TurnsWithoutYield = 256;
 
-frmNewReading& Reading() { return Get<frmNewReading>(); }
-
 // True once the table has been unloaded (a new one may stand in its place)
 // or its reading has closed, while a handler of it was yielding: that
 // handler must then leave without touching either again.
 bool Gone(const QPointer<frmReadingCards>& table) {
-    return !table || ScreenSlot<frmReadingCards>() != table.data() || !IsLoaded<frmNewReading>();
+    return !table || ScreenSlot<frmReadingCards>() != table.data() || !ReadingScreen();
 }
 
 }  // namespace
+
+ReadingTable& Table() { return Get<frmReadingCards>(); }
+ReadingTable* LoadedTable() { return ScreenSlot<frmReadingCards>(); }
+void UnloadTable() { UnloadScreen<frmReadingCards>(); }
 
 int frmReadingCards::HomeTop(int index) { return 120 + 120 * ((index - 1) / 16); }
 int frmReadingCards::HomeLeft(int index) {
@@ -89,83 +76,70 @@ void frmReadingCards::MoveCard(int index, int left, int top) {
 }
 
 void frmReadingCards::Form_Load() {
-    frmNewReading& reading = Reading();
-    reading.TableLoaded(true);
+    TableWatcher* reading = ReadingScreen();
+    if (reading) reading->TableLoaded(true);
 
     Show();
     MoveForm();
 
-    reading.TableUp();
+    if (reading) reading->TableUp();
 
     CardBackColor = QBColor(CurrentLocationColour);
-
-    const int pool = PoolSize(CurrentDeck.DeckCards, CurrentDeck.CardCount);
-    reading.DeckCardsLeft = static_cast<Integer>(pool);
-    MaxCardsUsed = static_cast<Integer>(pool);
-    for (int i = 1; i <= pool; ++i) {
-        picCard(i)->setBackColor(CardBackColor);
-        picCard(i)->show();
-    }
-    for (int i = pool + 1; i <= TableSize; ++i) picCard(i)->hide();
-
-    ShuffleDeck();
-    reading.Show();
+    // A saved reading being restored brings its table with it.
+    if (!ReadingDeal.LoadingReading) LayTable(ReadingDeal, CurrentDeck, RunDealOptions(), CurrentReading);
+    ShowFaceDown();
+    if (reading) reading->TakeFocus();
 }
 
-void frmReadingCards::ShuffleDeck() {
-    BoundedArray<Integer>& cards = LocationCard();
-    BoundedArray<Integer>& upright = LocationIsUpright();
-    ListPool(cards, CurrentDeck.DeckCards, CurrentDeck.CardCount);
-    ShuffleTable(cards, upright, Reading().DeckCardsLeft, UseReversed);
-
-    if (!LoadingReading) {
-        for (int i = 1; i <= TableSize; ++i) {
-            Element(CurrentReading.LocationIsUpright, i) = upright(i);
-            Element(CurrentReading.LocationCard, i) = cards(i);
-        }
+void frmReadingCards::ShowFaceDown() {
+    for (int i = 1; i <= TableSize; ++i) {
+        picCard(i)->setBackColor(CardBackColor);
+        picCard(i)->setVisible(ReadingDeal.FaceDown(i) != 0);
     }
 }
 
 void frmReadingCards::picCard_Click(int Index) {
     QPointer<frmReadingCards> self(this);
-    frmNewReading& reading = Reading();
-    reading.DealCard(LocationCard()(Index), LocationIsUpright()(Index));
+    Deal& deal = ReadingDeal;
+    const int location = DealFromPosition(deal, Index, AllowDuplicateCards);
+    picCard(Index)->setVisible(deal.FaceDown(Index) != 0);
+    if (TableWatcher* reading = ReadingScreen()) reading->CardDealt(location);
 
     const int locationCount = CurrentSpread.LocationCount;
-    if (!AllowDuplicateCards) {
-        picCard(Index)->hide();
-        --reading.DeckCardsLeft;
-    } else if (reading.ThisLocationNumber <= locationCount) {
+    if (ReshufflesAfterDraw(deal, locationCount, AllowDuplicateCards)) {
         // The card stays in the pool: the whole table is shuffled anew, and
         // the cards move until the user stops them or draws from them.
-        ShuffleDeck();
+        ShuffleDeal(deal, CurrentDeck, RunDealOptions(), CurrentReading);
         FakeShuffle();
         if (Gone(self)) return;
     }
 
-    if (reading.ThisLocationNumber <= locationCount && reading.DeckCardsLeft == 0) {
+    TableWatcher* reading = ReadingScreen();
+    switch (TableAfterDraw(deal, locationCount)) {
+    case TableFate::Stays: break;
+    case TableFate::RanEmpty: Unload(); break;
+    case TableFate::DealComplete:
+        if (reading) reading->EnableShuffle(false);
         Unload();
+        break;
     }
-    if (reading.ThisLocationNumber > locationCount) {
-        reading.EnableShuffle(false);
-        Unload();
-    }
-    if (reading.DeckCardsLeft < 2) reading.EnableShuffle(false);
+    if (reading && !ShuffleAllowed(deal)) reading->EnableShuffle(false);
 }
 
 void frmReadingCards::PickRandomCard() {
-    const int i = PickFaceDownPosition(MaxCardsUsed, TableSize, [this](int at) { return !picCard(at)->isHidden(); });
+    const int i = PickRandomPosition(ReadingDeal);
     if (i > 0) picCard_Click(i);
 }
 
 void frmReadingCards::FakeShuffle() {
     QPointer<frmReadingCards> self(this);
+    const Deal& deal = ReadingDeal;
     StopShuffleFlag = false;
 
     // The homes of this run are where the cards stand now: a run started on
     // top of another puts back the other's scattered places, and the outer
     // run then restores the true homes.
-    const int used = MaxCardsUsed;
+    const int used = deal.MaxCardsUsed;
     BoundedArray<int> homeTop(1, used);
     BoundedArray<int> homeLeft(1, used);
     for (int i = 1; i <= used; ++i) {
@@ -174,11 +148,11 @@ void frmReadingCards::FakeShuffle() {
     }
 
     // The positions still face down; entries never filled stand for the
-    // template, which is never visible.
-    BoundedArray<int> list(1, Reading().DeckCardsLeft);
+    // template, which never lies face down.
+    BoundedArray<int> list(1, deal.DeckCardsLeft);
     int listed = 0;
     for (int i = 1; i <= TableSize; ++i) {
-        if (picCard(i)->isHidden()) continue;
+        if (deal.FaceDown(i) == 0) continue;
         ++listed;
         list(listed) = i;
     }
@@ -186,8 +160,8 @@ void frmReadingCards::FakeShuffle() {
     Randomize();
     int idleTurns = 0;
     for (;;) {
-        const int s = list(RandomPosition(Reading().DeckCardsLeft, Rnd()));
-        if (!picCard(s)->isHidden()) {
+        const int s = list(RandomPosition(deal.DeckCardsLeft, Rnd()));
+        if (s > 0 && deal.FaceDown(s) != 0) {
             const int top = static_cast<int>(std::floor(JumpDown * Rnd())) + 1;
             const int left = static_cast<int>(std::floor(JumpAcross * Rnd())) + 1;
             MoveCard(s, left, top);
@@ -208,34 +182,19 @@ void frmReadingCards::FakeShuffle() {
 void frmReadingCards::StopShuffle() { StopShuffleFlag = true; }
 
 void frmReadingCards::EliminateDeckCard(Integer card) {
-    for (int i = 1; i <= TableSize; ++i) {
-        if (LocationCard()(i) == card) {
-            picCard(i)->hide();
-            break;
-        }
-    }
-    frmNewReading& reading = Reading();
-    --reading.DeckCardsLeft;
-    if (reading.DeckCardsLeft == 0) Form_Load();
+    const bool empty = EliminateCard(ReadingDeal, card);
+    ShowFaceDown();
+    if (empty) Form_Load();
 }
 
-bool frmReadingCards::IsFaceDown(int index) const { return !picCard(index)->isHidden(); }
-void frmReadingCards::SetFaceDown(int index, bool faceDown) { picCard(index)->setVisible(faceDown); }
-void frmReadingCards::PaintBack(int index) { picCard(index)->setBackColor(CardBackColor); }
-
-Integer frmReadingCards::getLocationCard(int index) const { return LocationCard()(index); }
-Integer frmReadingCards::getLocationIsUpright(int index) const { return LocationIsUpright()(index); }
-void frmReadingCards::setLocationCard(int index, Integer card) { LocationCard()(index) = card; }
-void frmReadingCards::setLocationIsUpright(int index, Integer upright) { LocationIsUpright()(index) = upright; }
-
 void frmReadingCards::MoveForm() {
-    const frmNewReading& reading = Reading();
-    Move(reading.Left(), reading.Top() + reading.OuterHeight() + 50);
+    if (const TableWatcher* reading = ReadingScreen()) Move(reading->TableLeft(), reading->TableTop());
 }
 
 void frmReadingCards::Form_Unload(bool& cancel) {
     (void)cancel;
-    frmNewReading* reading = ScreenSlot<frmNewReading>();
+    TableRemoved(ReadingDeal);
+    TableWatcher* reading = ReadingScreen();
     if (!reading) return;
     reading->TableGone();
     reading->TableLoaded(false);
@@ -245,6 +204,6 @@ void frmReadingCards::mousePressEvent(QMouseEvent* e) {
     Form::mousePressEvent(e);
     // A click beside the cards hands the focus back to the reading.
     Guarded([] {
-        if (frmNewReading* reading = ScreenSlot<frmNewReading>()) reading->Show();
+        if (TableWatcher* reading = ReadingScreen()) reading->TakeFocus();
     });
 }

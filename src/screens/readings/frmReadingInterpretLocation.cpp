@@ -1,9 +1,8 @@
 #include "screens/readings/frmReadingInterpretLocation.h"
 
-#include "core/platform/Palette.h"
+#include "core/readings/Deal.h"
 #include "core/store/RunState.h"
 #include "screens/readings/frmNewReading.h"
-#include "screens/shell/ClickLabel.h"
 
 frmReadingInterpretLocation::frmReadingInterpretLocation() : InterpretLocationScreen(true) {
     setObjectName(QStringLiteral("frmReadingInterpretLocation"));
@@ -11,13 +10,11 @@ frmReadingInterpretLocation::frmReadingInterpretLocation() : InterpretLocationSc
 
 int frmReadingInterpretLocation::Location() const { return Get<frmNewReading>().QueryLocation; }
 
-bool frmReadingInterpretLocation::CardLiesThere() const {
-    return Location() < Get<frmNewReading>().ThisLocationNumber;
-}
+bool frmReadingInterpretLocation::CardLiesThere() const { return CardLiesAt(ReadingDeal, Location()); }
 
-int frmReadingInterpretLocation::CardNumber() const { return Element(CurrentReading.DealtCard, Location()); }
+int frmReadingInterpretLocation::CardNumber() const { return ReadingDeal.DealtCard(Location()); }
 
-bool frmReadingInterpretLocation::CardUpright() const { return Element(CurrentReading.DealtUpright, Location()) != 0; }
+bool frmReadingInterpretLocation::CardUpright() const { return ReadingDeal.DealtUpright(Location()) != 0; }
 
 void frmReadingInterpretLocation::MarkLocation(int location, bool marked) {
     if (frmNewReading* reading = ScreenSlot<frmNewReading>()) reading->MarkLocation(location, marked);

@@ -1,5 +1,5 @@
 #pragma once
-// "Save Reading": writes CurrentReading to the readings file under a name.
+// "Save Reading": saves the reading in hand (CurrentReading) under a name.
 #include "screens/readings/SaveEntryScreen.h"
 
 class frmSaveReading : public SaveEntryScreen {
@@ -9,9 +9,6 @@ public:
 
 protected:
     QString ProposedName() const override;
-    QStringList SavedNames() const override;
-    int FindEntryByName(const QString& name) const override;
-    int CountEntries() const override;
-    void WriteEntry(int recordNumber, const QString& name) override;
+    void SaveAs(const QString& name, int replacing) override;
     void MarkEntrySaved() override;
 };
