@@ -12,8 +12,8 @@ cmake -S . -B build-tsan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEB
   -DCMAKE_CXX_FLAGS="-fsanitize=thread -fno-omit-frame-pointer" \
   -DCMAKE_EXE_LINKER_FLAGS=-fsanitize=thread -DCMAKE_SHARED_LINKER_FLAGS=-fsanitize=thread >/dev/null
 cmake --build build-tsan -j "$(nproc)" --target "${tests[@]}"
-# Qt is not built for the sanitizer: its own handovers (the pool's queue,
-# the event queue) are listed in tsan.supp.
+# Qt is not built for the sanitizer: tsan.supp says which of its own
+# workings are not checked, and why.
 export TSAN_OPTIONS="halt_on_error=1:second_deadlock_stack=1:suppressions=$PWD/scripts/tsan.supp"
 QT_QPA_PLATFORM=offscreen ctest --test-dir build-tsan --output-on-failure \
   -R "^($(IFS='|'; echo "${tests[*]}"))\$" "$@"
