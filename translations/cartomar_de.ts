@@ -2,10 +2,197 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ChartLayout</name>
+    <message>
+        <source>Nothing to show</source>
+        <translation>Nichts anzuzeigen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 (%3 %4, %5 %6)</source>
+        <translation>%1: %2 (%3 %4, %5 %6)</translation>
+    </message>
+</context>
+<context>
+    <name>DeckStore</name>
+    <message>
+        <source>Error number %1.  %2</source>
+        <translation>Fehlernummer %1.  %2</translation>
+    </message>
+    <message>
+        <source>Please select a name to save the deck as.</source>
+        <translation>Bitte wählen Sie einen Namen für das Deck.</translation>
+    </message>
+    <message>
+        <source>Deck already exists. Overwrite?</source>
+        <translation>Das Deck existiert bereits. Überschreiben?</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete deck &apos;%1&apos; ?
+Be aware that this deck will be removed from all spreads that use it.</source>
+        <translation>Möchten Sie das Deck &apos;%1&apos; wirklich löschen?
+Beachten Sie, dass das Deck aus allen Auslagen entfernt wird, die es verwenden.</translation>
+    </message>
+    <message>
+        <source>At least one spread uses solely this deck. Further, any readings or diaries that
+use this deck will not be able to be opened. Proceed anyway?</source>
+        <translation>Mindestens eine Auslage verwendet nur dieses Deck. Außerdem lassen sich Legungen
+und Tagebücher mit diesem Deck nicht mehr öffnen. Trotzdem fortfahren?</translation>
+    </message>
+    <message>
+        <source>Any readings or diaries using this deck will not be able to be opened.
+Proceed anyway?</source>
+        <translation>Legungen und Tagebücher mit diesem Deck lassen sich nicht mehr öffnen.
+Trotzdem fortfahren?</translation>
+    </message>
+</context>
+<context>
     <name>DecorativePictures</name>
     <message>
         <source>Unlock the Door to Future Possibilities</source>
         <translation>Öffnen Sie die Tür zu künftigen Möglichkeiten</translation>
+    </message>
+</context>
+<context>
+    <name>DiaryCards</name>
+    <message>
+        <source>Invalid procedure call or argument</source>
+        <translation>Ungültiger Prozeduraufruf oder ungültiges Argument</translation>
+    </message>
+    <message>
+        <source> [Select]</source>
+        <translation> [Wählen]</translation>
+    </message>
+</context>
+<context>
+    <name>EntryNotesScreen</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+</context>
+<context>
+    <name>EntryPrintout</name>
+    <message>
+        <source>Page 1</source>
+        <translation>Seite 1</translation>
+    </message>
+    <message>
+        <source>Cartomar</source>
+        <translation>Cartomar</translation>
+    </message>
+    <message>
+        <source>Spread:</source>
+        <translation>Auslage:</translation>
+    </message>
+    <message>
+        <source>Deck:</source>
+        <translation>Deck:</translation>
+    </message>
+    <message>
+        <source>Date &amp; Time:</source>
+        <translation>Datum und Uhrzeit:</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Titel:</translation>
+    </message>
+    <message>
+        <source>Spread © Copyright 2001 By %1.</source>
+        <translation>Auslage © Copyright 2001 von %1.</translation>
+    </message>
+    <message>
+        <source>Deck © Copyright 2001 By %1.</source>
+        <translation>Deck © Copyright 2001 von %1.</translation>
+    </message>
+    <message>
+        <source>%1(Reversed)</source>
+        <translation>%1(Umgekehrt)</translation>
+    </message>
+    <message>
+        <source>%1(Upright)</source>
+        <translation>%1(Aufrecht)</translation>
+    </message>
+    <message>
+        <source>%1 (Reversed)</source>
+        <translation>%1 (Umgekehrt)</translation>
+    </message>
+</context>
+<context>
+    <name>EntryScreen</name>
+    <message>
+        <source>Issue Addressed by this Spread:</source>
+        <translation>Anliegen dieser Legung:</translation>
+    </message>
+</context>
+<context>
+    <name>EntryStore</name>
+    <message>
+        <source>Please select a name to save the reading as.</source>
+        <translation>Bitte wählen Sie einen Namen für die Legung.</translation>
+    </message>
+    <message>
+        <source>Reading already exists. Overwrite?</source>
+        <translation>Die Legung existiert bereits. Überschreiben?</translation>
+    </message>
+    <message>
+        <source>This Reading cannot be opened because the deck that was used to create it is no longer installed.</source>
+        <translation>Diese Legung kann nicht geöffnet werden, weil das Deck, mit dem sie gemacht wurde, nicht mehr installiert ist.</translation>
+    </message>
+    <message>
+        <source>The reading cannot be opened because the too many cards were removed from the deck that was used to create this reading.</source>
+        <translation>Die Legung kann nicht geöffnet werden, weil aus ihrem Deck zu viele Karten entfernt wurden.</translation>
+    </message>
+    <message>
+        <source>The deck used with this reading has changed since the reading was created. Do you still want to open it?
+NOTE: If you choose &apos;Yes&apos;, the reading will be opened with the new deck version and the cards might be corrupted.</source>
+        <translation>Das Deck dieser Legung hat sich seit der Legung geändert. Möchten Sie sie trotzdem öffnen?
+HINWEIS: Wenn Sie &apos;Ja&apos; wählen, wird die Legung mit der neuen Deckversion geöffnet, und die Karten können fehlerhaft sein.</translation>
+    </message>
+    <message>
+        <source>This reading cannot be opened because the spread that was used to create it is no longer installed.</source>
+        <translation>Diese Legung kann nicht geöffnet werden, weil ihre Auslage nicht mehr installiert ist.</translation>
+    </message>
+    <message>
+        <source>The spread used with this reading has changed since the reading was created. Do you still want to open it?
+NOTE: If you choose &apos;Yes&apos;, the reading will be opened with the new spread and the card locations might very well be corrupted.</source>
+        <translation>Die Auslage dieser Legung hat sich seit der Legung geändert. Möchten Sie sie trotzdem öffnen?
+HINWEIS: Wenn Sie &apos;Ja&apos; wählen, wird die Legung mit der neuen Auslage geöffnet, und die Kartenpositionen können durchaus fehlerhaft sein.</translation>
+    </message>
+    <message>
+        <source>Please select a name to save the diary as.</source>
+        <translation>Bitte wählen Sie einen Namen für das Tagebuch.</translation>
+    </message>
+    <message>
+        <source>Diary already exists. Overwrite?</source>
+        <translation>Das Tagebuch existiert bereits. Überschreiben?</translation>
+    </message>
+    <message>
+        <source>This diary cannot be opened because the deck that was used to create it is no longer installed.</source>
+        <translation>Dieses Tagebuch kann nicht geöffnet werden, weil das Deck, mit dem es gemacht wurde, nicht mehr installiert ist.</translation>
+    </message>
+    <message>
+        <source>The Diary cannot be opened because the too many cards were removed from the deck that was used to create this diary.</source>
+        <translation>Das Tagebuch kann nicht geöffnet werden, weil aus seinem Deck zu viele Karten entfernt wurden.</translation>
+    </message>
+    <message>
+        <source>The deck used with this diary has changed since the diary was created. Do you still want to open it?
+NOTE: If you choose &apos;Yes&apos;, the diary will be opened with the new deck version and the cards might be corrupted.</source>
+        <translation>Das Deck dieses Tagebuchs hat sich seitdem geändert. Möchten Sie es trotzdem öffnen?
+HINWEIS: Wenn Sie &apos;Ja&apos; wählen, wird das Tagebuch mit der neuen Deckversion geöffnet, und die Karten können fehlerhaft sein.</translation>
+    </message>
+    <message>
+        <source>This diary cannot be opened because the spread that was used to create it is no longer installed.</source>
+        <translation>Dieses Tagebuch kann nicht geöffnet werden, weil seine Auslage nicht mehr installiert ist.</translation>
+    </message>
+    <message>
+        <source>The spread used with this diary has changed since the diary was created. Do you still want to open it?
+NOTE: If you choose &apos;Yes&apos;, the diary will be opened with the new spread and the card locations might very well be corrupted.</source>
+        <translation>Die Auslage dieses Tagebuchs hat sich seitdem geändert. Möchten Sie es trotzdem öffnen?
+HINWEIS: Wenn Sie &apos;Ja&apos; wählen, wird das Tagebuch mit der neuen Auslage geöffnet, und die Kartenpositionen können durchaus fehlerhaft sein.</translation>
     </message>
 </context>
 <context>
@@ -162,10 +349,214 @@ Bitte speichern Sie Ihre Arbeit, beenden Sie Cartomar und starten Sie es erneut<
     </message>
 </context>
 <context>
-    <name>JournalChart</name>
+    <name>InterpretLocationScreen</name>
     <message>
-        <source>Nothing to show</source>
-        <translation>Nichts anzuzeigen</translation>
+        <source>Interpretation</source>
+        <translation>Deutung</translation>
+    </message>
+    <message>
+        <source>Questions:</source>
+        <translation>Fragen:</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Stichwörter</translation>
+    </message>
+    <message>
+        <source>&amp;Enlarge Pic</source>
+        <translation>&amp;Vergrößern</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>[UNTITLED LOCATION]</source>
+        <translation>[POSITION OHNE TITEL]</translation>
+    </message>
+    <message>
+        <source>%1 (Upright)</source>
+        <translation>%1 (Aufrecht)</translation>
+    </message>
+    <message>
+        <source>%1 (Reversed)</source>
+        <translation>%1 (Umgekehrt)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>Journal</name>
+    <message>
+        <source>Card %1</source>
+        <translation>Karte %1</translation>
+    </message>
+    <message>
+        <source>(no longer installed)</source>
+        <translation>(nicht mehr installiert)</translation>
+    </message>
+    <message>
+        <source>%1 (changed since)</source>
+        <translation>%1 (seitdem geändert)</translation>
+    </message>
+    <message>
+        <source>%1 (damaged record)</source>
+        <translation>%1 (Datensatz beschädigt)</translation>
+    </message>
+    <message>
+        <source>Date,Kind,Entry,Spread,Location,Location Title,Deck,Card,Orientation</source>
+        <translation>Datum,Art,Eintrag,Auslage,Position,Positionstitel,Deck,Karte,Lage</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>no longer installed</source>
+        <translation>nicht mehr installiert</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Aufrecht</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Umgekehrt</translation>
+    </message>
+    <message>
+        <source>Journal Statistics</source>
+        <translation>Journal-Statistik</translation>
+    </message>
+    <message>
+        <source>Entries: %1</source>
+        <translation>Einträge: %1</translation>
+    </message>
+    <message>
+        <source>Locked, not counted: %1</source>
+        <translation>Gesperrt, nicht gezählt: %1</translation>
+    </message>
+    <message>
+        <source>Not attributable to a present card: %1</source>
+        <translation>Keiner vorhandenen Karte zuzuordnen: %1</translation>
+    </message>
+    <message>
+        <source>Upright: %1    Reversed: %2</source>
+        <translation>Aufrecht: %1    Umgekehrt: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The Cards That Came Up Most</source>
+        <translation>Die am häufigsten gezogenen Karten</translation>
+    </message>
+    <message>
+        <source>Entries per Month</source>
+        <translation>Einträge pro Monat</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Gesamt</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Karte</translation>
+    </message>
+</context>
+<context>
+    <name>JournalCardsModel</name>
+    <message>
+        <source>Total</source>
+        <translation>Gesamt</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Aufrecht</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Umgekehrt</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Deck</source>
+        <translation>Deck</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+</context>
+<context>
+    <name>JournalLocationsModel</name>
+    <message>
+        <source>Location</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Cards Most Often There</source>
+        <translation>Häufigste Karten dort</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <translation>; </translation>
+    </message>
+</context>
+<context>
+    <name>JournalResultsModel</name>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Spread</source>
+        <translation>Auslage</translation>
+    </message>
+    <message>
+        <source>Deck</source>
+        <translation>Deck</translation>
+    </message>
+    <message>
+        <source>Cards</source>
+        <translation>Karten</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Legung</translation>
+    </message>
+    <message>
+        <source>Diary</source>
+        <translation>Tagebuch</translation>
+    </message>
+    <message>
+        <source>Locked: open it and give its password to see it</source>
+        <translation>Gesperrt: öffnen Sie sie und geben Sie ihr Kennwort ein, um sie zu sehen</translation>
     </message>
 </context>
 <context>
@@ -202,10 +593,173 @@ Bitte speichern Sie Ihre Arbeit, beenden Sie Cartomar und starten Sie es erneut<
     </message>
 </context>
 <context>
+    <name>OpenEntryScreen</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Journal...</source>
+        <translation>&amp;Journal...</translation>
+    </message>
+</context>
+<context>
     <name>PasswordPrompts</name>
     <message>
         <source>Incorrect password. Access Denied.</source>
         <translation>Falsches Kennwort. Zugriff verweigert.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureImport</name>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PrintEntry</name>
+    <message>
+        <source>Could not print the reading properly. Please make sure that the selected printer is ready.</source>
+        <translation>Die Legung konnte nicht richtig gedruckt werden. Bitte prüfen Sie, ob der gewählte Drucker bereit ist.</translation>
+    </message>
+    <message>
+        <source>Could not print the diary properly. Please make sure that the selected printer is ready.</source>
+        <translation>Das Tagebuch konnte nicht richtig gedruckt werden. Bitte prüfen Sie, ob der gewählte Drucker bereit ist.</translation>
+    </message>
+    <message>
+        <source>Unable to initialize printer.</source>
+        <translation>Der Drucker kann nicht vorbereitet werden.</translation>
+    </message>
+    <message>
+        <source>Error. Please contact Ondine Software Inc.</source>
+        <translation>Fehler. Bitte wenden Sie sich an Ondine Software Inc.</translation>
+    </message>
+    <message>
+        <source>Unable to print! %1 %2</source>
+        <translation>Drucken nicht möglich! %1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>PrintLayout</name>
+    <message>
+        <source>Page %1</source>
+        <translation>Seite %1</translation>
+    </message>
+    <message>
+        <source>Spread: %1</source>
+        <translation>Auslage: %1</translation>
+    </message>
+    <message>
+        <source>Deck: %1</source>
+        <translation>Deck: %1</translation>
+    </message>
+    <message>
+        <source>Date &amp; Time: %1</source>
+        <translation>Datum und Uhrzeit: %1</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>Position: %1</translation>
+    </message>
+    <message>
+        <source>Card: %1</source>
+        <translation>Karte: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SaveEntryScreen</name>
+    <message>
+        <source>Save As:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>SelectSpreadScreen</name>
+    <message>
+        <source>Spread Includes Question/Issue</source>
+        <translation>Auslage mit Frage</translation>
+    </message>
+    <message>
+        <source>Spread Does NOT Includes Question/Issue</source>
+        <translation>Auslage OHNE Frage</translation>
+    </message>
+    <message>
+        <source>Spreads:</source>
+        <translation>Auslagen:</translation>
+    </message>
+    <message>
+        <source>Decks:</source>
+        <translation>Decks:</translation>
+    </message>
+    <message>
+        <source>Card Types:</source>
+        <translation>Kartentypen:</translation>
+    </message>
+    <message>
+        <source>Issue requested</source>
+        <translation>Frage erbeten</translation>
+    </message>
+    <message>
+        <source>Allow reversed cards</source>
+        <translation>Umgekehrte Karten zulassen</translation>
+    </message>
+    <message>
+        <source>Allow duplicate cards</source>
+        <translation>Doppelte Karten zulassen</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>Aus&amp;wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>The card types you have selected are not enough to run this spread.
+Please check more type(s) or change the deck.</source>
+        <translation>Die gewählten Kartentypen reichen für diese Auslage nicht aus.
+Bitte wählen Sie mehr Typen oder ein anderes Deck.</translation>
+    </message>
+</context>
+<context>
+    <name>SpreadStore</name>
+    <message>
+        <source>Please select a name to save the spread as.</source>
+        <translation>Bitte wählen Sie einen Namen für die Auslage.</translation>
+    </message>
+    <message>
+        <source>Spread already exists. Overwrite?</source>
+        <translation>Die Auslage existiert bereits. Überschreiben?</translation>
+    </message>
+    <message>
+        <source>Unable to find this spread. Please &apos;close&apos; and select another spread.</source>
+        <translation>Diese Auslage wurde nicht gefunden. Bitte &apos;Schließen&apos; Sie und wählen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to remove the currently selected background picture?</source>
+        <translation>Möchten Sie das gewählte Hintergrundbild wirklich entfernen?</translation>
     </message>
 </context>
 <context>
@@ -306,6 +860,45 @@ Bitte speichern Sie Ihre Arbeit, beenden Sie Cartomar und starten Sie es erneut<
     </message>
 </context>
 <context>
+    <name>frmDiaryCards</name>
+    <message>
+        <source>Diary Cards</source>
+        <translation>Tagebuchkarten</translation>
+    </message>
+    <message>
+        <source>Card Types:</source>
+        <translation>Kartentypen:</translation>
+    </message>
+    <message>
+        <source>Cards:</source>
+        <translation>Karten:</translation>
+    </message>
+    <message>
+        <source>Card Image:</source>
+        <translation>Kartenbild:</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Umgekehrt</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>Aus&amp;wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Select card for location: %1</source>
+        <translation>Karte für die Position wählen: %1</translation>
+    </message>
+    <message>
+        <source>Please select a card from the list.</source>
+        <translation>Bitte wählen Sie eine Karte aus der Liste.</translation>
+    </message>
+</context>
+<context>
     <name>frmDiaryHelp</name>
     <message>
         <source>Quick Help</source>
@@ -314,6 +907,13 @@ Bitte speichern Sie Ihre Arbeit, beenden Sie Cartomar und starten Sie es erneut<
     <message>
         <source>The Tarot Spread is meant to aid you in your everyday life.  Examine the spread as a whole and use the additional tools included on the spread to help you understand the meaning behind each card.  By double clicking on a card, you get the description of the specific spread location and the interpretation and keywords of the card itself if it has been selected. Furthermore, you can enlarge the card&apos;s picture for a closer view. The card is selected from the cards list and its state is specified by the check box.</source>
         <translation>Die Tarot-Auslage soll Ihnen im Alltag helfen.  Betrachten Sie die Legung als Ganzes und nutzen Sie die zusätzlichen Werkzeuge, um die Bedeutung jeder Karte zu verstehen.  Ein Doppelklick auf eine Karte zeigt die Beschreibung dieser Position sowie Deutung und Stichwörter der Karte, sofern sie gewählt ist. Außerdem können Sie das Bild der Karte vergrößern. Die Karte wird in der Kartenliste gewählt, ihre Lage mit dem Kontrollkästchen.</translation>
+    </message>
+</context>
+<context>
+    <name>frmDiaryNotes</name>
+    <message>
+        <source>Diary Summary and Notes</source>
+        <translation>Übersicht und Notizen des Tagebuchs</translation>
     </message>
 </context>
 <context>
@@ -352,6 +952,249 @@ Bitte speichern Sie Ihre Arbeit, beenden Sie Cartomar und starten Sie es erneut<
     <message>
         <source>&amp;Close</source>
         <translation>S&amp;chließen</translation>
+    </message>
+</context>
+<context>
+    <name>frmImportPictures</name>
+    <message>
+        <source>Import Pictures</source>
+        <translation>Bilder importieren</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Reversed Side</source>
+        <translation>Umgekehrte Seite</translation>
+    </message>
+    <message>
+        <source>T&amp;ype of the selected cards:</source>
+        <translation>T&amp;yp der gewählten Karten:</translation>
+    </message>
+    <message>
+        <source>&amp;Set Type</source>
+        <translation>Typ &amp;setzen</translation>
+    </message>
+    <message>
+        <source>&amp;None: the default picture</source>
+        <translation>&amp;Keine: das Standardbild</translation>
+    </message>
+    <message>
+        <source>The same picture &amp;turned</source>
+        <translation>Dasselbe Bild &amp;gedreht</translation>
+    </message>
+    <message>
+        <source>A &amp;file of its own, found by name</source>
+        <translation>Eine eigene &amp;Datei, nach Namen gefunden</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Not a picture, or cannot be read</source>
+        <translation>Kein Bild oder nicht lesbar</translation>
+    </message>
+    <message>
+        <source>turned</source>
+        <translation>gedreht</translation>
+    </message>
+    <message>
+        <source>none found</source>
+        <translation>keine gefunden</translation>
+    </message>
+    <message>
+        <source>These cards were not added: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Importing pictures...</source>
+        <translation>Bilder werden importiert...</translation>
+    </message>
+    <message>
+        <source>These pictures could not be read and were not added: %1</source>
+        <translation>Diese Bilder konnten nicht gelesen werden und wurden nicht hinzugefügt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>frmJournal</name>
+    <message>
+        <source>Journal</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Either Way</source>
+        <translation>Beliebig</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Aufrecht</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Umgekehrt</translation>
+    </message>
+    <message>
+        <source>Readings and Diaries</source>
+        <translation>Legungen und Tagebücher</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Legungen</translation>
+    </message>
+    <message>
+        <source>Diaries</source>
+        <translation>Tagebücher</translation>
+    </message>
+    <message>
+        <source>&amp;From:</source>
+        <translation>&amp;Von:</translation>
+    </message>
+    <message>
+        <source>&amp;To:</source>
+        <translation>&amp;Bis:</translation>
+    </message>
+    <message>
+        <source>&amp;Words:</source>
+        <translation>&amp;Wörter:</translation>
+    </message>
+    <message>
+        <source>C&amp;ard:</source>
+        <translation>&amp;Karte:</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation:</source>
+        <translation>&amp;Lage:</translation>
+    </message>
+    <message>
+        <source>&amp;Spread:</source>
+        <translation>&amp;Auslage:</translation>
+    </message>
+    <message>
+        <source>&amp;Deck:</source>
+        <translation>&amp;Deck:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>A&amp;rt:</translation>
+    </message>
+    <message>
+        <source>&amp;Results</source>
+        <translation>&amp;Ergebnisse</translation>
+    </message>
+    <message>
+        <source>&amp;Cards</source>
+        <translation>Kar&amp;ten</translation>
+    </message>
+    <message>
+        <source>&amp;Balance</source>
+        <translation>Ver&amp;hältnis</translation>
+    </message>
+    <message>
+        <source>&amp;Locations</source>
+        <translation>&amp;Positionen</translation>
+    </message>
+    <message>
+        <source>&amp;Months</source>
+        <translation>&amp;Monate</translation>
+    </message>
+    <message>
+        <source>O&amp;pen</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Export CSV...</source>
+        <translation>CSV e&amp;xportieren...</translation>
+    </message>
+    <message>
+        <source>Save C&amp;hart...</source>
+        <translation>Dia&amp;gramm speichern...</translation>
+    </message>
+    <message>
+        <source>Pri&amp;nt...</source>
+        <translation>Dr&amp;ucken...</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>(Any Card)</source>
+        <translation>(Beliebige Karte)</translation>
+    </message>
+    <message>
+        <source>(Any Deck)</source>
+        <translation>(Beliebiges Deck)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>(Any Spread)</source>
+        <translation>(Beliebige Auslage)</translation>
+    </message>
+    <message>
+        <source>%1; %2; %3</source>
+        <translation>%1; %2; %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln entries</source>
+        <translation>
+            <numerusform>%Ln Eintrag</numerusform>
+            <numerusform>%Ln Einträge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln locked, not counted</source>
+        <translation>
+            <numerusform>%Ln gesperrt, nicht gezählt</numerusform>
+            <numerusform>%Ln gesperrt, nicht gezählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln not attributable to a present card</source>
+        <translation>
+            <numerusform>%Ln keiner vorhandenen Karte zuzuordnen</numerusform>
+            <numerusform>%Ln keiner vorhandenen Karte zuzuordnen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Export Results</source>
+        <translation>Ergebnisse exportieren</translation>
+    </message>
+    <message>
+        <source>CSV Files (*.csv)|*.csv|All Files (*.*)|*.*</source>
+        <translation>CSV-Dateien (*.csv)|*.csv|Alle Dateien (*.*)|*.*</translation>
+    </message>
+    <message>
+        <source>Save Chart</source>
+        <translation>Diagramm speichern</translation>
+    </message>
+    <message>
+        <source>PNG Pictures (*.png)|*.png</source>
+        <translation>PNG-Bilder (*.png)|*.png</translation>
+    </message>
+    <message>
+        <source>Unable to save the chart as &apos;%1&apos;.</source>
+        <translation>Das Diagramm kann nicht als &apos;%1&apos; gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Unable to print! %1 %2</source>
+        <translation>Drucken nicht möglich! %1 %2</translation>
     </message>
 </context>
 <context>
@@ -458,6 +1301,166 @@ Bitte speichern Sie Ihre Arbeit, beenden Sie Cartomar und starten Sie es erneut<
     </message>
 </context>
 <context>
+    <name>frmNewDiary</name>
+    <message>
+        <source>Diary</source>
+        <translation>Tagebuch</translation>
+    </message>
+    <message>
+        <source>C&amp;ontinue</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>&amp;Interpret</source>
+        <translation>&amp;Deuten</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>Ü&amp;bersicht</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>Dr&amp;ucken</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Sichern</translation>
+    </message>
+    <message>
+        <source>&amp;Quick Help</source>
+        <translation>&amp;Kurzhilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Loc.</source>
+        <translation>Pos.</translation>
+    </message>
+    <message>
+        <source>Select Card</source>
+        <translation>Wählen</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Umgek.</translation>
+    </message>
+    <message>
+        <source>Diary - %1</source>
+        <translation>Tagebuch - %1</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>Save changes to diary before exit?</source>
+        <translation>Änderungen am Tagebuch vor dem Schließen speichern?</translation>
+    </message>
+</context>
+<context>
+    <name>frmNewReading</name>
+    <message>
+        <source>Reading</source>
+        <translation>Legung</translation>
+    </message>
+    <message>
+        <source>C&amp;ontinue</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>&amp;Deal</source>
+        <translation>&amp;Austeilen</translation>
+    </message>
+    <message>
+        <source>&amp;Next Card</source>
+        <translation>&amp;Nächste</translation>
+    </message>
+    <message>
+        <source>&amp;All Cards</source>
+        <translation>A&amp;lle</translation>
+    </message>
+    <message>
+        <source>&amp;Interpret</source>
+        <translation>&amp;Deuten</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>Ü&amp;bersicht</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>Dr&amp;ucken</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Sichern</translation>
+    </message>
+    <message>
+        <source>Shu&amp;ffle</source>
+        <translation>&amp;Mischen</translation>
+    </message>
+    <message>
+        <source>&amp;Quick Help</source>
+        <translation>&amp;Kurzhilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Reading - %1</source>
+        <translation>Legung - %1</translation>
+    </message>
+    <message>
+        <source>No locations were created for this spread.</source>
+        <translation>Für diese Auslage wurden keine Positionen angelegt.</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>Reading - %1: %2</source>
+        <translation>Legung - %1: %2</translation>
+    </message>
+    <message>
+        <source>Save changes to the reading?</source>
+        <translation>Änderungen an der Legung speichern?</translation>
+    </message>
+</context>
+<context>
+    <name>frmOpenDiary</name>
+    <message>
+        <source>Open Diary</source>
+        <translation>Tagebuch öffnen</translation>
+    </message>
+    <message>
+        <source>Select Diary:</source>
+        <translation>Tagebuch wählen:</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete diary &apos;%1&apos; ?</source>
+        <translation>Möchten Sie das Tagebuch &apos;%1&apos; wirklich löschen?</translation>
+    </message>
+</context>
+<context>
+    <name>frmOpenReading</name>
+    <message>
+        <source>Open Reading</source>
+        <translation>Legung öffnen</translation>
+    </message>
+    <message>
+        <source>Select Reading:</source>
+        <translation>Legung wählen:</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete reading &apos;%1&apos; ?</source>
+        <translation>Möchten Sie die Legung &apos;%1&apos; wirklich löschen?</translation>
+    </message>
+</context>
+<context>
     <name>frmQuickHelp</name>
     <message>
         <source>Quick Help</source>
@@ -466,6 +1469,48 @@ Bitte speichern Sie Ihre Arbeit, beenden Sie Cartomar und starten Sie es erneut<
     <message>
         <source>The Tarot Spread is meant to aid you in your everyday life.  Examine the spread as a whole and use the additional tools included on the spread to help you understand the meaning behind each card.  By clicking on a card, you get the description of the specific spread location and the interpretation and keywords of the card itself if it has been opened. Furthermore, you can enlarge the card&apos;s picture for a closer view.</source>
         <translation>Die Tarot-Auslage soll Ihnen im Alltag helfen.  Betrachten Sie die Legung als Ganzes und nutzen Sie die zusätzlichen Werkzeuge, um die Bedeutung jeder Karte zu verstehen.  Ein Klick auf eine Karte zeigt die Beschreibung dieser Position sowie Deutung und Stichwörter der Karte, sofern sie aufgedeckt ist. Außerdem können Sie das Bild der Karte vergrößern.</translation>
+    </message>
+</context>
+<context>
+    <name>frmReadingCards</name>
+    <message>
+        <source>Cards</source>
+        <translation>Karten</translation>
+    </message>
+</context>
+<context>
+    <name>frmReadingNotes</name>
+    <message>
+        <source>Reading Summary and Notes</source>
+        <translation>Übersicht und Notizen der Legung</translation>
+    </message>
+</context>
+<context>
+    <name>frmSaveDiary</name>
+    <message>
+        <source>Save Diary</source>
+        <translation>Tagebuch speichern</translation>
+    </message>
+</context>
+<context>
+    <name>frmSaveReading</name>
+    <message>
+        <source>Save Reading</source>
+        <translation>Legung speichern</translation>
+    </message>
+</context>
+<context>
+    <name>frmSelectSpread</name>
+    <message>
+        <source>Select a Spread for the Reading</source>
+        <translation>Auslage für die Legung wählen</translation>
+    </message>
+</context>
+<context>
+    <name>frmSelectSpreadforDiary</name>
+    <message>
+        <source>Select a Spread for the Diary</source>
+        <translation>Auslage für das Tagebuch wählen</translation>
     </message>
 </context>
 <context>

@@ -2,10 +2,197 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>ChartLayout</name>
+    <message>
+        <source>Nothing to show</source>
+        <translation>No hay nada que mostrar</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 (%3 %4, %5 %6)</source>
+        <translation>%1: %2 (%3 %4, %5 %6)</translation>
+    </message>
+</context>
+<context>
+    <name>DeckStore</name>
+    <message>
+        <source>Error number %1.  %2</source>
+        <translation>Error número %1.  %2</translation>
+    </message>
+    <message>
+        <source>Please select a name to save the deck as.</source>
+        <translation>Elija un nombre para guardar la baraja.</translation>
+    </message>
+    <message>
+        <source>Deck already exists. Overwrite?</source>
+        <translation>La baraja ya existe. ¿Desea sobrescribirla?</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete deck &apos;%1&apos; ?
+Be aware that this deck will be removed from all spreads that use it.</source>
+        <translation>¿Seguro que desea eliminar la baraja &apos;%1&apos;?
+Tenga en cuenta que la baraja se quitará de todas las tiradas que la usan.</translation>
+    </message>
+    <message>
+        <source>At least one spread uses solely this deck. Further, any readings or diaries that
+use this deck will not be able to be opened. Proceed anyway?</source>
+        <translation>Al menos una tirada usa solo esta baraja. Además, las lecturas y diarios que
+usan esta baraja ya no se podrán abrir. ¿Desea continuar?</translation>
+    </message>
+    <message>
+        <source>Any readings or diaries using this deck will not be able to be opened.
+Proceed anyway?</source>
+        <translation>Las lecturas y diarios que usan esta baraja ya no se podrán abrir.
+¿Desea continuar?</translation>
+    </message>
+</context>
+<context>
     <name>DecorativePictures</name>
     <message>
         <source>Unlock the Door to Future Possibilities</source>
         <translation>Abra la puerta a las posibilidades futuras</translation>
+    </message>
+</context>
+<context>
+    <name>DiaryCards</name>
+    <message>
+        <source>Invalid procedure call or argument</source>
+        <translation>Llamada a procedimiento o argumento no válidos</translation>
+    </message>
+    <message>
+        <source> [Select]</source>
+        <translation> [Elegir]</translation>
+    </message>
+</context>
+<context>
+    <name>EntryNotesScreen</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>EntryPrintout</name>
+    <message>
+        <source>Page 1</source>
+        <translation>Página 1</translation>
+    </message>
+    <message>
+        <source>Cartomar</source>
+        <translation>Cartomar</translation>
+    </message>
+    <message>
+        <source>Spread:</source>
+        <translation>Tirada:</translation>
+    </message>
+    <message>
+        <source>Deck:</source>
+        <translation>Baraja:</translation>
+    </message>
+    <message>
+        <source>Date &amp; Time:</source>
+        <translation>Fecha y hora:</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Título:</translation>
+    </message>
+    <message>
+        <source>Spread © Copyright 2001 By %1.</source>
+        <translation>Tirada © Copyright 2001 de %1.</translation>
+    </message>
+    <message>
+        <source>Deck © Copyright 2001 By %1.</source>
+        <translation>Baraja © Copyright 2001 de %1.</translation>
+    </message>
+    <message>
+        <source>%1(Reversed)</source>
+        <translation>%1(Invertida)</translation>
+    </message>
+    <message>
+        <source>%1(Upright)</source>
+        <translation>%1(Al derecho)</translation>
+    </message>
+    <message>
+        <source>%1 (Reversed)</source>
+        <translation>%1 (Invertida)</translation>
+    </message>
+</context>
+<context>
+    <name>EntryScreen</name>
+    <message>
+        <source>Issue Addressed by this Spread:</source>
+        <translation>Pregunta planteada a esta tirada:</translation>
+    </message>
+</context>
+<context>
+    <name>EntryStore</name>
+    <message>
+        <source>Please select a name to save the reading as.</source>
+        <translation>Elija un nombre para guardar la lectura.</translation>
+    </message>
+    <message>
+        <source>Reading already exists. Overwrite?</source>
+        <translation>La lectura ya existe. ¿Desea sobrescribirla?</translation>
+    </message>
+    <message>
+        <source>This Reading cannot be opened because the deck that was used to create it is no longer installed.</source>
+        <translation>Esta lectura no se puede abrir porque la baraja con que se hizo ya no está instalada.</translation>
+    </message>
+    <message>
+        <source>The reading cannot be opened because the too many cards were removed from the deck that was used to create this reading.</source>
+        <translation>La lectura no se puede abrir porque se quitaron demasiadas cartas de la baraja con que se hizo.</translation>
+    </message>
+    <message>
+        <source>The deck used with this reading has changed since the reading was created. Do you still want to open it?
+NOTE: If you choose &apos;Yes&apos;, the reading will be opened with the new deck version and the cards might be corrupted.</source>
+        <translation>La baraja de esta lectura ha cambiado desde que se hizo la lectura. ¿Desea abrirla de todos modos?
+NOTA: si elige &apos;Sí&apos;, la lectura se abrirá con la nueva versión de la baraja y las cartas podrían quedar dañadas.</translation>
+    </message>
+    <message>
+        <source>This reading cannot be opened because the spread that was used to create it is no longer installed.</source>
+        <translation>Esta lectura no se puede abrir porque la tirada con que se hizo ya no está instalada.</translation>
+    </message>
+    <message>
+        <source>The spread used with this reading has changed since the reading was created. Do you still want to open it?
+NOTE: If you choose &apos;Yes&apos;, the reading will be opened with the new spread and the card locations might very well be corrupted.</source>
+        <translation>La tirada de esta lectura ha cambiado desde que se hizo la lectura. ¿Desea abrirla de todos modos?
+NOTA: si elige &apos;Sí&apos;, la lectura se abrirá con la nueva tirada y las posiciones de las cartas podrían quedar dañadas.</translation>
+    </message>
+    <message>
+        <source>Please select a name to save the diary as.</source>
+        <translation>Elija un nombre para guardar el diario.</translation>
+    </message>
+    <message>
+        <source>Diary already exists. Overwrite?</source>
+        <translation>El diario ya existe. ¿Desea sobrescribirlo?</translation>
+    </message>
+    <message>
+        <source>This diary cannot be opened because the deck that was used to create it is no longer installed.</source>
+        <translation>Este diario no se puede abrir porque la baraja con que se hizo ya no está instalada.</translation>
+    </message>
+    <message>
+        <source>The Diary cannot be opened because the too many cards were removed from the deck that was used to create this diary.</source>
+        <translation>El diario no se puede abrir porque se quitaron demasiadas cartas de la baraja con que se hizo.</translation>
+    </message>
+    <message>
+        <source>The deck used with this diary has changed since the diary was created. Do you still want to open it?
+NOTE: If you choose &apos;Yes&apos;, the diary will be opened with the new deck version and the cards might be corrupted.</source>
+        <translation>La baraja de este diario ha cambiado desde que se hizo el diario. ¿Desea abrirlo de todos modos?
+NOTA: si elige &apos;Sí&apos;, el diario se abrirá con la nueva versión de la baraja y las cartas podrían quedar dañadas.</translation>
+    </message>
+    <message>
+        <source>This diary cannot be opened because the spread that was used to create it is no longer installed.</source>
+        <translation>Este diario no se puede abrir porque la tirada con que se hizo ya no está instalada.</translation>
+    </message>
+    <message>
+        <source>The spread used with this diary has changed since the diary was created. Do you still want to open it?
+NOTE: If you choose &apos;Yes&apos;, the diary will be opened with the new spread and the card locations might very well be corrupted.</source>
+        <translation>La tirada de este diario ha cambiado desde que se hizo el diario. ¿Desea abrirlo de todos modos?
+NOTA: si elige &apos;Sí&apos;, el diario se abrirá con la nueva tirada y las posiciones de las cartas podrían quedar dañadas.</translation>
     </message>
 </context>
 <context>
@@ -162,10 +349,214 @@ Guarde todo su trabajo, salga de Cartomar y vuelva a iniciarlo</translation>
     </message>
 </context>
 <context>
-    <name>JournalChart</name>
+    <name>InterpretLocationScreen</name>
     <message>
-        <source>Nothing to show</source>
-        <translation>No hay nada que mostrar</translation>
+        <source>Interpretation</source>
+        <translation>Interpretación</translation>
+    </message>
+    <message>
+        <source>Questions:</source>
+        <translation>Preguntas:</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descripción</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Palabras clave</translation>
+    </message>
+    <message>
+        <source>&amp;Enlarge Pic</source>
+        <translation>&amp;Ampliar</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>[UNTITLED LOCATION]</source>
+        <translation>[POSICIÓN SIN TÍTULO]</translation>
+    </message>
+    <message>
+        <source>%1 (Upright)</source>
+        <translation>%1 (Al derecho)</translation>
+    </message>
+    <message>
+        <source>%1 (Reversed)</source>
+        <translation>%1 (Invertida)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Atrás</translation>
+    </message>
+</context>
+<context>
+    <name>Journal</name>
+    <message>
+        <source>Card %1</source>
+        <translation>Carta %1</translation>
+    </message>
+    <message>
+        <source>(no longer installed)</source>
+        <translation>(ya no instalada)</translation>
+    </message>
+    <message>
+        <source>%1 (changed since)</source>
+        <translation>%1 (modificada después)</translation>
+    </message>
+    <message>
+        <source>%1 (damaged record)</source>
+        <translation>%1 (registro dañado)</translation>
+    </message>
+    <message>
+        <source>Date,Kind,Entry,Spread,Location,Location Title,Deck,Card,Orientation</source>
+        <translation>Fecha,Tipo,Entrada,Tirada,Posición,Título de la posición,Baraja,Carta,Orientación</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>no longer installed</source>
+        <translation>ya no instalada</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Al derecho</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Invertida</translation>
+    </message>
+    <message>
+        <source>Journal Statistics</source>
+        <translation>Estadísticas del registro</translation>
+    </message>
+    <message>
+        <source>Entries: %1</source>
+        <translation>Entradas: %1</translation>
+    </message>
+    <message>
+        <source>Locked, not counted: %1</source>
+        <translation>Bloqueadas, sin contar: %1</translation>
+    </message>
+    <message>
+        <source>Not attributable to a present card: %1</source>
+        <translation>Sin carta actual a la que atribuirlas: %1</translation>
+    </message>
+    <message>
+        <source>Upright: %1    Reversed: %2</source>
+        <translation>Al derecho: %1    Invertidas: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The Cards That Came Up Most</source>
+        <translation>Las cartas que más salieron</translation>
+    </message>
+    <message>
+        <source>Entries per Month</source>
+        <translation>Entradas por mes</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Carta</translation>
+    </message>
+</context>
+<context>
+    <name>JournalCardsModel</name>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Al derecho</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Invertida</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Carta</translation>
+    </message>
+    <message>
+        <source>Deck</source>
+        <translation>Baraja</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+</context>
+<context>
+    <name>JournalLocationsModel</name>
+    <message>
+        <source>Location</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Cards Most Often There</source>
+        <translation>Cartas más frecuentes</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <translation>; </translation>
+    </message>
+</context>
+<context>
+    <name>JournalResultsModel</name>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Spread</source>
+        <translation>Tirada</translation>
+    </message>
+    <message>
+        <source>Deck</source>
+        <translation>Baraja</translation>
+    </message>
+    <message>
+        <source>Cards</source>
+        <translation>Cartas</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lectura</translation>
+    </message>
+    <message>
+        <source>Diary</source>
+        <translation>Diario</translation>
+    </message>
+    <message>
+        <source>Locked: open it and give its password to see it</source>
+        <translation>Bloqueada: ábrala y escriba su contraseña para verla</translation>
     </message>
 </context>
 <context>
@@ -202,10 +593,173 @@ Guarde todo su trabajo, salga de Cartomar y vuelva a iniciarlo</translation>
     </message>
 </context>
 <context>
+    <name>OpenEntryScreen</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Abrir</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Journal...</source>
+        <translation>&amp;Registro...</translation>
+    </message>
+</context>
+<context>
     <name>PasswordPrompts</name>
     <message>
         <source>Incorrect password. Access Denied.</source>
         <translation>Contraseña incorrecta. Acceso denegado.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureImport</name>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PrintEntry</name>
+    <message>
+        <source>Could not print the reading properly. Please make sure that the selected printer is ready.</source>
+        <translation>No se pudo imprimir bien la lectura. Compruebe que la impresora elegida está preparada.</translation>
+    </message>
+    <message>
+        <source>Could not print the diary properly. Please make sure that the selected printer is ready.</source>
+        <translation>No se pudo imprimir bien el diario. Compruebe que la impresora elegida está preparada.</translation>
+    </message>
+    <message>
+        <source>Unable to initialize printer.</source>
+        <translation>No se puede preparar la impresora.</translation>
+    </message>
+    <message>
+        <source>Error. Please contact Ondine Software Inc.</source>
+        <translation>Error. Póngase en contacto con Ondine Software Inc.</translation>
+    </message>
+    <message>
+        <source>Unable to print! %1 %2</source>
+        <translation>¡No se puede imprimir! %1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>PrintLayout</name>
+    <message>
+        <source>Page %1</source>
+        <translation>Página %1</translation>
+    </message>
+    <message>
+        <source>Spread: %1</source>
+        <translation>Tirada: %1</translation>
+    </message>
+    <message>
+        <source>Deck: %1</source>
+        <translation>Baraja: %1</translation>
+    </message>
+    <message>
+        <source>Date &amp; Time: %1</source>
+        <translation>Fecha y hora: %1</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>Posición: %1</translation>
+    </message>
+    <message>
+        <source>Card: %1</source>
+        <translation>Carta: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SaveEntryScreen</name>
+    <message>
+        <source>Save As:</source>
+        <translation>Nombre:</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>SelectSpreadScreen</name>
+    <message>
+        <source>Spread Includes Question/Issue</source>
+        <translation>La tirada incluye una pregunta</translation>
+    </message>
+    <message>
+        <source>Spread Does NOT Includes Question/Issue</source>
+        <translation>La tirada NO incluye pregunta</translation>
+    </message>
+    <message>
+        <source>Spreads:</source>
+        <translation>Tiradas:</translation>
+    </message>
+    <message>
+        <source>Decks:</source>
+        <translation>Barajas:</translation>
+    </message>
+    <message>
+        <source>Card Types:</source>
+        <translation>Tipos de carta:</translation>
+    </message>
+    <message>
+        <source>Issue requested</source>
+        <translation>Pregunta solicitada</translation>
+    </message>
+    <message>
+        <source>Allow reversed cards</source>
+        <translation>Permitir cartas invertidas</translation>
+    </message>
+    <message>
+        <source>Allow duplicate cards</source>
+        <translation>Permitir cartas repetidas</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>&amp;Seleccionar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>The card types you have selected are not enough to run this spread.
+Please check more type(s) or change the deck.</source>
+        <translation>Los tipos de carta elegidos no bastan para esta tirada.
+Marque más tipos o cambie de baraja.</translation>
+    </message>
+</context>
+<context>
+    <name>SpreadStore</name>
+    <message>
+        <source>Please select a name to save the spread as.</source>
+        <translation>Elija un nombre para guardar la tirada.</translation>
+    </message>
+    <message>
+        <source>Spread already exists. Overwrite?</source>
+        <translation>La tirada ya existe. ¿Desea sobrescribirla?</translation>
+    </message>
+    <message>
+        <source>Unable to find this spread. Please &apos;close&apos; and select another spread.</source>
+        <translation>No se encuentra esta tirada. Pulse &apos;Cerrar&apos; y elija otra tirada.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to remove the currently selected background picture?</source>
+        <translation>¿Seguro que desea quitar la imagen de fondo elegida?</translation>
     </message>
 </context>
 <context>
@@ -306,6 +860,45 @@ Guarde todo su trabajo, salga de Cartomar y vuelva a iniciarlo</translation>
     </message>
 </context>
 <context>
+    <name>frmDiaryCards</name>
+    <message>
+        <source>Diary Cards</source>
+        <translation>Cartas del diario</translation>
+    </message>
+    <message>
+        <source>Card Types:</source>
+        <translation>Tipos de carta:</translation>
+    </message>
+    <message>
+        <source>Cards:</source>
+        <translation>Cartas:</translation>
+    </message>
+    <message>
+        <source>Card Image:</source>
+        <translation>Imagen de la carta:</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Invertida</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>&amp;Seleccionar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Select card for location: %1</source>
+        <translation>Elija la carta de la posición: %1</translation>
+    </message>
+    <message>
+        <source>Please select a card from the list.</source>
+        <translation>Elija una carta de la lista.</translation>
+    </message>
+</context>
+<context>
     <name>frmDiaryHelp</name>
     <message>
         <source>Quick Help</source>
@@ -314,6 +907,13 @@ Guarde todo su trabajo, salga de Cartomar y vuelva a iniciarlo</translation>
     <message>
         <source>The Tarot Spread is meant to aid you in your everyday life.  Examine the spread as a whole and use the additional tools included on the spread to help you understand the meaning behind each card.  By double clicking on a card, you get the description of the specific spread location and the interpretation and keywords of the card itself if it has been selected. Furthermore, you can enlarge the card&apos;s picture for a closer view. The card is selected from the cards list and its state is specified by the check box.</source>
         <translation>La tirada de tarot está pensada para ayudarle en su vida diaria.  Observe la tirada en su conjunto y use las herramientas adicionales de la tirada para entender el significado de cada carta.  Al hacer doble clic en una carta, obtiene la descripción de esa posición de la tirada y la interpretación y las palabras clave de la carta, si ya se ha elegido. Además, puede ampliar la imagen de la carta para verla de cerca. La carta se elige en la lista de cartas y su estado se indica con la casilla.</translation>
+    </message>
+</context>
+<context>
+    <name>frmDiaryNotes</name>
+    <message>
+        <source>Diary Summary and Notes</source>
+        <translation>Resumen y notas del diario</translation>
     </message>
 </context>
 <context>
@@ -352,6 +952,249 @@ Guarde todo su trabajo, salga de Cartomar y vuelva a iniciarlo</translation>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>frmImportPictures</name>
+    <message>
+        <source>Import Pictures</source>
+        <translation>Importar imágenes</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Reversed Side</source>
+        <translation>Lado invertido</translation>
+    </message>
+    <message>
+        <source>T&amp;ype of the selected cards:</source>
+        <translation>T&amp;ipo de las cartas elegidas:</translation>
+    </message>
+    <message>
+        <source>&amp;Set Type</source>
+        <translation>&amp;Asignar tipo</translation>
+    </message>
+    <message>
+        <source>&amp;None: the default picture</source>
+        <translation>&amp;Ninguno: la imagen predeterminada</translation>
+    </message>
+    <message>
+        <source>The same picture &amp;turned</source>
+        <translation>La misma imagen &amp;girada</translation>
+    </message>
+    <message>
+        <source>A &amp;file of its own, found by name</source>
+        <translation>Un &amp;archivo propio, hallado por su nombre</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Not a picture, or cannot be read</source>
+        <translation>No es una imagen o no se puede leer</translation>
+    </message>
+    <message>
+        <source>turned</source>
+        <translation>girada</translation>
+    </message>
+    <message>
+        <source>none found</source>
+        <translation>no encontrado</translation>
+    </message>
+    <message>
+        <source>These cards were not added: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Importing pictures...</source>
+        <translation>Importando imágenes...</translation>
+    </message>
+    <message>
+        <source>These pictures could not be read and were not added: %1</source>
+        <translation>Estas imágenes no se pudieron leer y no se añadieron: %1</translation>
+    </message>
+</context>
+<context>
+    <name>frmJournal</name>
+    <message>
+        <source>Journal</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Either Way</source>
+        <translation>Cualquiera</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Al derecho</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Invertida</translation>
+    </message>
+    <message>
+        <source>Readings and Diaries</source>
+        <translation>Lecturas y diarios</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Lecturas</translation>
+    </message>
+    <message>
+        <source>Diaries</source>
+        <translation>Diarios</translation>
+    </message>
+    <message>
+        <source>&amp;From:</source>
+        <translation>&amp;Desde:</translation>
+    </message>
+    <message>
+        <source>&amp;To:</source>
+        <translation>&amp;Hasta:</translation>
+    </message>
+    <message>
+        <source>&amp;Words:</source>
+        <translation>Pa&amp;labras:</translation>
+    </message>
+    <message>
+        <source>C&amp;ard:</source>
+        <translation>C&amp;arta:</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation:</source>
+        <translation>&amp;Orientación:</translation>
+    </message>
+    <message>
+        <source>&amp;Spread:</source>
+        <translation>&amp;Tirada:</translation>
+    </message>
+    <message>
+        <source>&amp;Deck:</source>
+        <translation>Bara&amp;ja:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>T&amp;ipo:</translation>
+    </message>
+    <message>
+        <source>&amp;Results</source>
+        <translation>&amp;Resultados</translation>
+    </message>
+    <message>
+        <source>&amp;Cards</source>
+        <translation>Carta&amp;s</translation>
+    </message>
+    <message>
+        <source>&amp;Balance</source>
+        <translation>E&amp;quilibrio</translation>
+    </message>
+    <message>
+        <source>&amp;Locations</source>
+        <translation>Posicio&amp;nes</translation>
+    </message>
+    <message>
+        <source>&amp;Months</source>
+        <translation>&amp;Meses</translation>
+    </message>
+    <message>
+        <source>O&amp;pen</source>
+        <translation>A&amp;brir</translation>
+    </message>
+    <message>
+        <source>&amp;Export CSV...</source>
+        <translation>E&amp;xportar CSV...</translation>
+    </message>
+    <message>
+        <source>Save C&amp;hart...</source>
+        <translation>&amp;Guardar gráfico...</translation>
+    </message>
+    <message>
+        <source>Pri&amp;nt...</source>
+        <translation>Im&amp;primir...</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>(Any Card)</source>
+        <translation>(Cualquier carta)</translation>
+    </message>
+    <message>
+        <source>(Any Deck)</source>
+        <translation>(Cualquier baraja)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>(Any Spread)</source>
+        <translation>(Cualquier tirada)</translation>
+    </message>
+    <message>
+        <source>%1; %2; %3</source>
+        <translation>%1; %2; %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln entries</source>
+        <translation>
+            <numerusform>%Ln entrada</numerusform>
+            <numerusform>%Ln entradas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln locked, not counted</source>
+        <translation>
+            <numerusform>%Ln bloqueada, sin contar</numerusform>
+            <numerusform>%Ln bloqueadas, sin contar</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln not attributable to a present card</source>
+        <translation>
+            <numerusform>%Ln sin carta actual a la que atribuirla</numerusform>
+            <numerusform>%Ln sin carta actual a la que atribuirlas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Export Results</source>
+        <translation>Exportar resultados</translation>
+    </message>
+    <message>
+        <source>CSV Files (*.csv)|*.csv|All Files (*.*)|*.*</source>
+        <translation>Archivos CSV (*.csv)|*.csv|Todos los archivos (*.*)|*.*</translation>
+    </message>
+    <message>
+        <source>Save Chart</source>
+        <translation>Guardar gráfico</translation>
+    </message>
+    <message>
+        <source>PNG Pictures (*.png)|*.png</source>
+        <translation>Imágenes PNG (*.png)|*.png</translation>
+    </message>
+    <message>
+        <source>Unable to save the chart as &apos;%1&apos;.</source>
+        <translation>No se puede guardar el gráfico como &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>Unable to print! %1 %2</source>
+        <translation>¡No se puede imprimir! %1 %2</translation>
     </message>
 </context>
 <context>
@@ -458,6 +1301,166 @@ Guarde todo su trabajo, salga de Cartomar y vuelva a iniciarlo</translation>
     </message>
 </context>
 <context>
+    <name>frmNewDiary</name>
+    <message>
+        <source>Diary</source>
+        <translation>Diario</translation>
+    </message>
+    <message>
+        <source>C&amp;ontinue</source>
+        <translation>&amp;Seguir</translation>
+    </message>
+    <message>
+        <source>&amp;Interpret</source>
+        <translation>&amp;Leer</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>Res&amp;umen</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>Im&amp;primir</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>&amp;Quick Help</source>
+        <translation>&amp;Ayuda</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Loc.</source>
+        <translation>Pos.</translation>
+    </message>
+    <message>
+        <source>Select Card</source>
+        <translation>Elegir</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Invert.</translation>
+    </message>
+    <message>
+        <source>Diary - %1</source>
+        <translation>Diario - %1</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>Atrá&amp;s</translation>
+    </message>
+    <message>
+        <source>Save changes to diary before exit?</source>
+        <translation>¿Desea guardar los cambios del diario antes de salir?</translation>
+    </message>
+</context>
+<context>
+    <name>frmNewReading</name>
+    <message>
+        <source>Reading</source>
+        <translation>Lectura</translation>
+    </message>
+    <message>
+        <source>C&amp;ontinue</source>
+        <translation>&amp;Seguir</translation>
+    </message>
+    <message>
+        <source>&amp;Deal</source>
+        <translation>&amp;Repartir</translation>
+    </message>
+    <message>
+        <source>&amp;Next Card</source>
+        <translation>S&amp;iguiente</translation>
+    </message>
+    <message>
+        <source>&amp;All Cards</source>
+        <translation>&amp;Todas</translation>
+    </message>
+    <message>
+        <source>&amp;Interpret</source>
+        <translation>&amp;Leer</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>Res&amp;umen</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>Im&amp;primir</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>Shu&amp;ffle</source>
+        <translation>&amp;Barajar</translation>
+    </message>
+    <message>
+        <source>&amp;Quick Help</source>
+        <translation>&amp;Ayuda</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Reading - %1</source>
+        <translation>Lectura - %1</translation>
+    </message>
+    <message>
+        <source>No locations were created for this spread.</source>
+        <translation>Esta tirada no tiene posiciones.</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>Atrá&amp;s</translation>
+    </message>
+    <message>
+        <source>Reading - %1: %2</source>
+        <translation>Lectura - %1: %2</translation>
+    </message>
+    <message>
+        <source>Save changes to the reading?</source>
+        <translation>¿Desea guardar los cambios de la lectura?</translation>
+    </message>
+</context>
+<context>
+    <name>frmOpenDiary</name>
+    <message>
+        <source>Open Diary</source>
+        <translation>Abrir diario</translation>
+    </message>
+    <message>
+        <source>Select Diary:</source>
+        <translation>Elija el diario:</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete diary &apos;%1&apos; ?</source>
+        <translation>¿Seguro que desea eliminar el diario &apos;%1&apos;?</translation>
+    </message>
+</context>
+<context>
+    <name>frmOpenReading</name>
+    <message>
+        <source>Open Reading</source>
+        <translation>Abrir lectura</translation>
+    </message>
+    <message>
+        <source>Select Reading:</source>
+        <translation>Elija la lectura:</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete reading &apos;%1&apos; ?</source>
+        <translation>¿Seguro que desea eliminar la lectura &apos;%1&apos;?</translation>
+    </message>
+</context>
+<context>
     <name>frmQuickHelp</name>
     <message>
         <source>Quick Help</source>
@@ -466,6 +1469,48 @@ Guarde todo su trabajo, salga de Cartomar y vuelva a iniciarlo</translation>
     <message>
         <source>The Tarot Spread is meant to aid you in your everyday life.  Examine the spread as a whole and use the additional tools included on the spread to help you understand the meaning behind each card.  By clicking on a card, you get the description of the specific spread location and the interpretation and keywords of the card itself if it has been opened. Furthermore, you can enlarge the card&apos;s picture for a closer view.</source>
         <translation>La tirada de tarot está pensada para ayudarle en su vida diaria.  Observe la tirada en su conjunto y use las herramientas adicionales de la tirada para entender el significado de cada carta.  Al hacer clic en una carta, obtiene la descripción de esa posición de la tirada y la interpretación y las palabras clave de la carta, si ya se ha descubierto. Además, puede ampliar la imagen de la carta para verla de cerca.</translation>
+    </message>
+</context>
+<context>
+    <name>frmReadingCards</name>
+    <message>
+        <source>Cards</source>
+        <translation>Cartas</translation>
+    </message>
+</context>
+<context>
+    <name>frmReadingNotes</name>
+    <message>
+        <source>Reading Summary and Notes</source>
+        <translation>Resumen y notas de la lectura</translation>
+    </message>
+</context>
+<context>
+    <name>frmSaveDiary</name>
+    <message>
+        <source>Save Diary</source>
+        <translation>Guardar diario</translation>
+    </message>
+</context>
+<context>
+    <name>frmSaveReading</name>
+    <message>
+        <source>Save Reading</source>
+        <translation>Guardar lectura</translation>
+    </message>
+</context>
+<context>
+    <name>frmSelectSpread</name>
+    <message>
+        <source>Select a Spread for the Reading</source>
+        <translation>Elija una tirada para la lectura</translation>
+    </message>
+</context>
+<context>
+    <name>frmSelectSpreadforDiary</name>
+    <message>
+        <source>Select a Spread for the Diary</source>
+        <translation>Elija una tirada para el diario</translation>
     </message>
 </context>
 <context>
