@@ -125,7 +125,7 @@ Trotzdem fortfahren?</translation>
     <name>EntryScreen</name>
     <message>
         <source>Issue Addressed by this Spread:</source>
-        <translation>Anliegen dieser Legung:</translation>
+        <translation>Anliegen dieser Auslage:</translation>
     </message>
 </context>
 <context>
