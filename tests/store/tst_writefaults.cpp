@@ -114,8 +114,9 @@ using Fixtures::NamedDiary;
 using Fixtures::NamedReading;
 
 // Two decks, two spreads, three readings, two diary entries; and a package
-// of one deck and one spread staged in Temp/ as its creation stages it, then
-// taken out of the folder's own designs, as an extraction leaves it.
+// of one deck and one spread staged in Temp/ as its creation stages it, as an
+// extraction leaves it, the spread then taken out of the folder's own
+// designs and the deck left for the package to overwrite.
 void MakeFixture(const QString& dir) {
     Fixtures::UseProgramDir(dir);
     const Integer deckA = Fixtures::MakeDeck(QStringLiteral("Deck A"), 3, true);
@@ -136,7 +137,6 @@ void MakeFixture(const QString& dir) {
     staging.StageCards();
     staging.StageSpreads();
     DeleteSpread(CountSpreads());
-    DeleteDeck(FindDeckByName(QStringLiteral("Packed")));
 }
 
 // Puts a deck in the designer's place, pictures in Temp/, as the save screen
@@ -204,6 +204,7 @@ const QList<Operation>& Operations() {
          [] {
              InstallAnswers answers;
              answers.Chosen = {QStringLiteral("Packed")};
+             answers.Exists = DesignExistsOverwriteAll;
              PackageInstallation(answers, {}).Install();
          }},
     };

@@ -186,7 +186,7 @@ void frmInstallPackage::cmdInstall_Click() {
     if (!PackageExtracted) ExtractFiles();
     bool ended = false;
     if (!ExtractFailed) {
-        // An error part-way (a list that runs out of places) ends the
+        // An error part-way (a file that cannot be written) ends the
         // installation with the error box and nothing written; a damaged
         // package is refused before anything is asked. Either way the
         // screen stays for another choice.
