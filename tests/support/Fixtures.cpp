@@ -10,8 +10,6 @@
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
-#include "screens/shell/MDIMainForm.h"
-#include "screens/store/Startup.h"
 
 namespace Fixtures {
 
@@ -20,13 +18,6 @@ namespace {
 void MakeEmptyFile(const QString& path) { WriteWholeFile(path, QByteArray()); }
 
 }  // namespace
-
-void StandUpFrame(const QString& dir) {
-    WriteWholeFile(dir + QStringLiteral("/Location.loc"), QByteArray());
-    WriteWholeFile(dir + QStringLiteral("/Decks.dck"), QByteArray(DeckRecord::Length, '\0'));
-    MDIMainForm::SetProgramDirectory(dir);
-    Get<MDIMainForm>();
-}
 
 void UseProgramDir(const QString& dir) {
     ResetRunState();
