@@ -7,6 +7,7 @@
 #include "core/platform/Picture.h"
 #include "core/records/RecordFile.h"
 #include "core/store/DeckLoading.h"
+#include "core/store/Housekeeping.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
