@@ -7,11 +7,10 @@
 #include "core/platform/Picture.h"
 #include "core/records/RecordFile.h"
 #include "core/store/DeckLoading.h"
+#include "core/store/Housekeeping.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
-#include "screens/shell/MDIMainForm.h"
-#include "screens/store/Startup.h"
 
 namespace Fixtures {
 
@@ -20,13 +19,6 @@ namespace {
 void MakeEmptyFile(const QString& path) { WriteWholeFile(path, QByteArray()); }
 
 }  // namespace
-
-void StandUpFrame(const QString& dir) {
-    WriteWholeFile(dir + QStringLiteral("/Location.loc"), QByteArray());
-    WriteWholeFile(dir + QStringLiteral("/Decks.dck"), QByteArray(DeckRecord::Length, '\0'));
-    MDIMainForm::SetProgramDirectory(dir);
-    Get<MDIMainForm>();
-}
 
 void UseProgramDir(const QString& dir) {
     ResetRunState();
