@@ -68,8 +68,9 @@ private slots:
         QFile::remove(dir_.path() + QStringLiteral("/Cartomar.hlp"));
         SendMouse(label, QEvent::MouseButtonPress, inside, Qt::LeftButton, Qt::LeftButton);
         SendMouse(label, QEvent::MouseButtonRelease, inside, Qt::LeftButton, Qt::NoButton);
-        QCOMPARE(Prompts(), QStringList{QStringLiteral("Unable to locate help file. The file is longer in the '") + dir_.path() +
-                     QStringLiteral("' directory. Recopy the help file or reinstall Cartomar.")});
+        QCOMPARE(Prompts(),
+                 QStringList{QStringLiteral("Unable to locate help file. The file is longer in the '") + dir_.path() +
+                             QStringLiteral("' directory. Recopy the help file or reinstall Cartomar.")});
         QVERIFY(!IsLoaded<frmHelpViewer>());
     }
 

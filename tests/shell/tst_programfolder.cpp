@@ -64,7 +64,7 @@ private slots:
 
     void aFolderThatTakesFilesIsTheProgramFolder() {
         QVERIFY(FolderIsWritable(root_.path()));
-        QVERIFY(QDir(root_.path()).entryList(QDir::Files | QDir::Hidden).isEmpty());   // no probe left
+        QVERIFY(QDir(root_.path()).entryList(QDir::Files | QDir::Hidden).isEmpty());  // no probe left
         places_.ExecutableFolderWritable = true;
         QVERIFY(!IsSharedProgramFolder(places_));
         QCOMPARE(FindProgramDirectory(places_), installed_);
@@ -79,8 +79,10 @@ private slots:
     void aSharedFolderIsCopiedForTheUserAtTheFirstStart() {
         const QString own = FindProgramDirectory(places_);
         QCOMPARE(own, home_ + QStringLiteral("cartomar/"));
-        for (const auto& [file, bytes] : {std::pair{"Cartomar.hlp", "<html>help 1</html>"}, {"Help/images/main.png", "png 1"},
-                                          {"Location.loc", ""}, {"Packages/Cartomar Starter.pck", "starter 1"}})
+        for (const auto& [file, bytes] : {std::pair{"Cartomar.hlp", "<html>help 1</html>"},
+                                          {"Help/images/main.png", "png 1"},
+                                          {"Location.loc", ""},
+                                          {"Packages/Cartomar Starter.pck", "starter 1"}})
             QCOMPARE(ReadFile(own + QLatin1String(file)), QByteArray(bytes));
         for (const QString& left : {QStringLiteral("cartomar"), ProgramLockName, QStringLiteral("Temp")})
             QVERIFY2(!Exists(own + left), qPrintable(left));

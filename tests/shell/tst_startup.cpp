@@ -1,5 +1,5 @@
-// Start-up on a program folder: the path table, the files and folders a first
-// and a second start make, Temp/ emptied, the default picture rewritten, the
+// Start-up on a program folder: the files and folders a first and a second
+// start make, Temp/ emptied, the default picture rewritten, the
 // old-database test with its two outcomes, the offer to install designs, and
 // the ways the process ends.
 #include <QDir>
@@ -45,21 +45,6 @@ private slots:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    void pathTableFollowsTheProgramFolder() {
-        for (const QString& dir : {QStringLiteral("/opt/cartomar"), QStringLiteral("/opt/cartomar/")}) {
-            FormPaths(dir);
-            const QStringList formed = {AppPath,      SettingsPath, SpreadsPath,    LocationsPath,      DecksPath,
-                                        CardsDir,     PackagesDir,  AttachmentsDir, CardsPath,          ReadingsPath,
-                                        DiaryPath,    TempDir,      TempCardsPath,  DefaultPicturePath, TempFilePath};
-            QStringList expected;
-            for (const char* name : {"", "Settings.dat", "Spreads.spr", "Location.loc", "Decks.dck", "Cards/",
-                                     "Packages/", "Packages/Attachments/", "Cards.crd", "Readings.red", "Diary.dry",
-                                     "Temp/", "Temp/Cards.crd", "Cards/C000000.bmp "})
-                expected << QStringLiteral("/opt/cartomar/") + QLatin1String(name);
-            QCOMPARE(formed, expected << QStringLiteral("temp.tmp"));
-        }
-    }
-
     void firstAndSecondStartInAnEmptyFolder() {
         QTemporaryDir dir;
         const QString root = dir.path() + QLatin1Char('/');
@@ -81,7 +66,8 @@ private slots:
 
         // No designs: the main screen stands and the offer to install comes.
         QVERIFY(Get<frmMainScreen>().Visible());
-        QCOMPARE(Prompts(), QStringList{QStringLiteral("You don't have any designs installed. Do you want install any now?")});
+        QCOMPARE(Prompts(),
+                 QStringList{QStringLiteral("You don't have any designs installed. Do you want install any now?")});
 
         // The second start makes the attachment folder, now that Packages/
         // exists, and still asks for the conversion.
@@ -126,15 +112,19 @@ private slots:
         QVERIFY(!RunStartup(dir.path()));
         QCOMPARE(gEnds.size(), 1);
         QCOMPARE(gConversions, 0);
-        QCOMPARE(Prompts(), QStringList{QStringLiteral("Unable to convert to new database format as existing backups exist.  Please "
-                                "reinstall in a new directory or contact ") + SupportAddress + QLatin1Char('.')});
+        QCOMPARE(
+            Prompts(),
+            QStringList{QStringLiteral("Unable to convert to new database format as existing backups exist.  Please "
+                                       "reinstall in a new directory or contact ") +
+                        SupportAddress + QLatin1Char('.')});
         QVERIFY(!IsLoaded<frmMainScreen>());
     }
 
     void fatalErrorShowsTheMessageAndEnds() {
         FatalError();
         QCOMPARE(gEnds.size(), 1);
-        QCOMPARE(Prompts(), QStringList{QStringLiteral("Cartomar Error. If this problem persists, please contact Ondine Software Inc.")});
+        QCOMPARE(Prompts(), QStringList{QStringLiteral(
+                                "Cartomar Error. If this problem persists, please contact Ondine Software Inc.")});
     }
 
     void clearTempBeforeThePathsAreFormedDeletesNothing() {
