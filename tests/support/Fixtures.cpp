@@ -14,19 +14,13 @@
 
 namespace Fixtures {
 
-namespace {
-
-void MakeEmptyFile(const QString& path) { WriteWholeFile(path, QByteArray()); }
-
-}  // namespace
-
 void UseProgramDir(const QString& dir) {
     ResetRunState();
     FormPaths(dir);
 
     for (const QString& folder : {CardsDir, PackagesDir, AttachmentsDir, TempDir}) MkDirIgnoringErrors(folder);
     for (const QString& file : {ReadingsPath, DiaryPath, SpreadsPath, DecksPath, CardsPath, LocationsPath})
-        MakeEmptyFile(file);
+        WriteWholeFile(file, QByteArray());
     WritePicture(DefaultPicturePath, QColor(Qt::white));
 }
 
