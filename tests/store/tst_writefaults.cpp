@@ -7,7 +7,6 @@
 // came from left it (its cards or locations, the bytes of every file they
 // name), and a design that both states list by name is listed.
 #include <QFile>
-#include <QLineEdit>
 #include <QSet>
 #include <functional>
 #include <map>
@@ -18,19 +17,14 @@
 #include "core/decks/DeckStore.h"
 #include "core/packages/PackageStaging.h"
 #include "core/platform/Errors.h"
-#include "core/platform/FileSys.h"
 #include "core/platform/ProgramLock.h"
 #include "core/platform/WriteFaults.h"
 #include "core/readings/EntryStore.h"
-#include "core/records/RecordFile.h"
 #include "core/spreads/SpreadStore.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
-#include "core/store/RunState.h"
 #include "screens/decks/DeckLoadQuestion.h"
-#include "screens/platform/MsgBox.h"
 #include "screens/store/Startup.h"
-#include "support/Fixtures.h"
 #include "support/InstallAnswers.h"
 #include "support/ScreenTest.h"
 
