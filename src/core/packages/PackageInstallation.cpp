@@ -1,5 +1,6 @@
 #include "core/packages/PackageInstallation.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <optional>
 
@@ -46,15 +47,28 @@ bool IsUnpackedFile(const QString& name) {
     return !name.isEmpty() && MemberFileName(name) == name && FileExists(TempDir + name);
 }
 
-QString Damaged(const QString& why) { return QStringLiteral("Unable to install: Damaged Cartomar Package.\n") + why; }
+QString Damaged(const QString& why) {
+    return QCoreApplication::translate("PackageInstallation", "Unable to install: Damaged Cartomar Package.\n%1")
+        .arg(why);
+}
+
+// One sentence for each kind of record, so that a language can agree its
+// words with the kind.
+constexpr const char* DeckNamesFile =
+    QT_TRANSLATE_NOOP("PackageInstallation", "The deck '%1' names the file '%2', which the package does not hold.");
+constexpr const char* CardNamesFile =
+    QT_TRANSLATE_NOOP("PackageInstallation", "The card '%1' names the file '%2', which the package does not hold.");
+constexpr const char* SpreadNamesFile =
+    QT_TRANSLATE_NOOP("PackageInstallation", "The spread '%1' names the file '%2', which the package does not hold.");
+constexpr const char* LocationNamesFile =
+    QT_TRANSLATE_NOOP("PackageInstallation", "The location '%1' names the file '%2', which the package does not hold.");
 
 // The refusal of a record naming a file the package lacks; empty when the
 // field is blank or the file is there.
 template <int N>
-QString MissingFile(const char* kind, const QString& owner, const FixedText<N>& field) {
+QString MissingFile(const char* sentence, const QString& owner, const FixedText<N>& field) {
     if (field.IsBlank() || IsUnpackedFile(field.Trimmed())) return {};
-    return Damaged(QStringLiteral("The %1 '%2' names the file '%3', which the package does not hold.")
-                       .arg(QLatin1String(kind), owner, field.Trimmed()));
+    return Damaged(QCoreApplication::translate("PackageInstallation", sentence).arg(owner, field.Trimmed()));
 }
 
 // The ids are given out in record order up to the first 0: the records from
@@ -77,37 +91,47 @@ QString DeckProblem(const std::vector<DeckRecord>& decks, const std::vector<Card
         const DeckRecord& deck = decks[i];
         const QString name = deck.DeckName.Trimmed();
         if (deck.CardCount < 0 || deck.CardCount > MaxDeckCards)
-            return Damaged(
-                QStringLiteral("The deck '%1' claims %2 cards, which no deck can hold.").arg(name).arg(deck.CardCount));
+            return Damaged(QCoreApplication::translate("PackageInstallation",
+                                                       "The deck '%1' claims %2 cards, which no deck can hold.")
+                               .arg(name)
+                               .arg(deck.CardCount));
         if (ids[i] == 0 && deck.CardCount > 0)
-            return Damaged(QStringLiteral("The deck '%1' would be installed without its cards.").arg(name));
+            return Damaged(QCoreApplication::translate("PackageInstallation",
+                                                       "The deck '%1' would be installed without its cards.")
+                               .arg(name));
         for (std::size_t j = 0; j < i; ++j)
             if (ids[i] != 0 && decks[j].DeckId == deck.DeckId)
-                return Damaged(QStringLiteral("The decks '%1' and '%2' would share their cards.")
+                return Damaged(QCoreApplication::translate("PackageInstallation",
+                                                           "The decks '%1' and '%2' would share their cards.")
                                    .arg(decks[j].DeckName.Trimmed(), name));
-        if (QString missing = MissingFile("deck", name, deck.DeckAttachment); !missing.isEmpty()) return missing;
+        if (QString missing = MissingFile(DeckNamesFile, name, deck.DeckAttachment); !missing.isEmpty()) return missing;
     }
     for (const CardRecord& card : cards)
         if (std::none_of(decks.begin(), decks.end(),
                          [&card](const DeckRecord& d) { return d.DeckId == card.CardDeckId; }))
-            return Damaged(QStringLiteral("A card of the package belongs to none of its decks."));
+            return Damaged(QCoreApplication::translate("PackageInstallation",
+                                                       "A card of the package belongs to none of its decks."));
     for (const DeckRecord& deck : decks) {
         const auto held = std::count_if(cards.begin(), cards.end(),
                                         [&deck](const CardRecord& c) { return c.CardDeckId == deck.DeckId; });
         if (held < deck.CardCount)
-            return Damaged(QStringLiteral("The deck '%1' claims %2 cards, but the package holds %3 of them.")
-                               .arg(deck.DeckName.Trimmed()).arg(deck.CardCount).arg(held));
+            return Damaged(QCoreApplication::translate(
+                               "PackageInstallation",
+                               "The deck '%1' claims %n cards, but the package holds %2 of them.", "", deck.CardCount)
+                               .arg(deck.DeckName.Trimmed())
+                               .arg(held));
     }
     for (const CardRecord& card : cards) {
         const QString title = card.CardTitle.Trimmed();
         if (card.CardType < 0 || card.CardType > 3)
-            return Damaged(QStringLiteral("The card '%1' has an unknown card type.").arg(title));
+            return Damaged(QCoreApplication::translate("PackageInstallation", "The card '%1' has an unknown card type.")
+                               .arg(title));
         // The shared default stands for no reversed picture and is never brought.
         const bool ownReversed = card.CardPicture[1].Value() != DefaultPictureName;
-        for (const QString& missing : {MissingFile("card", title, card.CardPicture[0]),
-                                       ownReversed ? MissingFile("card", title, card.CardPicture[1]) : QString(),
-                                       MissingFile("card", title, card.CardSound[0]),
-                                       MissingFile("card", title, card.CardSound[1])})
+        for (const QString& missing : {MissingFile(CardNamesFile, title, card.CardPicture[0]),
+                                       ownReversed ? MissingFile(CardNamesFile, title, card.CardPicture[1]) : QString(),
+                                       MissingFile(CardNamesFile, title, card.CardSound[0]),
+                                       MissingFile(CardNamesFile, title, card.CardSound[1])})
             if (!missing.isEmpty()) return missing;
     }
     return {};
@@ -119,24 +143,30 @@ QString SpreadProblem(const std::vector<SpreadRecord>& spreads, const std::vecto
         const SpreadRecord& spread = spreads[i];
         const QString name = spread.SpreadName.Trimmed();
         if (spread.LocationCount < 0 || spread.LocationCount > MaxSpreadLocations)
-            return Damaged(QStringLiteral("The spread '%1' claims %2 locations, which no spread can hold.")
-                               .arg(name).arg(spread.LocationCount));
+            return Damaged(QCoreApplication::translate("PackageInstallation",
+                                                       "The spread '%1' claims %2 locations, which no spread can hold.")
+                               .arg(name)
+                               .arg(spread.LocationCount));
         if (spread.AllowedDeckCount < -1 || spread.AllowedDeckCount > int(spread.AllowedDeckId.size()))
-            return Damaged(QStringLiteral("The spread '%1' names %2 decks, which no spread can.")
-                               .arg(name).arg(spread.AllowedDeckCount));
+            return Damaged(QCoreApplication::translate("PackageInstallation",
+                                                       "The spread '%1' names %2 decks, which no spread can.")
+                               .arg(name)
+                               .arg(spread.AllowedDeckCount));
         // Two spreads installed under one id take each other's locations.
         for (std::size_t j = 0; j < i; ++j)
             if (ids[j] == ids[i])
-                return Damaged(QStringLiteral("The spreads '%1' and '%2' would share their locations.")
+                return Damaged(QCoreApplication::translate("PackageInstallation",
+                                                           "The spreads '%1' and '%2' would share their locations.")
                                    .arg(spreads[j].SpreadName.Trimmed(), name));
-        for (const QString& missing : {MissingFile("spread", name, spread.BackgroundFile),
-                                       MissingFile("spread", name, spread.SpreadAttachment)})
+        for (const QString& missing : {MissingFile(SpreadNamesFile, name, spread.BackgroundFile),
+                                       MissingFile(SpreadNamesFile, name, spread.SpreadAttachment)})
             if (!missing.isEmpty()) return missing;
     }
     for (const LocationRecord& location : locations)
         if (std::none_of(spreads.begin(), spreads.end(),
                          [&location](const SpreadRecord& s) { return s.SpreadId == location.LocationSpreadId; }))
-            return Damaged(QStringLiteral("A location of the package belongs to none of its spreads."));
+            return Damaged(QCoreApplication::translate("PackageInstallation",
+                                                       "A location of the package belongs to none of its spreads."));
     for (const SpreadRecord& spread : spreads) {
         // Its locations are numbered 1 to its count, each number once.
         std::vector<int> seen(static_cast<std::size_t>(spread.LocationCount) + 1, 0);
@@ -148,11 +178,15 @@ QString SpreadProblem(const std::vector<SpreadRecord>& spreads, const std::vecto
         }
         agree = agree && std::count(seen.begin() + 1, seen.end(), 1) == spread.LocationCount;
         if (!agree)
-            return Damaged(QStringLiteral("The locations of the spread '%1' do not agree with its count of %2.")
-                               .arg(spread.SpreadName.Trimmed()).arg(spread.LocationCount));
+            return Damaged(
+                QCoreApplication::translate("PackageInstallation",
+                                            "The locations of the spread '%1' do not agree with its count of %2.")
+                    .arg(spread.SpreadName.Trimmed())
+                    .arg(spread.LocationCount));
     }
     for (const LocationRecord& location : locations)
-        if (QString missing = MissingFile("location", location.LocationTitle.Trimmed(), location.LocationAttachment);
+        if (QString missing =
+                MissingFile(LocationNamesFile, location.LocationTitle.Trimmed(), location.LocationAttachment);
             !missing.isEmpty())
             return missing;
     return {};
@@ -162,7 +196,7 @@ QString SpreadProblem(const std::vector<SpreadRecord>& spreads, const std::vecto
 template <class R>
 void Place(std::vector<R>& records, std::set<int>& changed, int n, const R& r) {
     if (n < 1 || n > static_cast<int>(records.size()) + 1)
-        RaiseError(errBadFileName, QStringLiteral("Bad record number"));
+        RaiseError(errBadFileName, QCoreApplication::translate("PackageInstallation", "Bad record number"));
     if (n == static_cast<int>(records.size()) + 1) records.push_back(r);
     records[static_cast<std::size_t>(n - 1)] = r;
     changed.insert(n);
