@@ -94,7 +94,7 @@ private slots:
         pick.On(Pick<frmGetImageFile>(src_, QStringLiteral("good.bmp")));
         designer.cmdAddCard_Click();
         frmAddCard& editor = Get<frmAddCard>();
-        QVERIFY(pick.Done());   // a deck without reversed cards: only the upright picture is asked
+        QVERIFY(pick.Done());  // a deck without reversed cards: only the upright picture is asked
 
         editor.txtCardTitle->setText(QStringLiteral(" Card 1  "));
         editor.cmdSaveClose_Click();
@@ -193,7 +193,7 @@ private slots:
         MsgBoxScript::Answer(vbCancel);
         editor.cmdBack_Click();
         QCOMPARE(LastPrompt(), QStringLiteral("Save changes to the card?"));
-        QVERIFY(IsLoaded<frmAddCard>());   // Cancel stays
+        QVERIFY(IsLoaded<frmAddCard>());  // Cancel stays
         MsgBoxScript::Answer(vbNo);
         editor.cmdBack_Click();
         QCOMPARE(CurrentDeck.DeckCards(2).CardKeywords[0].Trimmed(), QStringLiteral("upright keywords 2"));

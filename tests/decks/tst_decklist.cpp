@@ -124,7 +124,10 @@ private slots:
     void lockedDeckAsksPasswordToEditOnly() {
         frmDecks& decks = Get<frmDecks>();
         ClickLine(decks.lstDecks, QStringLiteral("Beta"));
-        decks.cmdInfo_Click();   // viewing asks nothing
+        ModalScript none;
+        none.Refuse<frmGetPassword>();  // viewing asks nothing
+        decks.cmdInfo_Click();
+        QVERIFY(none.Done());
         QCOMPARE(Get<frmDeckInfo>().lstCards->count(), 2);
         Get<frmDeckInfo>().cmdBack_Click();
         QCOMPARE(Get<frmDecks>().lstDecks->Text().trimmed(), QStringLiteral("Beta"));

@@ -231,7 +231,7 @@ private slots:
         chooser.cmdClose_Click();
         QCOMPARE(MsgBoxScript::History().last().prompt,
                  QStringLiteral("No decks have been selected.  Are you sure you want to continue?"));
-        QVERIFY(IsLoaded<frmDeckChooser>());   // No stays
+        QVERIFY(IsLoaded<frmDeckChooser>());  // No stays
         UnloadScreen<frmDeckChooser>();
         UnloadScreen<frmSpreads>();
         Settle();
