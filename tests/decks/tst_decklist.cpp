@@ -1,6 +1,9 @@
-// The deck list's wiring, and the deck store's rules on the core: which
-// spreads let go of a deleted deck, and what a save leaves on the disk
-// whatever the folder held before.
+// The saved decks: the deck list's wiring (brief info, the delete and its
+// questions, the password of a locked deck for editing but not for viewing,
+// coming back to the deck left, the spread designer's deck chooser), and the
+// deck store's rules, checked on the core: which spreads let go of a deleted
+// deck, and what a save leaves on the disk whatever the folder held before.
+
 #include "DeckDriver.h"
 #include "core/decks/CardEditing.h"
 #include "core/decks/CardStore.h"
@@ -15,6 +18,7 @@
 #include "screens/decks/frmDesignDeck.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/store/frmGetPassword.h"
+#include "support/ScreenTest.h"
 
 namespace {
 
@@ -105,11 +109,13 @@ private slots:
     // below; here the list asks, stops at No, and deletes at Yes.
     void deleteAsksAndUntiesSpreads() {
         frmDecks& decks = Get<frmDecks>();
+        QCOMPARE(decks.lblCardsField->text(), QStringLiteral("3"));
         MsgBoxScript::Clear();
         MsgBoxScript::Answer(vbNo);
         decks.cmdDelete_Click();
         QCOMPARE(CountDecks(), 3);
         QCOMPARE(Prompts(), CheckDeckDelete(decks.lstDecks->Text()).Questions.mid(0, 1));
+        QCOMPARE(MsgBoxScript::History()[0].style, vbYesNo | vbQuestion | vbDefaultButton2);
 
         MsgBoxScript::Answer(vbYes);
         MsgBoxScript::Answer(vbYes);
@@ -117,17 +123,26 @@ private slots:
         QCOMPARE(CountDecks(), 2);
         QCOMPARE(Spread(QStringLiteral("Solo")).AllowedDeckCount, 0);
         // The line went; the first line is selected in its place.
+        QCOMPARE(decks.lstDecks->count(), 2);
         QCOMPARE(decks.lblTitleField->text(), QStringLiteral("Beta"));
     }
 
-    // (A wrong password refused: the spread list's walk.)
     void lockedDeckAsksPasswordToEditOnly() {
         frmDecks& decks = Get<frmDecks>();
         ClickLine(decks.lstDecks, QStringLiteral("Beta"));
-        ModalScript none;
-        none.Refuse<frmGetPassword>();  // viewing asks nothing
+        MsgBoxScript::Clear();
+        ModalScript wrong;
+        wrong.On<frmGetPassword>([](frmGetPassword& p) {
+            p.txtPassword->setText(QStringLiteral("Secret"));
+            p.cmdOK_Click();
+        });
+        decks.cmdEdit_Click();
+        QVERIFY(wrong.Done());
+        QVERIFY(!IsLoaded<frmDesignDeck>());   // the wrong password is refused
+
+        // Viewing asks nothing.
         decks.cmdInfo_Click();
-        QVERIFY(none.Done());
+        QVERIFY(IsLoaded<frmDeckInfo>());
         QCOMPARE(Get<frmDeckInfo>().lstCards->count(), 2);
         Get<frmDeckInfo>().cmdBack_Click();
         QCOMPARE(Get<frmDecks>().lstDecks->Text().trimmed(), QStringLiteral("Beta"));
@@ -139,6 +154,7 @@ private slots:
         });
         Get<frmDecks>().cmdEdit_Click();
         QVERIFY(right.Done());
+        QVERIFY(IsLoaded<frmDesignDeck>());
         QCOMPARE(DesignMode, 0);
         Get<frmDesignDeck>().cmdBack_Click();
         QCOMPARE(Get<frmDecks>().lstDecks->Text().trimmed(), QStringLiteral("Beta"));
@@ -153,6 +169,7 @@ private slots:
         browse.cmdSelect_Click();
         QCOMPARE(chosen.size(), 1);
         QCOMPARE(chosen[0].trimmed(), QStringLiteral("Gamma"));
+        QVERIFY(!IsLoaded<frmBrowseDeck>());
     }
 
     void theMainScreenOpensTheListAndTakesItBack() {
@@ -160,9 +177,24 @@ private slots:
         frmMainScreen& main = Get<frmMainScreen>();
         main.Show();
         main.lblButton_Click(5);
-        QVERIFY(!main.Visible() && Get<frmDecks>().Visible());
+        QVERIFY(!main.Visible());
+        QVERIFY(IsLoaded<frmDecks>() && Get<frmDecks>().Visible());
         Get<frmDecks>().cmdClose_Click();
-        QVERIFY(!IsLoaded<frmDecks>() && main.Visible());
+        QVERIFY(!IsLoaded<frmDecks>());
+        QVERIFY(main.Visible());
+    }
+
+    void deletingEveryDeckEmptiesTheInfo() {
+        frmDecks& decks = Get<frmDecks>();
+        while (decks.lstDecks->count() > 0) {
+            MsgBoxScript::Answer(vbYes);
+            MsgBoxScript::Answer(vbYes);
+            decks.cmdDelete_Click();
+        }
+        QCOMPARE(CountDecks(), 0);
+        QVERIFY(!decks.cmdEdit->isEnabled() && !decks.cmdInfo->isEnabled() && !decks.cmdDelete->isEnabled());
+        QVERIFY(decks.lblTitleField->text().isEmpty() && decks.lblCardsField->text().isEmpty());
+        QCOMPARE(MsgBoxScript::Unanswered(), 0);
     }
 
     // A spread tied to the decks `allowed` when deck 4 goes: the decks after
