@@ -65,8 +65,8 @@ inline void LaySample(const QString& dir) {
     MsgBoxScript::Clear();
     const Integer deck = Fixtures::MakeDeck(QStringLiteral("Tarot"), 3, true);
     const Integer spread = Fixtures::MakeSpread(QStringLiteral("Celtic Cross"), 3, {deck});
-    ReadingFixtures::StoredEntry<ReadingRecord>(ReadingsPath, deck, spread, 3, [](ReadingRecord&) {}, 0, 0);
-    ReadingFixtures::StoredEntry<DiaryRecord>(DiaryPath, deck, spread, 3, [](DiaryRecord&) {}, 0, 0);
+    ReadingFixtures::StoredEntry<ReadingRecord>(ReadingsPath, deck, spread, 0, 0);
+    ReadingFixtures::StoredEntry<DiaryRecord>(DiaryPath, deck, spread, 0, 0);
     QFile::copy(DecksPath, TempDir + QStringLiteral("Temp.dck"));
     QFile::copy(SpreadsPath, TempDir + QStringLiteral("Temp.spr"));
     RememberedPictureFolder().Folder = RememberedSoundFolder().Folder = CardsDir;
