@@ -14,13 +14,13 @@ namespace {
 
 // What the sample holds and the program shows as it is (the user's names and
 // texts, file names, pictures' names and paths), what the pseudo-translation
-// keeps (an accelerator and its letter, markup), and the date form kept
-// English ("05-Mar-2026").
+// keeps (an accelerator and its letter, markup), and the dates of a language
+// Qt has no names for ("05-Mar-2026", "9 Dec 2025").
 const QRegularExpression& Kept() {
     static const QRegularExpression kept(QStringLiteral(
         R"((Upright|Reversed) meaning of card \d+|(upright|reversed) keywords \d+|What position \d+ stands for|)"
         R"(\S*/\S*|\S+@\S+|www\.\S+|[\w*]+\.\w{2,4}\b|Card \d+|Position \d+|Major Arcana|Minor Arcana|)"
-        R"(Celtic Cross|Tarot|\bC[UR]?\d{5,6}\b|<[^>]*>|&\w+;|&.|\d\d-[A-Z][a-z]{2}-\d{4})"));
+        R"(Celtic Cross|Tarot|\bSaved\b|\d{1,2} [A-Z][a-z]{2} \d{4}|\bC[UR]?\d{5,6}\b|<[^>]*>|&\w+;|&.|\d\d-[A-Z][a-z]{2}-\d{4})"));
     return kept;
 }
 
