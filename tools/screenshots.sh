@@ -32,6 +32,8 @@ take "$work/Cartomar" "$root/help"
 # The reading once more in each translation, for the README.
 for language in es de; do
   take "$work/Cartomar-$language" "--language=$language"
+  # The README shows the dealt reading only; the tour's other pictures go.
+  find "$work/images" -name "*-$language.png" ! -name "reading-dealt-$language.png" -delete
 done
 
 mkdir -p "$root/help/images"
