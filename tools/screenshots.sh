@@ -18,13 +18,23 @@ cmake --build "$build" --target take_screenshots
 work=/tmp/cartomar-screenshots
 rm -rf "$work"
 trap 'rm -rf "$work"' EXIT
-tool=("$build/tools/take_screenshots" "$work/Cartomar" "$work/images" "$root/help")
 export QT_LOGGING_RULES="qt.multimedia*=false"
-if command -v xvfb-run >/dev/null; then
-  env -u QT_QPA_PLATFORM xvfb-run -a -s "-screen 0 1280x1024x24" "${tool[@]}"
-else
-  QT_QPA_PLATFORM=offscreen "${tool[@]}"
-fi
+# take <program folder> [arguments]: one run of the tool on a fresh folder.
+take() {
+  local tool=("$build/tools/take_screenshots" "$1" "$work/images" "${@:2}")
+  if command -v xvfb-run >/dev/null; then
+    env -u QT_QPA_PLATFORM xvfb-run -a -s "-screen 0 1280x1024x24" "${tool[@]}"
+  else
+    QT_QPA_PLATFORM=offscreen "${tool[@]}"
+  fi
+}
+take "$work/Cartomar" "$root/help"
+# The reading once more in each translation, for the README.
+for language in es de; do
+  take "$work/Cartomar-$language" "--language=$language"
+  # The README shows the dealt reading only; the tour's other pictures go.
+  find "$work/images" -name "*-$language.png" ! -name "reading-dealt-$language.png" -delete
+done
 
 mkdir -p "$root/help/images"
 rm -f "$root/help/images/"*.png

@@ -72,6 +72,8 @@
 namespace {
 
 QString gOutDir;
+// "-de" and the like when the pictures show the program in a translation.
+QString gLanguageSuffix;
 int gFailures = 0;
 
 // ---------------------------------------------------------------------------
@@ -386,7 +388,7 @@ void Shot(const QString& name) {
     QImage image = whole.copy(crop).convertToFormat(QImage::Format_RGB888);
     if (image.width() > WidestPicture)
         image = image.scaledToWidth(WidestPicture, Qt::SmoothTransformation);
-    const QString path = gOutDir + QLatin1Char('/') + name + QStringLiteral(".png");
+    const QString path = gOutDir + QLatin1Char('/') + name + gLanguageSuffix + QStringLiteral(".png");
     if (image.isNull() || !image.save(path, "PNG", 9)) {
         std::fprintf(stderr, "could not save %s\n", qPrintable(path));
         ++gFailures;
@@ -681,10 +683,19 @@ void HelpViewer(const QString& manualFolder) {
 
 int main(int argc, char** argv) {
     // The manual is English, whatever the language of the desktop that
-    // takes its pictures.
-    CartomarApplication app(argc, argv, {QStringLiteral("en")});
+    // takes its pictures; "--language=de" takes the reading's pictures in a
+    // translation instead, named reading-dealt-de.png and so on.
+    QString language = QStringLiteral("en");
+    if (argc > 1 && QByteArray(argv[argc - 1]).startsWith("--language=")) {
+        language = QString::fromLocal8Bit(argv[argc - 1]).mid(11);
+        gLanguageSuffix = QLatin1Char('-') + language;
+        --argc;
+    }
+    CartomarApplication app(argc, argv, {language});
     if (argc < 3) {
-        std::fprintf(stderr, "usage: take_screenshots <empty program folder> <folder for the pictures> [help folder]\n");
+        std::fprintf(stderr,
+                     "usage: take_screenshots <empty program folder> <folder for the pictures> [help folder] "
+                     "[--language=xx]\n");
         return 2;
     }
     const QString programDir = QDir(QString::fromLocal8Bit(argv[1])).absolutePath();
@@ -708,6 +719,11 @@ int main(int argc, char** argv) {
     Get<MDIMainForm>().ShowFrame();
     Settle(400);
 
+    if (!gLanguageSuffix.isEmpty()) {
+        Reading();
+        std::fflush(nullptr);
+        std::_Exit(gFailures == 0 ? 0 : 1);
+    }
     MainScreen();
     Reading();
     Diary();

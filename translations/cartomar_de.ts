@@ -77,11 +77,11 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: %2 (%3 %4, %5 %6)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 (%3 %4, %5 %6)</translation>
     </message>
 </context>
 <context>
@@ -227,6 +227,138 @@ Trotzdem fortfahren?</translation>
     <message>
         <source>Invalid procedure call or argument</source>
         <translation>Ungültiger Prozeduraufruf oder ungültiges Argument</translation>
+    </message>
+    <message>
+        <source> [Select]</source>
+        <translation> [Wählen]</translation>
+    </message>
+</context>
+<context>
+    <name>EntryNotesScreen</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+</context>
+<context>
+    <name>EntryPrintout</name>
+    <message>
+        <source>Page 1</source>
+        <translation>Seite 1</translation>
+    </message>
+    <message>
+        <source>Cartomar</source>
+        <translation>Cartomar</translation>
+    </message>
+    <message>
+        <source>Spread:</source>
+        <translation>Auslage:</translation>
+    </message>
+    <message>
+        <source>Deck:</source>
+        <translation>Deck:</translation>
+    </message>
+    <message>
+        <source>Date &amp; Time:</source>
+        <translation>Datum und Uhrzeit:</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Titel:</translation>
+    </message>
+    <message>
+        <source>Spread © Copyright 2001 By %1.</source>
+        <translation>Auslage © Copyright 2001 von %1.</translation>
+    </message>
+    <message>
+        <source>Deck © Copyright 2001 By %1.</source>
+        <translation>Deck © Copyright 2001 von %1.</translation>
+    </message>
+    <message>
+        <source>%1(Reversed)</source>
+        <translation>%1(Umgekehrt)</translation>
+    </message>
+    <message>
+        <source>%1(Upright)</source>
+        <translation>%1(Aufrecht)</translation>
+    </message>
+    <message>
+        <source>%1 (Reversed)</source>
+        <translation>%1 (Umgekehrt)</translation>
+    </message>
+</context>
+<context>
+    <name>EntryScreen</name>
+    <message>
+        <source>Issue Addressed by this Spread:</source>
+        <translation>Anliegen dieser Auslage:</translation>
+    </message>
+</context>
+<context>
+    <name>EntryStore</name>
+    <message>
+        <source>Please select a name to save the reading as.</source>
+        <translation>Bitte wählen Sie einen Namen für die Legung.</translation>
+    </message>
+    <message>
+        <source>Reading already exists. Overwrite?</source>
+        <translation>Die Legung existiert bereits. Überschreiben?</translation>
+    </message>
+    <message>
+        <source>This Reading cannot be opened because the deck that was used to create it is no longer installed.</source>
+        <translation>Diese Legung kann nicht geöffnet werden, weil das Deck, mit dem sie gemacht wurde, nicht mehr installiert ist.</translation>
+    </message>
+    <message>
+        <source>The reading cannot be opened because the too many cards were removed from the deck that was used to create this reading.</source>
+        <translation>Die Legung kann nicht geöffnet werden, weil aus ihrem Deck zu viele Karten entfernt wurden.</translation>
+    </message>
+    <message>
+        <source>The deck used with this reading has changed since the reading was created. Do you still want to open it?
+NOTE: If you choose &apos;Yes&apos;, the reading will be opened with the new deck version and the cards might be corrupted.</source>
+        <translation>Das Deck dieser Legung hat sich seit der Legung geändert. Möchten Sie sie trotzdem öffnen?
+HINWEIS: Wenn Sie &apos;Ja&apos; wählen, wird die Legung mit der neuen Deckversion geöffnet, und die Karten können fehlerhaft sein.</translation>
+    </message>
+    <message>
+        <source>This reading cannot be opened because the spread that was used to create it is no longer installed.</source>
+        <translation>Diese Legung kann nicht geöffnet werden, weil ihre Auslage nicht mehr installiert ist.</translation>
+    </message>
+    <message>
+        <source>The spread used with this reading has changed since the reading was created. Do you still want to open it?
+NOTE: If you choose &apos;Yes&apos;, the reading will be opened with the new spread and the card locations might very well be corrupted.</source>
+        <translation>Die Auslage dieser Legung hat sich seit der Legung geändert. Möchten Sie sie trotzdem öffnen?
+HINWEIS: Wenn Sie &apos;Ja&apos; wählen, wird die Legung mit der neuen Auslage geöffnet, und die Kartenpositionen können durchaus fehlerhaft sein.</translation>
+    </message>
+    <message>
+        <source>Please select a name to save the diary as.</source>
+        <translation>Bitte wählen Sie einen Namen für das Tagebuch.</translation>
+    </message>
+    <message>
+        <source>Diary already exists. Overwrite?</source>
+        <translation>Das Tagebuch existiert bereits. Überschreiben?</translation>
+    </message>
+    <message>
+        <source>This diary cannot be opened because the deck that was used to create it is no longer installed.</source>
+        <translation>Dieses Tagebuch kann nicht geöffnet werden, weil das Deck, mit dem es gemacht wurde, nicht mehr installiert ist.</translation>
+    </message>
+    <message>
+        <source>The Diary cannot be opened because the too many cards were removed from the deck that was used to create this diary.</source>
+        <translation>Das Tagebuch kann nicht geöffnet werden, weil aus seinem Deck zu viele Karten entfernt wurden.</translation>
+    </message>
+    <message>
+        <source>The deck used with this diary has changed since the diary was created. Do you still want to open it?
+NOTE: If you choose &apos;Yes&apos;, the diary will be opened with the new deck version and the cards might be corrupted.</source>
+        <translation>Das Deck dieses Tagebuchs hat sich seitdem geändert. Möchten Sie es trotzdem öffnen?
+HINWEIS: Wenn Sie &apos;Ja&apos; wählen, wird das Tagebuch mit der neuen Deckversion geöffnet, und die Karten können fehlerhaft sein.</translation>
+    </message>
+    <message>
+        <source>This diary cannot be opened because the spread that was used to create it is no longer installed.</source>
+        <translation>Dieses Tagebuch kann nicht geöffnet werden, weil seine Auslage nicht mehr installiert ist.</translation>
+    </message>
+    <message>
+        <source>The spread used with this diary has changed since the diary was created. Do you still want to open it?
+NOTE: If you choose &apos;Yes&apos;, the diary will be opened with the new spread and the card locations might very well be corrupted.</source>
+        <translation>Die Auslage dieses Tagebuchs hat sich seitdem geändert. Möchten Sie es trotzdem öffnen?
+HINWEIS: Wenn Sie &apos;Ja&apos; wählen, wird das Tagebuch mit der neuen Auslage geöffnet, und die Kartenpositionen können durchaus fehlerhaft sein.</translation>
     </message>
 </context>
 <context>
@@ -414,14 +546,57 @@ Bitte speichern Sie Ihre Arbeit, beenden Sie Cartomar und starten Sie es erneut<
     </message>
 </context>
 <context>
+    <name>InterpretLocationScreen</name>
+    <message>
+        <source>Interpretation</source>
+        <translation>Deutung</translation>
+    </message>
+    <message>
+        <source>Questions:</source>
+        <translation>Fragen:</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Stichwörter</translation>
+    </message>
+    <message>
+        <source>&amp;Enlarge Pic</source>
+        <translation>&amp;Vergrößern</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>[UNTITLED LOCATION]</source>
+        <translation>[POSITION OHNE TITEL]</translation>
+    </message>
+    <message>
+        <source>%1 (Upright)</source>
+        <translation>%1 (Aufrecht)</translation>
+    </message>
+    <message>
+        <source>%1 (Reversed)</source>
+        <translation>%1 (Umgekehrt)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+</context>
+<context>
     <name>Journal</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>no longer installed</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht mehr installiert</translation>
     </message>
     <message>
         <source>Upright</source>
@@ -453,15 +628,15 @@ Bitte speichern Sie Ihre Arbeit, beenden Sie Cartomar und starten Sie es erneut<
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>The Cards That Came Up Most</source>
-        <translation type="unfinished"></translation>
+        <translation>Die am häufigsten gezogenen Karten</translation>
     </message>
     <message>
         <source>Entries per Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Einträge pro Monat</translation>
     </message>
     <message>
         <source>Total</source>
@@ -470,6 +645,26 @@ Bitte speichern Sie Ihre Arbeit, beenden Sie Cartomar und starten Sie es erneut<
     <message>
         <source>Card</source>
         <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Card %1</source>
+        <translation>Karte %1</translation>
+    </message>
+    <message>
+        <source>(no longer installed)</source>
+        <translation>(nicht mehr installiert)</translation>
+    </message>
+    <message>
+        <source>%1 (changed since)</source>
+        <translation>%1 (seitdem geändert)</translation>
+    </message>
+    <message>
+        <source>%1 (damaged record)</source>
+        <translation>%1 (Datensatz beschädigt)</translation>
+    </message>
+    <message>
+        <source>Date,Kind,Entry,Spread,Location,Location Title,Deck,Card,Orientation</source>
+        <translation>Datum,Art,Eintrag,Auslage,Position,Positionstitel,Deck,Karte,Lage</translation>
     </message>
 </context>
 <context>
@@ -515,11 +710,11 @@ Bitte speichern Sie Ihre Arbeit, beenden Sie Cartomar und starten Sie es erneut<
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>; </source>
-        <translation type="unfinished"></translation>
+        <translation>; </translation>
     </message>
 </context>
 <context>
@@ -618,13 +813,26 @@ Bitte speichern Sie Ihre Arbeit, beenden Sie Cartomar und starten Sie es erneut<
     </message>
 </context>
 <context>
-    <name>PackageInstallation</name>
+    <name>OpenEntryScreen</name>
     <message>
-        <source>Unable to install: Damaged Cartomar Package.
-%1</source>
-        <translation>Installation nicht möglich: beschädigtes Cartomar-Paket.
-%1</translation>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
     </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Journal...</source>
+        <translation>&amp;Journal...</translation>
+    </message>
+</context>
+<context>
+    <name>PackageInstallation</name>
     <message>
         <source>The deck &apos;%1&apos; names the file &apos;%2&apos;, which the package does not hold.</source>
         <translation>Das Deck &apos;%1&apos; nennt die Datei &apos;%2&apos;, die das Paket nicht enthält.</translation>
@@ -657,13 +865,6 @@ Bitte speichern Sie Ihre Arbeit, beenden Sie Cartomar und starten Sie es erneut<
         <source>A card of the package belongs to none of its decks.</source>
         <translation>Eine Karte des Pakets gehört zu keinem seiner Decks.</translation>
     </message>
-    <message numerus="yes">
-        <source>The deck &apos;%1&apos; claims %n cards, but the package holds %2 of them.</source>
-        <translation>
-            <numerusform>Das Deck &apos;%1&apos; gibt %n Karte an, das Paket enthält aber %2 davon.</numerusform>
-            <numerusform>Das Deck &apos;%1&apos; gibt %n Karten an, das Paket enthält aber %2 davon.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>The card &apos;%1&apos; has an unknown card type.</source>
         <translation>Die Karte &apos;%1&apos; hat einen unbekannten Kartentyp.</translation>
@@ -689,8 +890,8 @@ Bitte speichern Sie Ihre Arbeit, beenden Sie Cartomar und starten Sie es erneut<
         <translation>Die Positionen der Auslage &apos;%1&apos; stimmen nicht mit ihrer Anzahl %2 überein.</translation>
     </message>
     <message>
-        <source>Bad record number</source>
-        <translation>Falsche Datensatznummer</translation>
+        <source>Unable to install: Damaged Cartomar Package.</source>
+        <translation>Installation nicht möglich: beschädigtes Cartomar-Paket.</translation>
     </message>
 </context>
 <context>
@@ -731,6 +932,124 @@ Bitte speichern Sie Ihre Arbeit, beenden Sie Cartomar und starten Sie es erneut<
             <numerusform>%1 und %n weitere</numerusform>
             <numerusform>%1 und %n weitere</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>PrintEntry</name>
+    <message>
+        <source>Could not print the reading properly. Please make sure that the selected printer is ready.</source>
+        <translation>Die Legung konnte nicht richtig gedruckt werden. Bitte prüfen Sie, ob der gewählte Drucker bereit ist.</translation>
+    </message>
+    <message>
+        <source>Could not print the diary properly. Please make sure that the selected printer is ready.</source>
+        <translation>Das Tagebuch konnte nicht richtig gedruckt werden. Bitte prüfen Sie, ob der gewählte Drucker bereit ist.</translation>
+    </message>
+    <message>
+        <source>Unable to initialize printer.</source>
+        <translation>Der Drucker kann nicht vorbereitet werden.</translation>
+    </message>
+    <message>
+        <source>Error. Please contact Ondine Software Inc.</source>
+        <translation>Fehler. Bitte wenden Sie sich an Ondine Software Inc.</translation>
+    </message>
+    <message>
+        <source>Unable to print! %1 %2</source>
+        <translation>Drucken nicht möglich! %1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>PrintLayout</name>
+    <message>
+        <source>Page %1</source>
+        <translation>Seite %1</translation>
+    </message>
+    <message>
+        <source>Spread: %1</source>
+        <translation>Auslage: %1</translation>
+    </message>
+    <message>
+        <source>Deck: %1</source>
+        <translation>Deck: %1</translation>
+    </message>
+    <message>
+        <source>Date &amp; Time: %1</source>
+        <translation>Datum und Uhrzeit: %1</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>Position: %1</translation>
+    </message>
+    <message>
+        <source>Card: %1</source>
+        <translation>Karte: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SaveEntryScreen</name>
+    <message>
+        <source>Save As:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>SelectSpreadScreen</name>
+    <message>
+        <source>Spread Includes Question/Issue</source>
+        <translation>Auslage mit Frage</translation>
+    </message>
+    <message>
+        <source>Spread Does NOT Includes Question/Issue</source>
+        <translation>Auslage OHNE Frage</translation>
+    </message>
+    <message>
+        <source>Spreads:</source>
+        <translation>Auslagen:</translation>
+    </message>
+    <message>
+        <source>Decks:</source>
+        <translation>Decks:</translation>
+    </message>
+    <message>
+        <source>Card Types:</source>
+        <translation>Kartentypen:</translation>
+    </message>
+    <message>
+        <source>Issue requested</source>
+        <translation>Frage erbeten</translation>
+    </message>
+    <message>
+        <source>Allow reversed cards</source>
+        <translation>Umgekehrte Karten zulassen</translation>
+    </message>
+    <message>
+        <source>Allow duplicate cards</source>
+        <translation>Doppelte Karten zulassen</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>Aus&amp;wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>The card types you have selected are not enough to run this spread.
+Please check more type(s) or change the deck.</source>
+        <translation>Die gewählten Kartentypen reichen für diese Auslage nicht aus.
+Bitte wählen Sie mehr Typen oder ein anderes Deck.</translation>
     </message>
 </context>
 <context>
@@ -1359,6 +1678,45 @@ Sonst können Sie dieses Deck nicht verwenden.</translation>
     </message>
 </context>
 <context>
+    <name>frmDiaryCards</name>
+    <message>
+        <source>Diary Cards</source>
+        <translation>Tagebuchkarten</translation>
+    </message>
+    <message>
+        <source>Card Types:</source>
+        <translation>Kartentypen:</translation>
+    </message>
+    <message>
+        <source>Cards:</source>
+        <translation>Karten:</translation>
+    </message>
+    <message>
+        <source>Card Image:</source>
+        <translation>Kartenbild:</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Umgekehrt</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>Aus&amp;wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Select card for location: %1</source>
+        <translation>Karte für die Position wählen: %1</translation>
+    </message>
+    <message>
+        <source>Please select a card from the list.</source>
+        <translation>Bitte wählen Sie eine Karte aus der Liste.</translation>
+    </message>
+</context>
+<context>
     <name>frmDiaryHelp</name>
     <message>
         <source>Quick Help</source>
@@ -1367,6 +1725,13 @@ Sonst können Sie dieses Deck nicht verwenden.</translation>
     <message>
         <source>The Tarot Spread is meant to aid you in your everyday life.  Examine the spread as a whole and use the additional tools included on the spread to help you understand the meaning behind each card.  By double clicking on a card, you get the description of the specific spread location and the interpretation and keywords of the card itself if it has been selected. Furthermore, you can enlarge the card&apos;s picture for a closer view. The card is selected from the cards list and its state is specified by the check box.</source>
         <translation>Die Tarot-Auslage soll Ihnen im Alltag helfen.  Betrachten Sie die Legung als Ganzes und nutzen Sie die zusätzlichen Werkzeuge, um die Bedeutung jeder Karte zu verstehen.  Ein Doppelklick auf eine Karte zeigt die Beschreibung dieser Position sowie Deutung und Stichwörter der Karte, sofern sie gewählt ist. Außerdem können Sie das Bild der Karte vergrößern. Die Karte wird in der Kartenliste gewählt, ihre Lage mit dem Kontrollkästchen.</translation>
+    </message>
+</context>
+<context>
+    <name>frmDiaryNotes</name>
+    <message>
+        <source>Diary Summary and Notes</source>
+        <translation>Übersicht und Notizen des Tagebuchs</translation>
     </message>
 </context>
 <context>
@@ -1708,7 +2073,7 @@ Diese Karten wurden nicht hinzugefügt: %2</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>(Any Spread)</source>
@@ -1716,27 +2081,27 @@ Diese Karten wurden nicht hinzugefügt: %2</translation>
     </message>
     <message>
         <source>%1; %2; %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; %2; %3</translation>
     </message>
     <message numerus="yes">
         <source>%Ln entries</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Eintrag</numerusform>
+            <numerusform>%Ln Einträge</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln locked, not counted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln gesperrt, nicht gezählt</numerusform>
+            <numerusform>%Ln gesperrt, nicht gezählt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln not attributable to a present card</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln keiner vorhandenen Karte zuzuordnen</numerusform>
+            <numerusform>%Ln keiner vorhandenen Karte zuzuordnen</numerusform>
         </translation>
     </message>
     <message>
@@ -1748,20 +2113,12 @@ Diese Karten wurden nicht hinzugefügt: %2</translation>
         <translation>CSV-Dateien (*.csv)|*.csv|Alle Dateien (*.*)|*.*</translation>
     </message>
     <message>
-        <source>Journal.csv</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Save Chart</source>
         <translation>Diagramm speichern</translation>
     </message>
     <message>
         <source>PNG Pictures (*.png)|*.png</source>
         <translation>PNG-Bilder (*.png)|*.png</translation>
-    </message>
-    <message>
-        <source>Chart.png</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Unable to save the chart as &apos;%1&apos;.</source>
@@ -1876,6 +2233,166 @@ Diese Karten wurden nicht hinzugefügt: %2</translation>
     </message>
 </context>
 <context>
+    <name>frmNewDiary</name>
+    <message>
+        <source>Diary</source>
+        <translation>Tagebuch</translation>
+    </message>
+    <message>
+        <source>C&amp;ontinue</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>&amp;Interpret</source>
+        <translation>&amp;Deuten</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>Ü&amp;bersicht</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>Dr&amp;ucken</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Sichern</translation>
+    </message>
+    <message>
+        <source>&amp;Quick Help</source>
+        <translation>&amp;Kurzhilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Loc.</source>
+        <translation>Pos.</translation>
+    </message>
+    <message>
+        <source>Select Card</source>
+        <translation>Wählen</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Umgek.</translation>
+    </message>
+    <message>
+        <source>Diary - %1</source>
+        <translation>Tagebuch - %1</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>Save changes to diary before exit?</source>
+        <translation>Änderungen am Tagebuch vor dem Schließen speichern?</translation>
+    </message>
+</context>
+<context>
+    <name>frmNewReading</name>
+    <message>
+        <source>Reading</source>
+        <translation>Legung</translation>
+    </message>
+    <message>
+        <source>C&amp;ontinue</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>&amp;Deal</source>
+        <translation>&amp;Austeilen</translation>
+    </message>
+    <message>
+        <source>&amp;Next Card</source>
+        <translation>&amp;Nächste</translation>
+    </message>
+    <message>
+        <source>&amp;All Cards</source>
+        <translation>A&amp;lle</translation>
+    </message>
+    <message>
+        <source>&amp;Interpret</source>
+        <translation>&amp;Deuten</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>Ü&amp;bersicht</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>Dr&amp;ucken</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Sichern</translation>
+    </message>
+    <message>
+        <source>Shu&amp;ffle</source>
+        <translation>&amp;Mischen</translation>
+    </message>
+    <message>
+        <source>&amp;Quick Help</source>
+        <translation>&amp;Kurzhilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Reading - %1</source>
+        <translation>Legung - %1</translation>
+    </message>
+    <message>
+        <source>No locations were created for this spread.</source>
+        <translation>Für diese Auslage wurden keine Positionen angelegt.</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>Reading - %1: %2</source>
+        <translation>Legung - %1: %2</translation>
+    </message>
+    <message>
+        <source>Save changes to the reading?</source>
+        <translation>Änderungen an der Legung speichern?</translation>
+    </message>
+</context>
+<context>
+    <name>frmOpenDiary</name>
+    <message>
+        <source>Open Diary</source>
+        <translation>Tagebuch öffnen</translation>
+    </message>
+    <message>
+        <source>Select Diary:</source>
+        <translation>Tagebuch wählen:</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete diary &apos;%1&apos; ?</source>
+        <translation>Möchten Sie das Tagebuch &apos;%1&apos; wirklich löschen?</translation>
+    </message>
+</context>
+<context>
+    <name>frmOpenReading</name>
+    <message>
+        <source>Open Reading</source>
+        <translation>Legung öffnen</translation>
+    </message>
+    <message>
+        <source>Select Reading:</source>
+        <translation>Legung wählen:</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete reading &apos;%1&apos; ?</source>
+        <translation>Möchten Sie die Legung &apos;%1&apos; wirklich löschen?</translation>
+    </message>
+</context>
+<context>
     <name>frmPackageInfo</name>
     <message>
         <source>Package Info</source>
@@ -1929,6 +2446,20 @@ Diese Karten wurden nicht hinzugefügt: %2</translation>
     </message>
 </context>
 <context>
+    <name>frmReadingCards</name>
+    <message>
+        <source>Cards</source>
+        <translation>Karten</translation>
+    </message>
+</context>
+<context>
+    <name>frmReadingNotes</name>
+    <message>
+        <source>Reading Summary and Notes</source>
+        <translation>Übersicht und Notizen der Legung</translation>
+    </message>
+</context>
+<context>
     <name>frmSaveDeck</name>
     <message>
         <source>Save As:</source>
@@ -1952,6 +2483,20 @@ Diese Karten wurden nicht hinzugefügt: %2</translation>
     </message>
 </context>
 <context>
+    <name>frmSaveDiary</name>
+    <message>
+        <source>Save Diary</source>
+        <translation>Tagebuch speichern</translation>
+    </message>
+</context>
+<context>
+    <name>frmSaveReading</name>
+    <message>
+        <source>Save Reading</source>
+        <translation>Legung speichern</translation>
+    </message>
+</context>
+<context>
     <name>frmSaveSpread</name>
     <message>
         <source>Save Spread</source>
@@ -1972,6 +2517,20 @@ Diese Karten wurden nicht hinzugefügt: %2</translation>
     <message>
         <source>&amp;Cancel</source>
         <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>frmSelectSpread</name>
+    <message>
+        <source>Select a Spread for the Reading</source>
+        <translation>Auslage für die Legung wählen</translation>
+    </message>
+</context>
+<context>
+    <name>frmSelectSpreadforDiary</name>
+    <message>
+        <source>Select a Spread for the Diary</source>
+        <translation>Auslage für das Tagebuch wählen</translation>
     </message>
 </context>
 <context>

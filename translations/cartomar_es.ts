@@ -77,11 +77,11 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: %2 (%3 %4, %5 %6)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 (%3 %4, %5 %6)</translation>
     </message>
 </context>
 <context>
@@ -227,6 +227,138 @@ Proceed anyway?</source>
     <message>
         <source>Invalid procedure call or argument</source>
         <translation>Llamada a procedimiento o argumento no válidos</translation>
+    </message>
+    <message>
+        <source> [Select]</source>
+        <translation> [Elegir]</translation>
+    </message>
+</context>
+<context>
+    <name>EntryNotesScreen</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>EntryPrintout</name>
+    <message>
+        <source>Page 1</source>
+        <translation>Página 1</translation>
+    </message>
+    <message>
+        <source>Cartomar</source>
+        <translation>Cartomar</translation>
+    </message>
+    <message>
+        <source>Spread:</source>
+        <translation>Tirada:</translation>
+    </message>
+    <message>
+        <source>Deck:</source>
+        <translation>Baraja:</translation>
+    </message>
+    <message>
+        <source>Date &amp; Time:</source>
+        <translation>Fecha y hora:</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Título:</translation>
+    </message>
+    <message>
+        <source>Spread © Copyright 2001 By %1.</source>
+        <translation>Tirada © Copyright 2001 de %1.</translation>
+    </message>
+    <message>
+        <source>Deck © Copyright 2001 By %1.</source>
+        <translation>Baraja © Copyright 2001 de %1.</translation>
+    </message>
+    <message>
+        <source>%1(Reversed)</source>
+        <translation>%1(Invertida)</translation>
+    </message>
+    <message>
+        <source>%1(Upright)</source>
+        <translation>%1(Al derecho)</translation>
+    </message>
+    <message>
+        <source>%1 (Reversed)</source>
+        <translation>%1 (Invertida)</translation>
+    </message>
+</context>
+<context>
+    <name>EntryScreen</name>
+    <message>
+        <source>Issue Addressed by this Spread:</source>
+        <translation>Pregunta planteada a esta tirada:</translation>
+    </message>
+</context>
+<context>
+    <name>EntryStore</name>
+    <message>
+        <source>Please select a name to save the reading as.</source>
+        <translation>Elija un nombre para guardar la lectura.</translation>
+    </message>
+    <message>
+        <source>Reading already exists. Overwrite?</source>
+        <translation>La lectura ya existe. ¿Desea sobrescribirla?</translation>
+    </message>
+    <message>
+        <source>This Reading cannot be opened because the deck that was used to create it is no longer installed.</source>
+        <translation>Esta lectura no se puede abrir porque la baraja con que se hizo ya no está instalada.</translation>
+    </message>
+    <message>
+        <source>The reading cannot be opened because the too many cards were removed from the deck that was used to create this reading.</source>
+        <translation>La lectura no se puede abrir porque se quitaron demasiadas cartas de la baraja con que se hizo.</translation>
+    </message>
+    <message>
+        <source>The deck used with this reading has changed since the reading was created. Do you still want to open it?
+NOTE: If you choose &apos;Yes&apos;, the reading will be opened with the new deck version and the cards might be corrupted.</source>
+        <translation>La baraja de esta lectura ha cambiado desde que se hizo la lectura. ¿Desea abrirla de todos modos?
+NOTA: si elige &apos;Sí&apos;, la lectura se abrirá con la nueva versión de la baraja y las cartas podrían quedar dañadas.</translation>
+    </message>
+    <message>
+        <source>This reading cannot be opened because the spread that was used to create it is no longer installed.</source>
+        <translation>Esta lectura no se puede abrir porque la tirada con que se hizo ya no está instalada.</translation>
+    </message>
+    <message>
+        <source>The spread used with this reading has changed since the reading was created. Do you still want to open it?
+NOTE: If you choose &apos;Yes&apos;, the reading will be opened with the new spread and the card locations might very well be corrupted.</source>
+        <translation>La tirada de esta lectura ha cambiado desde que se hizo la lectura. ¿Desea abrirla de todos modos?
+NOTA: si elige &apos;Sí&apos;, la lectura se abrirá con la nueva tirada y las posiciones de las cartas podrían quedar dañadas.</translation>
+    </message>
+    <message>
+        <source>Please select a name to save the diary as.</source>
+        <translation>Elija un nombre para guardar el diario.</translation>
+    </message>
+    <message>
+        <source>Diary already exists. Overwrite?</source>
+        <translation>El diario ya existe. ¿Desea sobrescribirlo?</translation>
+    </message>
+    <message>
+        <source>This diary cannot be opened because the deck that was used to create it is no longer installed.</source>
+        <translation>Este diario no se puede abrir porque la baraja con que se hizo ya no está instalada.</translation>
+    </message>
+    <message>
+        <source>The Diary cannot be opened because the too many cards were removed from the deck that was used to create this diary.</source>
+        <translation>El diario no se puede abrir porque se quitaron demasiadas cartas de la baraja con que se hizo.</translation>
+    </message>
+    <message>
+        <source>The deck used with this diary has changed since the diary was created. Do you still want to open it?
+NOTE: If you choose &apos;Yes&apos;, the diary will be opened with the new deck version and the cards might be corrupted.</source>
+        <translation>La baraja de este diario ha cambiado desde que se hizo el diario. ¿Desea abrirlo de todos modos?
+NOTA: si elige &apos;Sí&apos;, el diario se abrirá con la nueva versión de la baraja y las cartas podrían quedar dañadas.</translation>
+    </message>
+    <message>
+        <source>This diary cannot be opened because the spread that was used to create it is no longer installed.</source>
+        <translation>Este diario no se puede abrir porque la tirada con que se hizo ya no está instalada.</translation>
+    </message>
+    <message>
+        <source>The spread used with this diary has changed since the diary was created. Do you still want to open it?
+NOTE: If you choose &apos;Yes&apos;, the diary will be opened with the new spread and the card locations might very well be corrupted.</source>
+        <translation>La tirada de este diario ha cambiado desde que se hizo el diario. ¿Desea abrirlo de todos modos?
+NOTA: si elige &apos;Sí&apos;, el diario se abrirá con la nueva tirada y las posiciones de las cartas podrían quedar dañadas.</translation>
     </message>
 </context>
 <context>
@@ -414,14 +546,57 @@ Guarde todo su trabajo, salga de Cartomar y vuelva a iniciarlo</translation>
     </message>
 </context>
 <context>
+    <name>InterpretLocationScreen</name>
+    <message>
+        <source>Interpretation</source>
+        <translation>Interpretación</translation>
+    </message>
+    <message>
+        <source>Questions:</source>
+        <translation>Preguntas:</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descripción</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Palabras clave</translation>
+    </message>
+    <message>
+        <source>&amp;Enlarge Pic</source>
+        <translation>&amp;Ampliar</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>[UNTITLED LOCATION]</source>
+        <translation>[POSICIÓN SIN TÍTULO]</translation>
+    </message>
+    <message>
+        <source>%1 (Upright)</source>
+        <translation>%1 (Al derecho)</translation>
+    </message>
+    <message>
+        <source>%1 (Reversed)</source>
+        <translation>%1 (Invertida)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Atrás</translation>
+    </message>
+</context>
+<context>
     <name>Journal</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>no longer installed</source>
-        <translation type="unfinished"></translation>
+        <translation>ya no instalada</translation>
     </message>
     <message>
         <source>Upright</source>
@@ -453,15 +628,15 @@ Guarde todo su trabajo, salga de Cartomar y vuelva a iniciarlo</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>The Cards That Came Up Most</source>
-        <translation type="unfinished"></translation>
+        <translation>Las cartas que más salieron</translation>
     </message>
     <message>
         <source>Entries per Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Entradas por mes</translation>
     </message>
     <message>
         <source>Total</source>
@@ -470,6 +645,26 @@ Guarde todo su trabajo, salga de Cartomar y vuelva a iniciarlo</translation>
     <message>
         <source>Card</source>
         <translation>Carta</translation>
+    </message>
+    <message>
+        <source>Card %1</source>
+        <translation>Carta %1</translation>
+    </message>
+    <message>
+        <source>(no longer installed)</source>
+        <translation>(ya no instalada)</translation>
+    </message>
+    <message>
+        <source>%1 (changed since)</source>
+        <translation>%1 (modificada después)</translation>
+    </message>
+    <message>
+        <source>%1 (damaged record)</source>
+        <translation>%1 (registro dañado)</translation>
+    </message>
+    <message>
+        <source>Date,Kind,Entry,Spread,Location,Location Title,Deck,Card,Orientation</source>
+        <translation>Fecha,Tipo,Entrada,Tirada,Posición,Título de la posición,Baraja,Carta,Orientación</translation>
     </message>
 </context>
 <context>
@@ -515,11 +710,11 @@ Guarde todo su trabajo, salga de Cartomar y vuelva a iniciarlo</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>; </source>
-        <translation type="unfinished"></translation>
+        <translation>; </translation>
     </message>
 </context>
 <context>
@@ -618,13 +813,26 @@ Guarde todo su trabajo, salga de Cartomar y vuelva a iniciarlo</translation>
     </message>
 </context>
 <context>
-    <name>PackageInstallation</name>
+    <name>OpenEntryScreen</name>
     <message>
-        <source>Unable to install: Damaged Cartomar Package.
-%1</source>
-        <translation>No se puede instalar: paquete de Cartomar dañado.
-%1</translation>
+        <source>&amp;Open</source>
+        <translation>&amp;Abrir</translation>
     </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Journal...</source>
+        <translation>&amp;Registro...</translation>
+    </message>
+</context>
+<context>
+    <name>PackageInstallation</name>
     <message>
         <source>The deck &apos;%1&apos; names the file &apos;%2&apos;, which the package does not hold.</source>
         <translation>La baraja &apos;%1&apos; nombra el archivo &apos;%2&apos;, que el paquete no contiene.</translation>
@@ -657,13 +865,6 @@ Guarde todo su trabajo, salga de Cartomar y vuelva a iniciarlo</translation>
         <source>A card of the package belongs to none of its decks.</source>
         <translation>Una carta del paquete no pertenece a ninguna de sus barajas.</translation>
     </message>
-    <message numerus="yes">
-        <source>The deck &apos;%1&apos; claims %n cards, but the package holds %2 of them.</source>
-        <translation>
-            <numerusform>La baraja &apos;%1&apos; declara %n carta, pero el paquete contiene %2.</numerusform>
-            <numerusform>La baraja &apos;%1&apos; declara %n cartas, pero el paquete contiene %2.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>The card &apos;%1&apos; has an unknown card type.</source>
         <translation>La carta &apos;%1&apos; tiene un tipo de carta desconocido.</translation>
@@ -689,8 +890,8 @@ Guarde todo su trabajo, salga de Cartomar y vuelva a iniciarlo</translation>
         <translation>Las posiciones de la tirada &apos;%1&apos; no coinciden con su número de %2.</translation>
     </message>
     <message>
-        <source>Bad record number</source>
-        <translation>Número de registro incorrecto</translation>
+        <source>Unable to install: Damaged Cartomar Package.</source>
+        <translation>No se puede instalar: paquete de Cartomar dañado.</translation>
     </message>
 </context>
 <context>
@@ -731,6 +932,124 @@ Guarde todo su trabajo, salga de Cartomar y vuelva a iniciarlo</translation>
             <numerusform>%1 y %n más</numerusform>
             <numerusform>%1 y %n más</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>PrintEntry</name>
+    <message>
+        <source>Could not print the reading properly. Please make sure that the selected printer is ready.</source>
+        <translation>No se pudo imprimir bien la lectura. Compruebe que la impresora elegida está preparada.</translation>
+    </message>
+    <message>
+        <source>Could not print the diary properly. Please make sure that the selected printer is ready.</source>
+        <translation>No se pudo imprimir bien el diario. Compruebe que la impresora elegida está preparada.</translation>
+    </message>
+    <message>
+        <source>Unable to initialize printer.</source>
+        <translation>No se puede preparar la impresora.</translation>
+    </message>
+    <message>
+        <source>Error. Please contact Ondine Software Inc.</source>
+        <translation>Error. Póngase en contacto con Ondine Software Inc.</translation>
+    </message>
+    <message>
+        <source>Unable to print! %1 %2</source>
+        <translation>¡No se puede imprimir! %1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>PrintLayout</name>
+    <message>
+        <source>Page %1</source>
+        <translation>Página %1</translation>
+    </message>
+    <message>
+        <source>Spread: %1</source>
+        <translation>Tirada: %1</translation>
+    </message>
+    <message>
+        <source>Deck: %1</source>
+        <translation>Baraja: %1</translation>
+    </message>
+    <message>
+        <source>Date &amp; Time: %1</source>
+        <translation>Fecha y hora: %1</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>Posición: %1</translation>
+    </message>
+    <message>
+        <source>Card: %1</source>
+        <translation>Carta: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SaveEntryScreen</name>
+    <message>
+        <source>Save As:</source>
+        <translation>Nombre:</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>SelectSpreadScreen</name>
+    <message>
+        <source>Spread Includes Question/Issue</source>
+        <translation>La tirada incluye una pregunta</translation>
+    </message>
+    <message>
+        <source>Spread Does NOT Includes Question/Issue</source>
+        <translation>La tirada NO incluye pregunta</translation>
+    </message>
+    <message>
+        <source>Spreads:</source>
+        <translation>Tiradas:</translation>
+    </message>
+    <message>
+        <source>Decks:</source>
+        <translation>Barajas:</translation>
+    </message>
+    <message>
+        <source>Card Types:</source>
+        <translation>Tipos de carta:</translation>
+    </message>
+    <message>
+        <source>Issue requested</source>
+        <translation>Pregunta solicitada</translation>
+    </message>
+    <message>
+        <source>Allow reversed cards</source>
+        <translation>Permitir cartas invertidas</translation>
+    </message>
+    <message>
+        <source>Allow duplicate cards</source>
+        <translation>Permitir cartas repetidas</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>&amp;Seleccionar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>The card types you have selected are not enough to run this spread.
+Please check more type(s) or change the deck.</source>
+        <translation>Los tipos de carta elegidos no bastan para esta tirada.
+Marque más tipos o cambie de baraja.</translation>
     </message>
 </context>
 <context>
@@ -1359,6 +1678,45 @@ Si no lo hace, no podrá usar esta baraja.</translation>
     </message>
 </context>
 <context>
+    <name>frmDiaryCards</name>
+    <message>
+        <source>Diary Cards</source>
+        <translation>Cartas del diario</translation>
+    </message>
+    <message>
+        <source>Card Types:</source>
+        <translation>Tipos de carta:</translation>
+    </message>
+    <message>
+        <source>Cards:</source>
+        <translation>Cartas:</translation>
+    </message>
+    <message>
+        <source>Card Image:</source>
+        <translation>Imagen de la carta:</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Invertida</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>&amp;Seleccionar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Select card for location: %1</source>
+        <translation>Elija la carta de la posición: %1</translation>
+    </message>
+    <message>
+        <source>Please select a card from the list.</source>
+        <translation>Elija una carta de la lista.</translation>
+    </message>
+</context>
+<context>
     <name>frmDiaryHelp</name>
     <message>
         <source>Quick Help</source>
@@ -1367,6 +1725,13 @@ Si no lo hace, no podrá usar esta baraja.</translation>
     <message>
         <source>The Tarot Spread is meant to aid you in your everyday life.  Examine the spread as a whole and use the additional tools included on the spread to help you understand the meaning behind each card.  By double clicking on a card, you get the description of the specific spread location and the interpretation and keywords of the card itself if it has been selected. Furthermore, you can enlarge the card&apos;s picture for a closer view. The card is selected from the cards list and its state is specified by the check box.</source>
         <translation>La tirada de tarot está pensada para ayudarle en su vida diaria.  Observe la tirada en su conjunto y use las herramientas adicionales de la tirada para entender el significado de cada carta.  Al hacer doble clic en una carta, obtiene la descripción de esa posición de la tirada y la interpretación y las palabras clave de la carta, si ya se ha elegido. Además, puede ampliar la imagen de la carta para verla de cerca. La carta se elige en la lista de cartas y su estado se indica con la casilla.</translation>
+    </message>
+</context>
+<context>
+    <name>frmDiaryNotes</name>
+    <message>
+        <source>Diary Summary and Notes</source>
+        <translation>Resumen y notas del diario</translation>
     </message>
 </context>
 <context>
@@ -1708,7 +2073,7 @@ Estas cartas no se añadieron: %2</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>(Any Spread)</source>
@@ -1716,27 +2081,27 @@ Estas cartas no se añadieron: %2</translation>
     </message>
     <message>
         <source>%1; %2; %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; %2; %3</translation>
     </message>
     <message numerus="yes">
         <source>%Ln entries</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln entrada</numerusform>
+            <numerusform>%Ln entradas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln locked, not counted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln bloqueada, sin contar</numerusform>
+            <numerusform>%Ln bloqueadas, sin contar</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln not attributable to a present card</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln sin carta actual a la que atribuirla</numerusform>
+            <numerusform>%Ln sin carta actual a la que atribuirlas</numerusform>
         </translation>
     </message>
     <message>
@@ -1748,20 +2113,12 @@ Estas cartas no se añadieron: %2</translation>
         <translation>Archivos CSV (*.csv)|*.csv|Todos los archivos (*.*)|*.*</translation>
     </message>
     <message>
-        <source>Journal.csv</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Save Chart</source>
         <translation>Guardar gráfico</translation>
     </message>
     <message>
         <source>PNG Pictures (*.png)|*.png</source>
         <translation>Imágenes PNG (*.png)|*.png</translation>
-    </message>
-    <message>
-        <source>Chart.png</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Unable to save the chart as &apos;%1&apos;.</source>
@@ -1876,6 +2233,166 @@ Estas cartas no se añadieron: %2</translation>
     </message>
 </context>
 <context>
+    <name>frmNewDiary</name>
+    <message>
+        <source>Diary</source>
+        <translation>Diario</translation>
+    </message>
+    <message>
+        <source>C&amp;ontinue</source>
+        <translation>&amp;Seguir</translation>
+    </message>
+    <message>
+        <source>&amp;Interpret</source>
+        <translation>&amp;Leer</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>Res&amp;umen</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>Im&amp;primir</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>&amp;Quick Help</source>
+        <translation>&amp;Ayuda</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Loc.</source>
+        <translation>Pos.</translation>
+    </message>
+    <message>
+        <source>Select Card</source>
+        <translation>Elegir</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Invert.</translation>
+    </message>
+    <message>
+        <source>Diary - %1</source>
+        <translation>Diario - %1</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>Atrá&amp;s</translation>
+    </message>
+    <message>
+        <source>Save changes to diary before exit?</source>
+        <translation>¿Desea guardar los cambios del diario antes de salir?</translation>
+    </message>
+</context>
+<context>
+    <name>frmNewReading</name>
+    <message>
+        <source>Reading</source>
+        <translation>Lectura</translation>
+    </message>
+    <message>
+        <source>C&amp;ontinue</source>
+        <translation>&amp;Seguir</translation>
+    </message>
+    <message>
+        <source>&amp;Deal</source>
+        <translation>&amp;Repartir</translation>
+    </message>
+    <message>
+        <source>&amp;Next Card</source>
+        <translation>S&amp;iguiente</translation>
+    </message>
+    <message>
+        <source>&amp;All Cards</source>
+        <translation>&amp;Todas</translation>
+    </message>
+    <message>
+        <source>&amp;Interpret</source>
+        <translation>&amp;Leer</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>Res&amp;umen</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>Im&amp;primir</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>Shu&amp;ffle</source>
+        <translation>&amp;Barajar</translation>
+    </message>
+    <message>
+        <source>&amp;Quick Help</source>
+        <translation>&amp;Ayuda</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Reading - %1</source>
+        <translation>Lectura - %1</translation>
+    </message>
+    <message>
+        <source>No locations were created for this spread.</source>
+        <translation>Esta tirada no tiene posiciones.</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>Atrá&amp;s</translation>
+    </message>
+    <message>
+        <source>Reading - %1: %2</source>
+        <translation>Lectura - %1: %2</translation>
+    </message>
+    <message>
+        <source>Save changes to the reading?</source>
+        <translation>¿Desea guardar los cambios de la lectura?</translation>
+    </message>
+</context>
+<context>
+    <name>frmOpenDiary</name>
+    <message>
+        <source>Open Diary</source>
+        <translation>Abrir diario</translation>
+    </message>
+    <message>
+        <source>Select Diary:</source>
+        <translation>Elija el diario:</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete diary &apos;%1&apos; ?</source>
+        <translation>¿Seguro que desea eliminar el diario &apos;%1&apos;?</translation>
+    </message>
+</context>
+<context>
+    <name>frmOpenReading</name>
+    <message>
+        <source>Open Reading</source>
+        <translation>Abrir lectura</translation>
+    </message>
+    <message>
+        <source>Select Reading:</source>
+        <translation>Elija la lectura:</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete reading &apos;%1&apos; ?</source>
+        <translation>¿Seguro que desea eliminar la lectura &apos;%1&apos;?</translation>
+    </message>
+</context>
+<context>
     <name>frmPackageInfo</name>
     <message>
         <source>Package Info</source>
@@ -1929,6 +2446,20 @@ Estas cartas no se añadieron: %2</translation>
     </message>
 </context>
 <context>
+    <name>frmReadingCards</name>
+    <message>
+        <source>Cards</source>
+        <translation>Cartas</translation>
+    </message>
+</context>
+<context>
+    <name>frmReadingNotes</name>
+    <message>
+        <source>Reading Summary and Notes</source>
+        <translation>Resumen y notas de la lectura</translation>
+    </message>
+</context>
+<context>
     <name>frmSaveDeck</name>
     <message>
         <source>Save As:</source>
@@ -1952,6 +2483,20 @@ Estas cartas no se añadieron: %2</translation>
     </message>
 </context>
 <context>
+    <name>frmSaveDiary</name>
+    <message>
+        <source>Save Diary</source>
+        <translation>Guardar diario</translation>
+    </message>
+</context>
+<context>
+    <name>frmSaveReading</name>
+    <message>
+        <source>Save Reading</source>
+        <translation>Guardar lectura</translation>
+    </message>
+</context>
+<context>
     <name>frmSaveSpread</name>
     <message>
         <source>Save Spread</source>
@@ -1972,6 +2517,20 @@ Estas cartas no se añadieron: %2</translation>
     <message>
         <source>&amp;Cancel</source>
         <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>frmSelectSpread</name>
+    <message>
+        <source>Select a Spread for the Reading</source>
+        <translation>Elija una tirada para la lectura</translation>
+    </message>
+</context>
+<context>
+    <name>frmSelectSpreadforDiary</name>
+    <message>
+        <source>Select a Spread for the Diary</source>
+        <translation>Elija una tirada para el diario</translation>
     </message>
 </context>
 <context>

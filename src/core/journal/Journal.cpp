@@ -194,8 +194,8 @@ CardTally NewTally(const JournalCatalogue& catalogue, Integer deckId, Integer nu
     tally.Number = number;
     const JournalDeck* deck = catalogue.Deck(deckId);
     if (!deck) {
-        tally.Title = QStringLiteral("Card %1").arg(number);
-        tally.DeckName = QStringLiteral("(no longer installed)");
+        tally.Title = QCoreApplication::translate("Journal", "Card %1").arg(number);
+        tally.DeckName = QCoreApplication::translate("Journal", "(no longer installed)");
         tally.DeckInstalled = false;
         return tally;
     }
@@ -316,7 +316,7 @@ QString CardTitleOf(const JournalCatalogue& catalogue, Integer deckId, Integer c
     const JournalDeck* deck = catalogue.Deck(deckId);
     if (deck && card >= 1 && static_cast<std::size_t>(card) <= deck->Cards.size())
         return deck->Cards[static_cast<std::size_t>(card - 1)].Title;
-    return QStringLiteral("Card %1").arg(card);
+    return QCoreApplication::translate("Journal", "Card %1").arg(card);
 }
 
 QString LocationTitleOf(const JournalCatalogue& catalogue, Integer spreadId, int location) {
@@ -326,7 +326,8 @@ QString LocationTitleOf(const JournalCatalogue& catalogue, Integer spreadId, int
 }
 
 // The CSV's date and kind of an entry: the program's own date format and
-// words, so that a spreadsheet reads the file alike in every language.
+// words, so that a spreadsheet reads the file alike in every language (the
+// orientation too); only the header row is in the user's language.
 QString EntryDateText(const JournalEntry& entry) {
     return entry.Date.isValid() ? entry.Date.toString(QStringLiteral("yyyy/MM/dd")) : QString();
 }
@@ -513,16 +514,16 @@ std::vector<LocationTally> TallyLocations(const Journal& journal, const std::vec
 QString EntrySpreadText(const JournalEntry& entry, const JournalCatalogue& catalogue) {
     if (entry.Locked) return {};
     const JournalSpread* spread = catalogue.Spread(entry.SpreadId);
-    return spread ? spread->Name : QStringLiteral("(no longer installed)");
+    return spread ? spread->Name : QCoreApplication::translate("Journal", "(no longer installed)");
 }
 
 QString EntryDeckText(const JournalEntry& entry, const JournalCatalogue& catalogue) {
     if (entry.Locked) return {};
     const JournalDeck* deck = catalogue.Deck(entry.DeckId);
-    const QString name = deck ? deck->Name : QStringLiteral("(no longer installed)");
+    const QString name = deck ? deck->Name : QCoreApplication::translate("Journal", "(no longer installed)");
     switch (entry.Standing) {
-    case EntryStanding::DeckRevised: return name + QStringLiteral(" (changed since)");
-    case EntryStanding::Damaged: return name + QStringLiteral(" (damaged record)");
+    case EntryStanding::DeckRevised: return QCoreApplication::translate("Journal", "%1 (changed since)").arg(name);
+    case EntryStanding::Damaged: return QCoreApplication::translate("Journal", "%1 (damaged record)").arg(name);
     default: return name;
     }
 }
@@ -530,7 +531,10 @@ QString EntryDeckText(const JournalEntry& entry, const JournalCatalogue& catalog
 QByteArray JournalCsv(const Journal& journal, const std::vector<int>& selected,
                       const JournalCatalogue& catalogue) {
     // The byte order mark tells spreadsheets that the file is UTF-8.
-    QByteArray csv("\xEF\xBB\xBF" "Date,Kind,Entry,Spread,Location,Location Title,Deck,Card,Orientation\r\n");
+    QByteArray csv("\xEF\xBB\xBF");
+    csv += QCoreApplication::translate("Journal", "Date,Kind,Entry,Spread,Location,Location Title,Deck,Card,Orientation")
+               .toUtf8() +
+           "\r\n";
     for (const int i : selected) {
         const JournalEntry& entry = journal.Entries[static_cast<std::size_t>(i)];
         if (entry.Locked) continue;

@@ -1,6 +1,7 @@
 #include "core/printing/EntryPrintout.h"
 
 #include <QColor>
+#include <QCoreApplication>
 #include <QMap>
 
 #include "core/platform/Errors.h"
@@ -79,11 +80,12 @@ void PrintLabel(Printer& printer, const QString& text, int x, int y, int width, 
     printer.FontBold = wasBold;
 }
 
-QString CopyrightLine(const QString& what, const Designer& designer) {
+// One sentence per kind of design (%1 its designer), so that a language can
+// agree its words with the kind.
+QString CopyrightLine(const QString& sentence, const Designer& designer) {
     const QString name = designer.DesignerName.Trimmed();
     if (name.isEmpty()) return QString();
-    return what + QStringLiteral(" ") + QChar(169) + QStringLiteral(" Copyright 2001 By ") + name +
-           QStringLiteral(".");
+    return sentence.arg(name);
 }
 
 // The spread's background over the white canvas: stretched to the canvas, or
@@ -136,10 +138,10 @@ bool PrintLocation(Printer& printer, const EntryPrintout& entry, const Pictures&
 bool PrintSpreadPage(Printer& printer, const EntryPrintout& entry, const Pictures& pictures) {
     printer.FillRect(0, 0, PageWidth, PageHeight, White);
     PrintLabel(printer, MakerWebAddress, 480, 240, 7215, 375, LabelPoints);
-    PrintLabel(printer, QStringLiteral("Page 1"), 9000, 240, 2055, 375, LabelPoints, Black,
-               Qt::AlignRight | Qt::AlignTop | Qt::TextWordWrap);
-    PrintLabel(printer, QStringLiteral("Cartomar"), 1680, 1560, 8175, 495, NamePoints, Black,
-               Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, true);
+    PrintLabel(printer, QCoreApplication::translate("EntryPrintout", "Page 1"), 9000, 240, 2055, 375, LabelPoints,
+               Black, Qt::AlignRight | Qt::AlignTop | Qt::TextWordWrap);
+    PrintLabel(printer, QCoreApplication::translate("EntryPrintout", "Cartomar"), 1680, 1560, 8175, 495, NamePoints,
+               Black, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, true);
 
     printer.FillRect(CanvasLeft, CanvasTop, CanvasWidth, CanvasHeight, White);
     PrintBackground(printer);
@@ -154,21 +156,24 @@ bool PrintSpreadPage(Printer& printer, const EntryPrintout& entry, const Picture
         QString caption, value;
         int top, height;
     } lines[] = {
-        {QStringLiteral("Spread:"), SpreadNameById(CurrentSpread.SpreadId).trimmed(), 10560, LineHeight},
-        {QStringLiteral("Deck:"), DeckNameById(CurrentDeck.DeckId).trimmed(), 11040, LineHeight},
-        {QStringLiteral("Date & Time:"), FormatLongDayDate(now) + QStringLiteral(" - ") + entry.FormatTime(now), 11520,
+        {QCoreApplication::translate("EntryPrintout", "Spread:"), SpreadNameById(CurrentSpread.SpreadId).trimmed(),
+         10560, LineHeight},
+        {QCoreApplication::translate("EntryPrintout", "Deck:"), DeckNameById(CurrentDeck.DeckId).trimmed(), 11040,
          LineHeight},
-        {QStringLiteral("Title:"), entry.Issue.trimmed(), 12000, 975},
+        {QCoreApplication::translate("EntryPrintout", "Date & Time:"),
+         FormatLongDayDate(now) + QStringLiteral(" - ") + entry.FormatTime(now), 11520, LineHeight},
+        {QCoreApplication::translate("EntryPrintout", "Title:"), entry.Issue.trimmed(), 12000, 975},
     };
     for (const auto& line : lines) {
         // A caption stays on its line.
         PrintLabel(printer, line.caption, CaptionLeft, line.top, CaptionWidth, LineHeight, LabelPoints, Black, TopLeft);
         PrintLabel(printer, line.value, ValueLeft, line.top, ValueWidth, line.height, LabelPoints);
     }
-    PrintLabel(printer, CopyrightLine(QStringLiteral("Spread"), CurrentSpread.SpreadDesigner), 1680, 13080, 8415, 255,
+    const QString spreadLine = QCoreApplication::translate("EntryPrintout", "Spread © Copyright 2001 By %1.");
+    const QString deckLine = QCoreApplication::translate("EntryPrintout", "Deck © Copyright 2001 By %1.");
+    PrintLabel(printer, CopyrightLine(spreadLine, CurrentSpread.SpreadDesigner), 1680, 13080, 8415, 255,
                CopyrightPoints);
-    PrintLabel(printer, CopyrightLine(QStringLiteral("Deck"), CurrentDeck.DeckDesigner), 1680, 13560, 8415, 255,
-               CopyrightPoints);
+    PrintLabel(printer, CopyrightLine(deckLine, CurrentDeck.DeckDesigner), 1680, 13560, 8415, 255, CopyrightPoints);
     return fitted;
 }
 
@@ -195,7 +200,7 @@ bool PrintTextPages(PrintLayout& layout, const EntryPrintout& entry, const Pictu
         const LocationRecord& location = SpreadLocations(i);
         const CardRecord& card = CardAt(entry, i);
         const bool upright = Upright(entry, i);
-        const QString cardTitle = card.CardTitle.Trimmed() + (upright ? entry.UprightWord : entry.ReversedWord);
+        const QString cardTitle = (upright ? entry.UprightTitle : entry.ReversedTitle).arg(card.CardTitle.Trimmed());
         ok = layout.PrintBlock(pictures[i].Image, location.LocationTitle.Value(), LocationText(location), cardTitle,
                                card.CardDescription[upright ? 0 : 1].Value()) &&
              ok;
@@ -220,8 +225,9 @@ EntryPrintout ReadingPrintout(const Deal& deal, const ReadingRecord& reading) {
     EntryPrintout entry;
     entry.Kind = EntryKind::Reading;
     entry.FormatTime = FormatTimeHmsAmPm;
-    entry.ReversedWord = QStringLiteral("(Reversed)");
-    entry.UprightWord = QStringLiteral("(Upright)");
+    // The reading's side stands straight behind the title, as it always did.
+    entry.ReversedTitle = QCoreApplication::translate("EntryPrintout", "%1(Reversed)");
+    entry.UprightTitle = QCoreApplication::translate("EntryPrintout", "%1(Upright)");
     for (int i = 1; i <= Deal::MaxLocations; ++i) {
         if (CardLiesAt(deal, i)) entry.CardLocations.append(i);
         entry.DealtCard[static_cast<std::size_t>(i - 1)] = deal.DealtCard(i);
@@ -238,8 +244,10 @@ EntryPrintout DiaryPrintout(const DiaryRecord& diary) {
     EntryPrintout entry;
     entry.Kind = EntryKind::Diary;
     entry.FormatTime = FormatTimeHhMmSsAmPm;
-    entry.ReversedWord = QStringLiteral(" (Reversed)");
-    entry.UprightWord = QStringLiteral("(Upright)");
+    // The diary's reversed side stands a space behind the title, its upright
+    // side straight behind it.
+    entry.ReversedTitle = QCoreApplication::translate("EntryPrintout", "%1 (Reversed)");
+    entry.UprightTitle = QCoreApplication::translate("EntryPrintout", "%1(Upright)");
     for (int i = 1; i <= static_cast<int>(diary.DealtCard.size()); ++i)
         if (At(diary.DealtCard, i) > 0) entry.CardLocations.append(i);
     entry.DealtCard = diary.DealtCard;

@@ -19,9 +19,9 @@ struct EntryPrintout {
     EntryKind Kind = EntryKind::Reading;
     // The time of day on page 1.
     QString (*FormatTime)(double oleDate) = nullptr;
-    // Put straight behind a card's title, by its side.
-    QString ReversedWord;
-    QString UprightWord;
+    // A card's title with its side behind it (%1 the title).
+    QString ReversedTitle;
+    QString UprightTitle;
     // The locations that have a card, rising.
     QList<int> CardLocations;
     // The card number and side of each location (index 0 is location 1).

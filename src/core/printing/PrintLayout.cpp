@@ -1,5 +1,6 @@
 #include "core/printing/PrintLayout.h"
 
+#include <QCoreApplication>
 #include <cmath>
 
 #include "core/platform/OleDate.h"
@@ -82,7 +83,9 @@ bool PrintLayout::StartPrint(int blockCount, const QString& pageTitle, const QSt
     return job_.PrintActive;
 }
 
-QString PrintLayout::PageText() const { return QStringLiteral("Page ") + QString::number(job_.PageNumber); }
+QString PrintLayout::PageText() const {
+    return QCoreApplication::translate("PrintLayout", "Page %1").arg(job_.PageNumber);
+}
 
 int PrintLayout::SlotY(int n) const {
     int y = (n - 1) * BlockPitch + FirstBlockY;
@@ -110,14 +113,14 @@ bool PrintLayout::PrintHeader() {
     printer.CurrentX = LeftMargin;
     printer.CurrentY = SlotY(1);
     if (job_.PageNumber == 1) {
-        printer.Print(QStringLiteral("Spread: ") + job_.HeaderSpread);
+        printer.Print(QCoreApplication::translate("PrintLayout", "Spread: %1").arg(job_.HeaderSpread));
         printer.CurrentX = LeftMargin;
-        printer.Print(QStringLiteral("Deck: ") + job_.HeaderDeck);
+        printer.Print(QCoreApplication::translate("PrintLayout", "Deck: %1").arg(job_.HeaderDeck));
         printer.Print();
         printer.CurrentX = LeftMargin;
         const double now = OleNow();
-        printer.Print(QStringLiteral("Date & Time: ") + FormatLongDayDate(now) + QStringLiteral(" - ") +
-                      FormatTimeHmsAmPm(now));
+        printer.Print(QCoreApplication::translate("PrintLayout", "Date & Time: %1")
+                          .arg(FormatLongDayDate(now) + QStringLiteral(" - ") + FormatTimeHmsAmPm(now)));
         ++job_.BlockSlot;
         printer.CurrentX = LeftMargin;
         printer.CurrentY = SlotY(2);
@@ -148,7 +151,7 @@ bool PrintLayout::PrintSummary(const QString& text) {
     const int colour = printer.ForeColor;
     printer.FontSize = size + 6;
     printer.ForeColor = SummaryColour;
-    printer.Print(QStringLiteral("Summary"));
+    printer.Print(QCoreApplication::translate("PrintLayout", "Summary"));
     printer.Print();
     printer.Print();
     printer.FontSize = size;
@@ -177,13 +180,13 @@ bool PrintLayout::PrintBlock(const QImage& picture, const QString& locationTitle
     const int x = right + PictureGap;
     printer.CurrentX = x;
     printer.CurrentY = top;
-    printer.Print(QStringLiteral("Location: ") + locationTitle.trimmed());
+    printer.Print(QCoreApplication::translate("PrintLayout", "Location: %1").arg(locationTitle.trimmed()));
     printer.CurrentX = x;
     PrintWrapped(locationText.trimmed(), printer.CurrentX, printer.CurrentY);
     printer.Print();
     printer.Print();
     printer.CurrentX = x;
-    printer.Print(QStringLiteral("Card: ") + cardTitle.trimmed());
+    printer.Print(QCoreApplication::translate("PrintLayout", "Card: %1").arg(cardTitle.trimmed()));
     printer.CurrentX = x;
     PrintWrapped(cardText.trimmed(), printer.CurrentX, printer.CurrentY);
     ++job_.BlockSlot;

@@ -38,7 +38,7 @@ void TakeCardFromLists(DiaryCardLists& lists, int location, int locationCount) {
 
 }  // namespace
 
-QString SelectPrompt() { return QStringLiteral(" [Select]"); }
+QString SelectPrompt() { return QCoreApplication::translate("DiaryCards", " [Select]"); }
 
 void FillCardLists(DiaryCardLists& lists, const DeckInMemory& deck, int locationCount,
                    const std::array<bool, 4>& types) {

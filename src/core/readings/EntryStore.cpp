@@ -11,8 +11,6 @@
 
 namespace {
 
-QString Tr(const char* text) { return QCoreApplication::translate("EntryStore", text); }
-
 // What differs between the two kinds of entry: the file, the name field and
 // the words.
 template <class R>
@@ -24,29 +22,39 @@ struct Kind<ReadingRecord> {
     static FixedText<50>& Name(ReadingRecord& r) { return r.ReadingName; }
     static const FixedText<50>& Name(const ReadingRecord& r) { return r.ReadingName; }
     static int Find(const QString& name) { return FindReadingByName(name); }
-    static QString NoName() { return Tr("Please select a name to save the reading as."); }
-    static QString Exists() { return Tr("Reading already exists. Overwrite?"); }
+    static QString NoName() {
+        return QCoreApplication::translate("EntryStore", "Please select a name to save the reading as.");
+    }
+    static QString Exists() { return QCoreApplication::translate("EntryStore", "Reading already exists. Overwrite?"); }
     static QString DeckGone() {
-        return Tr("This Reading cannot be opened because the deck that was used to create it is no longer "
-                  "installed.");
+        return QCoreApplication::translate(
+            "EntryStore",
+            "This Reading cannot be opened because the deck that was used to create it is no longer installed.");
     }
     static QString TooManyCardsRemoved() {
-        return Tr("The reading cannot be opened because the too many cards were removed from the deck that was "
-                  "used to create this reading.");
+        return QCoreApplication::translate(
+            "EntryStore",
+            "The reading cannot be opened because the too many cards were removed from the deck that was used to "
+            "create this reading.");
     }
     static QString DeckChanged() {
-        return Tr("The deck used with this reading has changed since the reading was created. Do you still want "
-                  "to open it?\nNOTE: If you choose 'Yes', the reading will be opened with the new deck version "
-                  "and the cards might be corrupted.");
+        return QCoreApplication::translate(
+            "EntryStore",
+            "The deck used with this reading has changed since the reading was created. Do you still want to "
+            "open it?\nNOTE: If you choose 'Yes', the reading will be opened with the new deck version and the "
+            "cards might be corrupted.");
     }
     static QString SpreadGone() {
-        return Tr("This reading cannot be opened because the spread that was used to create it is no longer "
-                  "installed.");
+        return QCoreApplication::translate(
+            "EntryStore",
+            "This reading cannot be opened because the spread that was used to create it is no longer installed.");
     }
     static QString SpreadChanged() {
-        return Tr("The spread used with this reading has changed since the reading was created. Do you still "
-                  "want to open it?\nNOTE: If you choose 'Yes', the reading will be opened with the new spread "
-                  "and the card locations might very well be corrupted.");
+        return QCoreApplication::translate(
+            "EntryStore",
+            "The spread used with this reading has changed since the reading was created. Do you still want to "
+            "open it?\nNOTE: If you choose 'Yes', the reading will be opened with the new spread and the card "
+            "locations might very well be corrupted.");
     }
 };
 
@@ -56,29 +64,39 @@ struct Kind<DiaryRecord> {
     static FixedText<50>& Name(DiaryRecord& r) { return r.DiaryName; }
     static const FixedText<50>& Name(const DiaryRecord& r) { return r.DiaryName; }
     static int Find(const QString& name) { return FindDiaryByName(name); }
-    static QString NoName() { return Tr("Please select a name to save the diary as."); }
-    static QString Exists() { return Tr("Diary already exists. Overwrite?"); }
+    static QString NoName() {
+        return QCoreApplication::translate("EntryStore", "Please select a name to save the diary as.");
+    }
+    static QString Exists() { return QCoreApplication::translate("EntryStore", "Diary already exists. Overwrite?"); }
     static QString DeckGone() {
-        return Tr("This diary cannot be opened because the deck that was used to create it is no longer "
-                  "installed.");
+        return QCoreApplication::translate(
+            "EntryStore",
+            "This diary cannot be opened because the deck that was used to create it is no longer installed.");
     }
     static QString TooManyCardsRemoved() {
-        return Tr("The Diary cannot be opened because the too many cards were removed from the deck that was "
-                  "used to create this diary.");
+        return QCoreApplication::translate(
+            "EntryStore",
+            "The Diary cannot be opened because the too many cards were removed from the deck that was used to "
+            "create this diary.");
     }
     static QString DeckChanged() {
-        return Tr("The deck used with this diary has changed since the diary was created. Do you still want to "
-                  "open it?\nNOTE: If you choose 'Yes', the diary will be opened with the new deck version and "
-                  "the cards might be corrupted.");
+        return QCoreApplication::translate(
+            "EntryStore",
+            "The deck used with this diary has changed since the diary was created. Do you still want to open "
+            "it?\nNOTE: If you choose 'Yes', the diary will be opened with the new deck version and the cards "
+            "might be corrupted.");
     }
     static QString SpreadGone() {
-        return Tr("This diary cannot be opened because the spread that was used to create it is no longer "
-                  "installed.");
+        return QCoreApplication::translate(
+            "EntryStore",
+            "This diary cannot be opened because the spread that was used to create it is no longer installed.");
     }
     static QString SpreadChanged() {
-        return Tr("The spread used with this diary has changed since the diary was created. Do you still want "
-                  "to open it?\nNOTE: If you choose 'Yes', the diary will be opened with the new spread and the "
-                  "card locations might very well be corrupted.");
+        return QCoreApplication::translate(
+            "EntryStore",
+            "The spread used with this diary has changed since the diary was created. Do you still want to open "
+            "it?\nNOTE: If you choose 'Yes', the diary will be opened with the new spread and the card locations "
+            "might very well be corrupted.");
     }
 };
 

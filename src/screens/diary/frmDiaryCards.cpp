@@ -39,24 +39,24 @@ const CardRecord* CardOfRow(int number, const QString& text) {
 
 frmDiaryCards::frmDiaryCards() {
     setObjectName(QStringLiteral("frmDiaryCards"));
-    setCaption(QStringLiteral("Diary Cards"));
+    setCaption(tr("Diary Cards"));
     resize(TwipsToPixels(7455), TwipsToPixels(5295));
-    lblCardTypes = MakeNamedCaption(this, QStringLiteral("lblCardTypes"), QStringLiteral("Card Types:"), 120, 120, 2655);
+    lblCardTypes = MakeNamedCaption(this, QStringLiteral("lblCardTypes"), tr("Card Types:"), 120, 120, 2655);
     lstCardTypes = MakeList(this, QStringLiteral("lstCardTypes"), 120, 420, 2655, 1215);
     lstCardTypes->setSelectionMode(QAbstractItemView::MultiSelection);
-    lblCards = MakeNamedCaption(this, QStringLiteral("lblCards"), QStringLiteral("Cards:"), 120, 1755, 2655);
+    lblCards = MakeNamedCaption(this, QStringLiteral("lblCards"), tr("Cards:"), 120, 1755, 2655);
     lstCards = MakeList(this, QStringLiteral("lstCards"), 120, 2055, 2655, 3015);
     lblCardImage =
-        MakeNamedCaption(this, QStringLiteral("lblCardImage"), QStringLiteral("Card Image:"), 2955, 120, 2655);
+        MakeNamedCaption(this, QStringLiteral("lblCardImage"), tr("Card Image:"), 2955, 120, 2655);
     imgCard = new ImageBox(this);
     imgCard->setObjectName(QStringLiteral("imgCard"));
     imgCard->Move(2955, 420, 2655, 4215);
-    chkReserved = new QCheckBox(QStringLiteral("Reversed"), this);
+    chkReserved = new QCheckBox(tr("Reversed"), this);
     chkReserved->setObjectName(QStringLiteral("chkReserved"));
     PlaceControl(chkReserved, 2955, 4755, 2655, 300);
-    cmdSelect = new QPushButton(QStringLiteral("&Select"), this);
+    cmdSelect = new QPushButton(tr("&Select"), this);
     cmdSelect->setObjectName(QStringLiteral("cmdSelect"));
-    cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
+    cmdCancel = new QPushButton(tr("&Cancel"), this);
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     PlaceControl(cmdSelect, 5835, 420, 1455, 375);
     PlaceControl(cmdCancel, 5835, 900, 1455, 375);
@@ -75,7 +75,7 @@ void frmDiaryCards::Form_Load() {
     frmNewDiary& diary = Diary();
     pick_ = diary.PickLocation;
     diary.MarkLocation(pick_, true);
-    setCaption(QStringLiteral("Select card for location: ") + diary.LocationTitle(pick_));
+    setCaption(tr("Select card for location: %1").arg(diary.LocationTitle(pick_)));
     CardFrameTop = imgCard->Top();
     CardFrameLeft = imgCard->Left();
     CardFrameWidth = imgCard->Width();
@@ -141,7 +141,7 @@ void frmDiaryCards::chkReserved_Click() {
 
 void frmDiaryCards::cmdSelect_Click() {
     if (lstCards->ListIndex() < 0) {
-        MsgBox(QStringLiteral("Please select a card from the list."));
+        MsgBox(tr("Please select a card from the list."));
         return;
     }
     const Integer n = static_cast<Integer>(lstCards->ItemData(lstCards->ListIndex()));

@@ -3,7 +3,7 @@
 #include "core/store/RunState.h"
 #include "screens/diary/frmNewDiary.h"
 
-frmDiaryNotes::frmDiaryNotes() : EntryNotesScreen(QStringLiteral("Diary Summary and Notes")) {
+frmDiaryNotes::frmDiaryNotes() : EntryNotesScreen(tr("Diary Summary and Notes")) {
     setObjectName(QStringLiteral("frmDiaryNotes"));
 }
 

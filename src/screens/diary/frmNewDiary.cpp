@@ -22,8 +22,6 @@
 
 namespace {
 
-const QString DiaryCaption = QStringLiteral("Diary - ");
-
 void SetBoxColours(QCheckBox* box, const QColor& back, const QColor& fore) {
     QPalette palette = box->palette();
     palette.setColor(QPalette::Window, back);
@@ -35,27 +33,27 @@ void SetBoxColours(QCheckBox* box, const QColor& back, const QColor& fore) {
 }  // namespace
 
 frmNewDiary::frmNewDiary()
-    : EntryScreen(QStringLiteral("Diary")), cmdCardTitle(1, MaxLocations), chkReversed(1, MaxLocations) {
+    : EntryScreen(tr("Diary")), cmdCardTitle(1, MaxLocations), chkReversed(1, MaxLocations) {
     setObjectName(QStringLiteral("frmNewDiary"));
-    cmdContinue = AddPanelButton(QStringLiteral("cmdContinue"), QStringLiteral("C&ontinue"), 120, true);
-    cmdInterpret = AddPanelButton(QStringLiteral("cmdInterpret"), QStringLiteral("&Interpret"), 600, false);
-    cmdNotes = AddPanelButton(QStringLiteral("cmdNotes"), QStringLiteral("S&ummary"), 1060, false);
-    cmdPrint = AddPanelButton(QStringLiteral("cmdPrint"), QStringLiteral("&Print"), 1525, false);
-    cmdSave = AddPanelButton(QStringLiteral("cmdSave"), QStringLiteral("&Save"), 2000, false);
-    cmdQuickHelp = AddPanelButton(QStringLiteral("cmdQuickHelp"), QStringLiteral("&Quick Help"), 2475, false);
-    cmdClose = AddPanelButton(QStringLiteral("cmdClose"), QStringLiteral("&Close"), 5280, true);
+    cmdContinue = AddPanelButton(QStringLiteral("cmdContinue"), tr("C&ontinue"), 120, true);
+    cmdInterpret = AddPanelButton(QStringLiteral("cmdInterpret"), tr("&Interpret"), 600, false);
+    cmdNotes = AddPanelButton(QStringLiteral("cmdNotes"), tr("S&ummary"), 1060, false);
+    cmdPrint = AddPanelButton(QStringLiteral("cmdPrint"), tr("&Print"), 1525, false);
+    cmdSave = AddPanelButton(QStringLiteral("cmdSave"), tr("&Save"), 2000, false);
+    cmdQuickHelp = AddPanelButton(QStringLiteral("cmdQuickHelp"), tr("&Quick Help"), 2475, false);
+    cmdClose = AddPanelButton(QStringLiteral("cmdClose"), tr("&Close"), 5280, true);
 
     for (int i = 1; i <= MaxLocations; ++i) {
-        lblCardNumber(i)->setText(QStringLiteral("Loc."));
+        lblCardNumber(i)->setText(tr("Loc."));
         // The button stands under the location's title, where a reading shows
         // the card's name.
-        auto* button = new QPushButton(QStringLiteral("Select Card"), picLocation(i));
+        auto* button = new QPushButton(tr("Select Card"), picLocation(i));
         button->setObjectName(QStringLiteral("cmdCardTitle"));
         button->setProperty("Index", i);
         button->setAutoDefault(false);
         PlaceControl(button, 720, 525, 975, 435);
         cmdCardTitle(i) = button;
-        auto* box = new QCheckBox(QStringLiteral("Reversed"), picLocation(i));
+        auto* box = new QCheckBox(tr("Reversed"), picLocation(i));
         box->setObjectName(QStringLiteral("chkReversed"));
         box->setProperty("Index", i);
         PlaceControl(box, 720, 435, 975, 255);
@@ -94,7 +92,7 @@ void frmNewDiary::Initialize() {
     if (issue) txtIssue->setText(CurrentDiary.Issue.Trimmed());
 
     const QString title = CurrentSpread.SpreadTitle.Trimmed();
-    if (!title.isEmpty()) setCaption(DiaryCaption + title);
+    if (!title.isEmpty()) setCaption(tr("Diary - %1").arg(title));
     FocusLocation = 1;
     // Every location stands on its row of no card, without marking anything
     // changed: the focus stays on location 1 and the entry's cards as read.
@@ -146,7 +144,7 @@ void frmNewDiary::cmdContinue_Click() {
     lblTheIssue->setText(IssueForSaving(CurrentDiary.Issue.Trimmed()));
     lblTheIssue->hide();
     for (QPushButton* button : {cmdNotes, cmdInterpret, cmdSave, cmdQuickHelp, cmdPrint}) button->setEnabled(Forward);
-    cmdContinue->setText(Forward ? QStringLiteral("&Back") : QStringLiteral("C&ontinue"));
+    cmdContinue->setText(Forward ? tr("&Back") : tr("C&ontinue"));
 }
 
 void frmNewDiary::txtIssue_LostFocus() { txtIssue->setText(txtIssue->text().trimmed()); }
@@ -254,7 +252,7 @@ void frmNewDiary::cmdSave_Click() {
 }
 
 void frmNewDiary::cmdClose_Click() {
-    if (!ConfirmClose(DiaryChanged, QStringLiteral("Save changes to diary before exit?"))) return;
+    if (!ConfirmClose(DiaryChanged, tr("Save changes to diary before exit?"))) return;
     Unload();
     Get<frmMainScreen>().Show();
 }

@@ -5,9 +5,8 @@
 #include "screens/shell/frmMainScreen.h"
 
 frmOpenDiary::frmOpenDiary()
-    : OpenEntryScreen(EntryKind::Diary, {QStringLiteral("Open Diary"), QStringLiteral("lstDiaries"),
-                                          QStringLiteral("Select Diary:"),
-                                          QStringLiteral("Are you sure you want to delete diary '")}) {
+    : OpenEntryScreen(EntryKind::Diary, {tr("Open Diary"), QStringLiteral("lstDiaries"), tr("Select Diary:"),
+                                          tr("Are you sure you want to delete diary '%1' ?")}) {
     setObjectName(QStringLiteral("frmOpenDiary"));
 }
 

@@ -5,7 +5,7 @@
 #include "screens/diary/frmNewDiary.h"
 
 frmSaveDiary::frmSaveDiary()
-    : SaveEntryScreen(EntryKind::Diary, {QStringLiteral("Save Diary"), QStringLiteral("lstDiaryNames")}) {
+    : SaveEntryScreen(EntryKind::Diary, {tr("Save Diary"), QStringLiteral("lstDiaryNames")}) {
     setObjectName(QStringLiteral("frmSaveDiary"));
 }
 

@@ -5,7 +5,7 @@
 #include "screens/shell/frmMainScreen.h"
 
 frmSelectSpreadforDiary::frmSelectSpreadforDiary()
-    : SelectSpreadScreen(QStringLiteral("Select a Spread for the Diary")) {
+    : SelectSpreadScreen(tr("Select a Spread for the Diary")) {
     setObjectName(QStringLiteral("frmSelectSpreadforDiary"));
 }
 

@@ -347,7 +347,7 @@ void frmJournal::cmdExport_Click() {
     CommonDialog dialog;
     dialog.DialogTitle = tr("Export Results");
     dialog.Filter = tr("CSV Files (*.csv)|*.csv|All Files (*.*)|*.*");
-    dialog.FileName = tr("Journal.csv");
+    dialog.FileName = QStringLiteral("Journal.csv");
     dialog.Flags = CommonDialog::cdlOFNOverwritePrompt | CommonDialog::cdlOFNPathMustExist;
     if (!dialog.ShowSave()) return;
     WriteWholeFile(dialog.FileName, JournalCsv(journal_, selected_, catalogue_));
@@ -359,7 +359,7 @@ void frmJournal::cmdSaveChart_Click() {
     CommonDialog dialog;
     dialog.DialogTitle = tr("Save Chart");
     dialog.Filter = tr("PNG Pictures (*.png)|*.png");
-    dialog.FileName = tr("Chart.png");
+    dialog.FileName = QStringLiteral("Chart.png");
     dialog.Flags = CommonDialog::cdlOFNOverwritePrompt | CommonDialog::cdlOFNPathMustExist;
     if (!dialog.ShowSave()) return;
     if (!chart->Render(chart->size()).save(dialog.FileName, "PNG"))

@@ -1,5 +1,7 @@
 #include "screens/printing/PrintEntry.h"
 
+#include <QCoreApplication>
+
 #include "core/platform/Errors.h"
 #include "screens/platform/CommonDialog.h"
 #include "screens/platform/MsgBox.h"
@@ -10,15 +12,17 @@ namespace {
 
 QString FailureMessage(EntryKind kind) {
     return kind == EntryKind::Reading
-               ? QStringLiteral("Could not print the reading properly. Please make sure that the selected printer is ready.")
-               : QStringLiteral("Could not print the diary properly. Please make sure that the selected printer is ready.");
+               ? QCoreApplication::translate("PrintEntry", "Could not print the reading properly. Please make sure "
+                                                           "that the selected printer is ready.")
+               : QCoreApplication::translate("PrintEntry", "Could not print the diary properly. Please make sure "
+                                                           "that the selected printer is ready.");
 }
 
 void TellOutcome(const EntryPrintout& entry, const PrintOutcome& outcome) {
     if (outcome.Fault == PrintFault::PrinterNotReady) {
-        MsgBox(QStringLiteral("Unable to initialize printer."), vbExclamation);
+        MsgBox(QCoreApplication::translate("PrintEntry", "Unable to initialize printer."), vbExclamation);
     } else if (outcome.Fault == PrintFault::PictureUnfit) {
-        MsgBox(QStringLiteral("Error. Please contact Ondine Software Inc."), vbCritical);
+        MsgBox(QCoreApplication::translate("PrintEntry", "Error. Please contact Ondine Software Inc."), vbCritical);
         FatalError();
         return;
     }
@@ -44,8 +48,9 @@ void PrintEntry(const EntryPrintout& entry) {
         if (chosen) CurrentPrinter().Close();
         // Cancel in the printer dialogue: nothing was printed, nothing to say.
         if (error.Number() == errCancel) return;
-        MsgBox(QStringLiteral("Unable to print! ") + QString::number(error.Number()) + QStringLiteral(" ") +
-                   error.Description(),
+        MsgBox(QCoreApplication::translate("PrintEntry", "Unable to print! %1 %2")
+                   .arg(error.Number())
+                   .arg(error.Description()),
                vbCritical);
     }
 }

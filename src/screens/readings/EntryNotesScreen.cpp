@@ -13,7 +13,7 @@ EntryNotesScreen::EntryNotesScreen(const QString& caption) {
     txtComments = new QPlainTextEdit(this);
     txtComments->setObjectName(QStringLiteral("txtComments"));
     PlaceControl(txtComments, 120, 120, 6015, 3600);
-    cmdClose = new QPushButton(QStringLiteral("&Close"), this);
+    cmdClose = new QPushButton(tr("&Close"), this);
     cmdClose->setObjectName(QStringLiteral("cmdClose"));
     PlaceControl(cmdClose, 4920, 3900, 1215, 375);
     connect(txtComments, &QPlainTextEdit::textChanged, this, Handler([this] { txtComments_Change(); }));

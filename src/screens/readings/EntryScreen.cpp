@@ -101,7 +101,7 @@ EntryScreen::EntryScreen(const QString& caption)
     lblSpreadTitle->setFont(titleFont);
     lblSpreadDescription =
         MakeLabel(picIntroduction, QStringLiteral("lblSpreadDescription"), QString(), 2640, 840, 6735, 3135);
-    lblIssue = MakeLabel(picIntroduction, QStringLiteral("lblIssue"), QStringLiteral("Issue Addressed by this Spread:"),
+    lblIssue = MakeLabel(picIntroduction, QStringLiteral("lblIssue"), tr("Issue Addressed by this Spread:"),
                          2640, 4200, 6735, 285);
     txtIssue = new QLineEdit(picIntroduction);
     txtIssue->setObjectName(QStringLiteral("txtIssue"));

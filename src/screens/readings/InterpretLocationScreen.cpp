@@ -50,7 +50,7 @@ void FitHeightToText(QLabel* label) {
 }  // namespace
 
 InterpretLocationScreen::InterpretLocationScreen(bool enlargeHidesPlayer) : enlargeHidesPlayer_(enlargeHidesPlayer) {
-    setCaption(QStringLiteral("Interpretation"));
+    setCaption(tr("Interpretation"));
     resize(TwipsToPixels(PageWidth), TwipsToPixels(PageHeight));
 
     lblTitle = MakeLabel(this, QStringLiteral("lblTitle"), 120, 120, TextWidth, 375);
@@ -60,7 +60,7 @@ InterpretLocationScreen::InterpretLocationScreen(bool enlargeHidesPlayer) : enla
     lblTitle->setFont(bold);
     lblDescription = MakeLabel(this, QStringLiteral("lblDescription"), 120, 600, TextWidth, 1215);
     lbltheQuestions = MakeLabel(this, QStringLiteral("lbltheQuestions"), 120, 1920, TextWidth, 255);
-    lbltheQuestions->setText(QStringLiteral("Questions:"));
+    lbltheQuestions->setText(tr("Questions:"));
     lblQuestions = MakeLabel(this, QStringLiteral("lblQuestions"), 120, 2235, TextWidth, 1095);
 
     linSeparator = new QFrame(this);
@@ -76,11 +76,11 @@ InterpretLocationScreen::InterpretLocationScreen(bool enlargeHidesPlayer) : enla
     // Room for two lines: a long title with "(Reversed)" behind it breaks.
     lblCardTitle = MakeLabel(this, QStringLiteral("lblCardTitle"), 2100, 3600, 3675, 570);
     lblCardTitle->setFont(bold);
-    optDescription = new QRadioButton(QStringLiteral("Description"), this);
+    optDescription = new QRadioButton(tr("Description"), this);
     optDescription->setObjectName(QStringLiteral("optDescription"));
     optDescription->setChecked(true);
     PlaceControl(optDescription, 2100, 4200, 1695, 300);
-    optKeywords = new QRadioButton(QStringLiteral("Keywords"), this);
+    optKeywords = new QRadioButton(tr("Keywords"), this);
     optKeywords->setObjectName(QStringLiteral("optKeywords"));
     PlaceControl(optKeywords, 3900, 4200, 1695, 300);
     lblText = new QPlainTextEdit(this);
@@ -91,11 +91,11 @@ InterpretLocationScreen::InterpretLocationScreen(bool enlargeHidesPlayer) : enla
     MediaPlayer1 = new MediaPlayer(this);
     MediaPlayer1->setObjectName(QStringLiteral("MediaPlayer1"));
     PlaceControl(MediaPlayer1, 120, 6360, 1815, 420);
-    cmdEnlargePic = new QPushButton(QStringLiteral("&Enlarge Pic"), this);
+    cmdEnlargePic = new QPushButton(tr("&Enlarge Pic"), this);
     cmdEnlargePic->setObjectName(QStringLiteral("cmdEnlargePic"));
     cmdEnlargePic->setEnabled(false);
     PlaceControl(cmdEnlargePic, 2100, 6360, 1215, 375);
-    cmdClose = new QPushButton(QStringLiteral("&Close"), this);
+    cmdClose = new QPushButton(tr("&Close"), this);
     cmdClose->setObjectName(QStringLiteral("cmdClose"));
     PlaceControl(cmdClose, 4560, 6360, 1215, 375);
 
@@ -127,7 +127,7 @@ void InterpretLocationScreen::Form_Load() {
     const LocationRecord& location = SpreadLocations(L);
     const QString title = location.LocationTitle.Trimmed();
     setCaption(QStringLiteral("%1 - %2 (%3)").arg(CurrentSpread.SpreadName.Trimmed(), title).arg(L));
-    lblTitle->setText(title.isEmpty() ? QStringLiteral("[UNTITLED LOCATION]") : title);
+    lblTitle->setText(title.isEmpty() ? tr("[UNTITLED LOCATION]") : title);
     lblDescription->setText(location.LocationDescription.Trimmed());
     QString questions = location.LocationQuestion[0].Trimmed() + QLatin1Char('\n');
     if (!location.LocationQuestion[1].IsBlank()) questions += location.LocationQuestion[1].Trimmed() + QLatin1Char('\n');
@@ -138,8 +138,7 @@ void InterpretLocationScreen::Form_Load() {
     if (withCard) {
         lblCardTitle->setText(Card().CardTitle.Trimmed());
         FitPicture(*imgCard, CardPicture(), true, false);
-        lblCardTitle->setText(lblCardTitle->text() +
-                              (CardUpright() ? QStringLiteral(" (Upright)") : QStringLiteral(" (Reversed)")));
+        lblCardTitle->setText((CardUpright() ? tr("%1 (Upright)") : tr("%1 (Reversed)")).arg(lblCardTitle->text()));
         if (optDescription->isChecked()) optDescription_Click();
         else if (optKeywords->isChecked()) optKeywords_Click();
     }
@@ -204,14 +203,14 @@ void InterpretLocationScreen::cmdEnlargePic_Click() {
     if (Enlarged_) {
         picEnlargedBackground->hide();
         lblText->show();
-        cmdEnlargePic->setText(QStringLiteral("&Enlarge Pic"));
+        cmdEnlargePic->setText(tr("&Enlarge Pic"));
         Enlarged_ = false;
         if (enlargeHidesPlayer_) MediaPlayer1->show();
     } else {
         picEnlargedBackground->show();
         picEnlargedBackground->raise();
         lblText->hide();
-        cmdEnlargePic->setText(QStringLiteral("&Back"));
+        cmdEnlargePic->setText(tr("&Back"));
         Enlarged_ = true;
         if (enlargeHidesPlayer_) MediaPlayer1->hide();
     }

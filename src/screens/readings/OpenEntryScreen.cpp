@@ -29,13 +29,13 @@ OpenEntryScreen::OpenEntryScreen(EntryKind kind, const OpenEntryTexts& texts) : 
     lstEntries->setObjectName(texts.ListName);
     lstEntries->setSorted(true);
     PlaceControl(lstEntries, 120, 420, 4815, 3615);
-    cmdOpen = new QPushButton(QStringLiteral("&Open"), this);
+    cmdOpen = new QPushButton(tr("&Open"), this);
     cmdOpen->setObjectName(QStringLiteral("cmdOpen"));
-    cmdDelete = new QPushButton(QStringLiteral("&Delete"), this);
+    cmdDelete = new QPushButton(tr("&Delete"), this);
     cmdDelete->setObjectName(QStringLiteral("cmdDelete"));
-    cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
+    cmdCancel = new QPushButton(tr("&Cancel"), this);
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    cmdJournal = new QPushButton(QStringLiteral("&Journal..."), this);
+    cmdJournal = new QPushButton(tr("&Journal..."), this);
     cmdJournal->setObjectName(QStringLiteral("cmdJournal"));
     int top = 420;
     for (QPushButton* button : {cmdOpen, cmdDelete, cmdCancel, cmdJournal}) {
@@ -72,7 +72,7 @@ QString OpenEntryScreen::SelectedName() const {
 
 void OpenEntryScreen::cmdDelete_Click() {
     if (lstEntries->ListIndex() < 0) return;
-    const QString question = texts_.DeleteQuestion + lstEntries->Text().trimmed() + QStringLiteral("' ?");
+    const QString question = texts_.DeleteQuestion.arg(lstEntries->Text().trimmed());
     if (MsgBox(question, vbYesNo | vbDefaultButton2 | vbQuestion) != vbYes) return;
     DeleteEntry(kind_, SelectedName());
     lstEntries->Clear();

@@ -20,7 +20,7 @@ QString FirstNonBlank(std::initializer_list<QString> texts) {
 SaveEntryScreen::SaveEntryScreen(EntryKind kind, const SaveEntryTexts& texts) : kind_(kind) {
     setCaption(texts.Caption);
     resize(TwipsToPixels(4935), TwipsToPixels(4215));
-    auto* label = new QLabel(QStringLiteral("Save As:"), this);
+    auto* label = new QLabel(tr("Save As:"), this);
     PlaceControl(label, 120, 120, 3255, 255);
     txtSaveAs = new QLineEdit(this);
     txtSaveAs->setObjectName(QStringLiteral("txtSaveAs"));
@@ -30,11 +30,11 @@ SaveEntryScreen::SaveEntryScreen(EntryKind kind, const SaveEntryTexts& texts) : 
     lstNames->setObjectName(texts.ListName);
     lstNames->setSorted(true);
     PlaceControl(lstNames, 120, 900, 3255, 3135);
-    cmdSave = new QPushButton(QStringLiteral("&Save"), this);
+    cmdSave = new QPushButton(tr("&Save"), this);
     cmdSave->setObjectName(QStringLiteral("cmdSave"));
     cmdSave->setAutoDefault(false);
     PlaceControl(cmdSave, 3555, 420, 1215, 375);
-    cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
+    cmdCancel = new QPushButton(tr("&Cancel"), this);
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     cmdCancel->setAutoDefault(false);
     PlaceControl(cmdCancel, 3555, 900, 1215, 375);

@@ -1,6 +1,7 @@
 #include "screens/readings/SelectSpreadScreen.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -22,8 +23,10 @@ bool SelectSpreadScreen::LastAllowDuplicateCards = false;
 
 namespace {
 
-const QString IssueAsked = QStringLiteral("Spread Includes Question/Issue");
-const QString IssueNotAsked = QStringLiteral("Spread Does NOT Includes Question/Issue");
+QString IssueText(bool asked) {
+    return asked ? QCoreApplication::translate("SelectSpreadScreen", "Spread Includes Question/Issue")
+                 : QCoreApplication::translate("SelectSpreadScreen", "Spread Does NOT Includes Question/Issue");
+}
 
 QCheckBox* MakeCheck(QWidget* parent, const QString& name, const QString& caption, int left, int top) {
     auto* box = new QCheckBox(caption, parent);
@@ -37,32 +40,32 @@ QCheckBox* MakeCheck(QWidget* parent, const QString& name, const QString& captio
 SelectSpreadScreen::SelectSpreadScreen(const QString& caption) {
     setCaption(caption);
     resize(TwipsToPixels(6870), TwipsToPixels(5235));
-    MakeCaption(this, QStringLiteral("Spreads:"), 120, 120, 3255);
+    MakeCaption(this, tr("Spreads:"), 120, 120, 3255);
     lstSpreads = MakeList(this, QStringLiteral("lstSpreads"), 120, 420, 3255, 2415);
     lstSpreads->setSorted(true);
-    MakeCaption(this, QStringLiteral("Decks:"), 3495, 120, 3255);
+    MakeCaption(this, tr("Decks:"), 3495, 120, 3255);
     lstDecks = MakeList(this, QStringLiteral("lstDecks"), 3495, 420, 3255, 2415);
     lstDecks->setSorted(true);
-    MakeCaption(this, QStringLiteral("Card Types:"), 120, 2955, 3255);
+    MakeCaption(this, tr("Card Types:"), 120, 2955, 3255);
     lstCardTypes = MakeList(this, QStringLiteral("lstCardTypes"), 120, 3255, 3255, 1215);
     lstCardTypes->setSelectionMode(QAbstractItemView::MultiSelection);
 
-    chkIssue = MakeCheck(this, QStringLiteral("chkIssue"), QStringLiteral("Issue requested"), 3495, 2955);
+    chkIssue = MakeCheck(this, QStringLiteral("chkIssue"), tr("Issue requested"), 3495, 2955);
     lblIssue = MakeCaption(this, QString(), 3495, 3300, 3255);
     lblIssue->setObjectName(QStringLiteral("lblIssue"));
-    chkUseReversed = MakeCheck(this, QStringLiteral("chkUseReversed"), QStringLiteral("Allow reversed cards"), 3495, 3660);
+    chkUseReversed = MakeCheck(this, QStringLiteral("chkUseReversed"), tr("Allow reversed cards"), 3495, 3660);
     chkAllowDuplicateCards =
-        MakeCheck(this, QStringLiteral("chkAllowDuplicateCards"), QStringLiteral("Allow duplicate cards"), 3495, 4020);
+        MakeCheck(this, QStringLiteral("chkAllowDuplicateCards"), tr("Allow duplicate cards"), 3495, 4020);
     txtIssue = new QLineEdit(this);
     txtIssue->setObjectName(QStringLiteral("txtIssue"));
     txtIssue->setMaxLength(125);
     PlaceControl(txtIssue, 3495, 4380, 3255, 300);
     txtIssue->hide();
 
-    cmdSelect = new QPushButton(QStringLiteral("&Select"), this);
+    cmdSelect = new QPushButton(tr("&Select"), this);
     cmdSelect->setObjectName(QStringLiteral("cmdSelect"));
     cmdSelect->setEnabled(false);
-    cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
+    cmdCancel = new QPushButton(tr("&Cancel"), this);
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     for (QPushButton* button : {cmdSelect, cmdCancel}) button->setAutoDefault(false);
     PlaceControl(cmdSelect, 3975, 4740, 1215, 375);
@@ -151,12 +154,12 @@ void SelectSpreadScreen::ShowDeckOptions() {
     if (lstSpreads->ListIndex() >= 0) {
         const bool asks = CurrentSpread.AskQuestion != 0;
         chkIssue->setChecked(asks);
-        lblIssue->setText(asks ? IssueAsked : IssueNotAsked);
+        lblIssue->setText(IssueText(asks));
     }
 }
 
 void SelectSpreadScreen::chkIssue_Click() {
-    lblIssue->setText(chkIssue->isChecked() ? IssueAsked : IssueNotAsked);
+    lblIssue->setText(IssueText(chkIssue->isChecked()));
     if (!SpreadAndDeckSelected()) {
         chkIssue->setChecked(false);
         txtIssue->hide();
@@ -189,8 +192,8 @@ void SelectSpreadScreen::cmdSelect_Click() {
     for (int row = 0; row < lstCardTypes->ListCount(); ++row)
         if (lstCardTypes->Selected(row)) chosenTypes << CardTypeIndex(lstCardTypes->List(row));
     if (!EnoughCardsSelected(CurrentDeck, chosenTypes, CurrentSpread.LocationCount)) {
-        MsgBox(QStringLiteral("The card types you have selected are not enough to run this spread.\n"
-                              "Please check more type(s) or change the deck."),
+        MsgBox(tr("The card types you have selected are not enough to run this spread.\n"
+                  "Please check more type(s) or change the deck."),
                vbInformation);
         return;
     }

@@ -45,31 +45,25 @@ void ShuffleButton::keyReleaseEvent(QKeyEvent* e) {
     if (Release) Release();
 }
 
-namespace {
-
-const QString ReadingCaption = QStringLiteral("Reading - ");
-
-}  // namespace
-
 TableWatcher* ReadingScreen() { return ScreenSlot<frmNewReading>(); }
 
-frmNewReading::frmNewReading() : EntryScreen(QStringLiteral("Reading")), lblCardName(1, MaxLocations) {
+frmNewReading::frmNewReading() : EntryScreen(tr("Reading")), lblCardName(1, MaxLocations) {
     setObjectName(QStringLiteral("frmNewReading"));
-    cmdContinue = AddPanelButton(QStringLiteral("cmdContinue"), QStringLiteral("C&ontinue"), 120, true);
-    cmdDeal = AddPanelButton(QStringLiteral("cmdDeal"), QStringLiteral("&Deal"), 600, false);
-    cmdNextCard = AddPanelButton(QStringLiteral("cmdNextCard"), QStringLiteral("&Next Card"), 1060, false);
-    cmdAllCards = AddPanelButton(QStringLiteral("cmdAllCards"), QStringLiteral("&All Cards"), 1525, false);
-    cmdInterpret = AddPanelButton(QStringLiteral("cmdInterpret"), QStringLiteral("&Interpret"), 2000, false);
-    cmdNotes = AddPanelButton(QStringLiteral("cmdNotes"), QStringLiteral("S&ummary"), 2475, false);
-    cmdPrint = AddPanelButton(QStringLiteral("cmdPrint"), QStringLiteral("&Print"), 2940, false);
-    cmdSave = AddPanelButton(QStringLiteral("cmdSave"), QStringLiteral("&Save"), 3420, false);
-    cmdFakeShuffle = new ShuffleButton(QStringLiteral("Shu&ffle"), picControlPanel);
+    cmdContinue = AddPanelButton(QStringLiteral("cmdContinue"), tr("C&ontinue"), 120, true);
+    cmdDeal = AddPanelButton(QStringLiteral("cmdDeal"), tr("&Deal"), 600, false);
+    cmdNextCard = AddPanelButton(QStringLiteral("cmdNextCard"), tr("&Next Card"), 1060, false);
+    cmdAllCards = AddPanelButton(QStringLiteral("cmdAllCards"), tr("&All Cards"), 1525, false);
+    cmdInterpret = AddPanelButton(QStringLiteral("cmdInterpret"), tr("&Interpret"), 2000, false);
+    cmdNotes = AddPanelButton(QStringLiteral("cmdNotes"), tr("S&ummary"), 2475, false);
+    cmdPrint = AddPanelButton(QStringLiteral("cmdPrint"), tr("&Print"), 2940, false);
+    cmdSave = AddPanelButton(QStringLiteral("cmdSave"), tr("&Save"), 3420, false);
+    cmdFakeShuffle = new ShuffleButton(tr("Shu&ffle"), picControlPanel);
     cmdFakeShuffle->setObjectName(QStringLiteral("cmdFakeShuffle"));
     cmdFakeShuffle->setEnabled(false);
     cmdFakeShuffle->setAutoDefault(false);
     PlaceControl(cmdFakeShuffle, 120, 3885, 975, 375);
-    cmdQuickHelp = AddPanelButton(QStringLiteral("cmdQuickHelp"), QStringLiteral("&Quick Help"), 4360, false);
-    cmdClose = AddPanelButton(QStringLiteral("cmdClose"), QStringLiteral("&Close"), 5280, true);
+    cmdQuickHelp = AddPanelButton(QStringLiteral("cmdQuickHelp"), tr("&Quick Help"), 4360, false);
+    cmdClose = AddPanelButton(QStringLiteral("cmdClose"), tr("&Close"), 5280, true);
 
     for (int i = 1; i <= MaxLocations; ++i) {
         auto* name = new ClickLabel(picLocation(i));
@@ -121,7 +115,7 @@ void frmNewReading::Initialize() {
     lblTheIssue->setVisible(issue);
 
     const QString title = CurrentSpread.SpreadTitle.Trimmed();
-    if (!title.isEmpty()) setCaption(ReadingCaption + title);
+    if (!title.isEmpty()) setCaption(tr("Reading - %1").arg(title));
 
     for (int i = 1; i <= CurrentSpread.LocationCount; ++i) {
         PlaceLocation(i);
@@ -141,7 +135,7 @@ void frmNewReading::cmdContinue_Click() {
 
     if (IntroductionShown() && !TableShown) {
         if (CurrentSpread.LocationCount < 1) {
-            MsgBox(QStringLiteral("No locations were created for this spread."), vbInformation);
+            MsgBox(tr("No locations were created for this spread."), vbInformation);
             cmdContinue->setEnabled(false);
         }
         CurrentReading.ReadingSpreadId = CurrentSpread.SpreadId;
@@ -168,7 +162,7 @@ void frmNewReading::cmdContinue_Click() {
     for (QPushButton* button : {cmdNotes, cmdInterpret, cmdSave, cmdQuickHelp, cmdPrint,
                                 static_cast<QPushButton*>(cmdFakeShuffle)})
         button->setEnabled(Forward);
-    cmdContinue->setText(Forward ? QStringLiteral("&Back") : QStringLiteral("C&ontinue"));
+    cmdContinue->setText(Forward ? tr("&Back") : tr("C&ontinue"));
 
     lblTheIssue->setText(IssueForSaving(txtIssue->text()));
     lblTheIssue->hide();
@@ -177,9 +171,9 @@ void frmNewReading::cmdContinue_Click() {
 }
 
 void frmNewReading::UpdateCaption() {
-    const QString title = ReadingCaption + CurrentSpread.SpreadTitle.Trimmed();
-    if (lblTheIssue->text().trimmed().isEmpty()) setCaption(title);
-    else setCaption(title + QStringLiteral(": ") + lblTheIssue->text());
+    const QString title = CurrentSpread.SpreadTitle.Trimmed();
+    if (lblTheIssue->text().trimmed().isEmpty()) setCaption(tr("Reading - %1").arg(title));
+    else setCaption(tr("Reading - %1: %2").arg(title, lblTheIssue->text()));
 }
 
 void frmNewReading::txtIssue_LostFocus() {
@@ -301,7 +295,7 @@ void frmNewReading::cmdSave_Click() {
 }
 
 void frmNewReading::cmdClose_Click() {
-    if (!ConfirmClose(ReadingChanged, QStringLiteral("Save changes to the reading?"))) return;
+    if (!ConfirmClose(ReadingChanged, tr("Save changes to the reading?"))) return;
     CloseReading();
 }
 

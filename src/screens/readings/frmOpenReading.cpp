@@ -5,9 +5,8 @@
 #include "screens/shell/frmMainScreen.h"
 
 frmOpenReading::frmOpenReading()
-    : OpenEntryScreen(EntryKind::Reading, {QStringLiteral("Open Reading"), QStringLiteral("lstReadings"),
-                                          QStringLiteral("Select Reading:"),
-                                          QStringLiteral("Are you sure you want to delete reading '")}) {
+    : OpenEntryScreen(EntryKind::Reading, {tr("Open Reading"), QStringLiteral("lstReadings"), tr("Select Reading:"),
+                                          tr("Are you sure you want to delete reading '%1' ?")}) {
     setObjectName(QStringLiteral("frmOpenReading"));
 }
 

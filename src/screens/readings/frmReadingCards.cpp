@@ -49,7 +49,7 @@ int frmReadingCards::HomeLeft(int index) {
 }
 
 frmReadingCards::frmReadingCards() : picCard(0, TableSize), cardTop_(0, TableSize), cardLeft_(0, TableSize) {
-    setCaption(QStringLiteral("Cards"));
+    setCaption(tr("Cards"));
     resize(TwipsToPixels(TableWidth), TwipsToPixels(TableHeight));
     for (int i = 0; i <= TableSize; ++i) {
         auto* card = new ClickLabel(this);

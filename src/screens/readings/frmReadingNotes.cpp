@@ -3,7 +3,7 @@
 #include "core/store/RunState.h"
 #include "screens/readings/frmNewReading.h"
 
-frmReadingNotes::frmReadingNotes() : EntryNotesScreen(QStringLiteral("Reading Summary and Notes")) {
+frmReadingNotes::frmReadingNotes() : EntryNotesScreen(tr("Reading Summary and Notes")) {
     setObjectName(QStringLiteral("frmReadingNotes"));
 }
 

@@ -5,7 +5,7 @@
 #include "screens/readings/frmNewReading.h"
 
 frmSaveReading::frmSaveReading()
-    : SaveEntryScreen(EntryKind::Reading, {QStringLiteral("Save Reading"), QStringLiteral("lstReadingNames")}) {
+    : SaveEntryScreen(EntryKind::Reading, {tr("Save Reading"), QStringLiteral("lstReadingNames")}) {
     setObjectName(QStringLiteral("frmSaveReading"));
 }
 

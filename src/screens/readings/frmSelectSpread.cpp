@@ -4,7 +4,7 @@
 #include "screens/readings/frmNewReading.h"
 #include "screens/shell/frmMainScreen.h"
 
-frmSelectSpread::frmSelectSpread() : SelectSpreadScreen(QStringLiteral("Select a Spread for the Reading")) {
+frmSelectSpread::frmSelectSpread() : SelectSpreadScreen(tr("Select a Spread for the Reading")) {
     setObjectName(QStringLiteral("frmSelectSpread"));
 }
 
