@@ -581,9 +581,9 @@ void Decks() {
     WriteWholeFile(scans + QStringLiteral("contents.txt"), "the cards of the deck");
     CommonDialogScript::Enable();
     CommonDialogScript::Answer(scans);
-    WhenShown<frmImportPictures>([](frmImportPictures& import) {
+    WhenShown<frmImportPictures>([](frmImportPictures& screen) {
         Settle(600);
-        import.tblPictures->selectRow(3);
+        screen.tblPictures->selectRow(3);
         Shot(QStringLiteral("deck-import"));
         import.cmdCancel_Click();
     });

@@ -198,23 +198,23 @@ void frmImportPictures::cmdOK_Click() {
         MsgBox(tr("%1\nThese cards were not added: %2").arg(CardLimitMessage(), NamesForMessage(pastLimit)),
                vbCritical);
     if (!within.isEmpty()) {
-        PictureImport import(folder_, within, ChosenReversedSide());
+        PictureImport run(folder_, within, ChosenReversedSide());
         QProgressDialog progress(tr("Importing pictures..."), tr("Cancel"), 0,
                                  static_cast<int>(within.size()), this);
         progress.setWindowModality(Qt::WindowModal);
         progress.setMinimumDuration(400);
         QEventLoop waiting;
-        connect(&import, &PictureImport::Progress, &progress, [&progress](int done) { progress.setValue(done); });
-        connect(&import, &PictureImport::Done, &waiting, &QEventLoop::quit);
+        connect(&run, &PictureImport::Progress, &progress, [&progress](int done) { progress.setValue(done); });
+        connect(&run, &PictureImport::Done, &waiting, &QEventLoop::quit);
         connect(&progress, &QProgressDialog::canceled, &waiting, &QEventLoop::quit);
-        import.Start();
+        run.Start();
         waiting.exec();
         if (progress.wasCanceled()) {
             // Nothing reached the deck: the list stays for another try.
-            import.Cancel();
+            run.Cancel();
             return;
         }
-        const QStringList unreadable = import.Commit();
+        const QStringList unreadable = run.Commit();
         progress.reset();
         frmDesignDeck& designer = Get<frmDesignDeck>();
         designer.RefreshCardList();
