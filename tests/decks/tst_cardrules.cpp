@@ -1,8 +1,5 @@
 // The rules of the deck designer and the card editor as the screens apply
 // them, and the bad input they meet.
-#include <QApplication>
-#include <QClipboard>
-
 #include "DeckDriver.h"
 #include "core/decks/CardEditing.h"
 #include "core/decks/CardStore.h"
@@ -77,7 +74,6 @@ private slots:
         ModalScript none;
         none.Refuse<frmGetImageFile>();
         designer.cmdAddCard_Click();
-        QCOMPARE(MsgBoxScript::History().last().style, int(vbCritical));
         // The import is refused the same way, before a folder is asked.
         designer.cmdImportPictures_Click();
         QCOMPARE(Prompts(), QStringList(2, QStringLiteral("The number of cards in a deck cannot exceed 100.")));
@@ -230,10 +226,7 @@ private slots:
             ModalScript save;
             save.On<frmSaveDeck>([pass](frmSaveDeck& s) {
                 if (pass == 0) BadInput::TourTextBoxes(s);
-                QApplication::clipboard()->setText(BadInput::Foreign());
-                s.txtSaveAs->clear();
-                s.txtSaveAs->setFocus();
-                QTest::keyClick(s.txtSaveAs, Qt::Key_V, Qt::ControlModifier);
+                BadInput::PasteForeign(s.txtSaveAs);
                 QCOMPARE(s.txtSaveAs->text(), BadInput::ForeignAsStored);
                 if (pass == 1) MsgBoxScript::Answer(vbNo);   // the same name again: the overwrite question
                 s.cmdSave_Click();

@@ -67,29 +67,22 @@ private slots:
     void initTestCase() {
         MsgBoxScript::Enable();
         CommonDialogScript::Enable();
-        const QString c = clean_.path() + QLatin1Char('/');
-        WriteMarked(c + QStringLiteral("1 sun.bmp"), "BMP");
-        WriteMarked(c + QStringLiteral("2 moon.jpg"), "JPEG");
-        WriteMarked(c + QStringLiteral("2 moon-reversed.bmp"), "BMP");
-        WriteMarked(c + QStringLiteral("3 star.png"), "PNG");
-        WriteMarked(c + QStringLiteral("3 star_r.png"), "PNG");
-        WriteMarked(c + QStringLiteral("4 tower.webp"), "WEBP");
-        WriteMarked(c + QStringLiteral("5 world.tiff"), "TIFF");
-        WriteMarked(c + QStringLiteral("6 left out.jpg"), "JPEG");
-        const QString f = folder_.path() + QLatin1Char('/');
-        WriteMarked(f + QStringLiteral("1_the-fool.png"), "PNG");
-        WriteMarked(f + QStringLiteral("1_the-fool-reversed.jpg"), "JPEG");
-        WriteMarked(f + QStringLiteral("2 the magician.jpg"), "JPEG");
-        WriteMarked(f + QStringLiteral("2 the magician_r.bmp"), "BMP");
-        WriteMarked(f + QStringLiteral("3 the empress.png"), "PNG");
-        // Its header reads as a picture; its body is cut off.
-        WriteWholeFile(f + QStringLiteral("3 the empress.png"), ReadWholeFile(f + QStringLiteral("3 the empress.png")).left(40));
-        WriteMarked(f + QStringLiteral("4 the emperor.webp"), "WEBP");
-        WriteMarked(f + QStringLiteral("5 the hierophant.tif"), "TIFF");
-        WriteMarked(f + QStringLiteral("10 wheel_of-fortune.jpg"), "JPEG");
-        WriteMarked(f + QStringLiteral("10 Wheel_of-Fortune REVERSED.jpg"), "JPEG");
-        WriteMarked(f + QStringLiteral("11 justice.bmp"), "BMP");
-        WriteWholeFile(f + QStringLiteral("11 justice_r.png"), ReadWholeFile(f + QStringLiteral("3 the empress.png")));
+        const QString c = clean_.path() + QLatin1Char('/'), f = folder_.path() + QLatin1Char('/');
+        for (const auto& [name, format] :
+             {std::pair{"1 sun.bmp", "BMP"}, {"2 moon.jpg", "JPEG"}, {"2 moon-reversed.bmp", "BMP"},
+              {"3 star.png", "PNG"}, {"3 star_r.png", "PNG"}, {"4 tower.webp", "WEBP"}, {"5 world.tiff", "TIFF"},
+              {"6 left out.jpg", "JPEG"}})
+            WriteMarked(c + QLatin1String(name), format);
+        for (const auto& [name, format] :
+             {std::pair{"1_the-fool.png", "PNG"}, {"1_the-fool-reversed.jpg", "JPEG"}, {"2 the magician.jpg", "JPEG"},
+              {"2 the magician_r.bmp", "BMP"}, {"3 the empress.png", "PNG"}, {"4 the emperor.webp", "WEBP"},
+              {"5 the hierophant.tif", "TIFF"}, {"10 wheel_of-fortune.jpg", "JPEG"},
+              {"10 Wheel_of-Fortune REVERSED.jpg", "JPEG"}, {"11 justice.bmp", "BMP"}})
+            WriteMarked(f + QLatin1String(name), format);
+        // The empress's header reads as a picture; its body is cut off.
+        const QByteArray cut = ReadWholeFile(f + QStringLiteral("3 the empress.png")).left(40);
+        WriteWholeFile(f + QStringLiteral("3 the empress.png"), cut);
+        WriteWholeFile(f + QStringLiteral("11 justice_r.png"), cut);
         WriteWholeFile(f + QStringLiteral("notes.txt"), "a list of the cards");
         WriteWholeFile(f + QStringLiteral("broken.jpg"), "no picture at all");
     }
@@ -122,35 +115,33 @@ private slots:
         QTest::addColumn<QStringList>("unreadable");
         const int none = int(ReversedSide::None), turned = int(ReversedSide::Turned), own = int(ReversedSide::OwnFile);
         const QStringList empress{QStringLiteral("3 the empress.png")};
+        // The cards of the folder in order, with their reversed sides.
+        const auto cards = [](const QStringList& reversed) {
+            const QStringList upright{"The Fool|0|CU00001.jpg",      "The Magician|1|CU00002.jpg",
+                                      "The Emperor|0|CU00003.jpg",   "The Hierophant|0|CU00004.jpg",
+                                      "Wheel Of Fortune|0|CU00005.jpg", "Justice|0|CU00006.bmp"};
+            QStringList cards;
+            for (int i = 0; i < reversed.size(); ++i) cards << upright[i] + QLatin1Char('|') + reversed[i];
+            return cards;
+        };
+        const QStringList ownFiles{"CR00001.jpg", "CR00002.bmp", "CR00003.bmp", "CR00004.bmp", "CR00005.jpg"};
         // WebP and TIFF become JPEG; a card with no reversed file of its own
         // gets a copy of the default picture under a CR name.
         QTest::newRow("reversed files by name, other formats converted")
-            << own << true << 0 << -1 << false
-            << QStringList{"The Fool|0|CU00001.jpg|CR00001.jpg", "The Magician|1|CU00002.jpg|CR00002.bmp",
-                           "The Emperor|0|CU00003.jpg|CR00003.bmp", "The Hierophant|0|CU00004.jpg|CR00004.bmp",
-                           "Wheel Of Fortune|0|CU00005.jpg|CR00005.jpg"}
-            << QStringList{} << (empress + QStringList{"11 justice_r.png"});
+            << own << true << 0 << -1 << false << cards(ownFiles) << QStringList{}
+            << (empress + QStringList{"11 justice_r.png"});
         QTest::newRow("the same picture turned")
             << turned << true << 0 << -1 << false
-            << QStringList{"The Fool|0|CU00001.jpg|CR00001.jpg", "The Magician|1|CU00002.jpg|CR00002.jpg",
-                           "The Emperor|0|CU00003.jpg|CR00003.jpg", "The Hierophant|0|CU00004.jpg|CR00004.jpg",
-                           "Wheel Of Fortune|0|CU00005.jpg|CR00005.jpg", "Justice|0|CU00006.bmp|CR00006.bmp"}
+            << cards({"CR00001.jpg", "CR00002.jpg", "CR00003.jpg", "CR00004.jpg", "CR00005.jpg", "CR00006.bmp"})
             << QStringList{} << empress;
         QTest::newRow("no reversed side, one row left out")
             << none << true << 0 << 6 << false
-            << QStringList{"The Fool|0|CU00001.jpg|CR00001.bmp", "The Magician|1|CU00002.jpg|CR00002.bmp",
-                           "The Emperor|0|CU00003.jpg|CR00003.bmp", "The Hierophant|0|CU00004.jpg|CR00004.bmp",
-                           "Wheel Of Fortune|0|CU00005.jpg|CR00005.bmp"}
-            << QStringList{} << empress;
+            << cards({"CR00001.bmp", "CR00002.bmp", "CR00003.bmp", "CR00004.bmp", "CR00005.bmp"}) << QStringList{}
+            << empress;
         QTest::newRow("deck without reversed cards")
-            << own << false << 0 << -1 << false
-            << QStringList{"The Fool|0|CU00001.jpg|C000000.bmp", "The Magician|1|CU00002.jpg|C000000.bmp",
-                           "The Emperor|0|CU00003.jpg|C000000.bmp", "The Hierophant|0|CU00004.jpg|C000000.bmp",
-                           "Wheel Of Fortune|0|CU00005.jpg|C000000.bmp", "Justice|0|CU00006.bmp|C000000.bmp"}
-            << QStringList{} << empress;
+            << own << false << 0 << -1 << false << cards(QStringList(6, "C000000.bmp")) << QStringList{} << empress;
         QTest::newRow("two places left")
-            << own << true << 98 << -1 << false
-            << QStringList{"The Fool|0|CU00001.jpg|CR00001.jpg", "The Magician|1|CU00002.jpg|CR00002.bmp"}
+            << own << true << 98 << -1 << false << cards(ownFiles.mid(0, 2))
             << QStringList{"The Empress", "The Emperor", "The Hierophant", "Wheel Of Fortune", "Justice"}
             << QStringList{};
         QTest::newRow("cancelled") << turned << true << 0 << -1 << true << QStringList{} << QStringList{}
@@ -201,15 +192,12 @@ private slots:
         }
         QCOMPARE(added, cards);
         files.sort();
-        QStringList tempAfter = QDir(TempDir).entryList(QDir::Files);
-        tempAfter.sort();
-        QCOMPARE(tempAfter, files);
+        QCOMPARE(QDir(TempDir).entryList(QDir::Files, QDir::Name), files);
     }
 
     void namesForMessage() {
-        const QStringList names{"A", "B", "C", "D"};
-        QCOMPARE(NamesForMessage(names, 4), QStringLiteral("A, B, C, D"));
-        QCOMPARE(NamesForMessage(names, 2), QStringLiteral("A, B and 2 more"));
+        QCOMPARE(NamesForMessage({"A", "B", "C", "D"}, 4), QStringLiteral("A, B, C, D"));
+        QCOMPARE(NamesForMessage({"A", "B", "C", "D"}, 2), QStringLiteral("A, B and 2 more"));
     }
 
     // The pictures are worked on threads that share nothing they write: the

@@ -1,9 +1,7 @@
-// The list box every screen's lists are, the file choosers and the media
-// player that the design and package screens build on.
+// The list box every screen's lists are and the file lists that the design
+// and package screens build on.
 #include "core/platform/Errors.h"
-#include "screens/platform/CommonDialog.h"
 #include "screens/platform/FileLists.h"
-#include "screens/platform/MediaPlayer.h"
 #include "support/ScreenTest.h"
 
 class TestControls : public QObject {
@@ -90,30 +88,6 @@ private slots:
         QTest::keyClick(&dirs, Qt::Key_Return);
         QCOMPARE(dirs.Path(), QDir::cleanPath(dir_.filePath(QStringLiteral("sub"))));
         QVERIFY_THROWS_EXCEPTION(RuntimeError, dirs.setPath(dir_.filePath(QStringLiteral("none"))));
-    }
-
-    // What the dialogue and the player do around their scripted stand-ins:
-    // a cancel raises when asked to, a choice names its file, a player
-    // starts only when told and an empty open stops it.
-    void dialogueAndPlayerAnswerAsAsked() {
-        CommonDialogScript::Enable();
-        CommonDialog dlg;
-        dlg.CancelError = true;
-        CommonDialogScript::Cancel();
-        QVERIFY_THROWS_EXCEPTION(RuntimeError, dlg.ShowOpen());
-        dlg.CancelError = false;
-        CommonDialogScript::Answer(QStringLiteral("/tmp/some/file.txt"));
-        QVERIFY(dlg.ShowSave());
-        QCOMPARE(dlg.FileTitle, QStringLiteral("file.txt"));
-
-        MediaPlayerScript::Enable();
-        MediaPlayer player;
-        player.Open(dir_.filePath(QStringLiteral("e.wav")), false);
-        QVERIFY(!player.IsPlaying());
-        player.Open(dir_.filePath(QStringLiteral("e.wav")), true);
-        QVERIFY(player.IsPlaying());
-        player.Open(QString(), true);
-        QVERIFY(!player.IsPlaying() && player.FileName().isEmpty());
     }
 };
 

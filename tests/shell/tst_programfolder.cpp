@@ -19,15 +19,10 @@ namespace {
 
 void WriteFile(const QString& path, const QByteArray& bytes) {
     QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
+    WriteWholeFile(path, bytes);
 }
 
-QByteArray ReadFile(const QString& path) {
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<missing>");
-}
+QByteArray ReadFile(const QString& path) { return FileExists(path) ? ReadWholeFile(path) : QByteArray("<missing>"); }
 
 bool Exists(const QString& path) { return QFileInfo::exists(path); }
 

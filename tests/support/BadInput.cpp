@@ -67,4 +67,11 @@ int TourTextBoxes(QWidget& screen) {
     return tried;
 }
 
+void PasteForeign(QLineEdit* box) {
+    QApplication::clipboard()->setText(Foreign());
+    box->clear();
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
+}
+
 }  // namespace BadInput

@@ -3,6 +3,7 @@
 // pasting text that the record code page cannot hold.
 #include <QString>
 
+class QLineEdit;
 class QWidget;
 
 namespace BadInput {
@@ -17,5 +18,8 @@ inline const QString ForeignAsStored = QStringLiteral("??€?");
 // box ends up holding more than its limit or a character that no record can
 // hold. Returns the number of inputs tried.
 int TourTextBoxes(QWidget& screen);
+
+// Pastes Foreign() into the box in place of its text, as a user does.
+void PasteForeign(QLineEdit* box);
 
 }  // namespace BadInput
