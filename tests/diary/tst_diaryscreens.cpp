@@ -97,6 +97,10 @@ private slots:
         ChangeRecord<CardRecord>(CardsPath, 5, [&](CardRecord& c) { c.CardTitle = longTitle; });
         frmNewDiary& diary = NewDiary();
         diary.cmdContinue->click();
+        diary.cmdNotes->click();
+        Get<frmDiaryNotes>().txtComments->setPlainText(QStringLiteral("Rain came."));
+        Get<frmDiaryNotes>().cmdClose->click();
+        QVERIFY(diary.DiaryChanged);  // notes alone mark the entry changed
         diary.cmdInterpret->click();  // an empty location: the compact page
         QVERIFY(Get<frmDiaryInterpretLocation>().lblCardTitle->isHidden());
         UnloadScreen<frmDiaryInterpretLocation>();
@@ -123,12 +127,9 @@ private slots:
         diary.picLocation_Click(4);
         QVERIFY(diary.FocusLocation == 4 && !IsLoaded<frmDiaryInterpretLocation>());
 
-        diary.cmdNotes->click();
-        Get<frmDiaryNotes>().txtComments->setPlainText(QStringLiteral("Rain came."));
-        Get<frmDiaryNotes>().cmdClose->click();
         MsgBoxScript::Answer(vbCancel);
         diary.cmdClose->click();
-        QVERIFY(IsLoaded<frmNewDiary>() && diary.DiaryChanged);
+        QVERIFY(IsLoaded<frmNewDiary>());
         QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Save changes to diary before exit?"));
         QList<QStringList> offered;
         for (int i = 1; i <= Locations; ++i) offered << Offered(i);
