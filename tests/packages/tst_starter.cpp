@@ -1,6 +1,5 @@
-// The starter package: its sources read whole and fit the records, its faces
-// are drawn the same every time, and the package the build makes installs a
-// deck and spreads that a reading can use at once.
+// The starter package: its sources fit the records, its faces repeat, and it
+// installs designs a reading can use at once.
 #include <QImage>
 #include <QProcess>
 
@@ -50,163 +49,137 @@ class tst_starter : public QObject, ScreenRun {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void sourcesMakeAFullDeckAndTheClassicSpreads();
-    void checkCatchesWhatTheRecordsCannotHold();
-    void facesAreLegibleAndTurnWhole();
-    void toolGivesTheSameBytesEveryRun();
-    void installedStarterServesACelticCrossReading();
+    void initTestCase() {
+        CommonDialogScript::Enable();
+        StandUp();
+    }
+
+    void sourcesMakeAFullDeckAndTheClassicSpreads() {
+        QStringList problems;
+        const StarterDesigns designs = ReadStarterDesigns(QStringLiteral(STARTER_SOURCE_DIR), problems);
+        QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
+        const QStringList faults = CheckStarterDesigns(designs);
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+
+        // 78 cards from the Fool to the King of Pentacles: 22 of the Major
+        // Arcana, then the four suits.
+        const StarterDeck& deck = designs.Deck;
+        QVERIFY(deck.IncludesReversed);
+        QStringList suits;
+        for (const StarterCard& card : deck.Cards) suits << card.Suit;
+        for (const char* suit : {"Major", "Wands", "Cups", "Swords", "Pentacles"})
+            QCOMPARE(suits.count(QLatin1String(suit)), suit == std::string_view("Major") ? 22 : 14);
+        QCOMPARE(deck.Cards.size(), std::size_t(78));
+        QCOMPARE(deck.Cards.front().Title + deck.Cards.back().Title, QStringLiteral("The FoolKing of Pentacles"));
+
+        const std::pair<const char*, std::size_t> classics[] = {
+            {"One Card", 1}, {"Past, Present, Future", 3}, {"Celtic Cross", 10}, {"Horseshoe", 7}, {"Relationship", 7}};
+        for (const auto& [name, count] : classics) {
+            const StarterSpread* spread = SpreadNamed(designs, QString::fromLatin1(name));
+            QVERIFY2(spread, name);
+            QCOMPARE(spread->Locations.size(), count);
+        }
+    }
+
+    void checkCatchesWhatTheRecordsCannotHold() {
+        const StarterDesigns good = ReadSources();
+
+        StarterDesigns designs = good;
+        designs.Deck.Cards[5].Upright = QString(1501, QLatin1Char('a'));
+        designs.Deck.Cards[6].ReversedKeywords.clear();
+        designs.Deck.Cards[7].Type = QStringLiteral("Trumps");
+        designs.Deck.Cards[8].Title = QStringLiteral("Ace \u2660");  // no such character in the code page
+        QStringList faults = CheckStarterDesigns(designs);
+        QCOMPARE(faults.size(), 4);
+        QVERIFY(faults[0].contains(QLatin1String("1501 bytes")));
+
+        designs = good;
+        StarterSpread& cross = designs.Spreads[2];
+        cross.Locations[1].Left = cross.Locations[0].Left;  // one twip over the first
+        cross.Locations[1].Top = cross.Locations[0].Top + LocationHeight - 1;
+        cross.Locations[2].Top = LocationMaxTop + 1;
+        cross.Locations[3].Questions << QStringLiteral("a") << QStringLiteral("b") << QStringLiteral("c");
+        cross.Locations[7].Title = QStringLiteral("Your Surroundings");  // "Surroundings" is wider than the label
+        faults = CheckStarterDesigns(designs);
+        QCOMPARE(faults.size(), 4);
+        QVERIFY(faults.join(QLatin1Char('\n')).contains(QLatin1String("location 2: lies on top of location 1")));
+        QVERIFY(faults.join(QLatin1Char('\n')).contains(QLatin1String("location 8: title \"Your Surroundings\"")));
+
+        // Rectangles that only touch do not overlap.
+        designs = good;
+        designs.Spreads[2].Locations[1].Top = designs.Spreads[2].Locations[0].Top + LocationHeight;
+        QVERIFY(!CheckStarterDesigns(designs).join(QLatin1Char('\n')).contains(QLatin1String("on top of location 1")));
+    }
+
+    // That a face is drawn the same every time is shown by the tool's bytes; the
+    // reversed side is the face turned half a turn, suits differ in colour and
+    // cards in what they show, and the file is a modest picture that loads back.
+    void facesAreLegibleAndTurnWhole() {
+        const std::vector<StarterCard> cards = ReadSources().Deck.Cards;
+        const QImage face = DrawCardFace(cards[0]), cups = DrawCardFace(cards[36]);
+        const QImage reversed = ReversedFace(face);
+        for (const QPoint& p : {QPoint(20, 30), QPoint(100, 146), QPoint(60, 270)})
+            QCOMPARE(reversed.pixel(FaceWidth - 1 - p.x(), FaceHeight - 1 - p.y()), face.pixel(p));
+        QVERIFY(cups.pixel(30, 200) != face.pixel(30, 200) && DrawCardFace(cards[37]) != cups);
+        const QByteArray bytes = FaceFileBytes(face);
+        QImage loaded;
+        QVERIFY(bytes.size() < 40000 && loaded.loadFromData(bytes, "JPG"));
+        QCOMPARE(loaded.size(), QSize(FaceWidth, FaceHeight));
+    }
+
+    void toolGivesTheSameBytesEveryRun() {
+        QTemporaryDir first, second;
+        const QByteArray once = RunTool(first.path());
+        QVERIFY(!once.isEmpty());
+        QCOMPARE(RunTool(second.path()), once);
+        // And the build's own package is those bytes too.
+        QCOMPARE(ReadWholeFile(QStringLiteral(STARTER_PACKAGE_PATH)), once);
+    }
+
+    void installedStarterServesACelticCrossReading() {
+        QTemporaryDir program;
+        FreshRun(program.path());
+        // Installed as the package reader and installation do it, the deck chosen
+        // for every spread; the screen's part is shown with the package tests.
+        QVERIFY(ExtractPackageFile(QStringLiteral(STARTER_PACKAGE_PATH), TempDir));
+        InstallAnswers answers;
+        answers.Chosen = {ReadSources().Deck.Name};
+        PackageInstallation installation(answers, QString());
+        QCOMPARE(installation.Install(), InstallOutcome::Installed);
+        QCOMPARE(answers.Offered, answers.Chosen);
+        QCOMPARE(QList<int>({installation.DecksInstalled, installation.SpreadsInstalled}), QList<int>({1, 5}));
+
+        // One deck of 78 cards, its pictures the faces drawn; five spreads tied
+        // to it (the texts themselves are checked in the sources).
+        const std::vector<DeckRecord> decks = ReadAllRecords<DeckRecord>(DecksPath);
+        const DeckRecord& deck = decks[0];
+        const std::vector<CardRecord> cards = ReadAllRecords<CardRecord>(CardsPath);
+        QCOMPARE(QList<int>({int(decks.size()), deck.CardCount, int(cards.size())}), QList<int>({1, 78, 78}));
+        for (const CardRecord& card : {cards.front(), cards.back()})
+            for (const auto& picture : card.CardPicture)
+                QCOMPARE(LoadPicture(CardsDir + picture.Trimmed()).Image.size(), QSize(FaceWidth, FaceHeight));
+        for (const SpreadRecord& spread : ReadAllRecords<SpreadRecord>(SpreadsPath)) {
+            QCOMPARE(spread.AllowedDeckCount, Integer(1));
+            QCOMPARE(spread.AllowedDeckId[0], deck.DeckId);
+        }
+
+        // A reading on the Celtic Cross deals ten different cards of the deck.
+        NewReading([](frmSelectSpread& select) {
+            select.lstSpreads->setCurrentRow(select.lstSpreads->row(
+                select.lstSpreads->findItems(QStringLiteral("Celtic Cross"), Qt::MatchStartsWith).first()));
+        });
+        frmNewReading& reading = Get<frmNewReading>();
+        // The deal itself is the shuffle's; here the installed deck feeds it whole.
+        reading.cmdContinue->click();
+        reading.cmdAllCards->click();
+        QSet<Integer> dealt;
+        for (int i = 1; i <= 10; ++i) dealt << ReadingDeal.DealtCard(i);
+        QVERIFY(dealt.size() == 10 && !dealt.contains(0));
+        UnloadScreen<frmReadingCards>();
+        UnloadScreen<frmNewReading>();
+        Settle();
+    }
 };
-
-void tst_starter::initTestCase() {
-    CommonDialogScript::Enable();
-    StandUp();
-}
-
-void tst_starter::sourcesMakeAFullDeckAndTheClassicSpreads() {
-    QStringList problems;
-    const StarterDesigns designs = ReadStarterDesigns(QStringLiteral(STARTER_SOURCE_DIR), problems);
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
-    const QStringList faults = CheckStarterDesigns(designs);
-    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
-
-    // 78 cards from the Fool to the King of Pentacles: 22 of the Major
-    // Arcana, then the four suits.
-    const StarterDeck& deck = designs.Deck;
-    QVERIFY(deck.IncludesReversed);
-    QStringList suits;
-    for (const StarterCard& card : deck.Cards) suits << card.Suit;
-    for (const char* suit : {"Major", "Wands", "Cups", "Swords", "Pentacles"})
-        QCOMPARE(suits.count(QLatin1String(suit)), suit == std::string_view("Major") ? 22 : 14);
-    QCOMPARE(deck.Cards.size(), std::size_t(78));
-    QCOMPARE(deck.Cards.front().Title + deck.Cards.back().Title, QStringLiteral("The FoolKing of Pentacles"));
-
-    QVERIFY(designs.Spreads.size() >= 5);
-    const std::pair<const char*, std::size_t> classics[] = {
-        {"One Card", 1}, {"Past, Present, Future", 3}, {"Celtic Cross", 10}, {"Horseshoe", 7}, {"Relationship", 7}};
-    for (const auto& [name, count] : classics) {
-        const StarterSpread* spread = SpreadNamed(designs, QString::fromLatin1(name));
-        QVERIFY2(spread, name);
-        QCOMPARE(spread->Locations.size(), count);
-    }
-}
-
-void tst_starter::checkCatchesWhatTheRecordsCannotHold() {
-    const StarterDesigns good = ReadSources();
-
-    StarterDesigns designs = good;
-    designs.Deck.Cards[5].Upright = QString(1501, QLatin1Char('a'));
-    designs.Deck.Cards[6].ReversedKeywords.clear();
-    designs.Deck.Cards[7].Type = QStringLiteral("Trumps");
-    designs.Deck.Cards[8].Title = QStringLiteral("Ace \u2660");   // no such character in the code page
-    QStringList faults = CheckStarterDesigns(designs);
-    QCOMPARE(faults.size(), 4);
-    QVERIFY(faults[0].contains(QLatin1String("1501 bytes")));
-
-    designs = good;
-    StarterSpread& cross = designs.Spreads[2];
-    cross.Locations[1].Left = cross.Locations[0].Left;   // one twip over the first
-    cross.Locations[1].Top = cross.Locations[0].Top + LocationHeight - 1;
-    cross.Locations[2].Top = LocationMaxTop + 1;
-    cross.Locations[3].Questions << QStringLiteral("a") << QStringLiteral("b") << QStringLiteral("c");
-    cross.Locations[7].Title = QStringLiteral("Your Surroundings");   // "Surroundings" is wider than the label
-    faults = CheckStarterDesigns(designs);
-    QCOMPARE(faults.size(), 4);
-    QVERIFY(faults.join(QLatin1Char('\n')).contains(QLatin1String("location 2: lies on top of location 1")));
-    QVERIFY(faults.join(QLatin1Char('\n')).contains(QLatin1String("location 8: title \"Your Surroundings\"")));
-
-    // Rectangles that only touch do not overlap.
-    designs = good;
-    designs.Spreads[2].Locations[1].Top = designs.Spreads[2].Locations[0].Top + LocationHeight;
-    QVERIFY(!CheckStarterDesigns(designs).join(QLatin1Char('\n')).contains(QLatin1String("on top of location 1")));
-}
-
-void tst_starter::facesAreLegibleAndTurnWhole() {
-    const StarterDesigns designs = ReadSources();
-    const StarterCard& fool = designs.Deck.Cards[0];
-    const StarterCard& aceOfCups = designs.Deck.Cards[36];
-    QCOMPARE(aceOfCups.Title, QStringLiteral("Ace of Cups"));
-
-    // That a face is drawn the same every time is shown by the tool's bytes.
-    const QImage face = DrawCardFace(fool);
-    QCOMPARE(face.size(), QSize(FaceWidth, FaceHeight));
-
-    // The reversed side is the same face turned half a turn.
-    const QImage reversed = ReversedFace(face);
-    for (const QPoint& p : {QPoint(20, 30), QPoint(100, 146), QPoint(60, 270)})
-        QCOMPARE(reversed.pixel(FaceWidth - 1 - p.x(), FaceHeight - 1 - p.y()), face.pixel(p));
-
-    // Suits differ in colour and cards in what they show.
-    const QImage cups = DrawCardFace(aceOfCups);
-    QVERIFY(cups.pixel(30, 200) != face.pixel(30, 200));
-    QVERIFY(DrawCardFace(designs.Deck.Cards[37]) != cups);
-
-    // The file is a picture of modest size that loads back.
-    const QByteArray bytes = FaceFileBytes(face);
-    QVERIFY(bytes.size() < 40000);
-    QImage loaded;
-    QVERIFY(loaded.loadFromData(bytes, "JPG"));
-    QCOMPARE(loaded.size(), face.size());
-}
-
-void tst_starter::toolGivesTheSameBytesEveryRun() {
-    QTemporaryDir first, second;
-    const QByteArray once = RunTool(first.path());
-    QVERIFY(!once.isEmpty());
-    QCOMPARE(RunTool(second.path()), once);
-    // And the build's own package is those bytes too.
-    QCOMPARE(ReadWholeFile(QStringLiteral(STARTER_PACKAGE_PATH)), once);
-}
-
-void tst_starter::installedStarterServesACelticCrossReading() {
-    QTemporaryDir program;
-    FreshRun(program.path());
-    // Installed as the package reader and installation do it, the deck chosen
-    // for every spread; the screen's part is shown with the package tests.
-    QVERIFY(ExtractPackageFile(QStringLiteral(STARTER_PACKAGE_PATH), TempDir));
-    InstallAnswers answers;
-    answers.Chosen = {ReadSources().Deck.Name};
-    PackageInstallation installation(answers, QString());
-    QCOMPARE(installation.Install(), InstallOutcome::Installed);
-    QCOMPARE(answers.Offered, answers.Chosen);
-    QCOMPARE(installation.DecksInstalled, 1);
-    QCOMPARE(installation.SpreadsInstalled, 5);
-
-    // One deck of 78 cards, its pictures the faces drawn; five spreads tied
-    // to it (the texts themselves are checked in the sources).
-    const std::vector<DeckRecord> decks = ReadAllRecords<DeckRecord>(DecksPath);
-    QCOMPARE(int(decks.size()), 1);
-    const DeckRecord& deck = decks[0];
-    QCOMPARE(deck.CardCount, Integer(78));
-    const std::vector<CardRecord> cards = ReadAllRecords<CardRecord>(CardsPath);
-    QCOMPARE(int(cards.size()), 78);
-    for (const CardRecord& card : {cards.front(), cards.back()})
-        for (const auto& picture : card.CardPicture)
-            QCOMPARE(LoadPicture(CardsDir + picture.Trimmed()).Image.size(), QSize(FaceWidth, FaceHeight));
-    for (const SpreadRecord& spread : ReadAllRecords<SpreadRecord>(SpreadsPath)) {
-        QCOMPARE(spread.AllowedDeckCount, Integer(1));
-        QCOMPARE(spread.AllowedDeckId[0], deck.DeckId);
-    }
-
-    // A reading on the Celtic Cross deals ten different cards of the deck.
-    NewReading([](frmSelectSpread& select) {
-        select.lstSpreads->setCurrentRow(select.lstSpreads->row(
-            select.lstSpreads->findItems(QStringLiteral("Celtic Cross"), Qt::MatchStartsWith).first()));
-    });
-    QCOMPARE(CurrentSpread.LocationCount, Integer(10));
-    QCOMPARE(CurrentDeck.DeckId, deck.DeckId);
-    frmNewReading& reading = Get<frmNewReading>();
-    // The deal itself is the shuffle's; here the installed deck feeds it whole.
-    reading.cmdContinue->click();
-    reading.cmdAllCards->click();
-    QSet<Integer> dealt;
-    for (int i = 1; i <= 10; ++i) dealt << ReadingDeal.DealtCard(i);
-    QCOMPARE(dealt.size(), 10);
-    QVERIFY(!dealt.contains(0));
-    UnloadScreen<frmReadingCards>();
-    UnloadScreen<frmNewReading>();
-    Settle();
-}
 
 QTEST_MAIN(tst_starter)
 #include "tst_starter.moc"

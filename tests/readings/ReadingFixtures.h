@@ -27,7 +27,7 @@ void SaveThrough(QAbstractButton* button, const QString& name) {
     script.On<S>([name](S& save) {
         if (name.isEmpty()) return save.cmdCancel->click();
         save.txtSaveAs->setText(name);
-        save.cmdSave_Click();   // as the name may be the one proposed, with the button still off
+        save.cmdSave_Click();  // as the name may be the one proposed, with the button still off
     });
     button->click();
     QVERIFY(script.Done());
@@ -92,22 +92,6 @@ O& TryOpen(int row = 0) {
     open.lstEntries->setCurrentRow(row);
     open.cmdOpen_Click();
     return open;
-}
-
-// Opening row 0 is refused with that one message (one box of any text for an
-// empty message): the open screen stays with Open on, the entry file and the
-// entry in memory are as they were.
-template <class E, class O, class R>
-void ExpectRefusalOf(const QString& path, const R& current, const QString& message) {
-    const QByteArray file = ReadWholeFile(path);
-    const R before = current;
-    O& open = TryOpen<E, O>();
-    if (message.isEmpty()) QCOMPARE(Prompts().size(), 1);
-    else QCOMPARE(Prompts(), QStringList{message});
-    QVERIFY(IsLoaded<O>());
-    QVERIFY(open.cmdOpen->isEnabled());
-    QCOMPARE(ReadWholeFile(path), file);
-    QCOMPARE(EncodeRecord(current), EncodeRecord(before));
 }
 
 // Twips read back from a screen's place are whole pixels.

@@ -1,6 +1,4 @@
-// A whole reading driven through its screens: select, continue, deal a part,
-// save on closing, reopen with its table, deal on, interpret a reversed card,
-// write notes, save, reopen complete; then Back, Continue and Deal.
+// A whole reading driven through its screens, then Back, Continue and Deal.
 #include "ReadingFixtures.h"
 #include "core/store/Lookups.h"
 #include "screens/readings/frmReadingInterpretLocation.h"
@@ -55,9 +53,12 @@ private slots:
         table.picCard_Click(7);
         QCOMPARE(ReadingDeal.DealtCard(1), order[6]);
         reading.cmdNextCard->click();
-        QList<int> onTable;
-        for (int i = 1; i <= DeckSize; ++i)
-            if (!table.picCard(i)->isHidden()) onTable << i;
+        const auto onTable = [] {
+            QList<int> cards;
+            for (int i = 1; i <= DeckSize; ++i) cards << int(Get<frmReadingCards>().picCard(i)->isHidden());
+            return cards;
+        };
+        const QList<int> left = onTable();
         MsgBoxScript::Answer(vbYes);
         SaveThrough<frmSaveReading>(reading.cmdClose, QStringLiteral("Morning"));
         QCOMPARE(MsgBoxScript::History().at(0).prompt, QStringLiteral("Save changes to the reading?"));
@@ -69,27 +70,24 @@ private slots:
         // Reopened: the table as it was left, the deal going on from there.
         OpenPastReading(0);
         frmNewReading& again = Get<frmNewReading>();
-        for (int i = 1; i <= DeckSize; ++i)
-            QCOMPARE(!Get<frmReadingCards>().picCard(i)->isHidden(), onTable.contains(i));
+        QCOMPARE(onTable(), left);
         QCOMPARE(again.lblCardName(1)->text(), QStringLiteral("Card %1").arg(order[6]));
         again.cmdAllCards->click();
         QVERIFY(!IsLoaded<frmReadingCards>() && again.ReadingChanged);
-        int reversedAt = 0;  // each card shown up to the first reversed one
-        do {
-            const Integer c = ReadingDeal.DealtCard(++reversedAt), upright = ReadingDeal.DealtUpright(reversedAt);
-            QCOMPARE(again.lblCardName(reversedAt)->text(), QStringLiteral("Card %1").arg(c));
-            QCOMPARE(again.imgCard(reversedAt)->Image().pixelColor(0, 0).rgb(), Fixtures::CardColour(c, upright).rgb());
-        } while (ReadingDeal.DealtUpright(reversedAt) != False16 && reversedAt < Locations);
+        int reversedAt = 1;
+        while (ReadingDeal.DealtUpright(reversedAt) != False16 && reversedAt < Locations) ++reversedAt;
+        const Integer card = ReadingDeal.DealtCard(reversedAt);
         QVERIFY2(ReadingDeal.DealtUpright(reversedAt) == False16, "the seed deals no reversed card");
+        QCOMPARE(again.imgCard(reversedAt)->Image().pixelColor(0, 0).rgb(), Fixtures::CardColour(card, False16).rgb());
 
         // Interpreting the reversed card: its reversed texts, picture and sound.
         again.picLocation_Click(reversedAt);
         frmReadingInterpretLocation& page = Get<frmReadingInterpretLocation>();
-        const Integer card = ReadingDeal.DealtCard(reversedAt);
         QCOMPARE(page.lblCardTitle->text(), QStringLiteral("Card %1 (Reversed)").arg(card));
         page.optKeywords->click();
         QCOMPARE(page.lblText->toPlainText(), QStringLiteral("reversed keywords %1").arg(card));
-        QCOMPARE(page.MediaPlayer1->FileName(), CardsDir + QStringLiteral("MCR%1.wav").arg(card, 5, 10, QLatin1Char('0')));
+        QCOMPARE(page.MediaPlayer1->FileName(),
+                 CardsDir + QStringLiteral("MCR%1.wav").arg(card, 5, 10, QLatin1Char('0')));
         page.cmdEnlargePic->click();  // the picture takes the player's place
         QVERIFY(!page.picEnlargedBackground->isHidden() && page.MediaPlayer1->isHidden());
         page.cmdClose->click();
@@ -113,8 +111,6 @@ private slots:
         frmNewReading& complete = Get<frmNewReading>();
         QVERIFY(!IsLoaded<frmReadingCards>() && complete.cmdDeal->isEnabled());
         QCOMPARE(complete.txtIssue->text(), QStringLiteral("Will it rain?"));
-        complete.picLocation_Click(reversedAt);
-        QVERIFY(Get<frmReadingInterpretLocation>().lblCardTitle->text().endsWith(QStringLiteral("(Reversed)")));
         complete.cmdClose->click();
     }
 
@@ -123,12 +119,10 @@ private slots:
         reading.cmdContinue->click();
         // Back before the first card hides the table and the dealing buttons.
         reading.cmdContinue->click();
-        QVERIFY(reading.IntroductionShown());
-        QVERIFY(!Get<frmReadingCards>().Visible());
+        QVERIFY(reading.IntroductionShown() && !Get<frmReadingCards>().Visible());
         reading.cmdContinue->click();
         QVERIFY(Get<frmReadingCards>().Visible());
         reading.cmdAllCards->click();
-        QVERIFY(reading.cmdDeal->isEnabled());
 
         // Deal starts over: the locations empty and a table is laid.
         reading.cmdDeal->click();

@@ -1,9 +1,5 @@
-// The shuffle and the draw against a sequence worked out here from the
-// generator's formula; the rules of the deal on the core's value (a draw, the
-// location Interpret shows, Deal again, the save and the reopening of a deal,
-// enough cards chosen); and the table of face-down cards: the deal of a
-// click and the animation (it yields, restores the homes of nested runs,
-// stops when told and when its table goes).
+// The shuffle against the generator's formula worked by hand; the rules of
+// the deal on the core's value; and the animation of the face-down cards.
 #include "ReadingFixtures.h"
 #include "core/readings/Deal.h"
 #include "core/readings/Shuffle.h"
@@ -26,7 +22,7 @@ struct HandGenerator {
 
 // The state that the generator leaves as `after` on its next step.
 std::uint32_t StateBefore(std::uint32_t after) {
-    std::uint32_t inverse = 1140671485u;   // Newton's steps for the inverse modulo 2^32
+    std::uint32_t inverse = 1140671485u;  // Newton's steps for the inverse modulo 2^32
     for (int i = 0; i < 5; ++i) inverse *= 2u - 1140671485u * inverse;
     return ((after - 12820163u) * inverse) & 0xFFFFFFu;
 }
@@ -49,24 +45,16 @@ DeckInMemory DeckOf(int cards) {
     return deck;
 }
 
-struct Expected {
-    QList<Integer> cards;
-    QList<Integer> upright;
-};
-
-// The shuffle worked by hand on a list and a seed.
-Expected HandShuffle(QList<Integer> list, std::uint32_t seed, bool useReversed) {
+// The shuffle worked by hand on a list and a seed: each card, then its orientation.
+QList<Integer> HandShuffle(QList<Integer> list, std::uint32_t seed, bool useReversed) {
     HandGenerator g{seed};
-    Expected e;
     const int n = static_cast<int>(list.size());
+    QList<Integer> upright;
     for (int i = 1; i <= n; ++i) {
-        const int x = static_cast<int>(std::floor(static_cast<float>(n) * g.Next())) + 1;
-        std::swap(list[i - 1], list[x - 1]);
-        const float s = g.Next();
-        e.upright << ((s < 0.5f || !useReversed) ? True16 : False16);
+        std::swap(list[i - 1], list[static_cast<int>(std::floor(static_cast<float>(n) * g.Next()))]);
+        upright << ((g.Next() < 0.5f || !useReversed) ? True16 : False16);
     }
-    e.cards = list;
-    return e;
+    return list + upright;
 }
 
 }  // namespace
@@ -123,11 +111,10 @@ private slots:
         ListPool(cards, deck, 20);
         SetRandomizeSeedForTests(seed);
         ShuffleTable(cards, upright, 20, useReversed);
-        const Expected e = HandShuffle(GroupedByType(20), seed, useReversed);
-        for (int i = 1; i <= 20; ++i) {
-            QCOMPARE(cards(i), e.cards[i - 1]);
-            QCOMPARE(upright(i), e.upright[i - 1]);
-        }
+        QList<Integer> dealt;
+        for (int i = 1; i <= 20; ++i) dealt << cards(i);
+        for (int i = 1; i <= 20; ++i) dealt << upright(i);
+        QCOMPARE(dealt, HandShuffle(GroupedByType(20), seed, useReversed));
     }
 
     // A draw from each kind of table: where the card goes, what becomes of
@@ -186,9 +173,8 @@ private slots:
         QTEST(LocationToInterpret(deal, 6), "shown");
     }
 
-    // Deal over a complete deal starts the reading again, keeping its name
-    // and notes, with the run's options; after a table that ran empty it
-    // only counts the deck anew.
+    // Deal again restarts only a complete deal, keeping name and notes; after
+    // a table that ran empty it only counts the deck anew.
     void dealAgainStartsOverOnlyACompleteDeal() {
         for (const bool complete : {true, false}) {
             Deal deal;
@@ -207,11 +193,10 @@ private slots:
         }
     }
 
-    // A deal saved and reopened: the save keeps the table only while cards
-    // are left and locations open; reopening lays a fresh pool, puts back the
-    // saved order and the cards face down, and counts them on top of the pool.
+    // The save keeps the table only while cards are left and locations open;
+    // reopening puts back the saved order face down, counted on top of the pool.
     void aSavedDealReopensAsItWasSaved_data() {
-        QTest::addColumn<int>("types");   // 1: type 0 only (22 cards), 2: type 1 only (8), 3: both
+        QTest::addColumn<int>("types");  // 1: type 0 only (22 cards), 2: type 1 only (8), 3: both
         QTest::addColumn<int>("locations");
         QTest::addColumn<int>("draws");
         QTest::addColumn<int>("keptFaceDown");
@@ -231,20 +216,22 @@ private slots:
         Deal deal;
         ReadingRecord reading;
         ::LayTable(deal, deck, options, reading);
-        QCOMPARE(reading.LocationCard[0], deal.LocationCard(1));   // the reading keeps the order
+        QCOMPARE(reading.LocationCard[0], deal.LocationCard(1));  // the reading keeps the order
         for (int d = 0; d < draws; ++d) DealFromPosition(deal, PickRandomPosition(deal), false);
         SpreadRecord spread;
         spread.LocationCount = Integer(locations);
         spread.SpreadRevision = 4;
         GatherReading(deal, reading, DeckRecord(), spread, QStringLiteral("  Issue  "));
-        QCOMPARE(int(std::count(reading.TableCardVisible.begin(), reading.TableCardVisible.end(), True16)), keptFaceDown);
-        QCOMPARE(QList<Integer>({reading.DealtCount, reading.ReadingSpreadRevision}), QList<Integer>({Integer(draws), 4}));
+        QCOMPARE(int(std::count(reading.TableCardVisible.begin(), reading.TableCardVisible.end(), True16)),
+                 keptFaceDown);
+        QCOMPARE(QList<Integer>({reading.DealtCount, reading.ReadingSpreadRevision}),
+                 QList<Integer>({Integer(draws), 4}));
 
         Deal reopened;
         const QByteArray saved = EncodeRecord(reading);
         RestoreDeal(reopened, reading, deck, locations, options);
         QVERIFY(reopened.LoadingReading);
-        QCOMPARE(EncodeRecord(reading), saved);   // the laying leaves the record alone
+        QCOMPARE(EncodeRecord(reading), saved);  // the laying leaves the record alone
         QCOMPARE(reopened.ThisLocationNumber, Integer(draws + 1));
         QCOMPARE(reopened.MaxCardsUsed, Integer(keptFaceDown + draws));
         QTEST(int(reopened.DeckCardsLeft), "cardsLeft");
@@ -282,32 +269,25 @@ private slots:
         frmNewReading& reading = LayTable(20, 9, true);
         reading.cmdContinue->click();
         frmReadingCards& table = Get<frmReadingCards>();
-        QVERIFY(!table.picCard(20)->isHidden() && table.picCard(21)->isHidden());  // the pool's cards only
-        int movedAway = 0;
-        int timerTurns = 0;
+        int movedAway = 0, timerTurns = 0;
         // Every jump yields: this timer runs while the cards move; it starts
-        // a second run on top, and a little later stops them all.
+        // a second run on top, which returns when the stop comes.
         QTimer watcher;
         watcher.setInterval(0);
         connect(&watcher, &QTimer::timeout, [&] {
             ++timerTurns;
             for (int i = 1; i <= 20; ++i)
                 if (table.CardLeft(i) != frmReadingCards::HomeLeft(i)) ++movedAway;
-            if (timerTurns == 20) {
-                // A second run on top, which returns when the stop comes.
-                QTimer::singleShot(0, [&] { table.FakeShuffle(); });
-            } else if (timerTurns == 40) {
-                table.StopShuffle();
-            }
+            if (timerTurns == 20) QTimer::singleShot(0, [&] { table.FakeShuffle(); });
+            if (timerTurns == 40) table.StopShuffle();
         });
         watcher.start();
         table.FakeShuffle();
         watcher.stop();
         QVERIFY(timerTurns >= 40 && movedAway > 0);
-        for (int i = 1; i <= 20; ++i) {
-            QCOMPARE(table.CardLeft(i), frmReadingCards::HomeLeft(i));
-            QCOMPARE(table.CardTop(i), frmReadingCards::HomeTop(i));
-        }
+        for (int i = 1; i <= 20; ++i)
+            QVERIFY(table.CardLeft(i) == frmReadingCards::HomeLeft(i) &&
+                    table.CardTop(i) == frmReadingCards::HomeTop(i));
         // The order of the cards is not the animation's business.
         QCOMPARE(CurrentReading.LocationCard[0], ReadingDeal.LocationCard(1));
         // Closing the reading ends a run in progress, and its table with it.
