@@ -28,7 +28,7 @@
 #include "core/store/RunState.h"
 #include "screens/journal/frmJournal.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/store/Startup.h"
+#include "screens/shell/Startup.h"
 
 using namespace Bench;
 

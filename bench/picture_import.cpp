@@ -32,7 +32,7 @@
 #include "core/platform/FileSys.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
-#include "screens/store/Startup.h"
+#include "screens/shell/Startup.h"
 
 using namespace Bench;
 

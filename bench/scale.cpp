@@ -52,8 +52,8 @@
 #include "screens/readings/frmOpenReading.h"
 #include "screens/readings/frmReadingCards.h"
 #include "screens/readings/frmSelectSpread.h"
+#include "screens/shell/Startup.h"
 #include "screens/shell/frmMainScreen.h"
-#include "screens/store/Startup.h"
 
 using namespace Bench;
 

@@ -23,7 +23,8 @@
 #include "screens/decks/frmSaveDeck.h"
 #include "screens/platform/CommonDialog.h"
 #include "screens/platform/MediaPlayer.h"
-#include "screens/store/Startup.h"
+#include "screens/platform/ProcessEnd.h"
+#include "screens/shell/Startup.h"
 #include "support/BadInput.h"
 #include "support/ScreenTest.h"
 

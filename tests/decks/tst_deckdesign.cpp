@@ -16,8 +16,9 @@
 #include "screens/decks/frmSaveDeck.h"
 #include "screens/decks/frmViewCard.h"
 #include "screens/platform/MediaPlayer.h"
-#include "screens/shell/ImageBox.h"
-#include "screens/store/Startup.h"
+#include "screens/platform/ProcessEnd.h"
+#include "screens/shell/Startup.h"
+#include "screens/widgets/ImageBox.h"
 #include "support/ScreenTest.h"
 
 

@@ -7,8 +7,8 @@
 #include "DiaryFixtures.h"
 #include "core/readings/DiaryCards.h"
 #include "core/store/Lookups.h"
-#include "screens/shell/ClickLabel.h"
-#include "screens/shell/ImageBox.h"
+#include "screens/widgets/ClickLabel.h"
+#include "screens/widgets/ImageBox.h"
 
 using namespace DiaryFixtures;
 

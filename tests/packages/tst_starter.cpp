@@ -11,7 +11,7 @@
 #include "core/store/Lookups.h"
 #include "readings/ReadingFixtures.h"
 #include "screens/platform/CommonDialog.h"
-#include "screens/shell/ClickLabel.h"
+#include "screens/widgets/ClickLabel.h"
 #include "support/InstallAnswers.h"
 
 using namespace ReadingFixtures;

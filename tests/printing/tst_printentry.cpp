@@ -11,7 +11,7 @@
 #include "core/platform/Picture.h"
 #include "diary/DiaryFixtures.h"
 #include "readings/ReadingFixtures.h"
-#include "screens/store/Startup.h"
+#include "screens/shell/Startup.h"
 #include "support/RecordingPrinter.h"
 
 using namespace ReadingFixtures;

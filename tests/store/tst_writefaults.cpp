@@ -29,7 +29,7 @@
 #include "core/store/RunState.h"
 #include "screens/decks/DeckLoadQuestion.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/store/Startup.h"
+#include "screens/shell/Startup.h"
 #include "support/Fixtures.h"
 #include "support/InstallAnswers.h"
 #include "support/ScreenTest.h"

@@ -11,7 +11,7 @@
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
 #include "screens/shell/MDIMainForm.h"
-#include "screens/store/Startup.h"
+#include "screens/shell/Startup.h"
 
 namespace Fixtures {
 

@@ -9,8 +9,8 @@
 #include "screens/decks/DeckControls.h"
 #include "screens/platform/FileLists.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/store/Startup.h"
+#include "screens/platform/ProcessEnd.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 FileChooser::FileChooser(const QString& kindWord, const QString& pattern, ChooserMemory& memory)
     : kindWord_(kindWord), memory_(memory) {

@@ -10,12 +10,12 @@
 #include "core/store/RunState.h"
 #include "screens/platform/ErrorReport.h"
 #include "screens/platform/ListBox.h"
-#include "screens/shell/ImageBox.h"
-#include "screens/shell/ScreenPlacement.h"
 #include "screens/spreads/SpreadCanvas.h"
 #include "screens/spreads/SpreadDetailsPage.h"
 #include "screens/spreads/frmSpreadInfo_LocationAttributes.h"
 #include "screens/spreads/frmSpreads.h"
+#include "screens/widgets/ImageBox.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
 constexpr int PageLeft = 120;
@@ -26,10 +26,6 @@ constexpr int CanvasHeight = 5895;
 
 const QString AllDecksEntry = QStringLiteral("                          [ ALL DECKS ] ");
 const QString MissingDeckEntry = QStringLiteral("     [ MISSING DECK ] ");
-
-QRect At(int left, int top, int width, int height) {
-    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
-}
 
 QPushButton* Button(QWidget* parent, const QString& name, const QString& caption, int left, int top) {
     auto* button = new QPushButton(caption, parent);
