@@ -117,7 +117,7 @@ int main(int argc, char** argv) {
     std::printf("%d runs a figure; medians\n", Runs);
 
     QTemporaryDir dir;
-    ResetRunState();
+    ResetRun();
     FormPaths(dir.path());
     InitDatabase();
     MakeDesigns();

@@ -214,7 +214,7 @@ qint64 MakePictureDeck() {
 
 
 void Fresh(QTemporaryDir& dir) {
-    ResetRunState();
+    ResetRun();
     FormPaths(dir.path());
     InitDatabase();
     WriteWholeFile(LocationsPath, QByteArray());

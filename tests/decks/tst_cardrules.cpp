@@ -68,7 +68,6 @@ private slots:
         CommonDialogScript::Enable();
         SetEndProcessHook([](int code) { QFAIL(qPrintable(QStringLiteral("process ended with %1").arg(code))); });
         Fixtures::UseProgramDir(program_.path());
-        ResetDeckDesignState();
         src_ = sources_.path();
         Fixtures::WritePicture(src_ + QStringLiteral("/good.bmp"), Qt::green);
         Fixtures::MakeDeck(QStringLiteral("Full"), MaxDeckCards, false);

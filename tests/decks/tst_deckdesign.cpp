@@ -91,7 +91,6 @@ private slots:
         MediaPlayerScript::Enable();
         SetEndProcessHook([](int code) { QFAIL(qPrintable(QStringLiteral("process ended with %1").arg(code))); });
         Fixtures::UseProgramDir(program_.path());
-        ResetDeckDesignState();
         src_ = sources_.path();
         Fixtures::WritePicture(src_ + QStringLiteral("/fool_up.bmp"), FoolUp);
         Fixtures::WritePicture(src_ + QStringLiteral("/fool_rev.bmp"), FoolRev);

@@ -132,7 +132,7 @@ private slots:
     }
 
     void init() {
-        ForgetUnlockedEntries();
+        TheRun.UnlockedEntries.clear();
         Read();
     }
 

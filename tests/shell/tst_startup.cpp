@@ -33,7 +33,7 @@ private slots:
     }
 
     void init() {
-        ResetRunState();
+        ResetRun();
         MsgBoxScript::Clear();
         gConversions = 0;
         gEnds.clear();

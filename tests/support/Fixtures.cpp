@@ -29,7 +29,7 @@ void StandUpFrame(const QString& dir) {
 }
 
 void UseProgramDir(const QString& dir) {
-    ResetRunState();
+    ResetRun();
     FormPaths(dir);
 
     for (const QString& folder : {CardsDir, PackagesDir, AttachmentsDir, TempDir}) MkDirIgnoringErrors(folder);

@@ -246,14 +246,14 @@ DesignExistsReply frmInstallPackage::DesignExists(int design, const QString& tit
 
 void frmInstallPackage::ChooseDecks(const std::vector<DeckRecord>& decks) {
     ChooserManageMode = false;
-    frmDeckChooser::DecksOnOffer = &decks;
+    TheRun.DecksOnOffer = &decks;
     try {
         Get<frmDeckChooser>().Show(true);
     } catch (...) {
-        frmDeckChooser::DecksOnOffer = nullptr;
+        TheRun.DecksOnOffer = nullptr;
         throw;
     }
-    frmDeckChooser::DecksOnOffer = nullptr;
+    TheRun.DecksOnOffer = nullptr;
 }
 
 void frmInstallPackage::ShowPackageSummary() {

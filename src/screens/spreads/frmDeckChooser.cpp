@@ -75,7 +75,7 @@ void frmDeckChooser::Form_Load() {
     CentreInFrame(*this);
     setCaption(QStringLiteral("Choose decks to work with spread: ") + CurrentSpread.SpreadName.Trimmed());
     RememberedSpreadName = CurrentSpread.SpreadName.Value();
-    decks_.Decks = ChooserManageMode ? nullptr : DecksOnOffer;
+    decks_.Decks = ChooserManageMode ? nullptr : TheRun.DecksOnOffer;
     decks_.ShowDeckLists();
     if (ChooserManageMode) {
         cmdLink->show();
