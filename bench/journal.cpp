@@ -28,7 +28,7 @@
 #include "core/store/RunState.h"
 #include "screens/journal/frmJournal.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/store/Startup.h"
+#include "screens/shell/Startup.h"
 
 using namespace Bench;
 
@@ -117,7 +117,7 @@ int main(int argc, char** argv) {
     std::printf("%d runs a figure; medians\n", Runs);
 
     QTemporaryDir dir;
-    ResetRunState();
+    ResetRun();
     FormPaths(dir.path());
     InitDatabase();
     MakeDesigns();

@@ -32,7 +32,7 @@
 #include "core/platform/FileSys.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
-#include "screens/store/Startup.h"
+#include "screens/shell/Startup.h"
 
 using namespace Bench;
 
@@ -95,7 +95,7 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     if (argc > 1) Runs = std::max(1, atoi(argv[1]));
     QTemporaryDir dir;
-    ResetRunState();
+    ResetRun();
     FormPaths(dir.path());
     InitDatabase();
     const QString jpegs = dir.filePath(QStringLiteral("scans")), pngs = dir.filePath(QStringLiteral("pngs"));

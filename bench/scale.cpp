@@ -52,8 +52,8 @@
 #include "screens/readings/frmOpenReading.h"
 #include "screens/readings/frmReadingCards.h"
 #include "screens/readings/frmSelectSpread.h"
+#include "screens/shell/Startup.h"
 #include "screens/shell/frmMainScreen.h"
-#include "screens/store/Startup.h"
 
 using namespace Bench;
 
@@ -214,7 +214,7 @@ qint64 MakePictureDeck() {
 
 
 void Fresh(QTemporaryDir& dir) {
-    ResetRunState();
+    ResetRun();
     FormPaths(dir.path());
     InitDatabase();
     WriteWholeFile(LocationsPath, QByteArray());

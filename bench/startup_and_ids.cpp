@@ -16,7 +16,7 @@
 #include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/store/Startup.h"
+#include "screens/shell/Startup.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include "core/packages/PackageStaging.h"
 #include "core/platform/FileSys.h"
 #include "core/store/RunState.h"
-#include "screens/store/Startup.h"
+#include "screens/shell/Startup.h"
 
 bool PackStarterPackage(const QStringList& deckNames, const QStringList& spreadNames, const QString& packagePath) {
     // As the create-package screen does: Temp/ empty before and after, and a

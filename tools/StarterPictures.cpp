@@ -10,7 +10,7 @@
 #include <cmath>
 
 #include "StarterSource.h"
-#include "screens/shell/Emblems.h"
+#include "screens/widgets/Emblems.h"
 
 namespace {
 

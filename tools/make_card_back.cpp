@@ -13,7 +13,7 @@
 #include <QtMath>
 #include <cstdio>
 
-#include "screens/shell/Emblems.h"
+#include "screens/widgets/Emblems.h"
 
 namespace {
 

@@ -17,7 +17,7 @@
 #include <QtMath>
 #include <cstdio>
 
-#include "screens/shell/Emblems.h"
+#include "screens/widgets/Emblems.h"
 
 namespace {
 

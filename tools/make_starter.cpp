@@ -29,7 +29,7 @@
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/store/Startup.h"
+#include "screens/shell/Startup.h"
 
 namespace {
 

@@ -56,18 +56,19 @@
 #include "screens/platform/FileLists.h"
 #include "screens/platform/MediaPlayer.h"
 #include "screens/platform/MsgBox.h"
+#include "screens/platform/ProcessEnd.h"
 #include "screens/readings/frmNewReading.h"
 #include "screens/readings/frmReadingInterpretLocation.h"
 #include "screens/readings/frmSelectSpread.h"
-#include "screens/shell/Emblems.h"
 #include "screens/shell/MDIMainForm.h"
+#include "screens/shell/Startup.h"
 #include "screens/shell/frmHelpViewer.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/spreads/frmDeckChooser.h"
 #include "screens/spreads/frmDesignSpread.h"
 #include "screens/spreads/frmLocationAttributes.h"
 #include "screens/spreads/frmSpreads.h"
-#include "screens/store/Startup.h"
+#include "screens/widgets/Emblems.h"
 
 namespace {
 

@@ -17,7 +17,8 @@
 #include "screens/decks/frmSaveDeck.h"
 #include "screens/platform/CommonDialog.h"
 #include "screens/platform/MediaPlayer.h"
-#include "screens/store/Startup.h"
+#include "screens/platform/ProcessEnd.h"
+#include "screens/shell/Startup.h"
 #include "support/BadInput.h"
 
 class TestCardRules : public QObject {
@@ -60,7 +61,6 @@ private slots:
         CommonDialogScript::Enable();
         SetEndProcessHook([](int code) { QFAIL(qPrintable(QStringLiteral("process ended with %1").arg(code))); });
         Fixtures::UseProgramDir(program_.path());
-        ResetDeckDesignState();
         src_ = sources_.path();
         Fixtures::WritePicture(src_ + QStringLiteral("/good.bmp"), Qt::green);
         Fixtures::MakeDeck(QStringLiteral("Full"), MaxDeckCards, false);

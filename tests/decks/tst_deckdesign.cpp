@@ -16,8 +16,10 @@
 #include "screens/decks/frmSaveDeck.h"
 #include "screens/decks/frmViewCard.h"
 #include "screens/platform/MediaPlayer.h"
-#include "screens/shell/ImageBox.h"
-#include "screens/store/Startup.h"
+#include "screens/platform/ProcessEnd.h"
+#include "screens/shell/Startup.h"
+#include "screens/widgets/ImageBox.h"
+#include "support/ScreenTest.h"
 
 
 namespace {
@@ -88,7 +90,6 @@ private slots:
         MediaPlayerScript::Enable();
         SetEndProcessHook([](int code) { QFAIL(qPrintable(QStringLiteral("process ended with %1").arg(code))); });
         Fixtures::UseProgramDir(program_.path());
-        ResetDeckDesignState();
         src_ = sources_.path();
         Fixtures::WritePicture(src_ + QStringLiteral("/fool_up.bmp"), FoolUp);
         Fixtures::WritePicture(src_ + QStringLiteral("/fool_rev.bmp"), FoolRev);

@@ -93,7 +93,6 @@ private slots:
     void initTestCase() {
         MsgBoxScript::Enable();
         Fixtures::UseProgramDir(program_.path());
-        ResetDeckDesignState();
         const Integer alpha = Fixtures::MakeDeck(QStringLiteral("Alpha"), 3, true);
         Fixtures::MakeDeck(QStringLiteral("Beta"), 2, false);
         Fixtures::MakeDeck(QStringLiteral("Gamma"), 2, false);

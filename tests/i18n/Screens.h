@@ -24,16 +24,16 @@
 #include "screens/decks/frmImportPictures.h"
 #include "screens/decks/frmSaveDeck.h"
 #include "screens/decks/frmViewCard.h"
+#include "screens/diary/frmDiaryHelp.h"
 #include "screens/journal/frmJournal.h"
 #include "screens/packages/PackageSummary.h"
 #include "screens/packages/frmCreatePackage.h"
 #include "screens/packages/frmInstallPackage.h"
+#include "screens/readings/frmQuickHelp.h"
 #include "screens/readings/frmReadingInterpretLocation.h"
 #include "screens/readings/frmReadingNotes.h"
 #include "screens/readings/frmSaveReading.h"
-#include "screens/shell/frmDiaryHelp.h"
 #include "screens/shell/frmHelpViewer.h"
-#include "screens/shell/frmQuickHelp.h"
 #include "screens/spreads/frmDeckChooser.h"
 #include "screens/spreads/frmDesignSpread.h"
 #include "screens/spreads/frmGetSpreadBackground.h"
@@ -152,7 +152,7 @@ inline void OfferDecks() {
     offered = ReadAllRecords<DeckRecord>(DecksPath);
     Get<frmSpreads>().Show();
     ChooserManageMode = false;
-    frmDeckChooser::DecksOnOffer = &offered;
+    TheRun.DecksOnOffer = &offered;
 }
 
 // The picture import over the deck designer, the sample's card pictures

@@ -118,7 +118,7 @@ private slots:
     }
 
     void init() {
-        ForgetUnlockedEntries();
+        TheRun.UnlockedEntries.clear();
         Read();
     }
 

@@ -11,7 +11,7 @@
 #include "core/platform/FileSys.h"
 #include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/store/Startup.h"
+#include "screens/shell/Startup.h"
 #include "support/Fixtures.h"
 
 namespace {

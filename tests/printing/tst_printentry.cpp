@@ -8,8 +8,9 @@
 #include "core/platform/OleDate.h"
 #include "core/platform/Picture.h"
 #include "diary/DiaryFixtures.h"
+#include "readings/ReadingFixtures.h"
 #include "screens/platform/QtPrinter.h"
-#include "screens/store/Startup.h"
+#include "screens/shell/Startup.h"
 #include "support/RecordingPrinter.h"
 
 using namespace ReadingFixtures;

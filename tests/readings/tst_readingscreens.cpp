@@ -4,8 +4,8 @@
 #include "screens/readings/frmReadingInterpretLocation.h"
 #include "screens/readings/frmReadingNotes.h"
 #include "screens/readings/frmSaveReading.h"
-#include "screens/shell/ClickLabel.h"
-#include "screens/shell/ImageBox.h"
+#include "screens/widgets/ClickLabel.h"
+#include "screens/widgets/ImageBox.h"
 
 using namespace ReadingFixtures;
 

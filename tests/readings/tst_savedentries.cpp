@@ -11,8 +11,8 @@
 #include "diary/DiaryFixtures.h"
 #include "screens/readings/frmReadingNotes.h"
 #include "screens/readings/frmSaveReading.h"
-#include "screens/shell/ClickLabel.h"
 #include "screens/store/frmGetPassword.h"
+#include "screens/widgets/ClickLabel.h"
 #include "support/BadInput.h"
 
 using namespace DiaryFixtures;

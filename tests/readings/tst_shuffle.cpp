@@ -4,7 +4,7 @@
 #include "core/readings/Deal.h"
 #include "core/readings/Shuffle.h"
 #include "core/store/NewDesigns.h"
-#include "screens/shell/ClickLabel.h"
+#include "screens/widgets/ClickLabel.h"
 
 using namespace ReadingFixtures;
 

@@ -4,14 +4,15 @@
 #include <QDir>
 
 #include "core/platform/Palette.h"
+#include "screens/diary/frmDiaryHelp.h"
 #include "screens/journal/frmJournal.h"
-#include "screens/shell/ClickLabel.h"
+#include "screens/platform/ProcessEnd.h"
+#include "screens/readings/frmQuickHelp.h"
 #include "screens/shell/MDIMainForm.h"
-#include "screens/shell/frmDiaryHelp.h"
+#include "screens/shell/Startup.h"
 #include "screens/shell/frmHelpViewer.h"
 #include "screens/shell/frmMainScreen.h"
-#include "screens/shell/frmQuickHelp.h"
-#include "screens/store/Startup.h"
+#include "screens/widgets/ClickLabel.h"
 #include "spreads/SpreadTestKit.h"
 #include "support/ScreenTest.h"
 

@@ -13,9 +13,10 @@
 #include <QTextFragment>
 #include <QTextImageFormat>
 
+#include "screens/platform/ProcessEnd.h"
+#include "screens/shell/Startup.h"
 #include "screens/shell/frmHelpViewer.h"
 #include "screens/shell/frmMainScreen.h"
-#include "screens/store/Startup.h"
 #include "support/ScreenTest.h"
 
 namespace {

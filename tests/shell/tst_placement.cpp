@@ -6,10 +6,10 @@
 #include "core/platform/Picture.h"
 #include "core/platform/Twips.h"
 #include "screens/platform/Form.h"
-#include "screens/shell/FitPicture.h"
-#include "screens/shell/ImageBox.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/store/Startup.h"
+#include "screens/shell/Startup.h"
+#include "screens/widgets/FitPicture.h"
+#include "screens/widgets/ImageBox.h"
+#include "screens/widgets/ScreenPlacement.h"
 #include "support/ScreenTest.h"
 
 namespace {

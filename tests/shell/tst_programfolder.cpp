@@ -11,8 +11,8 @@
 #include "screens/platform/FileLists.h"
 #include "screens/shell/MDIMainForm.h"
 #include "screens/shell/ProgramFolder.h"
+#include "screens/shell/Startup.h"
 #include "screens/shell/frmMainScreen.h"
-#include "screens/store/Startup.h"
 #include "support/ScreenTest.h"
 
 namespace {

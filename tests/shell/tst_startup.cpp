@@ -11,8 +11,9 @@
 #include "core/platform/Picture.h"
 #include "core/platform/ProgramLock.h"
 #include "core/records/Records.h"
+#include "screens/platform/ProcessEnd.h"
+#include "screens/shell/Startup.h"
 #include "screens/shell/frmMainScreen.h"
-#include "screens/store/Startup.h"
 #include "support/ScreenTest.h"
 
 namespace {
@@ -32,7 +33,7 @@ private slots:
     }
 
     void init() {
-        ResetRunState();
+        ResetRun();
         MsgBoxScript::Clear();
         gConversions = 0;
         gEnds.clear();

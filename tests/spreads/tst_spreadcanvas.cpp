@@ -3,13 +3,13 @@
 // opening the notes or a location's attributes changes.
 #include "SpreadTestKit.h"
 #include "core/store/NewDesigns.h"
-#include "screens/shell/ImageBox.h"
 #include "screens/spreads/SpreadCanvas.h"
 #include "screens/spreads/TextBoxes.h"
 #include "screens/spreads/frmDesignSpread.h"
 #include "screens/spreads/frmLocationAttributes.h"
 #include "screens/spreads/frmSpreadComments.h"
 #include "screens/spreads/frmSpreads.h"
+#include "screens/widgets/ImageBox.h"
 #include "support/ScreenTest.h"
 
 using namespace SpreadTestKit;

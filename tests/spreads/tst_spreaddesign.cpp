@@ -5,7 +5,6 @@
 #include "core/spreads/SpreadBackground.h"
 #include "core/spreads/SpreadStore.h"
 #include "core/store/Lookups.h"
-#include "screens/shell/ImageBox.h"
 #include "screens/spreads/SpreadCanvas.h"
 #include "screens/spreads/TextBoxes.h"
 #include "screens/spreads/frmDeckChooser.h"
@@ -15,6 +14,7 @@
 #include "screens/spreads/frmSaveSpread.h"
 #include "screens/spreads/frmSpreadComments.h"
 #include "screens/spreads/frmSpreads.h"
+#include "screens/widgets/ImageBox.h"
 #include "support/BadInput.h"
 #include "support/ScreenTest.h"
 

@@ -24,7 +24,9 @@
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
 #include "screens/decks/DeckLoadQuestion.h"
-#include "screens/store/Startup.h"
+#include "screens/platform/MsgBox.h"
+#include "screens/shell/Startup.h"
+#include "support/Fixtures.h"
 #include "support/InstallAnswers.h"
 #include "support/ScreenTest.h"
 

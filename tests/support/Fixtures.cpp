@@ -15,7 +15,7 @@
 namespace Fixtures {
 
 void UseProgramDir(const QString& dir) {
-    ResetRunState();
+    ResetRun();
     FormPaths(dir);
 
     for (const QString& folder : {CardsDir, PackagesDir, AttachmentsDir, TempDir}) MkDirIgnoringErrors(folder);

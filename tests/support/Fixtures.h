@@ -13,7 +13,7 @@
 
 namespace Fixtures {
 
-// Puts the run-wide state back to its start, forms every path under dir as
+// Puts the run-wide state back to its start (ResetRun), forms every path under dir as
 // start-up does, and lays out an empty database of the present format: the
 // six record files (Location.loc too, so nothing asks for a conversion),
 // Cards/ with the default picture, Temp/, Packages/ and Packages/Attachments/.

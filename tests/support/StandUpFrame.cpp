@@ -3,7 +3,7 @@
 #include "core/platform/FileSys.h"
 #include "core/records/Records.h"
 #include "screens/shell/MDIMainForm.h"
-#include "screens/store/Startup.h"
+#include "screens/shell/Startup.h"
 #include "support/Fixtures.h"
 
 namespace Fixtures {

@@ -4,26 +4,9 @@
 #include "core/records/RecordFile.h"
 #include "core/store/RunState.h"
 
-CardWorkingFiles& WorkingFiles() {
-    static CardWorkingFiles files;
-    return files;
-}
-
-ChooserMemory& RememberedPictureFolder() {
-    static ChooserMemory memory;
-    return memory;
-}
-
-ChooserMemory& RememberedSoundFolder() {
-    static ChooserMemory memory;
-    return memory;
-}
-
-void ResetDeckDesignState() {
-    WorkingFiles() = CardWorkingFiles{};
-    RememberedPictureFolder() = ChooserMemory{};
-    RememberedSoundFolder() = ChooserMemory{};
-}
+CardWorkingFiles& WorkingFiles() { return TheRun.CardFiles; }
+ChooserMemory& RememberedPictureFolder() { return TheRun.PictureChooser; }
+ChooserMemory& RememberedSoundFolder() { return TheRun.SoundChooser; }
 
 namespace {
 

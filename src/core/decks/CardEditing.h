@@ -1,9 +1,10 @@
 #pragma once
 // What the card editor works on beside CurrentCard: the files picked for the
 // card in Temp/, and where its file choosers were last left. One value for
-// the run, held here: the card screens set the working names when a card
-// opens and when it is stored, the choosers when a file is picked, and the
-// deck designer reads whether the pick of a new card's pictures went through.
+// the run, held in the run-wide state: the card screens set the working names
+// when a card opens and when it is stored, the choosers when a file is
+// picked, and the deck designer reads whether the pick of a new card's
+// pictures went through.
 #include <QString>
 #include <array>
 
@@ -58,7 +59,3 @@ struct ChooserMemory {
 };
 ChooserMemory& RememberedPictureFolder();
 ChooserMemory& RememberedSoundFolder();
-
-// Forgets the working files and the choosers' remembered folders, as a new
-// run starts without them.
-void ResetDeckDesignState();

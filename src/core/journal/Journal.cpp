@@ -78,10 +78,7 @@ QDate DateOf(double savedOn) {
     return FromOleDate(savedOn).date();
 }
 
-QSet<QString>& Unlocked() {
-    static QSet<QString> unlocked;
-    return unlocked;
-}
+QSet<QString>& Unlocked() { return TheRun.UnlockedEntries; }
 
 QString UnlockKey(EntryKind kind, const QString& name) {
     return (kind == EntryKind::Reading ? QStringLiteral("R") : QStringLiteral("D")) + TrimField(name);
@@ -430,7 +427,6 @@ Journal ReadJournal(const JournalCatalogue& catalogue) {
 
 void RememberEntryUnlocked(EntryKind kind, const QString& name) { Unlocked().insert(UnlockKey(kind, name)); }
 bool IsEntryUnlocked(EntryKind kind, const QString& name) { return Unlocked().contains(UnlockKey(kind, name)); }
-void ForgetUnlockedEntries() { Unlocked().clear(); }
 
 std::vector<int> SearchJournal(const Journal& journal, const JournalQuery& query) {
     std::vector<std::string> words;

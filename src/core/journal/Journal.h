@@ -108,7 +108,6 @@ Journal ReadJournal(const JournalCatalogue& catalogue);
 // saved entry of that name; the journal then shows and counts it.
 void RememberEntryUnlocked(EntryKind kind, const QString& name);
 bool IsEntryUnlocked(EntryKind kind, const QString& name);
-void ForgetUnlockedEntries();
 
 struct JournalQuery {
     QString Words;             // each must occur in the name, issue or notes, case ignored

@@ -11,10 +11,6 @@
 #include "core/platform/WriteFaults.h"
 #include "core/store/RunState.h"
 
-PackageMemberHeader PackageHeader;
-QString PackageFilePath;
-QString PackageSourceFolder;
-
 namespace {
 
 constexpr int errOutOfMemory = 7;
@@ -43,16 +39,17 @@ QByteArray MakeBuffer(qint64 size) {
 }
 
 void PackMember(QFile& package, const QString& path) {
-    PackageHeader.MemberName = MemberNameOf(path);
+    PackageMemberHeader header;
+    header.MemberName = MemberNameOf(path);
     const qint64 length = FileLen(path);
     if (length > 0x7fffffff) RaiseError(errOutOfMemory);
-    PackageHeader.MemberSize = static_cast<qint32>(length);
+    header.MemberSize = static_cast<qint32>(length);
     QFile member;
     OpenBinary(member, path, QIODevice::ReadOnly);
-    const QByteArray head = EncodeMemberHead(PackageHeader.MemberName, PackageHeader.MemberSize);
+    const QByteArray head = EncodeMemberHead(header.MemberName, header.MemberSize);
     WriteAll(package, head.constData(), head.size());
     // The whole file moves through memory in one piece.
-    const QByteArray buffer = MakeBuffer(PackageHeader.MemberSize);
+    const QByteArray buffer = MakeBuffer(header.MemberSize);
     if (member.read(const_cast<char*>(buffer.constData()), buffer.size()) != buffer.size())
         RaiseError(errInputPastEndOfFile);
     WriteAll(package, buffer.constData(), buffer.size());
@@ -67,7 +64,7 @@ bool ReadExactly(QFile& file, char* into, qint64 length) {
 // The next member's head. False at the end of the package and for a head
 // that cannot be whole: a name length below 0 or past the end, a size that
 // is cut off. Nothing is allocated before it is known to be there.
-bool ReadMemberHead(QFile& package) {
+bool ReadMemberHead(QFile& package, PackageMemberHeader& header) {
     char lengthBytes[2];
     if (!ReadExactly(package, lengthBytes, 2)) return false;
     const qint16 nameLength = qFromLittleEndian<qint16>(lengthBytes);
@@ -76,8 +73,8 @@ bool ReadMemberHead(QFile& package) {
     if (nameLength > 0 && !ReadExactly(package, name.data(), nameLength)) return false;
     char sizeBytes[4];
     if (!ReadExactly(package, sizeBytes, 4)) return false;
-    PackageHeader.MemberName = FromAnsi(name);
-    PackageHeader.MemberSize = qFromLittleEndian<qint32>(sizeBytes);
+    header.MemberName = FromAnsi(name);
+    header.MemberSize = qFromLittleEndian<qint32>(sizeBytes);
     return true;
 }
 
@@ -119,27 +116,17 @@ QString MemberFileName(const QString& memberName) {
     return name;
 }
 
-bool CreatePackageFile(const QString& sourceFolder, const QString& packagePath, std::optional<RuntimeError>* failure) {
-    PackageFilePath = packagePath;
-    PackageSourceFolder = AddTrailingBackslash(sourceFolder);
-    return PackFolder(failure);
-}
+namespace {
 
-bool ExtractPackageFile(const QString& packagePath, const QString& targetFolder) {
-    PackageFilePath = packagePath;
-    PackageSourceFolder = AddTrailingBackslash(targetFolder);
-    return UnpackPackage();
-}
-
-bool PackFolder(std::optional<RuntimeError>* failure) {
+bool PackFolder(const QString& packagePath, const QString& sourceFolder, std::optional<RuntimeError>* failure) {
     QFile package;
     try {
-        OpenBinary(package, PackageFilePath, QIODevice::ReadWrite);
+        OpenBinary(package, packagePath, QIODevice::ReadWrite);
         // Plain files only: folders are not descended into, and hidden files
         // (a leading dot on this system) are not listed.
-        for (const QString& name : Dir(PackageSourceFolder + QStringLiteral("*.*"))) {
+        for (const QString& name : Dir(sourceFolder + QStringLiteral("*.*"))) {
             if (name.startsWith(QLatin1Char('.'))) continue;
-            PackMember(package, PackageSourceFolder + name);
+            PackMember(package, sourceFolder + name);
         }
         package.close();
         return true;
@@ -153,23 +140,23 @@ bool PackFolder(std::optional<RuntimeError>* failure) {
     return false;
 }
 
-bool UnpackPackage() {
+bool UnpackPackage(const QString& packagePath) {
     QFile package;
     try {
-        OpenBinary(package, PackageFilePath, QIODevice::ReadOnly);
+        OpenBinary(package, packagePath, QIODevice::ReadOnly);
         const QString tempFolder = AddTrailingBackslash(AppPath + QStringLiteral("Temp"));
         for (;;) {
-            PackageHeader = PackageMemberHeader{};
-            if (!ReadMemberHead(package)) break;
+            PackageMemberHeader header;
+            if (!ReadMemberHead(package, header)) break;
             // A member cut short, or one claiming more than the file holds,
             // is dropped without a word; nothing is allocated for it.
-            if (PackageHeader.MemberSize < 0 || PackageHeader.MemberSize > package.size() - package.pos()) break;
-            QByteArray buffer = MakeBuffer(PackageHeader.MemberSize);
+            if (header.MemberSize < 0 || header.MemberSize > package.size() - package.pos()) break;
+            QByteArray buffer = MakeBuffer(header.MemberSize);
             if (!ReadExactly(package, buffer.data(), buffer.size())) break;
-            const QString fileName = MemberFileName(PackageHeader.MemberName);
+            const QString fileName = MemberFileName(header.MemberName);
             if (fileName.isEmpty()) RaiseError(errBadFileName);
-            PackageHeader.MemberName = tempFolder + fileName;
-            WriteMember(PackageHeader.MemberName, buffer);
+            header.MemberName = tempFolder + fileName;
+            WriteMember(header.MemberName, buffer);
         }
         package.close();
         return true;
@@ -177,4 +164,15 @@ bool UnpackPackage() {
         package.close();
     }
     return false;
+}
+
+}  // namespace
+
+bool CreatePackageFile(const QString& sourceFolder, const QString& packagePath, std::optional<RuntimeError>* failure) {
+    return PackFolder(packagePath, AddTrailingBackslash(sourceFolder), failure);
+}
+
+bool ExtractPackageFile(const QString& packagePath, const QString& targetFolder) {
+    (void)targetFolder;   // the members always go to Temp/
+    return UnpackPackage(packagePath);
 }

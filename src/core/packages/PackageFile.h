@@ -20,23 +20,14 @@ struct PackageMemberHeader {
     qint32 MemberSize = 0;
 };
 
-// Shared by the writer and the reader: the member in hand, the package and
-// the folder packed.
-extern PackageMemberHeader PackageHeader;
-extern QString PackageFilePath;
-extern QString PackageSourceFolder;
-
 // Packs every plain file of sourceFolder into packagePath. False when the
 // package could not be written whole; `failure` then holds the error that
 // stopped it.
 bool CreatePackageFile(const QString& sourceFolder, const QString& packagePath, std::optional<RuntimeError>* failure = nullptr);
-// Unpacks every member of packagePath into Temp/. The target folder is kept
-// with the package's path but the members always go to Temp/. False when
-// the package could not be opened or read.
+// Unpacks every member of packagePath into Temp/. The target folder is
+// passed over: the members always go to Temp/. False when the package could
+// not be opened or read.
 bool ExtractPackageFile(const QString& packagePath, const QString& targetFolder);
-
-bool PackFolder(std::optional<RuntimeError>* failure = nullptr);
-bool UnpackPackage();
 
 // The bytes of a member's head: name length, name, size.
 QByteArray EncodeMemberHead(const QString& memberName, qint32 memberSize);

@@ -5,6 +5,8 @@
 namespace {
 
 const QDate kEpoch(1899, 12, 30);
+// The fixed "now" belongs to the test that sets it, not to the run: a test
+// keeps its dates across the runs it starts, so ResetRun leaves it alone.
 QDateTime gFixedNow;
 
 const char* const kMonths[12] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",

@@ -2,9 +2,13 @@
 
 #include <QDateTime>
 
+// The generator's state stays beside the generator: the platform sits below
+// the run-wide state and cannot name it. ResetRun puts it back through
+// ResetRnd, so the run still has one reset. The test seed is the test's own.
 namespace {
 constexpr std::uint32_t kMask = 0xFFFFFF;
-std::uint32_t gState = 0x50000;  // the toolkit's state before any Randomize
+constexpr std::uint32_t kFreshState = 0x50000;  // the toolkit's state before any Randomize
+std::uint32_t gState = kFreshState;
 std::optional<std::uint32_t> gTestSeed;
 }  // namespace
 
@@ -23,5 +27,6 @@ void Randomize() {
 }
 
 void SetRndState(std::uint32_t state) { gState = state & kMask; }
+void ResetRnd() { gState = kFreshState; }
 std::uint32_t RndState() { return gState; }
 void SetRandomizeSeedForTests(std::optional<std::uint32_t> seed) { gTestSeed = seed; }

@@ -1,5 +1,10 @@
 #include "core/store/RunState.h"
 
+#include "core/platform/Rnd.h"
+
 RunState TheRun;
 
-void ResetRunState() { TheRun = RunState{}; }
+void ResetRun() {
+    TheRun = RunState{};
+    ResetRnd();
+}

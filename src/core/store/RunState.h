@@ -10,10 +10,17 @@
 //   diary's lists of cards change only through their rules in
 //   core/readings;
 // - the options of the run are set by the screen that asks for them and read
-//   by the ones that follow.
+//   by the ones that follow;
+// - the card editor's working files and its choosers' folders change through
+//   core/decks/CardEditing, the entries unlocked in the journal through
+//   core/journal/Journal.
+// ResetRun puts all of it back, with the toolkit's random generator.
+#include <QSet>
 #include <QString>
 #include <array>
+#include <vector>
 
+#include "core/decks/CardEditing.h"
 #include "core/platform/Arrays.h"
 #include "core/readings/Deal.h"
 #include "core/readings/DiaryCards.h"
@@ -62,6 +69,12 @@ struct RunState {
     // diary entry in hand may still take.
     Deal ReadingDeal;
     DiaryCardLists DiaryLists;
+    // The card editor's files in Temp/, and where its choosers were left.
+    CardWorkingFiles CardFiles;
+    ChooserMemory PictureChooser;
+    ChooserMemory SoundChooser;
+    // The saved entries whose password the journal was given in this run.
+    QSet<QString> UnlockedEntries;
     // Records read only to be looked at and dropped.
     CardRecord ScratchCard;
     DeckRecord ScratchDeck;
@@ -76,6 +89,9 @@ struct RunState {
     bool ChooserManageMode = false;
     bool InstallAllSpreads = false;
     int DesignExistsChoice = 0;   // a DesignExistsAnswer
+    // During an installation: the decks the deck chooser offers, those the
+    // installation adds included, since they are not in Decks.dck yet.
+    const std::vector<DeckRecord>* DecksOnOffer = nullptr;
     // Palette entries that mark locations on the reading and diary screens.
     int CurrentLocationColour = 4;
     int OtherLocationColour = 14;
@@ -85,9 +101,10 @@ struct RunState {
 // writes TheRun.Paths.
 extern RunState TheRun;
 
-// Puts every run-wide value back to its state before start-up (tests start
-// several runs in one process).
-void ResetRunState();
+// Puts every run-wide value back to its state before start-up, the random
+// generator's included (tests start several runs in one process). The clock
+// and the seed a test fixes are the test's and stay.
+void ResetRun();
 
 inline const QString& AppPath = TheRun.Paths.AppPath;
 inline const QString& SettingsPath = TheRun.Paths.SettingsPath;

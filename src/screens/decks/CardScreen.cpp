@@ -12,9 +12,9 @@
 #include "core/store/RunState.h"
 #include "screens/decks/DeckControls.h"
 #include "screens/platform/MediaPlayer.h"
-#include "screens/shell/FitPicture.h"
-#include "screens/shell/ImageBox.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/FitPicture.h"
+#include "screens/widgets/ImageBox.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 CardScreen::CardScreen(const QString& captionStem, bool editing) : captionStem_(captionStem) {
     resize(TwipsToPixels(9600), TwipsToPixels(6840));

@@ -7,18 +7,12 @@
 #include <QString>
 #include <QStringList>
 
-#include "core/platform/Twips.h"
-
 class QLabel;
 class QListWidget;
 class QPlainTextEdit;
 class QPushButton;
 class QWidget;
 
-// A rectangle given in twips, as the screens are laid out.
-inline QRect At(int left, int top, int width, int height) {
-    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
-}
 QPushButton* MakeButton(QWidget* parent, const char* name, const QString& caption, const QRect& where);
 QLabel* MakeLabel(QWidget* parent, const QString& caption, const QRect& where, const char* name = nullptr);
 

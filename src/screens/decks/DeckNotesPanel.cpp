@@ -5,7 +5,7 @@
 
 #include "core/store/RunState.h"
 #include "screens/decks/DeckControls.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 DeckNotesPanel::DeckNotesPanel(bool editing) {
     resize(TwipsToPixels(4800), TwipsToPixels(3600));

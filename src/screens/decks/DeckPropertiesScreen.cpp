@@ -6,7 +6,7 @@
 
 #include "core/store/RunState.h"
 #include "screens/decks/DeckControls.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 DeckPropertiesScreen::DeckPropertiesScreen(bool editing) {
     resize(TwipsToPixels(5400), TwipsToPixels(3900));

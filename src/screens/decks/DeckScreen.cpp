@@ -11,7 +11,7 @@
 #include "screens/decks/DeckControls.h"
 #include "screens/decks/frmDecks.h"
 #include "screens/platform/ListBox.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 DeckScreen::DeckScreen(const QString& captionStem, bool designing) : captionStem_(captionStem) {
     resize(TwipsToPixels(9120), TwipsToPixels(6240));

@@ -9,8 +9,8 @@
 #include "screens/decks/DeckControls.h"
 #include "screens/platform/FileLists.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/store/Startup.h"
+#include "screens/platform/ProcessEnd.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 FileChooser::FileChooser(const std::array<QString, 2>& captions, const QString& pattern, ChooserMemory& memory)
     : captions_(captions), memory_(memory) {

@@ -16,9 +16,9 @@
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MediaPlayer.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ImageBox.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/store/Startup.h"
+#include "screens/platform/ProcessEnd.h"
+#include "screens/widgets/ImageBox.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 frmAddCard::frmAddCard() : CardScreen(tr("Add Card"), true) {
     setObjectName(QStringLiteral("frmAddCard"));

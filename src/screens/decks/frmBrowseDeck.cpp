@@ -7,7 +7,7 @@
 #include "core/store/RunState.h"
 #include "screens/decks/DeckControls.h"
 #include "screens/platform/ListBox.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 frmBrowseDeck::frmBrowseDeck() {
     setObjectName(QStringLiteral("frmBrowseDeck"));

@@ -10,6 +10,7 @@
 #include "core/platform/OleDate.h"
 #include "core/records/RecordFile.h"
 #include "core/store/DeckLoading.h"
+#include "core/store/Housekeeping.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
@@ -19,10 +20,9 @@
 #include "screens/decks/frmDesignDeck.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/shell/frmMainScreen.h"
+#include "screens/platform/ShellHooks.h"
 #include "screens/store/PasswordPrompts.h"
-#include "screens/store/Startup.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 frmDecks::frmDecks() {
     setObjectName(QStringLiteral("frmDecks"));
@@ -197,7 +197,7 @@ void frmDecks::cmdInfo_Click() {
 
 void frmDecks::cmdClose_Click() {
     ResetDeck();
-    Get<frmMainScreen>().Show();
+    ReturnToMainScreen();
     Unload();
 }
 

@@ -22,6 +22,7 @@
 #include "screens/platform/CommonDialog.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 frmDesignDeck::frmDesignDeck() : DeckScreen(tr("Deck Design"), true) {
     setObjectName(QStringLiteral("frmDesignDeck"));

@@ -6,8 +6,9 @@
 #include "screens/decks/DeckControls.h"
 #include "screens/decks/frmAddCard.h"
 #include "screens/platform/FileLists.h"
-#include "screens/shell/FitPicture.h"
-#include "screens/shell/ImageBox.h"
+#include "screens/widgets/FitPicture.h"
+#include "screens/widgets/ImageBox.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 frmGetImageFile::frmGetImageFile()
     : FileChooser({tr("Select Upright Image"), tr("Select Reversed Image")}, QStringLiteral("*.bmp;*.jpg;*.gif"),

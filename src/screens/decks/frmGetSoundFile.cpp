@@ -4,6 +4,7 @@
 #include "screens/decks/DeckControls.h"
 #include "screens/decks/frmAddCard.h"
 #include "screens/platform/MediaPlayer.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 frmGetSoundFile::frmGetSoundFile()
     : FileChooser({tr("Select Upright Sound"), tr("Select Reversed Sound")}, QStringLiteral("*.mp3;*.wav"),

@@ -20,7 +20,7 @@
 #include "screens/decks/DeckControls.h"
 #include "screens/decks/frmDesignDeck.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
 constexpr int ThumbnailSide = 48;

@@ -12,7 +12,7 @@
 #include "screens/decks/frmDesignDeck.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 frmSaveDeck::frmSaveDeck() {
     setObjectName(QStringLiteral("frmSaveDeck"));

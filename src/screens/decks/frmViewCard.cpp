@@ -3,10 +3,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "core/store/Housekeeping.h"
 #include "core/store/RunState.h"
 #include "screens/decks/DeckControls.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/store/Startup.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 frmViewCard::frmViewCard() : CardScreen(tr("View Card"), false) {
     setObjectName(QStringLiteral("frmViewCard"));

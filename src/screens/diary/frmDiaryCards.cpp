@@ -10,10 +10,10 @@
 #include "screens/diary/frmNewDiary.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ClickLabel.h"
-#include "screens/shell/FitPicture.h"
-#include "screens/shell/ImageBox.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ClickLabel.h"
+#include "screens/widgets/FitPicture.h"
+#include "screens/widgets/ImageBox.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
 

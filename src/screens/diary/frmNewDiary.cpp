@@ -10,15 +10,15 @@
 #include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 #include "screens/diary/frmDiaryCards.h"
+#include "screens/diary/frmDiaryHelp.h"
 #include "screens/diary/frmDiaryInterpretLocation.h"
 #include "screens/diary/frmDiaryNotes.h"
 #include "screens/diary/frmSaveDiary.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ClickLabel.h"
-#include "screens/shell/ImageBox.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/shell/frmDiaryHelp.h"
-#include "screens/shell/frmMainScreen.h"
+#include "screens/platform/ShellHooks.h"
+#include "screens/widgets/ClickLabel.h"
+#include "screens/widgets/ImageBox.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
 
@@ -254,7 +254,7 @@ void frmNewDiary::cmdSave_Click() {
 void frmNewDiary::cmdClose_Click() {
     if (!ConfirmClose(DiaryChanged, tr("Save changes to diary before exit?"))) return;
     Unload();
-    Get<frmMainScreen>().Show();
+    ReturnToMainScreen();
 }
 
 void frmNewDiary::FillFields() {

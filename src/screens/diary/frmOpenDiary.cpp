@@ -2,7 +2,7 @@
 
 #include "core/store/RunState.h"
 #include "screens/diary/frmNewDiary.h"
-#include "screens/shell/frmMainScreen.h"
+#include "screens/platform/ShellHooks.h"
 
 frmOpenDiary::frmOpenDiary()
     : OpenEntryScreen(EntryKind::Diary, {tr("Open Diary"), QStringLiteral("lstDiaries"), tr("Select Diary:"),
@@ -31,5 +31,5 @@ void frmOpenDiary::ShowEntry() {
 
 void frmOpenDiary::CloseEntryScreen() {
     UnloadScreen<frmNewDiary>();
-    Get<frmMainScreen>().Show();
+    ReturnToMainScreen();
 }

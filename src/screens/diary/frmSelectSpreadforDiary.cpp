@@ -2,7 +2,7 @@
 
 #include "core/store/RunState.h"
 #include "screens/diary/frmNewDiary.h"
-#include "screens/shell/frmMainScreen.h"
+#include "screens/platform/ShellHooks.h"
 
 frmSelectSpreadforDiary::frmSelectSpreadforDiary()
     : SelectSpreadScreen(tr("Select a Spread for the Diary")) {
@@ -24,5 +24,5 @@ EntryScreen& frmSelectSpreadforDiary::Entry() { return Get<frmNewDiary>(); }
 
 void frmSelectSpreadforDiary::CloseEntryScreen() {
     UnloadScreen<frmNewDiary>();
-    Get<frmMainScreen>().Show();
+    ReturnToMainScreen();
 }

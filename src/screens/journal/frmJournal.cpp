@@ -27,9 +27,9 @@
 #include "screens/platform/CommonDialog.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/platform/QtPrinter.h"
+#include "screens/platform/ShellHooks.h"
 #include "screens/readings/frmOpenReading.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/shell/frmMainScreen.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
 
@@ -385,7 +385,7 @@ void frmJournal::cmdPrint_Click() {
 
 void frmJournal::cmdClose_Click() {
     Unload();
-    Get<frmMainScreen>().Show();
+    ReturnToMainScreen();
 }
 
 void frmJournal::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) {

@@ -6,12 +6,9 @@
 #include <QPushButton>
 
 #include "core/platform/Twips.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
-QRect At(int left, int top, int width, int height) {
-    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
-}
 constexpr int RowPitch = 480;
 constexpr int FirstFieldTop = 720;
 }  // namespace

@@ -12,23 +12,18 @@
 #include "core/platform/FileSys.h"
 #include "core/platform/Twips.h"
 #include "core/records/RecordFile.h"
+#include "core/store/Housekeeping.h"
 #include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 #include "screens/packages/PackageSummary.h"
 #include "screens/platform/ErrorReport.h"
 #include "screens/platform/FileLists.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/shell/frmMainScreen.h"
+#include "screens/platform/ShellHooks.h"
 #include "screens/store/PasswordPrompts.h"
-#include "screens/store/Startup.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
-
-QRect At(int left, int top, int width, int height) {
-    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
-}
-
 template <class W>
 W* Named(W* widget, const char* name, const QRect& where) {
     widget->setObjectName(QLatin1String(name));
@@ -326,7 +321,7 @@ void frmCreatePackage::cmdCreate_Click() {
     ClearTemp();
     if (!CreateFailed) ShowSummary();
     SetScreenPointer(MousePointer::Default);
-    Get<frmMainScreen>().Show();
+    ReturnToMainScreen();
     Unload();
 }
 
@@ -389,7 +384,7 @@ void frmCreatePackage::cmdCancel_Click() {
                    vbYesNo | vbQuestion | vbDefaultButton2) == vbNo)
             return;
     }
-    Get<frmMainScreen>().Show();
+    ReturnToMainScreen();
     Unload();
 }
 

@@ -11,23 +11,19 @@
 #include "core/platform/FileSys.h"
 #include "core/platform/Twips.h"
 #include "core/records/RecordFile.h"
+#include "core/store/Housekeeping.h"
 #include "core/store/RunState.h"
 #include "screens/packages/PackageSummary.h"
 #include "screens/platform/ErrorReport.h"
 #include "screens/platform/FileLists.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/shell/frmMainScreen.h"
+#include "screens/platform/ProcessEnd.h"
+#include "screens/platform/ShellHooks.h"
 #include "screens/spreads/frmDeckChooser.h"
-#include "screens/store/Startup.h"
 #include "screens/store/frmDesignExists.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
-
-QRect At(int left, int top, int width, int height) {
-    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
-}
-
 QPushButton* MakeButton(QWidget* parent, const QString& caption, const char* name, const QRect& where) {
     auto* b = new QPushButton(caption, parent);
     b->setObjectName(QLatin1String(name));
@@ -140,7 +136,7 @@ void frmInstallPackage::Form_KeyUp(int key, Qt::KeyboardModifiers, bool& handled
 }
 
 void frmInstallPackage::cmdCancel_Click() {
-    Get<frmMainScreen>().Show();
+    ReturnToMainScreen();
     Unload();
 }
 
@@ -203,7 +199,7 @@ void frmInstallPackage::cmdInstall_Click() {
     PackageExtracted = false;
     SetScreenPointer(MousePointer::Default);
     if (ended) {
-        Get<frmMainScreen>().Show();
+        ReturnToMainScreen();
         Unload();
     }
 }
@@ -250,14 +246,14 @@ DesignExistsReply frmInstallPackage::DesignExists(int design, const QString& tit
 
 void frmInstallPackage::ChooseDecks(const std::vector<DeckRecord>& decks) {
     ChooserManageMode = false;
-    frmDeckChooser::DecksOnOffer = &decks;
+    TheRun.DecksOnOffer = &decks;
     try {
         Get<frmDeckChooser>().Show(true);
     } catch (...) {
-        frmDeckChooser::DecksOnOffer = nullptr;
+        TheRun.DecksOnOffer = nullptr;
         throw;
     }
-    frmDeckChooser::DecksOnOffer = nullptr;
+    TheRun.DecksOnOffer = nullptr;
 }
 
 void frmInstallPackage::ShowPackageSummary() {

@@ -5,8 +5,8 @@
 #include "core/platform/Errors.h"
 #include "screens/platform/CommonDialog.h"
 #include "screens/platform/MsgBox.h"
+#include "screens/platform/ProcessEnd.h"
 #include "screens/platform/QtPrinter.h"
-#include "screens/store/Startup.h"
 
 namespace {
 

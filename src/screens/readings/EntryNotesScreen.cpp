@@ -5,7 +5,7 @@
 
 #include "core/platform/Twips.h"
 #include "screens/readings/EntryScreen.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 EntryNotesScreen::EntryNotesScreen(const QString& caption) {
     setCaption(caption);

@@ -16,13 +16,14 @@
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/printing/PrintEntry.h"
-#include "screens/shell/ClickLabel.h"
-#include "screens/shell/DecorativePictures.h"
-#include "screens/shell/FitPicture.h"
-#include "screens/shell/ImageBox.h"
+#include "screens/widgets/ClickLabel.h"
+#include "screens/widgets/DecorativePictures.h"
+#include "screens/widgets/FitPicture.h"
+#include "screens/widgets/ImageBox.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 void PlaceControl(QWidget* control, int left, int top, int width, int height) {
-    control->setGeometry(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
+    control->setGeometry(At(left, top, width, height));
 }
 int ControlTop(const QWidget* control) { return PixelsToTwips(control->y()); }
 int ControlLeft(const QWidget* control) { return PixelsToTwips(control->x()); }

@@ -10,10 +10,10 @@
 #include "core/store/RunState.h"
 #include "screens/platform/MediaPlayer.h"
 #include "screens/readings/EntryScreen.h"
-#include "screens/shell/ClickLabel.h"
-#include "screens/shell/FitPicture.h"
-#include "screens/shell/ImageBox.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ClickLabel.h"
+#include "screens/widgets/FitPicture.h"
+#include "screens/widgets/ImageBox.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
 

@@ -9,10 +9,10 @@
 #include "screens/decks/DeckLoadQuestion.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
+#include "screens/platform/ShellHooks.h"
 #include "screens/readings/EntryScreen.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/shell/frmMainScreen.h"
 #include "screens/store/PasswordPrompts.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
 // Date, separator: the name begins after them.
@@ -117,7 +117,7 @@ void OpenEntryScreen::cmdCancel_Click() {
 
 void OpenEntryScreen::cmdJournal_Click() {
     cmdCancel_Click();
-    Get<frmMainScreen>().lblButton_Click(frmMainScreen::JournalButton);
+    ReturnToMainScreen(MainScreenJournalButton);
 }
 
 void OpenEntryScreen::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) {

@@ -9,7 +9,7 @@
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/readings/EntryScreen.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 QString FirstNonBlank(std::initializer_list<QString> texts) {
     for (const QString& text : texts)

@@ -17,7 +17,7 @@
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/readings/EntryScreen.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 bool SelectSpreadScreen::LastAllowDuplicateCards = false;
 

@@ -13,14 +13,14 @@
 #include "core/store/RunState.h"
 #include "screens/platform/ErrorReport.h"
 #include "screens/platform/MsgBox.h"
+#include "screens/platform/ShellHooks.h"
+#include "screens/readings/frmQuickHelp.h"
 #include "screens/readings/frmReadingInterpretLocation.h"
 #include "screens/readings/frmReadingNotes.h"
 #include "screens/readings/frmSaveReading.h"
-#include "screens/shell/ClickLabel.h"
-#include "screens/shell/ImageBox.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/shell/frmMainScreen.h"
-#include "screens/shell/frmQuickHelp.h"
+#include "screens/widgets/ClickLabel.h"
+#include "screens/widgets/ImageBox.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 void ShuffleButton::mousePressEvent(QMouseEvent* e) {
     QPushButton::mousePressEvent(e);
@@ -301,7 +301,7 @@ void frmNewReading::cmdClose_Click() {
 
 void frmNewReading::CloseReading() {
     UnloadTable();
-    Get<frmMainScreen>().Show();
+    ReturnToMainScreen();
     Unload();
 }
 

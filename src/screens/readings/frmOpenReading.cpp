@@ -1,8 +1,8 @@
 #include "screens/readings/frmOpenReading.h"
 
 #include "core/store/RunState.h"
+#include "screens/platform/ShellHooks.h"
 #include "screens/readings/frmNewReading.h"
-#include "screens/shell/frmMainScreen.h"
 
 frmOpenReading::frmOpenReading()
     : OpenEntryScreen(EntryKind::Reading, {tr("Open Reading"), QStringLiteral("lstReadings"), tr("Select Reading:"),
@@ -29,5 +29,5 @@ void frmOpenReading::ShowEntry() {
 
 void frmOpenReading::CloseEntryScreen() {
     UnloadScreen<frmNewReading>();
-    Get<frmMainScreen>().Show();
+    ReturnToMainScreen();
 }

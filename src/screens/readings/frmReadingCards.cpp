@@ -12,7 +12,7 @@
 #include "core/store/RunState.h"
 #include "screens/platform/ErrorReport.h"
 #include "screens/platform/Events.h"
-#include "screens/shell/ClickLabel.h"
+#include "screens/widgets/ClickLabel.h"
 
 bool frmReadingCards::StopShuffleFlag = false;
 

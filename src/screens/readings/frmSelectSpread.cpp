@@ -1,8 +1,8 @@
 #include "screens/readings/frmSelectSpread.h"
 
 #include "core/store/RunState.h"
+#include "screens/platform/ShellHooks.h"
 #include "screens/readings/frmNewReading.h"
-#include "screens/shell/frmMainScreen.h"
 
 frmSelectSpread::frmSelectSpread() : SelectSpreadScreen(tr("Select a Spread for the Reading")) {
     setObjectName(QStringLiteral("frmSelectSpread"));
@@ -20,5 +20,5 @@ EntryScreen& frmSelectSpread::Entry() { return Get<frmNewReading>(); }
 
 void frmSelectSpread::CloseEntryScreen() {
     UnloadScreen<frmNewReading>();
-    Get<frmMainScreen>().Show();
+    ReturnToMainScreen();
 }

@@ -10,9 +10,11 @@
 #include "screens/platform/Application.h"
 #include "screens/platform/ErrorReport.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/platform/ProcessEnd.h"
+#include "screens/platform/ShellHooks.h"
+#include "screens/shell/Startup.h"
 #include "screens/shell/frmMainScreen.h"
-#include "screens/store/Startup.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
 
@@ -46,6 +48,11 @@ MDIMainForm::MDIMainForm() {
     layout->addWidget(area_);
     resize(FrameWidth, FrameHeight);
     SetFrameArea(area_);
+    // The start-up asks for the frame before the converter and the main
+    // screen, without naming it.
+    SetFrameHook([] {
+        if (IsLoaded<MDIMainForm>()) Get<MDIMainForm>().ShowFrame();
+    });
     // The close box only asks; Yes ends the process from within the question.
     setWayOut(ExitQuestion);
 }
@@ -95,13 +102,4 @@ void ExitQuestion() {
     if (answer != vbYes) return;
     if (IsLoaded<MDIMainForm>()) Get<MDIMainForm>().Unload();
     EndProcess(0);
-}
-
-void ShowFrameIfLoaded() {
-    if (IsLoaded<MDIMainForm>()) Get<MDIMainForm>().ShowFrame();
-}
-
-void ShowMainScreen() {
-    ShowFrameIfLoaded();
-    Get<frmMainScreen>().Show();
 }

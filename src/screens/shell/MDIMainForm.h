@@ -39,9 +39,3 @@ private:
 // "Are you sure you want to EXIT Cartomar?": on Yes the frame unloads and the
 // process ends; on No nothing changes.
 void ExitQuestion();
-
-// Brings the frame up if it is loaded and not up yet.
-void ShowFrameIfLoaded();
-
-// Shows the frame if it is not up yet, then the main screen in it.
-void ShowMainScreen();

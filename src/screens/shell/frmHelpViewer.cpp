@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 #include "core/platform/FileSys.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 frmHelpViewer::frmHelpViewer() {
     setCaption(tr("Cartomar Help"));

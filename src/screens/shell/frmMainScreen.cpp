@@ -8,6 +8,8 @@
 #include "core/platform/FileSys.h"
 #include "core/platform/Palette.h"
 #include "core/platform/Twips.h"
+#include "core/store/Housekeeping.h"
+#include "core/store/MakerAddresses.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
 #include "screens/decks/frmDecks.h"
@@ -21,14 +23,12 @@
 #include "screens/readings/frmNewReading.h"
 #include "screens/readings/frmOpenReading.h"
 #include "screens/readings/frmSelectSpread.h"
-#include "screens/shell/ClickLabel.h"
-#include "screens/shell/DecorativePictures.h"
-#include "screens/shell/ImageBox.h"
-#include "screens/shell/MDIMainForm.h"
-#include "screens/shell/ScreenPlacement.h"
 #include "screens/shell/frmHelpViewer.h"
 #include "screens/spreads/frmSpreads.h"
-#include "screens/store/Startup.h"
+#include "screens/widgets/ClickLabel.h"
+#include "screens/widgets/DecorativePictures.h"
+#include "screens/widgets/ImageBox.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
 
@@ -97,9 +97,23 @@ QString ProgramDirectoryShown() {
     return dir;
 }
 
+// How a subsystem gets back to the main screen.
+void ReturnHere(int button) {
+    if (button != 0) Get<frmMainScreen>().lblButton_Click(button);
+    else Get<frmMainScreen>().Show();
+}
+
+// Exit asks what the frame's close box asks, its one way out; the main
+// screen needs nothing of the frame but its window.
+void AskTheFrameToClose() {
+    if (QMdiArea* area = FrameArea()) area->window()->close();
+}
+
 }  // namespace
 
 frmMainScreen::frmMainScreen() {
+    // From now on the subsystems' screens come back here.
+    SetMainScreenHook(ReturnHere);
     setCaption(tr("Cartomar"));
     setFixedSize(ScreenWidth, ScreenHeight);
 
@@ -190,7 +204,7 @@ void frmMainScreen::lblButton_Click(int Index) {
     if (Index >= 1 && Index <= 8) OpenFirstLevelScreen(Index);
     else if (Index == 9) LaunchHelp();
     else if (Index == JournalButton) OpenJournal();
-    else if (Index == 11) ExitQuestion();
+    else if (Index == 11) AskTheFrameToClose();
     setMousePointer(MousePointer::Arrow);
 }
 

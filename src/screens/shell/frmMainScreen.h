@@ -7,6 +7,7 @@
 #include <map>
 
 #include "screens/platform/Form.h"
+#include "screens/platform/ShellHooks.h"
 
 class ClickLabel;
 class ImageBox;
@@ -22,7 +23,7 @@ public:
     void Show(bool modal = false);
 
     // The button of the journal, under the Readings and Diary groups.
-    static constexpr int JournalButton = 10;
+    static constexpr int JournalButton = MainScreenJournalButton;
 
     // Acts as the button of that index; any other index only flashes the
     // hourglass.

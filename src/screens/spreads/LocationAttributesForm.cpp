@@ -5,14 +5,10 @@
 
 #include "core/platform/Twips.h"
 #include "core/store/RunState.h"
-#include "screens/shell/ScreenPlacement.h"
 #include "screens/spreads/TextBoxes.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
-QRect At(int left, int top, int width, int height) {
-    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
-}
-
 void AddCaption(QWidget* parent, const QString& text, int top) {
     auto* label = new QLabel(text, parent);
     label->setGeometry(At(120, top, 6600, 270));

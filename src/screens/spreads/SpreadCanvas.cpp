@@ -12,7 +12,7 @@
 #include "core/platform/Errors.h"
 #include "core/platform/Twips.h"
 #include "core/spreads/LocationTitle.h"
-#include "screens/shell/ImageBox.h"
+#include "screens/widgets/ImageBox.h"
 
 namespace {
 // Whole pixels for a place in twips, rounding towards minus infinity so that

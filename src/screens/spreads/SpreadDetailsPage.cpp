@@ -8,12 +8,9 @@
 #include "core/platform/Twips.h"
 #include "core/store/RunState.h"
 #include "screens/spreads/TextBoxes.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
-QRect At(int left, int top, int width, int height) {
-    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
-}
-
 QLabel* Caption(QWidget* parent, const QString& name, const QString& text, const QRect& where) {
     auto* label = new QLabel(text, parent);
     label->setObjectName(name);

@@ -9,14 +9,10 @@
 #include "core/store/RunState.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ScreenPlacement.h"
 #include "screens/spreads/frmSpreads.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
-QRect At(int left, int top, int width, int height) {
-    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
-}
-
 QPushButton* Button(QWidget* parent, const QString& name, const QString& caption, const QRect& where) {
     auto* button = new QPushButton(caption, parent);
     button->setObjectName(name);
@@ -78,7 +74,7 @@ void frmDeckChooser::Form_Load() {
     CentreInFrame(*this);
     setCaption(tr("Choose decks to work with spread: %1").arg(CurrentSpread.SpreadName.Trimmed()));
     RememberedSpreadName = CurrentSpread.SpreadName.Value();
-    decks_.Decks = ChooserManageMode ? nullptr : DecksOnOffer;
+    decks_.Decks = ChooserManageMode ? nullptr : TheRun.DecksOnOffer;
     decks_.ShowDeckLists();
     if (ChooserManageMode) {
         cmdLink->show();

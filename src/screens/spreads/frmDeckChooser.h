@@ -17,10 +17,6 @@ class frmDeckChooser : public Form {
 public:
     frmDeckChooser();
 
-    // During an installation: the decks to offer, those the installation
-    // adds included, since they are not in Decks.dck yet.
-    static inline const std::vector<DeckRecord>* DecksOnOffer = nullptr;
-
     bool ChooserDirty = false;
     // The spread to select again on the list when the chooser closes.
     QString RememberedSpreadName;

@@ -12,6 +12,7 @@
 #include "core/platform/Twips.h"
 #include "core/spreads/AllowedDecks.h"
 #include "core/spreads/SpreadStore.h"
+#include "core/store/Housekeeping.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
@@ -19,8 +20,6 @@
 #include "screens/platform/ErrorReport.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ImageBox.h"
-#include "screens/shell/ScreenPlacement.h"
 #include "screens/spreads/SpreadCanvas.h"
 #include "screens/spreads/SpreadDetailsPage.h"
 #include "screens/spreads/TextBoxes.h"
@@ -29,7 +28,8 @@
 #include "screens/spreads/frmSaveSpread.h"
 #include "screens/spreads/frmSpreadComments.h"
 #include "screens/spreads/frmSpreads.h"
-#include "screens/store/Startup.h"
+#include "screens/widgets/ImageBox.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
 constexpr int PageLeft = 120;
@@ -41,10 +41,6 @@ constexpr int NewLocationMargin = 350;
 // Half a drawing step: the keyboard moves a rectangle by this, one more while
 // snapping.
 constexpr int KeyStep = 240 / 2;
-
-QRect At(int left, int top, int width, int height) {
-    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
-}
 
 QPushButton* Button(QWidget* parent, const QString& name, const QString& caption, const QRect& where) {
     auto* button = new QPushButton(caption, parent);

@@ -8,16 +8,10 @@
 #include "core/spreads/SpreadStore.h"
 #include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ImageBox.h"
-#include "screens/shell/ScreenPlacement.h"
 #include "screens/spreads/TextBoxes.h"
 #include "screens/spreads/frmDesignSpread.h"
-
-namespace {
-QRect At(int left, int top, int width, int height) {
-    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
-}
-}  // namespace
+#include "screens/widgets/ImageBox.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 frmGetSpreadBackground::frmGetSpreadBackground() {
     setObjectName(QStringLiteral("frmGetSpreadBackground"));

@@ -9,15 +9,9 @@
 #include "core/store/RunState.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ScreenPlacement.h"
 #include "screens/spreads/TextBoxes.h"
 #include "screens/spreads/frmDesignSpread.h"
-
-namespace {
-QRect At(int left, int top, int width, int height) {
-    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
-}
-}  // namespace
+#include "screens/widgets/ScreenPlacement.h"
 
 frmSaveSpread::frmSaveSpread() {
     setObjectName(QStringLiteral("frmSaveSpread"));

@@ -4,9 +4,9 @@
 
 #include "core/platform/Twips.h"
 #include "core/store/RunState.h"
-#include "screens/shell/ScreenPlacement.h"
 #include "screens/spreads/TextBoxes.h"
 #include "screens/spreads/frmDesignSpread.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 frmSpreadComments::frmSpreadComments() {
     setObjectName(QStringLiteral("frmSpreadComments"));

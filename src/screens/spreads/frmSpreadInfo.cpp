@@ -10,12 +10,12 @@
 #include "core/store/RunState.h"
 #include "screens/platform/ErrorReport.h"
 #include "screens/platform/ListBox.h"
-#include "screens/shell/ImageBox.h"
-#include "screens/shell/ScreenPlacement.h"
 #include "screens/spreads/SpreadCanvas.h"
 #include "screens/spreads/SpreadDetailsPage.h"
 #include "screens/spreads/frmSpreadInfo_LocationAttributes.h"
 #include "screens/spreads/frmSpreads.h"
+#include "screens/widgets/ImageBox.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
 constexpr int PageLeft = 120;
@@ -24,9 +24,6 @@ constexpr int PageTop = 120;
 constexpr int CanvasWidth = 9615;
 constexpr int CanvasHeight = 5895;
 
-QRect At(int left, int top, int width, int height) {
-    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
-}
 
 QPushButton* Button(QWidget* parent, const QString& name, const QString& caption, int left, int top) {
     auto* button = new QPushButton(caption, parent);

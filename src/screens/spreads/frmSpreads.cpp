@@ -13,18 +13,14 @@
 #include "core/store/RunState.h"
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/shell/frmMainScreen.h"
+#include "screens/platform/ShellHooks.h"
 #include "screens/spreads/frmDeckChooser.h"
 #include "screens/spreads/frmDesignSpread.h"
 #include "screens/spreads/frmSpreadInfo.h"
 #include "screens/store/PasswordPrompts.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
-QRect At(int left, int top, int width, int height) {
-    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
-}
-
 QPushButton* MenuButton(QWidget* parent, const QString& name, const QString& caption, int top) {
     auto* button = new QPushButton(caption, parent);
     button->setObjectName(name);
@@ -178,7 +174,7 @@ void frmSpreads::cmdManager_Click() {
 
 void frmSpreads::cmdClose_Click() {
     Unload();
-    Get<frmMainScreen>().Show();
+    ReturnToMainScreen();
 }
 
 void frmSpreads::cmdDelete_Click() {

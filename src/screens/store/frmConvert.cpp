@@ -10,7 +10,7 @@
 #include "core/store/Conversion.h"
 #include "core/store/RunState.h"
 #include "screens/platform/Events.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
 

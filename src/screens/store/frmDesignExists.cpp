@@ -10,7 +10,7 @@
 #include "core/store/RunState.h"
 #include "screens/platform/Events.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
 QPushButton* Button(QWidget* parent, const QString& caption, const char* name) {

@@ -5,7 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 frmGetPassword::frmGetPassword() {
     setObjectName(QStringLiteral("frmGetPassword"));

@@ -6,7 +6,7 @@
 #include <QPushButton>
 
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 frmSetPassword::frmSetPassword() {
     setObjectName(QStringLiteral("frmSetPassword"));

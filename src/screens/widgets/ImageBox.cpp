@@ -1,4 +1,4 @@
-#include "screens/shell/ImageBox.h"
+#include "screens/widgets/ImageBox.h"
 
 #include <QMouseEvent>
 #include <QPainter>

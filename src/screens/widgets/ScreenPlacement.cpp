@@ -1,4 +1,4 @@
-#include "screens/shell/ScreenPlacement.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 #include "screens/platform/Form.h"
 

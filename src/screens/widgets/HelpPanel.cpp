@@ -1,4 +1,4 @@
-#include "screens/shell/HelpPanel.h"
+#include "screens/widgets/HelpPanel.h"
 
 #include <QCoreApplication>
 #include <QLabel>
@@ -6,8 +6,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "screens/shell/ScreenPlacement.h"
-#include "screens/store/Startup.h"
+#include "core/store/Housekeeping.h"
+#include "screens/widgets/ScreenPlacement.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "screens/shell/ClickLabel.h"
+#include "screens/widgets/ClickLabel.h"
 
 #include <QMouseEvent>
 #include <QtMath>

@@ -1,7 +1,7 @@
 #pragma once
 // The quick help of the diary screen: a fixed picture of a diary entry with
 // its parts named, the cards list included, and a short text.
-#include "screens/shell/HelpPanel.h"
+#include "screens/widgets/HelpPanel.h"
 
 class frmDiaryHelp : public HelpPanelForm {
     Q_OBJECT

@@ -1,4 +1,4 @@
-#include "screens/shell/frmDiaryHelp.h"
+#include "screens/diary/frmDiaryHelp.h"
 
 frmDiaryHelp::frmDiaryHelp()
     : HelpPanelForm(tr("Quick Help"),

@@ -1,4 +1,4 @@
-#include "screens/shell/DecorativePictures.h"
+#include "screens/widgets/DecorativePictures.h"
 
 #include <QCoreApplication>
 #include <QFont>
@@ -9,7 +9,7 @@
 #include <QRadialGradient>
 #include <QtMath>
 
-#include "screens/shell/Emblems.h"
+#include "screens/widgets/Emblems.h"
 
 namespace {
 

@@ -1,8 +1,6 @@
-#include "screens/store/Startup.h"
+#include "screens/shell/Startup.h"
 
 #include <QCoreApplication>
-#include <cstdio>
-#include <cstdlib>
 
 #include "core/platform/BinaryFile.h"
 #include "core/platform/FileSys.h"
@@ -12,16 +10,12 @@
 #include "core/store/Lookups.h"
 #include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/MDIMainForm.h"
+#include "screens/platform/ProcessEnd.h"
+#include "screens/platform/ShellHooks.h"
 #include "screens/shell/frmMainScreen.h"
 #include "screens/store/frmConvert.h"
 
 namespace {
-
-EndProcessHook& TheEndProcessHook() {
-    static EndProcessHook hook;
-    return hook;
-}
 
 ConversionScreenHook& TheConversionScreenHook() {
     static ConversionScreenHook hook;
@@ -33,13 +27,13 @@ void ShowConversionScreen() {
     else RunConversionScreen();
 }
 
-}  // namespace
-
-void FatalError() {
-    MsgBox(QCoreApplication::translate("Startup", "Cartomar Error. If this problem persists, please contact Ondine Software Inc."),
-           vbCritical);
-    EndProcess(1);
+// The main screen, in the frame brought up first.
+void ShowMainScreen() {
+    ShowFrameIfLoaded();
+    Get<frmMainScreen>().Show();
 }
+
+}  // namespace
 
 bool RunStartup(const QString& programDir, bool offerInstall) {
     FormPaths(programDir);
@@ -88,23 +82,6 @@ bool RunStartup(const QString& programDir, bool offerInstall) {
         }
     }
     return true;
-}
-
-void EndProcess(int exitCode) {
-    if (const EndProcessHook& hook = TheEndProcessHook()) {
-        hook(exitCode);
-        return;
-    }
-    // The toolkit's End: no further event runs and no screen gets to object.
-    // Every file is closed after each operation, so nothing is left unwritten.
-    std::fflush(nullptr);
-    std::_Exit(exitCode);
-}
-
-EndProcessHook SetEndProcessHook(EndProcessHook hook) {
-    EndProcessHook previous = std::move(TheEndProcessHook());
-    TheEndProcessHook() = std::move(hook);
-    return previous;
 }
 
 ConversionScreenHook SetConversionScreenHook(ConversionScreenHook hook) {

@@ -1,16 +1,11 @@
 #pragma once
 // What happens between the start of the process and the moment the main
-// screen stands (the folder's housekeeping, the test for an old database),
-// and the ways the process ends.
+// screen stands (the folder's housekeeping, the test for an old database).
 #include <QString>
 #include <functional>
 
 #include "core/store/Housekeeping.h"
 #include "core/store/MakerAddresses.h"
-
-// For a state the program holds impossible: the critical message, then the
-// end of the process.
-void FatalError();
 
 // Runs the whole start-up for a program directory: paths, colours, the
 // record files, Temp/, the old-database test with its conversion screen, then
@@ -21,15 +16,8 @@ void FatalError();
 // and the offer is not made.
 bool RunStartup(const QString& programDir, bool offerInstall = true);
 
-// Ends the process at once. Everything that ends the program goes through
-// here; a test may put its own hook in place to see the end without dying,
-// and the caller then simply returns. Both setters return the hook they
-// replace.
-void EndProcess(int exitCode = 0);
-using EndProcessHook = std::function<void(int exitCode)>;
-EndProcessHook SetEndProcessHook(EndProcessHook hook);
-
 // The screen that offers to convert a database of the old format, shown
-// modally. A test may put its own in place to see that it is asked for.
+// modally. A test may put its own in place to see that it is asked for; the
+// setter returns the hook it replaces.
 using ConversionScreenHook = std::function<void()>;
 ConversionScreenHook SetConversionScreenHook(ConversionScreenHook hook);

@@ -4,7 +4,16 @@
 // screen, the notes panels, the attribute panels and the help panels.
 // Positions are twips in the frame's inner area; a screen too large for the
 // frame goes to 50 twips from the edge instead of off it.
+#include <QRect>
+
+#include "core/platform/Twips.h"
+
 class Form;
+
+// A control's rectangle given in twips, as the screens are laid out.
+inline QRect At(int left, int top, int width, int height) {
+    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
+}
 
 void CentreInFrame(Form& form);
 // The reading screen. With atFrameTop the screen goes 150 twips below the

@@ -1,4 +1,4 @@
-#include "screens/shell/frmQuickHelp.h"
+#include "screens/readings/frmQuickHelp.h"
 
 frmQuickHelp::frmQuickHelp()
     : HelpPanelForm(tr("Quick Help"),

@@ -1,4 +1,4 @@
-#include "screens/shell/FitPicture.h"
+#include "screens/widgets/FitPicture.h"
 
 #include <QCoreApplication>
 #include <QtMath>
@@ -8,8 +8,8 @@
 #include "core/platform/Picture.h"
 #include "core/store/RunState.h"
 #include "screens/platform/MsgBox.h"
-#include "screens/shell/ImageBox.h"
-#include "screens/store/Startup.h"
+#include "screens/platform/ProcessEnd.h"
+#include "screens/widgets/ImageBox.h"
 
 namespace {
 
