@@ -4,7 +4,6 @@
 #include "DiaryFixtures.h"
 #include "core/readings/DiaryCards.h"
 #include "core/store/Lookups.h"
-#include "screens/widgets/ClickLabel.h"
 
 using namespace DiaryFixtures;
 
