@@ -15,7 +15,14 @@ set(CARTOMAR_TS_FILES)
 foreach(language ${CARTOMAR_LANGUAGES})
   list(APPEND CARTOMAR_TS_FILES ${CMAKE_SOURCE_DIR}/translations/cartomar_${language}.ts)
 endforeach()
-set_source_files_properties(${CARTOMAR_TS_FILES} PROPERTIES OUTPUT_LOCATION ${CMAKE_BINARY_DIR}/translations)
+# English counts in two forms ("1 entry", "2 entries"), and Qt takes the forms
+# of a counted text from a catalogue: the code writes the plural, and
+# cartomar_en.ts gives the English singular of each. It is compiled and
+# embedded beside the languages (:/i18n/cartomar_en.qm) and installed at
+# start-up beneath any of them; lupdate leaves it alone.
+set(CARTOMAR_PLURAL_FORMS_TS ${CMAKE_SOURCE_DIR}/translations/cartomar_en.ts)
+set_source_files_properties(${CARTOMAR_TS_FILES} ${CARTOMAR_PLURAL_FORMS_TS}
+  PROPERTIES OUTPUT_LOCATION ${CMAKE_BINARY_DIR}/translations)
 
 qt_add_lupdate(cartomar_screens
   TS_FILES ${CARTOMAR_TS_FILES}
@@ -23,7 +30,7 @@ qt_add_lupdate(cartomar_screens
   INCLUDE_DIRECTORIES ${CMAKE_SOURCE_DIR}/src
   OPTIONS -no-obsolete -locations none -silent)
 qt_add_lrelease(cartomar_screens
-  TS_FILES ${CARTOMAR_TS_FILES}
+  TS_FILES ${CARTOMAR_TS_FILES} ${CARTOMAR_PLURAL_FORMS_TS}
   QM_FILES_OUTPUT_VARIABLE CARTOMAR_QM_FILES
   OPTIONS -silent)
 qt_add_resources(cartomar_screens cartomar_translations
