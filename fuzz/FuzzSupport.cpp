@@ -11,7 +11,7 @@
 #include "core/platform/FileSys.h"
 #include "core/platform/Picture.h"
 #include "core/platform/WriteFaults.h"
-#include "core/records/Records.h"
+#include "core/records/RecordFile.h"
 #include "core/store/Housekeeping.h"
 #include "core/store/RunState.h"
 
@@ -277,19 +277,16 @@ QByteArray OldBaselineFile(OldFile file) {
     Fail("no such old file");
 }
 
-void LayDatabase() {
+void LayDatabase(FuzzedFile fuzzed, const QByteArray& input) {
     static const QList<QByteArray> files = {BuildDecks(), BuildCards(), BuildSpreads(),
                                             BuildLocations(), BuildReadings(), BuildDiary()};
     const FuzzedFile kinds[] = {FuzzedFile::Decks, FuzzedFile::Cards, FuzzedFile::Spreads,
                                 FuzzedFile::Locations, FuzzedFile::Readings, FuzzedFile::Diary};
-    for (int i = 0; i < 6; ++i) WriteWholeFile(PathOf(kinds[i]), files[i]);
+    for (int i = 0; i < 6; ++i) RecordFilesInMemory::Hold(PathOf(kinds[i]), kinds[i] == fuzzed ? input : files[i]);
     // A delete pass may have taken a picture with its card: put back what is
     // gone. A file a fuzzed record made stays; it does no harm.
-    QDir().mkpath(CardsDir);
-    QDir().mkpath(TempDir);
     for (const QString& name : PictureNames)
         if (!FileExists(CardsDir + name)) WriteWholeFile(CardsDir + name, PictureBytes());
-    ClearTemp();
 }
 
 void Handled(const std::function<void()>& operation) {

@@ -34,9 +34,10 @@ QByteArray BaselineFile(FuzzedFile file);
 enum class OldFile { Decks, Cards, Spreads };
 QByteArray OldBaselineFile(OldFile file);
 
-// Writes every record file of the database afresh, the pictures its cards
-// name and the default picture; Temp/ is emptied.
-void LayDatabase();
+// Holds every record file of the database afresh in memory, the fuzzed one
+// with the input's bytes (see RecordFilesInMemory), and puts back on the disk
+// the pictures its cards name and the default picture.
+void LayDatabase(FuzzedFile fuzzed, const QByteArray& input);
 
 // Runs one operation; a RuntimeError is how the program reports a failure it
 // has no answer for (an error box, and the program carries on), so it ends

@@ -1,5 +1,6 @@
 // One record file of a small real database replaced by arbitrary bytes, then
-// everything that reads record files run over the database: counts, whole
+// everything that reads record files run over the database, held in memory
+// so that no record file is written for an input: counts, whole
 // and sequential reads, reads by number, the lookups by name and id, the free
 // ids, loading each deck and each spread's locations, the tests whether a
 // spread or deck can be dealt, and the delete passes. Built once per record
@@ -9,7 +10,6 @@
 // read encodes back to its own bytes, a lookup's record carries what was
 // looked up, a free id is carried by no record, a loaded deck holds only its
 // own cards.
-#include <QFile>
 #include <algorithm>
 #include <vector>
 
@@ -45,9 +45,9 @@ bool Plausible(int claimed, int held) { return claimed <= held + ClaimBeyondFile
 // Every way of reading the file, checked against its bytes.
 template <class R>
 std::vector<R> ReadAndCheck(const QString& path) {
-    QFile file(path);
-    Expect(file.open(QIODevice::ReadOnly), "record file missing");
-    const QByteArray bytes = file.readAll();
+    const QByteArray* held = RecordFilesInMemory::Find(path);
+    Expect(held, "record file missing");
+    const QByteArray bytes = *held;
     const int count = CountRecords<R>(path);
     Expect(count == bytes.size() / R::Length, "count is not the whole records");
 
@@ -171,8 +171,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    Fuzz::LayDatabase();
-    WriteWholeFile(Fuzz::PathOf(FuzzedRecordFile), Fuzz::Bytes(data, size));
+    Fuzz::LayDatabase(FuzzedRecordFile, Fuzz::Bytes(data, size));
 
     std::vector<DeckRecord> decks;
     std::vector<SpreadRecord> spreads;

@@ -58,12 +58,12 @@ void SeedConversion() {
 void SeedPackages() {
     // A package as the package screen makes it: the design's records and
     // its pictures, from a folder in Temp/.
-    Fuzz::LayDatabase();
+    Fuzz::LayDatabase(FuzzedFile::Decks, Fuzz::BaselineFile(FuzzedFile::Decks));
     const QString folder = TempDir + QStringLiteral("pack/");
     QDir().mkpath(folder);
     for (FuzzedFile file : {FuzzedFile::Decks, FuzzedFile::Cards, FuzzedFile::Spreads, FuzzedFile::Locations}) {
         const QString path = Fuzz::PathOf(file);
-        FileCopy(path, folder + path.mid(path.lastIndexOf(QLatin1Char('/')) + 1));
+        WriteWholeFile(folder + path.mid(path.lastIndexOf(QLatin1Char('/')) + 1), Fuzz::BaselineFile(file));
     }
     FileCopy(CardsDir + QStringLiteral("CU00001.bmp"), folder + QStringLiteral("CU00001.bmp"));
     const QString package = TempDir + QStringLiteral("design.pck");

@@ -8,7 +8,7 @@ packages=(
   qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
   gstreamer1.0-plugins-base gstreamer1.0-plugins-good
   fonts-dejavu-core poppler-utils xvfb xauth
-  clang libclang-rt-dev
+  clang libclang-rt-dev clang-format
   desktop-file-utils appstream shared-mime-info
 )
 missing=()

@@ -3,4 +3,3 @@
 # pay for it.
 add_executable(take_screenshots EXCLUDE_FROM_ALL ${CMAKE_CURRENT_LIST_DIR}/take_screenshots.cpp)
 target_link_libraries(take_screenshots PRIVATE cartomar_screens)
-target_compile_options(take_screenshots PRIVATE -Wall -Wextra)

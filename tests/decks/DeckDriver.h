@@ -7,13 +7,8 @@
 #include <QSet>
 #include <functional>
 
-#include "core/platform/FileSys.h"
-#include "core/records/RecordFile.h"
-#include "core/store/RunState.h"
 #include "screens/decks/FileChooser.h"
 #include "screens/platform/FileLists.h"
-#include "screens/platform/ListBox.h"
-#include "support/ModalScript.h"
 #include "support/ScreenTest.h"
 
 inline int LineOf(const QListWidget* list, const QString& text) {

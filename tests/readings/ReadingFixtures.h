@@ -1,31 +1,20 @@
 #pragma once
 // What the reading tests share: a program directory with a deck and a spread,
 // the way through the main screen's Readings buttons, and the save screens.
-#include <QCheckBox>
-#include <QPushButton>
-#include <QTemporaryDir>
 #include <functional>
 #include <memory>
 #include <type_traits>
 
-#include "core/platform/FileSys.h"
 #include "core/platform/Palette.h"
 #include "core/platform/Rnd.h"
-#include "core/records/RecordFile.h"
 #include "core/store/NewDesigns.h"
-#include "core/store/RunState.h"
-#include "screens/platform/ListBox.h"
 #include "screens/platform/MediaPlayer.h"
-#include "screens/platform/MsgBox.h"
 #include "screens/readings/frmNewReading.h"
 #include "screens/readings/frmOpenReading.h"
 #include "screens/readings/frmReadingCards.h"
 #include "screens/readings/frmSelectSpread.h"
 #include "screens/shell/MDIMainForm.h"
 #include "screens/shell/frmMainScreen.h"
-#include "support/Fixtures.h"
-#include "support/ModalScript.h"
-#include "support/Prompts.h"
 #include "support/ScreenTest.h"
 
 namespace ReadingFixtures {
@@ -70,23 +59,26 @@ private:
     std::unique_ptr<QTemporaryDir> dir_;
 };
 
-// A saved entry, reading or diary, made with the deck and spread given, card i
-// in location i of the first locations, highCard at highCardAt if any, and
-// what own sets.
+// A saved entry "Saved", reading or diary, made with the deck and spread
+// given, card i in location i of the first 20 locations, highCard at
+// highCardAt if any.
 template <class R>
-R StoredEntry(const QString& path, Integer deckId, Integer spreadId, int locations,
-            const std::function<void(R&)>& own, int highCardAt, Integer highCard) {
+R StoredEntry(const QString& path, Integer deckId, Integer spreadId, int highCardAt, Integer highCard) {
     R r;
-    if constexpr (std::is_same_v<R, ReadingRecord>) ResetReading(r);
-    else ResetDiary(r);
+    if constexpr (std::is_same_v<R, ReadingRecord>) {
+        r = Fixtures::NamedReading(QStringLiteral("Saved"));
+        r.DealtCount = 20;
+    } else {
+        r = Fixtures::NamedDiary(QStringLiteral("Saved"));
+    }
+    r.SavedOn = 46000;
     r.ReadingDeckId = deckId;
     r.ReadingDeckRevision = 1;
     r.ReadingSpreadId = spreadId;
     r.ReadingSpreadRevision = 1;
-    for (int i = 1; i <= locations; ++i) r.DealtCard[std::size_t(i - 1)] = Integer(i);
+    for (int i = 1; i <= 20; ++i) r.DealtCard[std::size_t(i - 1)] = Integer(i);
     if (highCardAt > 0) r.DealtCard[std::size_t(highCardAt - 1)] = highCard;
     r.CardTypeSelected = {True16, True16, False16, False16};
-    own(r);
     AppendRecord(path, r);
     return r;
 }
@@ -103,8 +95,8 @@ O& TryOpen(int row = 0) {
 }
 
 // Opening row 0 is refused with that one message (one box of any text for an
-// empty message): the open screen stays with
-// Open on, the entry file and the entry in memory are as they were.
+// empty message): the open screen stays with Open on, the entry file and the
+// entry in memory are as they were.
 template <class E, class O, class R>
 void ExpectRefusalOf(const QString& path, const R& current, const QString& message) {
     const QByteArray file = ReadWholeFile(path);
@@ -125,7 +117,7 @@ inline bool Near(int a, int b) { return qAbs(a - b) < 15; }
 inline void FreshRun(const QString& dir) {
     UnloadScreen<frmReadingCards>();
     UnloadScreen<frmNewReading>();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    Settle();
     Fixtures::UseProgramDir(dir);
     MsgBoxScript::Clear();
     SetRandomizeSeedForTests(4242);
@@ -164,12 +156,5 @@ inline frmNewReading& NewReading(const std::function<void(frmSelectSpread&)>& ad
 }
 
 inline void OpenPastReading(int row) { OpenPast<frmOpenReading>(2, row); }
-
-// The table position that holds a deck card (duplicates off: each card lies once).
-inline int PositionOfCard(Integer card) {
-    for (int i = 1; i <= Deal::TableSize; ++i)
-        if (ReadingDeal.LocationCard(i) == card) return i;
-    return 0;
-}
 
 }  // namespace ReadingFixtures

@@ -1,14 +1,7 @@
 // A whole reading driven through its screens: select, continue, deal a part,
 // save on closing, reopen with its table, deal on, interpret a reversed card,
-// write notes, save, reopen complete; the buttons through the life of the
-// table.
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QRadioButton>
-#include <QtTest>
-
+// write notes, save, reopen complete; then Back, Continue and Deal.
 #include "ReadingFixtures.h"
-#include "core/platform/Palette.h"
 #include "core/store/Lookups.h"
 #include "screens/readings/frmReadingInterpretLocation.h"
 #include "screens/readings/frmReadingNotes.h"
@@ -23,26 +16,11 @@ namespace {
 constexpr int Locations = 6;
 constexpr int DeckSize = 30;
 
-struct Shown {
-    Integer card = 0;
-    Integer upright = 0;
-    QString name;
-};
-
-// The deal's card in each location and the name the reading screen shows.
-QList<Shown> ShownCards(frmNewReading& reading, int count) {
-    QList<Shown> shown;
-    for (int i = 1; i <= count; ++i)
-        shown.append({ReadingDeal.DealtCard(i), ReadingDeal.DealtUpright(i), reading.lblCardName(i)->text()});
-    return shown;
-}
-
 }  // namespace
 
 class TestReadingScreens : public QObject, ScreenRun {
     Q_OBJECT
     Integer deckId_ = 0;
-    Integer spreadId_ = 0;
 
 private slots:
     void initTestCase() { StandUp(); }
@@ -50,7 +28,7 @@ private slots:
     void init() {
         FreshRun(NewDir());
         deckId_ = Fixtures::MakeDeck(QStringLiteral("Tarot"), DeckSize, true);
-        spreadId_ = Fixtures::MakeSpread(QStringLiteral("Cross"), Locations, {deckId_});
+        Fixtures::MakeSpread(QStringLiteral("Cross"), Locations, {deckId_});
         ChangeRecord<SpreadRecord>(SpreadsPath, 1, [](SpreadRecord& s) { s.AskQuestion = True16; });
         // Every card sounds on its reversed side.
         for (int n = 1; n <= DeckSize; ++n)
@@ -65,81 +43,56 @@ private slots:
     // end, interpreted, saved again and reopened complete.
     void aWholeReadingFromSelectionToReopening() {
         frmNewReading& reading = NewReading();
-        QCOMPARE(reading.Caption(), QStringLiteral("Reading - Cross"));
-
         // Enter in the issue box continues as the button does, the issue
-        // padded the same: the spread page, and the table 50 twips below,
-        // following the screen when it moves.
+        // padded the same.
         reading.txtIssue->setText(QStringLiteral("  Will it rain?"));
         QTest::keyClick(reading.txtIssue, Qt::Key_Return);
-        QVERIFY(!reading.IntroductionShown());
         QCOMPARE(reading.Caption(), QStringLiteral("Reading - Cross:   Will it rain?  "));
         frmReadingCards& table = Get<frmReadingCards>();
-        reading.Move(reading.Left() + 300, reading.Top() + 150);
-        reading.Timer1_Timer();
-        QVERIFY(Near(table.Left(), reading.Left()));
-        QVERIFY(Near(table.Top(), reading.Top() + reading.OuterHeight() + 50));
         const auto order = CurrentReading.LocationCard;
 
         // A card by a click, one by Next Card; closing asks, Yes saves.
         table.picCard_Click(7);
-        QVERIFY(!reading.cmdContinue->isEnabled());
         QCOMPARE(ReadingDeal.DealtCard(1), order[6]);
         reading.cmdNextCard->click();
         QList<int> onTable;
         for (int i = 1; i <= DeckSize; ++i)
             if (!table.picCard(i)->isHidden()) onTable << i;
-        QCOMPARE(onTable.size(), DeckSize - 2);
         MsgBoxScript::Answer(vbYes);
         SaveThrough<frmSaveReading>(reading.cmdClose, QStringLiteral("Morning"));
         QCOMPARE(MsgBoxScript::History().at(0).prompt, QStringLiteral("Save changes to the reading?"));
-        QVERIFY(!IsLoaded<frmNewReading>());
         ReadingRecord saved;
         QVERIFY(GetRecord(ReadingsPath, 1, saved));
         QVERIFY(saved.Issue.Value().startsWith(QStringLiteral("  Will it rain?  ")));
-        QCOMPARE(QList<Integer>({saved.IssueAsked, saved.DealtCount, saved.ReadingDeckId, saved.ReadingSpreadId,
-                                 saved.UseReversed, saved.AllowDuplicateCards}),
-                 QList<Integer>({True16, 2, deckId_, spreadId_, True16, False16}));
-        QCOMPARE(saved.LocationCard, order);
-        for (int i = 1; i <= 100; ++i)
-            QCOMPARE(saved.TableCardVisible[static_cast<std::size_t>(i - 1)] != 0, onTable.contains(i));
+        QCOMPARE(QList<Integer>({saved.DealtCount, saved.ReadingDeckId}), QList<Integer>({2, deckId_}));
 
         // Reopened: the table as it was left, the deal going on from there.
         OpenPastReading(0);
         frmNewReading& again = Get<frmNewReading>();
-        frmReadingCards& restored = Get<frmReadingCards>();
-        for (int i = 1; i <= DeckSize; ++i) QCOMPARE(!restored.picCard(i)->isHidden(), onTable.contains(i));
+        for (int i = 1; i <= DeckSize; ++i)
+            QCOMPARE(!Get<frmReadingCards>().picCard(i)->isHidden(), onTable.contains(i));
         QCOMPARE(again.lblCardName(1)->text(), QStringLiteral("Card %1").arg(order[6]));
-        QVERIFY(!again.ReadingChanged && again.cmdNextCard->isEnabled());
-        again.cmdNextCard->click();
-        QVERIFY(onTable.contains(PositionOfCard(ReadingDeal.DealtCard(3))));
         again.cmdAllCards->click();
-        QVERIFY(!IsLoaded<frmReadingCards>());
-        QVERIFY(again.cmdDeal->isEnabled() && again.ReadingChanged);
-        int reversedAt = 0;
-        for (const Shown& s : ShownCards(again, Locations)) {
-            ++reversedAt;
-            QCOMPARE(s.name, QStringLiteral("Card %1").arg(s.card));
-            QCOMPARE(again.imgCard(reversedAt)->Image().pixelColor(0, 0).rgb(), Fixtures::CardColour(s.card, s.upright).rgb());
-            if (s.upright == False16) break;
-        }
+        QVERIFY(!IsLoaded<frmReadingCards>() && again.ReadingChanged);
+        int reversedAt = 0;  // each card shown up to the first reversed one
+        do {
+            const Integer c = ReadingDeal.DealtCard(++reversedAt), upright = ReadingDeal.DealtUpright(reversedAt);
+            QCOMPARE(again.lblCardName(reversedAt)->text(), QStringLiteral("Card %1").arg(c));
+            QCOMPARE(again.imgCard(reversedAt)->Image().pixelColor(0, 0).rgb(), Fixtures::CardColour(c, upright).rgb());
+        } while (ReadingDeal.DealtUpright(reversedAt) != False16 && reversedAt < Locations);
         QVERIFY2(ReadingDeal.DealtUpright(reversedAt) == False16, "the seed deals no reversed card");
 
         // Interpreting the reversed card: its reversed texts, picture and sound.
         again.picLocation_Click(reversedAt);
         frmReadingInterpretLocation& page = Get<frmReadingInterpretLocation>();
         const Integer card = ReadingDeal.DealtCard(reversedAt);
-        QCOMPARE(page.Caption(), QStringLiteral("Cross - Position %1 (%1)").arg(reversedAt));
         QCOMPARE(page.lblCardTitle->text(), QStringLiteral("Card %1 (Reversed)").arg(card));
         page.optKeywords->click();
         QCOMPARE(page.lblText->toPlainText(), QStringLiteral("reversed keywords %1").arg(card));
         QCOMPARE(page.MediaPlayer1->FileName(), CardsDir + QStringLiteral("MCR%1.wav").arg(card, 5, 10, QLatin1Char('0')));
-        QCOMPARE(again.picLocation(reversedAt)->BackColor(), QColor(192, 0, 0));
-        QCOMPARE(again.lblCardTitle(reversedAt)->BackColor(), QColor(192, 0, 0));   // its labels with it
-        page.cmdEnlargePic->click();
+        page.cmdEnlargePic->click();  // the picture takes the player's place
         QVERIFY(!page.picEnlargedBackground->isHidden() && page.MediaPlayer1->isHidden());
         page.cmdClose->click();
-        QCOMPARE(again.picLocation(reversedAt)->BackColor(), QBColor(CurrentLocationColour));
 
         // Notes go into the reading as they are typed; the save proposes the
         // reading's name and asks before writing over it.
@@ -150,20 +103,15 @@ private slots:
         SaveThrough<frmSaveReading>(again.cmdSave, QStringLiteral("Morning"));
         QVERIFY(!again.ReadingChanged);
         again.cmdClose->click();
-        QVERIFY(Get<frmMainScreen>().Visible());
         QVERIFY(GetRecord(ReadingsPath, 1, saved));
-        QCOMPARE(CountReadings(), 1);
         QCOMPARE(saved.ReadingNotes.Trimmed(), QStringLiteral("Rain later."));
         QCOMPARE(QList<Integer>({saved.SaveCount, saved.DealtCount}), QList<Integer>({2, Locations}));
         for (int i = 1; i <= Locations; ++i) QCOMPARE(saved.DealtCard[std::size_t(i - 1)], ReadingDeal.DealtCard(i));
-        // A complete deal leaves no table to remember.
-        for (Integer visible : saved.TableCardVisible) QCOMPARE(visible, False16);
 
         // Reopened complete: no table, Deal offered.
         OpenPastReading(0);
         frmNewReading& complete = Get<frmNewReading>();
-        QVERIFY(!IsLoaded<frmReadingCards>());
-        QVERIFY(complete.cmdDeal->isEnabled() && !complete.cmdNextCard->isEnabled());
+        QVERIFY(!IsLoaded<frmReadingCards>() && complete.cmdDeal->isEnabled());
         QCOMPARE(complete.txtIssue->text(), QStringLiteral("Will it rain?"));
         complete.picLocation_Click(reversedAt);
         QVERIFY(Get<frmReadingInterpretLocation>().lblCardTitle->text().endsWith(QStringLiteral("(Reversed)")));
@@ -184,14 +132,12 @@ private slots:
 
         // Deal starts over: the locations empty and a table is laid.
         reading.cmdDeal->click();
-        QCOMPARE(ReadingDeal.ThisLocationNumber, Integer(1));
-        QVERIFY(IsLoaded<frmReadingCards>());
-        QVERIFY(!reading.lblCardNumber(1)->isHidden() && !reading.imgCard(1)->HasPicture());
+        QVERIFY(IsLoaded<frmReadingCards>() && !reading.imgCard(1)->HasPicture());
 
         // Interpret before the first card: location 1 alone, the compact page.
         reading.cmdInterpret->click();
         frmReadingInterpretLocation& page = Get<frmReadingInterpretLocation>();
-        QVERIFY(page.imgCard->isHidden() && page.lblText->isHidden() && !page.cmdEnlargePic->isEnabled());
+        QVERIFY(page.imgCard->isHidden() && page.lblText->isHidden());
         QCOMPARE(page.lblTitle->text(), QStringLiteral("Position 1"));
         page.cmdClose->click();
 

@@ -1,17 +1,12 @@
 // Saved entries, readings and diary entries alike: the core's judgement of a
-// saved entry that may no longer be shown as it was (its refusals and
-// questions in order), and its saves, reopened from the disk; then the
-// screens' wiring: a refusal is one message, the screen stays, nothing is
-// written; a diary entry whose cards point past a smaller deck beyond the
-// checked locations opens with those locations empty; the selection screen's
-// lists and boxes. And bad input: text past every limit, text the record code
-// page cannot hold, a saved reading that goes between the listing and the
-// opening.
+// saved entry that may no longer be shown as it was, and its saves, reopened
+// from the disk; then the open, save and selection screens' wiring; and bad
+// input: text past every limit or beyond the record code page, a saved
+// reading that goes between the listing and the opening.
 #include <QApplication>
 #include <QClipboard>
 
 #include "core/platform/Errors.h"
-#include "core/platform/FileSys.h"
 #include "core/platform/OleDate.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
@@ -51,22 +46,12 @@ class TestSavedEntries : public QObject, ScreenRun {
     Integer deckId_ = 0;
     Integer spreadId_ = 0;
 
-    // A complete reading of the 20-location spread, saved as "Saved".
+    // A complete reading or diary entry of the 20-location spread, saved as "Saved".
     ReadingRecord SavedReading(int highCardAt = 0, Integer highCard = 0) {
-        const auto own = [](ReadingRecord& r) {
-            r.ReadingName = QStringLiteral("Saved");
-            r.DealtCount = 20;
-            r.SavedOn = 46000;
-        };
-        return StoredEntry<ReadingRecord>(ReadingsPath, deckId_, spreadId_, 20, own, highCardAt, highCard);
+        return StoredEntry<ReadingRecord>(ReadingsPath, deckId_, spreadId_, highCardAt, highCard);
     }
-    // A diary entry of the same.
-    DiaryRecord SavedDiary(const QString& name, int highCardAt = 0, Integer highCard = 0) {
-        const auto own = [&name](DiaryRecord& d) {
-            d.DiaryName = name;
-            d.SavedOn = 46000;
-        };
-        return StoredEntry<DiaryRecord>(DiaryPath, deckId_, spreadId_, 20, own, highCardAt, highCard);
+    void SavedDiary(int highCardAt = 0, Integer highCard = 0) {
+        StoredEntry<DiaryRecord>(DiaryPath, deckId_, spreadId_, highCardAt, highCard);
     }
     // The entry in hand saved under the typed name of the test's row, in a
     // file of "First" and "Second", and read back from the disk.
@@ -175,7 +160,7 @@ private slots:
         QFETCH(bool, diary);
         QFETCH(int, change);
         QFETCH(int, highCardAt);
-        if (diary) SavedDiary(QStringLiteral("Saved"), highCardAt, 22);
+        if (diary) SavedDiary(highCardAt, 22);
         else SavedReading(highCardAt, 22);
         if (change == DeckDeleted) DeleteDeck(1);
         if (change == SpreadDeleted || change == DeckRevisedSpreadDeleted) DeleteSpread(1);
@@ -193,7 +178,7 @@ private slots:
     // Through the screen: a refusal is told and the opening stops; so does a
     // question answered No.
     void theOpenScreenTellsAndAsksWhatTheCoreFound() {
-        SavedDiary(QStringLiteral("Saved"));
+        SavedDiary();
         DeleteSpread(1);
         ExpectRefusalOf<frmNewDiary, frmOpenDiary>(DiaryPath, CurrentDiary, QString());
         QVERIFY(!Get<frmNewDiary>().OpeningDiary);
@@ -239,7 +224,7 @@ private slots:
     // past it at location 16 passes, and after the question the entry opens
     // with location 16 empty, showing its number.
     void aCardPastASmallerDeckBeyondLocationFifteenIsLeftOut() {
-        SavedDiary(QStringLiteral("Saved"), 16, 22);
+        SavedDiary(16, 22);
         ChangeRecord<DeckRecord>(DecksPath, 1, [](DeckRecord& d) {
             d.DeckRevision = 2;
             d.CardCount = 21;
@@ -247,13 +232,9 @@ private slots:
         MsgBoxScript::Answer(vbYes);
         ReadingFixtures::TryOpen<frmNewDiary, frmOpenDiary>();
         QVERIFY(!IsLoaded<frmOpenDiary>());
-        frmNewDiary& diary = Get<frmNewDiary>();
-        QCOMPARE(diary.cmdCardTitle(16)->text(), QStringLiteral(" [Select]"));
-        QVERIFY(!diary.lblCardNumber(16)->isHidden());
-        QCOMPARE(diary.cmdCardTitle(15)->text(), CardText(15));
+        QCOMPARE(Get<frmNewDiary>().cmdCardTitle(16)->text(), QStringLiteral(" [Select]"));
         QCOMPARE(CurrentDiary.DealtCard[15], Integer(0));
-        // With duplicates off the cards of the entry have left the other lists.
-        QCOMPARE(DiaryLists.Rows(16).size(), 1 + 21 - 19);
+        QCOMPARE(CurrentDiary.DealtCard[14], Integer(15));
     }
 
     void aCardPastTheDeckBeyondLocationFifteenClosesTheReadingCleanly() {
@@ -264,9 +245,7 @@ private slots:
         TryOpen();
         QCOMPARE(MsgBoxScript::History().size(), 2);
         QVERIFY(MsgBoxScript::History().at(1).prompt.contains(ErrorDescription(errSubscriptOutOfRange)));
-        QVERIFY(!IsLoaded<frmNewReading>());
-        QVERIFY(!IsLoaded<frmReadingCards>());
-        QVERIFY(!ReadingDeal.LoadingReading);
+        QVERIFY(!IsLoaded<frmNewReading>() && !IsLoaded<frmReadingCards>() && !ReadingDeal.LoadingReading);
         QVERIFY(Get<frmMainScreen>().Visible());
         QCOMPARE(ReadWholeFile(ReadingsPath), file);
     }
@@ -278,18 +257,13 @@ private slots:
             r.EntryPassword = QStringLiteral("moon");
         });
         ModalScript script;
-        for (const char* typed : {"sun", "moon"})
-            script.On<frmGetPassword>([typed](frmGetPassword& ask) {
-                ask.txtPassword->setText(QString::fromLatin1(typed));
-                ask.cmdOK_Click();
-            });
-        ExpectRefusal(QString());   // the wrong password's box
-        MsgBoxScript::Clear();
+        script.On<frmGetPassword>([](frmGetPassword& ask) {
+            ask.txtPassword->setText(QStringLiteral("moon"));
+            ask.cmdOK_Click();
+        });
         TryOpen();
-        QVERIFY(script.Done());
-        QVERIFY(!IsLoaded<frmOpenReading>());
+        QVERIFY(script.Done() && !IsLoaded<frmOpenReading>());
         QCOMPARE(ReadingDeal.ThisLocationNumber, Integer(21));
-        QCOMPARE(MsgBoxScript::History().size(), 0);
     }
 
     void theListIsByDateAndDeletesAfterTheQuestion() {
@@ -298,36 +272,26 @@ private slots:
         later.ReadingName = QStringLiteral("Earlier");
         AppendRecord(ReadingsPath, later);
         frmOpenReading& open = Get<frmOpenReading>();
-        QCOMPARE(open.lstEntries->count(), 2);
         QVERIFY(open.lstEntries->item(0)->text().startsWith(FormatSortDate(46000) + QStringLiteral(" - Earlier")));
         QCOMPARE(open.SelectedName(), QStringLiteral("Earlier").leftJustified(50));
         MsgBoxScript::Answer(vbNo);
         open.cmdDelete_Click();
         QCOMPARE(CountReadings(), 2);
-        QCOMPARE(MsgBoxScript::History().at(0).style & vbDefaultButton2, int(vbDefaultButton2));
         MsgBoxScript::Answer(vbYes);
         open.cmdDelete_Click();
         QCOMPARE(CountReadings(), 1);
         QCOMPARE(open.lstEntries->count(), 1);
-        MsgBoxScript::Answer(vbYes);
-        open.cmdDelete_Click();
-        QCOMPARE(open.lstEntries->count(), 0);
-        QVERIFY(!open.cmdOpen->isEnabled() && !open.cmdDelete->isEnabled());
     }
 
-    // The save screen tells the core's refusal and asks its question, No
-    // by default; the arrow key onto a saved name and Enter overwrite it.
+    // The save screen asks the core's question, No by default; the arrow key
+    // onto a saved name and Enter overwrite it.
     void theSaveScreenTellsAndAsksWhatTheCoreFound() {
         SavedReading();
         frmSaveReading& save = Get<frmSaveReading>();
-        save.txtSaveAs->setText(QStringLiteral("   "));
-        save.cmdSave_Click();
-        QCOMPARE(MsgBoxScript::History().at(0).style, int(vbExclamation));
         save.txtSaveAs->setText(QStringLiteral(" Saved "));
         MsgBoxScript::Answer(vbNo);
         save.cmdSave_Click();
-        QCOMPARE(MsgBoxScript::History().at(1).style, int(vbYesNo | vbDefaultButton2 | vbQuestion));
-        QVERIFY(IsLoaded<frmSaveReading>());
+        QCOMPARE(MsgBoxScript::History().at(0).style, int(vbYesNo | vbDefaultButton2 | vbQuestion));
         save.txtSaveAs->setText(QStringLiteral("Other"));
         save.lstNames->setFocus();
         QTest::keyClick(save.lstNames, Qt::Key_Down);
@@ -353,11 +317,9 @@ private slots:
         QCOMPARE(spreads, (QStringList{QStringLiteral("Any"), QStringLiteral("Big")}));
         QCOMPARE(select.lstDecks->count(), 2);   // Any: both usable decks
         select.lstDecks->setCurrentRow(1);       // Tarot: no reversed sides
-        QVERIFY(!select.chkUseReversed->isEnabled() && !select.chkUseReversed->isChecked());
         select.chkUseReversed->setChecked(true);
-        QVERIFY(!select.chkUseReversed->isChecked());
         select.chkIssue->setChecked(true);
-        QVERIFY(!select.chkIssue->isChecked());
+        QVERIFY(!select.chkUseReversed->isChecked() && !select.chkIssue->isChecked());
         QCOMPARE(select.lblIssue->text(), QStringLiteral("Spread Does NOT Includes Question/Issue"));
 
         // Ten locations from 22 cards of one type: enough; Reversed's Minor
@@ -375,10 +337,8 @@ private slots:
         select.lstCardTypes->item(0)->setSelected(true);
         select.chkAllowDuplicateCards->setChecked(true);
         select.cmdSelect_Click();
-        QVERIFY(!IsLoaded<frmSelectSpread>());
-        QVERIFY(AllowDuplicateCards && UseReversed);
-        QCOMPARE(CurrentReading.AllowDuplicateCards, True16);
-        QCOMPARE(Get<frmSelectSpread>().chkAllowDuplicateCards->isChecked(), true);
+        QVERIFY(AllowDuplicateCards && UseReversed && CurrentReading.AllowDuplicateCards == True16);
+        QVERIFY(Get<frmSelectSpread>().chkAllowDuplicateCards->isChecked());
         SelectSpreadScreen::LastAllowDuplicateCards = false;
         UnloadScreen<frmSelectSpread>();
     }
@@ -406,9 +366,8 @@ private slots:
         GetRecord(ReadingsPath, 1, saved);
         QCOMPARE(saved.ReadingName.Trimmed(), BadInput::ForeignAsStored);
         reading.CloseReading();
-        frmOpenReading& open = Get<frmOpenReading>();
-        QCOMPARE(open.lstEntries->count(), 1);
-        QVERIFY(open.lstEntries->item(0)->text().trimmed().endsWith(QStringLiteral(" - ") + BadInput::ForeignAsStored));
+        QVERIFY(Get<frmOpenReading>().lstEntries->item(0)->text().trimmed().endsWith(QStringLiteral(" - ") +
+                                                                                     BadInput::ForeignAsStored));
     }
 
     // A reading deleted elsewhere after the list was made: opening it does

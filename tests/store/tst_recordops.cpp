@@ -285,8 +285,7 @@ private slots:
                                     QStringLiteral("MCU00001.wav")})
             QVERIFY2(!InCards(gone), qPrintable(gone));
         QVERIFY(InCards(ownReversed));  // no longer named by any card, so nothing removes it
-        QVERIFY(!FileExists(TempDir + QStringLiteral("Decks.tmp")));
-        QVERIFY(!FileExists(AppPath + QStringLiteral("Cards.tmp")));
+        QVERIFY(!AnyFileMatches(AppPath + QStringLiteral("*.tmp")));
 
         // Two deck records with one id (a damaged file): deleting one leaves
         // the cards that the other loads.
@@ -312,8 +311,7 @@ private slots:
         for (const auto& d : ReadAllRecords<DiaryRecord>(DiaryPath)) diaries << d.DiaryName.Trimmed();
         QCOMPARE(readings, (QStringList{QStringLiteral("Beta"), QStringLiteral("Gamma")}));
         QCOMPARE(diaries, (QStringList{QStringLiteral("Alpha"), QStringLiteral("Alpha"), QStringLiteral("Gamma")}));
-        QVERIFY(!FileExists(AppPath + QStringLiteral("Readings.tmp")));
-        QVERIFY(!FileExists(AppPath + QStringLiteral("Diaries.tmp")));
+        QVERIFY(!AnyFileMatches(AppPath + QStringLiteral("*.tmp")));
     }
 
     void spreadLocationsLoadByNumberAndSaveAtTheEnd() {
@@ -335,7 +333,7 @@ private slots:
         ReplaceSpreadLocations(5, 3);
         QCOMPARE(LocationKeys(), (QStringList{QStringLiteral("8:1:eight-one"), QStringLiteral("5:1:five-one"),
                                               QStringLiteral("5:2:five-two"), QStringLiteral("5:3:five-three")}));
-        QVERIFY(!FileExists(AppPath + QStringLiteral("Location.tmp")));
+        QVERIFY(!AnyFileMatches(AppPath + QStringLiteral("*.tmp")));
 
         // The same from another file, as a package's locations are read.
         const QString other = dir_->filePath(QStringLiteral("other.loc"));

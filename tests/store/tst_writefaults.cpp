@@ -7,7 +7,6 @@
 // came from left it (its cards or locations, the bytes of every file they
 // name), and a design that both states list by name is listed.
 #include <QFile>
-#include <QLineEdit>
 #include <QSet>
 #include <functional>
 #include <map>
@@ -18,19 +17,14 @@
 #include "core/decks/DeckStore.h"
 #include "core/packages/PackageStaging.h"
 #include "core/platform/Errors.h"
-#include "core/platform/FileSys.h"
 #include "core/platform/ProgramLock.h"
 #include "core/platform/WriteFaults.h"
 #include "core/readings/EntryStore.h"
-#include "core/records/RecordFile.h"
 #include "core/spreads/SpreadStore.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
-#include "core/store/RunState.h"
 #include "screens/decks/DeckLoadQuestion.h"
-#include "screens/platform/MsgBox.h"
 #include "screens/store/Startup.h"
-#include "support/Fixtures.h"
 #include "support/InstallAnswers.h"
 #include "support/ScreenTest.h"
 
@@ -114,8 +108,9 @@ using Fixtures::NamedDiary;
 using Fixtures::NamedReading;
 
 // Two decks, two spreads, three readings, two diary entries; and a package
-// of one deck and one spread staged in Temp/ as its creation stages it, then
-// taken out of the folder's own designs, as an extraction leaves it.
+// of one deck and one spread staged in Temp/ as its creation stages it, as an
+// extraction leaves it, the spread then taken out of the folder's own
+// designs and the deck left for the package to overwrite.
 void MakeFixture(const QString& dir) {
     Fixtures::UseProgramDir(dir);
     const Integer deckA = Fixtures::MakeDeck(QStringLiteral("Deck A"), 3, true);
@@ -136,7 +131,6 @@ void MakeFixture(const QString& dir) {
     staging.StageCards();
     staging.StageSpreads();
     DeleteSpread(CountSpreads());
-    DeleteDeck(FindDeckByName(QStringLiteral("Packed")));
 }
 
 // Puts a deck in the designer's place, pictures in Temp/, as the save screen
@@ -204,6 +198,7 @@ const QList<Operation>& Operations() {
          [] {
              InstallAnswers answers;
              answers.Chosen = {QStringLiteral("Packed")};
+             answers.Exists = DesignExistsOverwriteAll;
              PackageInstallation(answers, {}).Install();
          }},
     };

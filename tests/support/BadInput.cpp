@@ -35,10 +35,6 @@ bool Editable(QWidget* box) {
     return false;
 }
 
-}  // namespace
-
-namespace {
-
 void TourOne(QWidget* box) {
     const QString name = box->objectName();
     const int limit = LimitOf(box);

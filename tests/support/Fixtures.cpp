@@ -7,26 +7,12 @@
 #include "core/platform/Picture.h"
 #include "core/records/RecordFile.h"
 #include "core/store/DeckLoading.h"
+#include "core/store/Housekeeping.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
-#include "screens/shell/MDIMainForm.h"
-#include "screens/store/Startup.h"
 
 namespace Fixtures {
-
-namespace {
-
-void MakeEmptyFile(const QString& path) { WriteWholeFile(path, QByteArray()); }
-
-}  // namespace
-
-void StandUpFrame(const QString& dir) {
-    WriteWholeFile(dir + QStringLiteral("/Location.loc"), QByteArray());
-    WriteWholeFile(dir + QStringLiteral("/Decks.dck"), QByteArray(DeckRecord::Length, '\0'));
-    MDIMainForm::SetProgramDirectory(dir);
-    Get<MDIMainForm>();
-}
 
 void UseProgramDir(const QString& dir) {
     ResetRunState();
@@ -34,7 +20,7 @@ void UseProgramDir(const QString& dir) {
 
     for (const QString& folder : {CardsDir, PackagesDir, AttachmentsDir, TempDir}) MkDirIgnoringErrors(folder);
     for (const QString& file : {ReadingsPath, DiaryPath, SpreadsPath, DecksPath, CardsPath, LocationsPath})
-        MakeEmptyFile(file);
+        WriteWholeFile(file, QByteArray());
     WritePicture(DefaultPicturePath, QColor(Qt::white));
 }
 

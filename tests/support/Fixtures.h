@@ -19,11 +19,14 @@ namespace Fixtures {
 // Cards/ with the default picture, Temp/, Packages/ and Packages/Attachments/.
 void UseProgramDir(const QString& dir);
 
+#ifdef QT_WIDGETS_LIB
 // Stands the frame up on dir, a present-format database with one deck (no
 // conversion, no offer to install), so that the screens live in its area as
 // they do in the program; screen tests then point each run at a program
-// directory of its own.
+// directory of its own. The frame is a screen: only a test that links the
+// screens sees it, and it is defined in the screens' part of the support.
 void StandUpFrame(const QString& dir);
+#endif
 
 // Writes a small bitmap at path (a few pixels of one colour).
 void WritePicture(const QString& path, const QColor& colour = QColor(Qt::darkBlue));

@@ -1,8 +1,10 @@
 #pragma once
 // A package installation's questions answered by the test: the first spread
 // is tied to the decks named in Chosen, what the chooser offered is kept in
-// Offered, and any other question is left unanswered.
+// Offered, a design whose name is in use gets the answer Exists (when set),
+// and any other question is left unanswered.
 #include <QStringList>
+#include <optional>
 
 #include "core/packages/PackageInstallation.h"
 #include "core/store/RunState.h"
@@ -10,10 +12,11 @@
 struct InstallAnswers : InstallationQuestions {
     QStringList Chosen;
     QStringList Offered;
+    std::optional<int> Exists;
 
     QString AttachmentTarget(const QString&) override { return {}; }
     DesignExistsReply DesignExists(int, const QString&, const std::function<bool(const QString&)>&) override {
-        return {DesignExistsChoice, {}};
+        return {Exists.value_or(DesignExistsChoice), {}};
     }
     void ChooseDecks(const std::vector<DeckRecord>& decks) override {
         Offered.clear();

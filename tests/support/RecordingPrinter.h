@@ -7,7 +7,7 @@
 #include <QList>
 #include <QString>
 
-#include "screens/platform/QtPrinter.h"
+#include "core/platform/Printer.h"
 
 struct PrinterCall {
     QString Op;            // "Print", "PrintInBox", "FillRect", "PaintPicture", "NewPage", "EndDoc", "KillDoc", "Close"

@@ -3,8 +3,10 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QStyle>
 #include <QStyleOption>
 #include <QTabBar>
@@ -29,9 +31,12 @@ void Check(QStringList& out, const QWidget& w, const QString& text, const char* 
     out << QStringLiteral("%1 \"%2\": %3 %4, room %5").arg(name.trimmed(), text, QLatin1String(measure)).arg(needs).arg(room);
 }
 
+// The widest line, without the spaces that end it, which show nothing.
 int Width(const QFontMetrics& metrics, const QString& text) {
+    static const QRegularExpression trailing(QStringLiteral("\\s+$"));
     int widest = 0;
-    for (const QString& line : text.split(QLatin1Char('\n'))) widest = std::max(widest, metrics.horizontalAdvance(line));
+    for (QString line : text.split(QLatin1Char('\n')))
+        widest = std::max(widest, metrics.horizontalAdvance(line.remove(trailing)));
     return widest;
 }
 
@@ -106,6 +111,18 @@ void CheckComboBox(const QComboBox& combo, QStringList& out) {
               room);
 }
 
+// A frame's title where its style puts it, within the frame.
+void CheckGroupBox(const QGroupBox& box, QStringList& out) {
+    QStyleOptionGroupBox option;
+    option.initFrom(&box);
+    option.text = box.title();
+    option.textAlignment = box.alignment();
+    option.subControls = QStyle::SC_GroupBoxLabel | QStyle::SC_GroupBoxFrame;
+    if (box.isCheckable()) option.subControls |= QStyle::SC_GroupBoxCheckBox;
+    const QRect label = box.style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, &box);
+    Check(out, box, WithoutMnemonic(box.title()), "right edge", label.right(), box.rect().right());
+}
+
 }  // namespace
 
 QStringList TextsThatDoNotFit(const QWidget& root) {
@@ -113,13 +130,19 @@ QStringList TextsThatDoNotFit(const QWidget& root) {
     QList<const QWidget*> widgets = root.findChildren<const QWidget*>();
     widgets.prepend(&root);
     for (const QWidget* w : widgets) {
-        if (!w->isVisible()) continue;
+        // A control folded to nothing shows nothing, as a compact page does.
+        if (!w->isVisible() || w->width() == 0 || w->height() == 0) continue;
         if (const auto* label = qobject_cast<const QLabel*>(w)) CheckLabel(*label, out);
         else if (const auto* button = qobject_cast<const QAbstractButton*>(w);
                  button && !button->text().isEmpty() && !button->inherits("QToolButton"))
             CheckButton(*button, out);
         else if (const auto* bar = qobject_cast<const QTabBar*>(w)) CheckTabs(*bar, out);
-        else if (const auto* combo = qobject_cast<const QComboBox*>(w)) CheckComboBox(*combo, out);
+        // A drive list's entries are the system's mount points, not texts
+        // of the program.
+        else if (const auto* combo = qobject_cast<const QComboBox*>(w); combo && !combo->inherits("DriveListBox"))
+            CheckComboBox(*combo, out);
+        else if (const auto* box = qobject_cast<const QGroupBox*>(w); box && !box->title().isEmpty())
+            CheckGroupBox(*box, out);
     }
     return out;
 }

@@ -1,8 +1,8 @@
 #pragma once
 // Whether every text of a screen fits its control: labels, buttons, check
-// boxes, radio buttons, tabs and the items of drop-down lists, each measured
-// in its own font against the room its style gives the text. Meant for every
-// screen and every language.
+// boxes, radio buttons, frames' titles, tabs and the items of drop-down
+// lists, each measured in its own font against the room its style gives the
+// text. Meant for every screen and every language.
 #include <QStringList>
 
 class QWidget;

@@ -1,5 +1,7 @@
 #include "core/decks/CardStore.h"
 
+#include <QCoreApplication>
+
 #include "core/decks/CardEditing.h"
 
 #include "core/platform/Errors.h"
@@ -54,15 +56,17 @@ int AppendDeckCard(const CardRecord& card) {
 }
 
 QString CardLimitMessage() {
-    return QStringLiteral("The number of cards in a deck cannot exceed ") + QString::number(MaxDeckCards) +
-           QStringLiteral(".");
+    return QCoreApplication::translate("CardStore", "The number of cards in a deck cannot exceed %1.")
+        .arg(MaxDeckCards);
 }
 
 QString NewCardTitleProblem(const QString& title, const QStringList& otherTitles) {
     const QString wanted = TrimField(title);
-    if (wanted.isEmpty()) return QStringLiteral("Please enter a title for this card.");
+    if (wanted.isEmpty()) return QCoreApplication::translate("CardStore", "Please enter a title for this card.");
     bool taken = false;
     for (const CardRecord& card : CurrentDeck.DeckCards) taken = taken || card.CardTitle.Trimmed() == wanted;
     for (const QString& other : otherTitles) taken = taken || TrimField(other) == wanted;
-    return taken ? QStringLiteral("You already have a card with the same title. Please change the title.") : QString();
+    return taken ? QCoreApplication::translate("CardStore",
+                                               "You already have a card with the same title. Please change the title.")
+                 : QString();
 }

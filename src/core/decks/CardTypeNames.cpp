@@ -1,5 +1,7 @@
 #include "core/decks/CardTypeNames.h"
 
+#include <QCoreApplication>
+
 #include "core/records/Records.h"
 
 QString CardTypeNamesProblem(const QStringList& names) {
@@ -8,7 +10,8 @@ QString CardTypeNamesProblem(const QStringList& names) {
         const QString trimmed = TrimField(name);
         if (trimmed.isEmpty()) continue;
         if (named.contains(trimmed))
-            return QStringLiteral("The names you chose for the types are not unique. Please change duplicate names.");
+            return QCoreApplication::translate(
+                "CardTypeNames", "The names you chose for the types are not unique. Please change duplicate names.");
         named.append(trimmed);
     }
     return QString();

@@ -222,9 +222,9 @@ std::mutex& HandoverLock() {
 
 QString NamesForMessage(const QStringList& names, int shown) {
     if (names.size() <= shown) return names.join(QStringLiteral(", "));
-    return QCoreApplication::translate("PictureImport", "%1 and %2 more")
-        .arg(names.first(shown).join(QStringLiteral(", ")))
-        .arg(names.size() - shown);
+    const int more = static_cast<int>(names.size()) - shown;
+    return QCoreApplication::translate("PictureImport", "%1 and %n more", "", more)
+        .arg(names.first(shown).join(QStringLiteral(", ")));
 }
 
 PictureImport::PictureImport(const QString& folder, const QList<ProposedCard>& cards, ReversedSide reversed)

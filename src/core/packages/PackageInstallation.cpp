@@ -1,7 +1,9 @@
 #include "core/packages/PackageInstallation.h"
 
+#include <QCoreApplication>
+#include <QSet>
 #include <algorithm>
-#include <optional>
+#include <map>
 
 #include "core/packages/PackageFile.h"
 #include "core/platform/Errors.h"
@@ -9,7 +11,9 @@
 #include "core/records/RecordFile.h"
 #include "core/store/DeckLoading.h"
 #include "core/store/DeletePasses.h"
+#include "core/store/DesignCommit.h"
 #include "core/store/Lookups.h"
+#include "core/store/NewDesigns.h"
 #include "core/store/RunState.h"
 
 namespace {
@@ -23,7 +27,6 @@ QString TempFile(const char* name) { return TempDir + QLatin1String(name); }
 qint64 LengthOrZero(const QString& path) { return FileExists(path) ? FileLen(path) : 0; }
 
 bool IsOverwrite(int choice) { return choice == DesignExistsOverwrite || choice == DesignExistsOverwriteAll; }
-bool IsSkip(int choice) { return choice == DesignExistsSkip || choice == DesignExistsSkipAll; }
 bool AnswersForAll(int choice) { return choice == DesignExistsOverwriteAll || choice == DesignExistsSkipAll; }
 
 // The format's only version check: the lengths of the record files.
@@ -34,8 +37,8 @@ bool PassesCompatibilityTest() {
         decksPass = LengthOrZero(TempFile("Temp.crd")) % CardRecord::Length == 0 ||
                     LengthOrZero(TempFile("Temp.dck")) % DeckRecord::Length == 0;
     if (FileExists(TempFile("Temp.spr")))
-        spreadsPass = LengthOrZero(TempFile("Temp.spr")) % SpreadRecord::Length == 0 ||
-                      FileExists(TempFile("Temp.loc"));
+        spreadsPass =
+            LengthOrZero(TempFile("Temp.spr")) % SpreadRecord::Length == 0 || FileExists(TempFile("Temp.loc"));
     return decksPass && spreadsPass;
 }
 
@@ -46,16 +49,30 @@ bool IsUnpackedFile(const QString& name) {
     return !name.isEmpty() && MemberFileName(name) == name && FileExists(TempDir + name);
 }
 
-QString Damaged(const QString& why) { return QStringLiteral("Unable to install: Damaged Cartomar Package.\n") + why; }
-
-// The refusal of a record naming a file the package lacks; empty when the
-// field is blank or the file is there.
-template <int N>
-QString MissingFile(const char* kind, const QString& owner, const FixedText<N>& field) {
-    if (field.IsBlank() || IsUnpackedFile(field.Trimmed())) return {};
-    return Damaged(QStringLiteral("The %1 '%2' names the file '%3', which the package does not hold.")
-                       .arg(QLatin1String(kind), owner, field.Trimmed()));
+QString Damaged(const QString& why) {
+    return QCoreApplication::translate("PackageInstallation", "Unable to install: Damaged Cartomar Package.") + u'\n' +
+           why;
 }
+
+// The refusal of a record naming a file the package lacks, `sentence` telling
+// whose (%1) and which (%2); empty when the field is blank or the file is
+// there. An attachment is never taken over, so one the package lacks does no
+// harm, as long as its name is a plain file name (`held` false).
+template <int N>
+QString MissingFile(const char* sentence, const QString& owner, const FixedText<N>& field, bool held = true) {
+    const QString name = field.Trimmed();
+    if (name.isEmpty() || (held ? IsUnpackedFile(name) : MemberFileName(name) == name)) return {};
+    return Damaged(QCoreApplication::translate("PackageInstallation", sentence).arg(owner, name));
+}
+
+constexpr const char* CardFile =
+    QT_TRANSLATE_NOOP("PackageInstallation", "The card '%1' names the file '%2', which the package does not hold.");
+constexpr const char* DeckFile =
+    QT_TRANSLATE_NOOP("PackageInstallation", "The deck '%1' names the file '%2', which the package does not hold.");
+constexpr const char* SpreadFile =
+    QT_TRANSLATE_NOOP("PackageInstallation", "The spread '%1' names the file '%2', which the package does not hold.");
+constexpr const char* LocationFile =
+    QT_TRANSLATE_NOOP("PackageInstallation", "The location '%1' names the file '%2', which the package does not hold.");
 
 // The ids are given out in record order up to the first 0: the records from
 // there on keep none, an id 0 each. A deck's cards are then never reached,
@@ -71,91 +88,128 @@ std::vector<Integer> InstalledIds(const std::vector<R>& records, Integer R::*id)
     return ids;
 }
 
+// A deck holding fewer cards than it claims is installed as it stands: it
+// loads as a deck whose cards have gone, as it did where it was packed.
 QString DeckProblem(const std::vector<DeckRecord>& decks, const std::vector<CardRecord>& cards) {
     const std::vector<Integer> ids = InstalledIds(decks, &DeckRecord::DeckId);
     for (std::size_t i = 0; i < decks.size(); ++i) {
         const DeckRecord& deck = decks[i];
         const QString name = deck.DeckName.Trimmed();
         if (deck.CardCount < 0 || deck.CardCount > MaxDeckCards)
-            return Damaged(
-                QStringLiteral("The deck '%1' claims %2 cards, which no deck can hold.").arg(name).arg(deck.CardCount));
+            return Damaged(QCoreApplication::translate("PackageInstallation",
+                                                       "The deck '%1' claims %2 cards, which no deck can hold.")
+                               .arg(name)
+                               .arg(deck.CardCount));
         if (ids[i] == 0 && deck.CardCount > 0)
-            return Damaged(QStringLiteral("The deck '%1' would be installed without its cards.").arg(name));
+            return Damaged(QCoreApplication::translate("PackageInstallation",
+                                                       "The deck '%1' would be installed without its cards.")
+                               .arg(name));
         for (std::size_t j = 0; j < i; ++j)
             if (ids[i] != 0 && decks[j].DeckId == deck.DeckId)
-                return Damaged(QStringLiteral("The decks '%1' and '%2' would share their cards.")
+                return Damaged(QCoreApplication::translate("PackageInstallation",
+                                                           "The decks '%1' and '%2' would share their cards.")
                                    .arg(decks[j].DeckName.Trimmed(), name));
-        if (QString missing = MissingFile("deck", name, deck.DeckAttachment); !missing.isEmpty()) return missing;
+        if (QString missing = MissingFile(DeckFile, name, deck.DeckAttachment, false); !missing.isEmpty())
+            return missing;
     }
     for (const CardRecord& card : cards)
         if (std::none_of(decks.begin(), decks.end(),
                          [&card](const DeckRecord& d) { return d.DeckId == card.CardDeckId; }))
-            return Damaged(QStringLiteral("A card of the package belongs to none of its decks."));
-    for (const DeckRecord& deck : decks) {
-        const auto held = std::count_if(cards.begin(), cards.end(),
-                                        [&deck](const CardRecord& c) { return c.CardDeckId == deck.DeckId; });
-        if (held < deck.CardCount)
-            return Damaged(QStringLiteral("The deck '%1' claims %2 cards, but the package holds %3 of them.")
-                               .arg(deck.DeckName.Trimmed()).arg(deck.CardCount).arg(held));
-    }
+            return Damaged(QCoreApplication::translate("PackageInstallation",
+                                                       "A card of the package belongs to none of its decks."));
     for (const CardRecord& card : cards) {
         const QString title = card.CardTitle.Trimmed();
         if (card.CardType < 0 || card.CardType > 3)
-            return Damaged(QStringLiteral("The card '%1' has an unknown card type.").arg(title));
+            return Damaged(QCoreApplication::translate("PackageInstallation", "The card '%1' has an unknown card type.")
+                               .arg(title));
         // The shared default stands for no reversed picture and is never brought.
         const bool ownReversed = card.CardPicture[1].Value() != DefaultPictureName;
-        for (const QString& missing : {MissingFile("card", title, card.CardPicture[0]),
-                                       ownReversed ? MissingFile("card", title, card.CardPicture[1]) : QString(),
-                                       MissingFile("card", title, card.CardSound[0]),
-                                       MissingFile("card", title, card.CardSound[1])})
+        for (const QString& missing :
+             {MissingFile(CardFile, title, card.CardPicture[0]),
+              ownReversed ? MissingFile(CardFile, title, card.CardPicture[1]) : QString(),
+              MissingFile(CardFile, title, card.CardSound[0]), MissingFile(CardFile, title, card.CardSound[1])})
             if (!missing.isEmpty()) return missing;
     }
     return {};
 }
 
+// A spread may come without some of its locations (a package of an earlier
+// version left them out when the background could not be copied): the
+// installation puts fresh ones in their places.
 QString SpreadProblem(const std::vector<SpreadRecord>& spreads, const std::vector<LocationRecord>& locations) {
     const std::vector<Integer> ids = InstalledIds(spreads, &SpreadRecord::SpreadId);
     for (std::size_t i = 0; i < spreads.size(); ++i) {
         const SpreadRecord& spread = spreads[i];
         const QString name = spread.SpreadName.Trimmed();
         if (spread.LocationCount < 0 || spread.LocationCount > MaxSpreadLocations)
-            return Damaged(QStringLiteral("The spread '%1' claims %2 locations, which no spread can hold.")
-                               .arg(name).arg(spread.LocationCount));
+            return Damaged(QCoreApplication::translate("PackageInstallation",
+                                                       "The spread '%1' claims %2 locations, which no spread can hold.")
+                               .arg(name)
+                               .arg(spread.LocationCount));
         if (spread.AllowedDeckCount < -1 || spread.AllowedDeckCount > int(spread.AllowedDeckId.size()))
-            return Damaged(QStringLiteral("The spread '%1' names %2 decks, which no spread can.")
-                               .arg(name).arg(spread.AllowedDeckCount));
+            return Damaged(QCoreApplication::translate("PackageInstallation",
+                                                       "The spread '%1' names %2 decks, which no spread can.")
+                               .arg(name)
+                               .arg(spread.AllowedDeckCount));
         // Two spreads installed under one id take each other's locations.
         for (std::size_t j = 0; j < i; ++j)
             if (ids[j] == ids[i])
-                return Damaged(QStringLiteral("The spreads '%1' and '%2' would share their locations.")
+                return Damaged(QCoreApplication::translate("PackageInstallation",
+                                                           "The spreads '%1' and '%2' would share their locations.")
                                    .arg(spreads[j].SpreadName.Trimmed(), name));
-        for (const QString& missing : {MissingFile("spread", name, spread.BackgroundFile),
-                                       MissingFile("spread", name, spread.SpreadAttachment)})
+        for (const QString& missing : {MissingFile(SpreadFile, name, spread.BackgroundFile),
+                                       MissingFile(SpreadFile, name, spread.SpreadAttachment, false)})
             if (!missing.isEmpty()) return missing;
     }
     for (const LocationRecord& location : locations)
         if (std::none_of(spreads.begin(), spreads.end(),
                          [&location](const SpreadRecord& s) { return s.SpreadId == location.LocationSpreadId; }))
-            return Damaged(QStringLiteral("A location of the package belongs to none of its spreads."));
+            return Damaged(QCoreApplication::translate("PackageInstallation",
+                                                       "A location of the package belongs to none of its spreads."));
     for (const SpreadRecord& spread : spreads) {
-        // Its locations are numbered 1 to its count, each number once.
+        // Its locations are numbered within its count, each number once.
         std::vector<int> seen(static_cast<std::size_t>(spread.LocationCount) + 1, 0);
-        bool agree = true;
         for (const LocationRecord& location : locations) {
             if (location.LocationSpreadId != spread.SpreadId) continue;
             const int n = location.LocationNumber;
-            agree = agree && n >= 1 && n <= spread.LocationCount && ++seen[static_cast<std::size_t>(n)] == 1;
+            if (n < 1 || n > spread.LocationCount || ++seen[static_cast<std::size_t>(n)] > 1)
+                return Damaged(
+                    QCoreApplication::translate("PackageInstallation",
+                                                "The locations of the spread '%1' do not agree with its count of %2.")
+                        .arg(spread.SpreadName.Trimmed())
+                        .arg(spread.LocationCount));
         }
-        agree = agree && std::count(seen.begin() + 1, seen.end(), 1) == spread.LocationCount;
-        if (!agree)
-            return Damaged(QStringLiteral("The locations of the spread '%1' do not agree with its count of %2.")
-                               .arg(spread.SpreadName.Trimmed()).arg(spread.LocationCount));
     }
     for (const LocationRecord& location : locations)
-        if (QString missing = MissingFile("location", location.LocationTitle.Trimmed(), location.LocationAttachment);
+        if (QString missing =
+                MissingFile(LocationFile, location.LocationTitle.Trimmed(), location.LocationAttachment, false);
             !missing.isEmpty())
             return missing;
     return {};
+}
+
+// A record file as the installation leaves it: the records it changed in
+// their places, those it adds behind the others.
+template <class R>
+void AddRecords(DesignCommit& commit, const QString& path, const std::vector<R>& records,
+                const std::set<int>& changed) {
+    const int before = CountRecords<R>(path);
+    std::map<int, QByteArray> replaced;
+    QByteArray added;
+    for (int n : changed) {
+        const QByteArray bytes = EncodeRecord(records[static_cast<std::size_t>(n - 1)]);
+        if (n <= before)
+            replaced[n] = bytes;
+        else
+            added += bytes;
+    }
+    commit.AddRecordFile(
+        path, R::Length,
+        [&replaced](const char* raw, int n) -> const char* {
+            const auto it = replaced.find(n);
+            return it == replaced.end() ? raw : it->second.constData();
+        },
+        added);
 }
 
 // Records of a record file as they will be: n past the end adds one.
@@ -187,41 +241,28 @@ bool NameIsInArray(const BoundedArray<QString>& names, const QString& name) {
 }
 
 // Gives each package id in turn the smallest positive id not among the
-// installed ones, in ascending order, until a package entry is 0.
+// installed ones, in ascending order, until a package entry is 0 or the list
+// ends.
 void AssignNewIds(const GrownIdList& packageIds, GrownIdList& newIds, const GrownIdList& installedIds) {
     newIds.Capacity = packageIds.Capacity;
     newIds.Count = packageIds.Count;
     newIds.Ids.Redim(1, std::max(1, packageIds.Capacity));
-    // A package list that is exactly full has no 0 behind its last entry:
-    // the look past it raises the subscript error before anything is written.
     int i = 1;
-    for (int candidate = 1; packageIds.Ids(i) != 0; ++candidate) {
+    for (int candidate = 1; i <= packageIds.Capacity && packageIds.Ids(i) != 0; ++candidate) {
         if (IndexOfId(installedIds.Ids, static_cast<Integer>(candidate)) != -1) continue;
         newIds.Ids(i) = static_cast<Integer>(candidate);
         ++i;
     }
 }
 
-// The compaction of a spread's deck list after its ids were mapped: entries
-// -1 go, the others move left by the places shifted so far in the run.
-void CompactAllowedDecks(SpreadRecord& spread, int countAtStart) {
-    // The 1-based list of the record; a place left of the first raises the
-    // subscript error, as the list of the record does.
-    auto entry = [&spread](int k) -> Integer& {
-        if (k < 1 || k > 10) RaiseError(errSubscriptOutOfRange);
-        return spread.AllowedDeckId[static_cast<std::size_t>(k - 1)];
-    };
-    int shifted = 0;   // places shifted so far; never reset within the run
-    for (int j = 1; j <= countAtStart; ++j) {
-        if (entry(j) != -1) continue;
-        // The pass starts back where the gap would stand had the list moved
-        // twice the places already shifted, and moves by the new total.
-        const int from = std::max(1, j - 2 * shifted);
-        ++shifted;
-        --spread.AllowedDeckCount;
-        for (int k = from; k <= countAtStart; ++k)
-            if (entry(k) != -1) entry(k - shifted) = entry(k);
-    }
+// The first `count` entries of a spread's deck list after its ids were
+// mapped: those mapped to -1 go, the others move up in their order.
+void CompactAllowedDecks(SpreadRecord& spread, int count) {
+    auto& ids = spread.AllowedDeckId;
+    const auto end = ids.begin() + std::min<int>(count, static_cast<int>(ids.size()));
+    const auto kept = std::remove(ids.begin(), end, Integer(-1));
+    spread.AllowedDeckCount = static_cast<Integer>(spread.AllowedDeckCount - (end - kept));
+    std::fill(kept, end, Integer(-1));
 }
 
 }  // namespace
@@ -244,8 +285,8 @@ void GrownIdList::Add(Integer id, int step) {
 }
 
 QString PackageProblem() {
-    const QString decks = DeckProblem(ReadAllRecords<DeckRecord>(TempFile("Temp.dck")),
-                                      ReadAllRecords<CardRecord>(TempFile("Temp.crd")));
+    const QString decks =
+        DeckProblem(ReadAllRecords<DeckRecord>(TempFile("Temp.dck")), ReadAllRecords<CardRecord>(TempFile("Temp.crd")));
     if (!decks.isEmpty()) return decks;
     return SpreadProblem(ReadAllRecords<SpreadRecord>(TempFile("Temp.spr")),
                          ReadAllRecords<LocationRecord>(TempFile("Temp.loc")));
@@ -255,8 +296,8 @@ QString PackageProblem() {
 
 PackageInstallation::PackageInstallation(InstallationQuestions& ask, const QString& attachmentFile)
     : AttachmentFile(attachmentFile), ask_(ask) {
-    for (GrownIdList* ids : {&PackageDeckIds, &NewDeckIds, &InstalledDeckIds, &PackageSpreadIds, &NewSpreadIds,
-                             &InstalledSpreadIds})
+    for (GrownIdList* ids :
+         {&PackageDeckIds, &NewDeckIds, &InstalledDeckIds, &PackageSpreadIds, &NewSpreadIds, &InstalledSpreadIds})
         ids->Reset();
 }
 
@@ -334,6 +375,7 @@ void PackageInstallation::ReserveCardFileNames() {
 
 void PackageInstallation::LoadInstalledDecks() {
     decks_ = ReadAllRecords<DeckRecord>(DecksPath);
+    for (const DeckRecord& deck : decks_) heldBefore_.insert(deck.DeckId);
     InstalledDeckNames.Redim(1, std::max<int>(1, static_cast<int>(decks_.size())));
     int n = 0;
     for (const DeckRecord& deck : decks_) {
@@ -382,18 +424,23 @@ void PackageInstallation::InstallDecks() {
         if (NameIsInArray(InstalledDeckNames, deck.DeckName.Value())) {
             const int choice = AskDesignExists(DesignDeck, deck.DeckName.Trimmed());
             if (IsOverwrite(choice)) {
-                // The replaced deck's id goes; its cards stay under it. The
-                // deck is found by its name in the live file.
+                // The deck is found by its name in the live file. The replaced
+                // deck's id goes, and with it its cards; spreads tied to it
+                // follow it to its new id.
                 deck.DeckId = NewDeckIds.Ids(i);
-                Place(decks_, changedDecks_, FindDeckByName(deck.DeckName.Trimmed()), deck);
+                const int at = FindDeckByName(deck.DeckName.Trimmed());
+                if (at >= 1 && at <= static_cast<int>(decks_.size()))
+                    replacedDecks_.emplace_back(decks_[static_cast<std::size_t>(at - 1)].DeckId, deck.DeckId);
+                Place(decks_, changedDecks_, at, deck);
                 ++DecksInstalled;
                 continue;
             }
-            if (IsSkip(choice)) {
+            // A deck passed over, by a skip or a question closed unanswered,
+            // brings no cards: they would belong to no deck.
+            if (choice != DesignExistsRename) {
                 NewDeckIds.Ids(i) = -1;
                 continue;
             }
-            if (choice != DesignExistsRename) continue;
             deck.DeckName = newDesignName_;
         }
         deck.DeckId = NewDeckIds.Ids(i);
@@ -411,17 +458,10 @@ Integer PackageInstallation::MapDeckId(Integer oldId) {
 }
 
 // A file of Temp/ goes into Cards/ under its new name. A file that several
-// records name is copied from where the first one put it, so every design
-// still gets its own file.
+// records name is put there once for each, so every design gets its own.
 QString PackageInstallation::TakeUnpackedFile(const QString& recorded, const QString& newName) {
     if (!IsUnpackedFile(recorded)) RaiseError(errFileNotFound);
-    const auto taken = takenFiles_.constFind(recorded);
-    if (taken != takenFiles_.cend()) {
-        files_.push_back({taken.value(), newName, true});
-    } else {
-        files_.push_back({recorded, newName, false});
-        takenFiles_.insert(recorded, newName);
-    }
+    files_.push_back({recorded, newName});
     return newName;
 }
 
@@ -517,6 +557,8 @@ void PackageInstallation::ReplaceSpreadLocations(int count) {
     std::vector<LocationRecord> mine;
     for (int n = 1; n <= count; ++n) {
         LocationRecord location = SpreadLocations(n);
+        // A location the package lacks is put in its place as a fresh one.
+        if (location.LocationNumber != n) ResetLocation(location);
         location.LocationSpreadId = CurrentSpread.SpreadId;
         location.LocationNumber = static_cast<Integer>(n);
         mine.push_back(location);
@@ -537,59 +579,121 @@ void PackageInstallation::LinkToExistingDecks() {
     FirstLinkPending = false;
 }
 
-void PackageInstallation::Commit() {
-    RecordEdit<CardRecord> cards(CardsPath);
-    RecordEdit<DeckRecord> decks(DecksPath);
-    RecordEdit<SpreadRecord> spreads(SpreadsPath);
-    std::optional<RecordRewriter<LocationRecord>> locations;
-    QStringList placed;
-    try {
-        for (const FileTake& take : files_) {
-            if (take.FromCards) {
-                FileCopyUnsynced(CardsDir + take.From, CardsDir + take.To);
-            } else {
-                FileMoveUnsynced(TempDir + take.From, CardsDir + take.To);
-            }
-            placed.append(take.To);
-        }
-        SyncFileSystem(CardsDir);
-        for (const CardRecord& card : cards_) cards.Append(card);
-        for (int n : changedDecks_) decks.Put(n, decks_[static_cast<std::size_t>(n - 1)]);
-        for (int n : changedSpreads_) spreads.Put(n, spreads_[static_cast<std::size_t>(n - 1)]);
-        if (!locations_.empty()) {
-            // Location.loc as replacing each spread's locations in turn leaves
-            // it: the others in their order, then the last set of each id.
-            locations.emplace(AppPath + QStringLiteral("Location.tmp"), LocationsPath);
-            std::set<Integer> replaced;
-            for (const auto& [id, mine] : locations_) replaced.insert(id);
-            RecordReader<LocationRecord> reader(LocationsPath);
-            const int idAt = OffsetOf(&LocationRecord::LocationSpreadId);
-            while (const char* raw = reader.NextRaw())
-                if (!replaced.count(RawInteger(raw, idAt))) locations->AddRaw(raw);
-            for (std::size_t k = 0; k < locations_.size(); ++k) {
-                const Integer id = locations_[k].first;
-                if (std::any_of(locations_.begin() + static_cast<std::ptrdiff_t>(k) + 1, locations_.end(),
-                                [id](const auto& later) { return later.first == id; }))
-                    continue;
-                for (const LocationRecord& location : locations_[k].second) locations->Add(location);
-            }
-        }
-        cards.Prepare();
-        if (locations) locations->Prepare();
-        decks.Prepare();
-        spreads.Prepare();
-    } catch (...) {
-        // No record names the files yet: they go, and every record file
-        // stays as it was.
-        for (const QString& name : placed) KillDesignFile(name);
-        throw;
+// Follows a deck's id through the overwrites of this installation.
+Integer PackageInstallation::ReplacementOf(Integer id) const {
+    for (const auto& [old, now] : replacedDecks_)
+        if (id == old) id = now;
+    return id;
+}
+
+// A live spread stays tied to a deck this installation overwrites, under the
+// deck's new id. An entry naming an id that no deck held, which a deck of
+// this installation takes, named a deck that has gone: it goes, so that the
+// spread does not take up the new deck.
+bool PackageInstallation::RetieSpread(SpreadRecord& spread) const {
+    const int count = std::min<int>(spread.AllowedDeckCount, static_cast<int>(spread.AllowedDeckId.size()));
+    const auto takenAnew = [this](Integer id) {
+        return !heldBefore_.count(id) &&
+               std::any_of(decks_.begin(), decks_.end(), [id](const DeckRecord& d) { return d.DeckId == id; });
+    };
+    bool changed = false;
+    for (int k = 0; k < count; ++k) {
+        Integer& id = spread.AllowedDeckId[static_cast<std::size_t>(k)];
+        const Integer now = ReplacementOf(id);
+        if (now == id && !takenAnew(id)) continue;
+        id = now == id ? Integer(-1) : now;
+        changed = true;
     }
-    // Each file is put in place whole, the cards and locations before the
-    // decks and spreads that own them: a process killed in between leaves
-    // no design without its parts.
-    cards.Commit();
-    if (locations) locations->Commit();
-    decks.Commit();
-    spreads.Commit();
-    for (const QString& name : oldBackgrounds_) KillDesignFile(name);
+    if (changed) CompactAllowedDecks(spread, count);
+    return changed;
+}
+
+void PackageInstallation::Commit() {
+    // An installation that passed over every design leaves the files as
+    // they were.
+    if (DecksInstalled == 0 && SpreadsInstalled == 0) return;
+    DesignCommit commit;
+    // The files go into Cards/: each Temp/ file is moved under the last name
+    // that takes it and copied for the others.
+    for (std::size_t k = 0; k < files_.size(); ++k) {
+        const bool takenAgain = std::any_of(files_.begin() + static_cast<std::ptrdiff_t>(k) + 1, files_.end(),
+                                            [&](const FileTake& later) { return later.From == files_[k].From; });
+        if (takenAgain)
+            commit.AddFile(TempDir + files_[k].From, files_[k].To);
+        else
+            commit.MoveFile(TempDir + files_[k].From, files_[k].To);
+    }
+
+    // The decks and spreads as they will be, and the ids this installation
+    // gives.
+    std::set<Integer> deckIds, givenIds, spreadIds;
+    for (const DeckRecord& deck : decks_) deckIds.insert(deck.DeckId);
+    for (int n : changedDecks_) givenIds.insert(decks_[static_cast<std::size_t>(n - 1)].DeckId);
+    for (int n = 1; n <= static_cast<int>(spreads_.size()); ++n) {
+        SpreadRecord& spread = spreads_[static_cast<std::size_t>(n - 1)];
+        if (!changedSpreads_.count(n) && RetieSpread(spread)) changedSpreads_.insert(n);
+        spreadIds.insert(spread.SpreadId);
+    }
+
+    // Cards.crd: a card record under an id that no deck holds belongs to
+    // nobody, a replaced deck's among them, and goes, with the files that no
+    // record that stays names; then the cards of the package.
+    const int cardIdAt = OffsetOf(&CardRecord::CardDeckId);
+    const auto stays = [&](const char* raw) {
+        const Integer id = RawInteger(raw, cardIdAt);
+        return deckIds.count(id) && !givenIds.count(id);
+    };
+    QSet<QString> unnamed;
+    CardRecord card;
+    {
+        RecordReader<CardRecord> reader(CardsPath);
+        while (const char* raw = reader.NextRaw()) {
+            if (stays(raw)) continue;
+            DecodeRecord(raw, card);
+            for (const QString& file : CardFilesOf(card)) unnamed.insert(file);
+        }
+    }
+    QByteArray added;
+    for (const CardRecord& mine : cards_) added += EncodeRecord(mine);
+    commit.AddRecordFile(
+        CardsPath, CardRecord::Length,
+        [&](const char* raw, int) -> const char* {
+            if (!stays(raw)) return nullptr;
+            if (!unnamed.isEmpty()) {
+                DecodeRecord(raw, card);
+                for (const QString& file : CardFilesOf(card)) unnamed.remove(file);
+            }
+            return raw;
+        },
+        added);
+    for (const QString& background : oldBackgrounds_) unnamed.insert(DesignFilePath(background));
+    for (const SpreadRecord& spread : spreads_) unnamed.remove(DesignFilePath(spread.BackgroundFile.Value()));
+    unnamed.remove(QString());
+    for (const QString& file : unnamed) commit.DropFile(file);
+
+    // Location.loc: the locations of other spreads in their order, then
+    // each installed spread's; a location under an id no spread holds goes.
+    std::set<Integer> installedSpreads;
+    QByteArray placed;
+    for (std::size_t k = 0; k < locations_.size(); ++k) {
+        const Integer id = locations_[k].first;
+        installedSpreads.insert(id);
+        // A spread installed twice under one id keeps its last locations.
+        if (std::any_of(locations_.begin() + static_cast<std::ptrdiff_t>(k) + 1, locations_.end(),
+                        [id](const auto& later) { return later.first == id; }))
+            continue;
+        for (const LocationRecord& location : locations_[k].second) placed += EncodeRecord(location);
+    }
+    const int locationIdAt = OffsetOf(&LocationRecord::LocationSpreadId);
+    commit.AddRecordFile(
+        LocationsPath, LocationRecord::Length,
+        [&](const char* raw, int) -> const char* {
+            const Integer id = RawInteger(raw, locationIdAt);
+            return spreadIds.count(id) && !installedSpreads.count(id) ? raw : nullptr;
+        },
+        placed);
+
+    AddRecords(commit, DecksPath, decks_, changedDecks_);
+    AddRecords(commit, SpreadsPath, spreads_, changedSpreads_);
+    commit.Commit();
 }

@@ -6,20 +6,20 @@
 // by the user.
 //
 // Nothing is written until everything is settled. A package whose records
-// contradict each other is refused before anything is asked. Then the whole
-// installation is planned (every question answered, every id and name drawn,
-// every record built) and written in one step: the files go into Cards/, then
-// each record file is built beside the real one and waits for the disk, and
-// only then are they put in place, cards and locations before the decks and
-// spreads that own them. An error while planning or building leaves every
-// record file as it was and nothing new in Cards/; a process killed while
-// they are put in place leaves whole designs, and at most cards, locations
-// and files that no design names.
+// contradict each other is refused before anything is asked; one that holds
+// designs as the program packs them, with files or locations left out, is
+// installed as it stands. Then the whole installation is planned (every
+// question answered, every id and name drawn, every record built) and
+// written in one step through a DesignCommit: the files go into Cards/ and
+// each record file is built beside the real one, and only then are they put
+// in place, all together as far as a crash is concerned. Card records under
+// an id that no deck holds then (a replaced deck's, or left under an id that
+// a new deck takes) go with the files only they name; spreads tied to a
+// replaced deck follow it to its new id.
 //
 // The installation asks the user nothing itself: it asks through
 // InstallationQuestions, which the install screen answers with its screens
 // and tests answer directly.
-#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <array>
@@ -118,6 +118,8 @@ private:
     void LinkToExistingDecks();
     Integer MapDeckId(Integer oldId);
     QString TakeUnpackedFile(const QString& recorded, const QString& newName);
+    Integer ReplacementOf(Integer id) const;
+    bool RetieSpread(SpreadRecord& spread) const;
     void Commit();
 
     InstallationQuestions& ask_;
@@ -135,20 +137,21 @@ private:
     QString newDesignName_;   // the answer to the last rename
 
     // The plan. Decks.dck and Spreads.spr as they will be, and which of
-    // their records change; the cards to add; each installed spread's
-    // locations; the files to put into Cards/ (from Temp/, or copied from
-    // one put there already) and the old backgrounds to delete afterwards.
+    // their records change; the ids decks held before; each overwritten
+    // deck's id and the id it takes; the cards to add; each installed
+    // spread's locations; the files to put into Cards/ and the old
+    // backgrounds to delete afterwards.
     std::vector<DeckRecord> decks_;
     std::vector<SpreadRecord> spreads_;
     std::set<int> changedDecks_, changedSpreads_;
+    std::set<Integer> heldBefore_;
+    std::vector<std::pair<Integer, Integer>> replacedDecks_;
     std::vector<CardRecord> cards_;
     std::vector<std::pair<Integer, std::vector<LocationRecord>>> locations_;
     struct FileTake {
-        QString From;   // a name in Temp/, or in Cards/ when FromCards
+        QString From;   // a name in Temp/
         QString To;     // a fresh name in Cards/
-        bool FromCards = false;
     };
     std::vector<FileTake> files_;
-    QHash<QString, QString> takenFiles_;   // Temp/ name -> first Cards/ name
     QStringList oldBackgrounds_;
 };

@@ -1,5 +1,6 @@
 #include "core/packages/PackageStaging.h"
 
+#include "core/packages/PackageFile.h"
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
 #include "core/records/RecordFile.h"
@@ -12,6 +13,43 @@ namespace {
 // Temp/ holds working copies only, emptied after packing and at every
 // start, so the copies are not waited for on the disk.
 void StageFile(const QString& name) { FileCopyUnsynced(CardsDir + name, TempDir + name); }
+
+// Whether a record's field names a file of Cards/ that is there. A name that
+// is no plain file name names none: a package carries plain names only.
+template <int N>
+bool NamesAFile(const FixedText<N>& field) {
+    const QString name = field.Trimmed();
+    return !name.isEmpty() && MemberFileName(name) == name && FileExists(CardsDir + name);
+}
+
+// A field naming a file that is not there is packed as the design shows it,
+// naming none. A file that is there and cannot be copied still ends the
+// packing.
+template <int N>
+void StageOrBlank(FixedText<N>& field) {
+    if (field.IsBlank()) return;
+    if (NamesAFile(field))
+        StageFile(field.Trimmed());
+    else
+        field = QString();
+}
+
+// A spread is forgiving: its file that cannot be copied, for whatever
+// reason, is left out in the same way.
+template <int N>
+void StageOrBlankForgiving(FixedText<N>& field) {
+    try {
+        StageOrBlank(field);
+    } catch (const RuntimeError&) {
+        field = QString();
+    }
+}
+
+// A record file without records is not staged: a package member cannot be
+// empty, and a missing record file holds no records.
+void StageRecordFile(const char* name, const QByteArray& records) {
+    if (!records.isEmpty()) WriteWholeFile(TempDir + QLatin1String(name), records);
+}
 
 }  // namespace
 
@@ -35,11 +73,11 @@ void PackageStaging::StageDecks() {
         if (!GetRecord(DecksPath, FindDeckByName(name), deck)) continue;
         ApplyPassword(deck.DeckLocked, deck.DeckPassword);
         PackedDeckIds.push_back(deck.DeckId);
-        if (!deck.DeckAttachment.IsBlank()) StageFile(deck.DeckAttachment.Trimmed());
+        StageOrBlank(deck.DeckAttachment);
         staged += EncodeRecord(deck);
         ++DecksPacked;
     }
-    WriteWholeFile(TempDir + QStringLiteral("Temp.dck"), staged);
+    StageRecordFile("Temp.dck", staged);
 }
 
 bool PackageStaging::IsCardOfPackedDeck(Integer id) {
@@ -61,50 +99,46 @@ void PackageStaging::StageCards() {
     CardRecord card;
     while (reader.Next(card)) {
         if (!IsCardOfPackedDeck(card.CardDeckId)) continue;
+        for (std::size_t side = 0; side < 2; ++side) {
+            FixedText<12>& picture = card.CardPicture[side];
+            // A picture that has gone is packed as the default picture, which
+            // the deck shows in its place.
+            if (!NamesAFile(picture)) picture = DefaultPictureName;
+            // The upright picture travels always, the default one included;
+            // the reversed one unless it is the shared default.
+            if (side == 0 || picture.Value() != DefaultPictureName) StageFile(picture.Trimmed());
+        }
+        for (FixedText<12>& sound : card.CardSound) StageOrBlank(sound);
         staged += EncodeRecord(card);
-        // The upright picture goes always, the default picture included; the
-        // reversed one unless it is the shared default.
-        StageFile(card.CardPicture[0].Trimmed());
-        if (card.CardPicture[1].Value() != DefaultPictureName) StageFile(card.CardPicture[1].Trimmed());
-        for (const FixedText<12>& sound : card.CardSound)
-            if (!sound.IsBlank()) StageFile(sound.Trimmed());
     }
-    WriteWholeFile(TempDir + QStringLiteral("Temp.crd"), staged);
+    StageRecordFile("Temp.crd", staged);
 }
 
 void PackageStaging::StageSpreads() {
     SpreadsPacked = 0;
     QByteArray spreads;
     QByteArray locations;
-    // A spread's files that cannot be copied are left out with their fields
-    // blanked; without its background or attachment it also goes without
-    // its locations.
-    auto stageOrBlank = [](auto& field) {
-        if (field.IsBlank()) return true;
-        try {
-            StageFile(field.Trimmed());
-            return true;
-        } catch (const RuntimeError&) {
-            field = QString();
-            return false;
-        }
-    };
     for (const QString& name : SpreadNames) {
         SpreadRecord spread;
         if (!GetRecord(SpreadsPath, FindSpreadByName(name), spread)) continue;
         ApplyPassword(spread.SpreadLocked, spread.SpreadPassword);
-        if (stageOrBlank(spread.BackgroundFile) && stageOrBlank(spread.SpreadAttachment)) {
-            LoadSpreadLocations(spread.SpreadId, spread.LocationCount);
-            for (int n = 1; n <= spread.LocationCount; ++n) {
-                LocationRecord& location = SpreadLocations(n);
-                location.LocationSpreadId = spread.SpreadId;
-                locations += EncodeRecord(location);
-                stageOrBlank(location.LocationAttachment);
-            }
+        // A spread's file that has gone is left out with its field blanked,
+        // before the record is packed; the spread keeps everything else, its
+        // locations too.
+        StageOrBlankForgiving(spread.BackgroundFile);
+        StageOrBlankForgiving(spread.SpreadAttachment);
+        LoadSpreadLocations(spread.SpreadId, spread.LocationCount);
+        for (int n = 1; n <= spread.LocationCount; ++n) {
+            LocationRecord& location = SpreadLocations(n);
+            location.LocationSpreadId = spread.SpreadId;
+            // A location the store lacks goes as a blank one in its place.
+            location.LocationNumber = static_cast<Integer>(n);
+            StageOrBlankForgiving(location.LocationAttachment);
+            locations += EncodeRecord(location);
         }
         spreads += EncodeRecord(spread);
         ++SpreadsPacked;
     }
-    WriteWholeFile(TempDir + QStringLiteral("Temp.spr"), spreads);
-    WriteWholeFile(TempDir + QStringLiteral("Temp.loc"), locations);
+    StageRecordFile("Temp.spr", spreads);
+    StageRecordFile("Temp.loc", locations);
 }

@@ -28,13 +28,19 @@ struct PackageStaging {
     int DecksPacked = 0;
     int SpreadsPacked = 0;
 
+    // Each design goes whole, as it shows: a file that is not in Cards/ is
+    // left out and its field names the default picture (a card's picture)
+    // or nothing (any other file). A record file without records is not
+    // staged.
+    //
     // Temp.dck from the chosen decks, with their attachments.
     void StageDecks();
     // Temp.crd: every card of the decks staged by StageDecks, in Cards.crd
     // order, with its pictures and sounds.
     void StageCards();
-    // Temp.spr and Temp.loc from the chosen spreads, with their files. A file
-    // of a spread that cannot be copied is left out with its field blanked.
+    // Temp.spr and Temp.loc from the chosen spreads with all their locations,
+    // with their files. A file of a spread that cannot be copied is left out
+    // like one that is not there.
     void StageSpreads();
     // Whether a card's CardDeckId belongs to a deck staged by StageDecks.
     bool IsCardOfPackedDeck(Integer id);

@@ -1,5 +1,7 @@
 #include "core/spreads/AllowedDecks.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 #include "core/records/RecordFile.h"
@@ -7,8 +9,8 @@
 
 QString SpreadDeckLimitProblem(int tied) {
     if (tied < MaxSpreadDecks) return QString();
-    return QStringLiteral("The maximum number of decks allowed cannot exceed ") + QString::number(MaxSpreadDecks) +
-           QStringLiteral(".");
+    return QCoreApplication::translate("AllowedDecks", "The maximum number of decks allowed cannot exceed %1.")
+        .arg(MaxSpreadDecks);
 }
 
 bool IsSoleDeckOfASpread(Integer deckId) {

@@ -1,5 +1,7 @@
 #include "core/spreads/SpreadBackground.h"
 
+#include <QCoreApplication>
+
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
 #include "core/platform/Picture.h"
@@ -13,14 +15,17 @@ bool IsSupportedType(const QString& fileName) {
 }  // namespace
 
 QString SpreadBackgroundProblem(const QString& fileName, QImage* picture) {
-    if (!FileExists(fileName)) return QStringLiteral("There is no file with the name you provided!");
+    if (!FileExists(fileName))
+        return QCoreApplication::translate("SpreadBackground", "There is no file with the name you provided!");
     if (!IsSupportedType(fileName))
-        return QStringLiteral("Unsupported file type. Only files of type BMP, JPG and GIF are currently supported.");
+        return QCoreApplication::translate(
+            "SpreadBackground", "Unsupported file type. Only files of type BMP, JPG and GIF are currently supported.");
     try {
         const QImage loaded = LoadPicture(fileName).Image;
         if (picture) *picture = loaded;
     } catch (const RuntimeError&) {
-        return QStringLiteral("Unable to open the file you selected. Please make sure it is of a valid type.");
+        return QCoreApplication::translate(
+            "SpreadBackground", "Unable to open the file you selected. Please make sure it is of a valid type.");
     }
     return QString();
 }

@@ -90,6 +90,12 @@ void DesignCommit::AddFile(const QString& source, const QString& name) {
     renames_.emplace_back(real + StagedSuffix, real);
 }
 
+void DesignCommit::MoveFile(const QString& source, const QString& name) {
+    const QString real = NativePath(CardsDir + name);
+    FileMoveUnsynced(source, real + StagedSuffix);
+    renames_.emplace_back(real + StagedSuffix, real);
+}
+
 void DesignCommit::DropFile(const QString& path) {
     if (!path.isEmpty()) drops_ << NativePath(path);
 }

@@ -31,6 +31,9 @@ public:
 
     // The working file `source` is to become CardsDir + name.
     void AddFile(const QString& source, const QString& name);
+    // The same for a working file that nothing needs afterwards: it is
+    // moved, not copied.
+    void MoveFile(const QString& source, const QString& name);
     // A file of Cards/ named by the design being replaced (its path, see
     // DesignFilePath; "" names none): it goes, unless a new file takes its
     // name.

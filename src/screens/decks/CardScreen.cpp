@@ -19,22 +19,22 @@
 CardScreen::CardScreen(const QString& captionStem, bool editing) : captionStem_(captionStem) {
     resize(TwipsToPixels(9600), TwipsToPixels(6840));
 
-    MakeLabel(this, QStringLiteral("Card Title:"), At(240, 285, 1300, 285));
+    MakeLabel(this, tr("Card Title:"), At(240, 285, 1300, 285));
     txtCardTitle = new QLineEdit(this);
     txtCardTitle->setObjectName(QStringLiteral("txtCardTitle"));
     txtCardTitle->setMaxLength(50);
     txtCardTitle->setReadOnly(!editing);
     txtCardTitle->setGeometry(At(1560, 240, 4200, 360));
-    MakeLabel(this, QStringLiteral("Card Type:"), At(240, 765, 1300, 285));
+    MakeLabel(this, tr("Card Type:"), At(240, 765, 1300, 285));
 
-    fraPosition = new QGroupBox(QStringLiteral(" Position "), this);
+    fraPosition = new QGroupBox(tr(" Position "), this);
     fraPosition->setObjectName(QStringLiteral("fraPosition"));
     fraPosition->setGeometry(At(240, 1740, 5520, 660));
-    optUpright = new QRadioButton(QStringLiteral("&Upright"), fraPosition);
+    optUpright = new QRadioButton(tr("&Upright"), fraPosition);
     optUpright->setObjectName(QStringLiteral("optUpright"));
     optUpright->setGeometry(At(240, 270, 2000, 300));
     optUpright->setChecked(true);
-    optReversed = new QRadioButton(QStringLiteral("&Reversed"), fraPosition);
+    optReversed = new QRadioButton(tr("&Reversed"), fraPosition);
     optReversed->setObjectName(QStringLiteral("optReversed"));
     optReversed->setGeometry(At(2760, 270, 2000, 300));
 
@@ -47,8 +47,8 @@ CardScreen::CardScreen(const QString& captionStem, bool editing) : captionStem_(
         box->setGeometry(At(240, top + 300, 5520, height));
         return box;
     };
-    txtDescription = textBox("txtDescription", QStringLiteral("Description:"), 2520, 1980);
-    txtKeywords = textBox("txtKeywords", QStringLiteral("Keywords:"), 4860, 1080);
+    txtDescription = textBox("txtDescription", tr("Description:"), 2520, 1980);
+    txtKeywords = textBox("txtKeywords", tr("Keywords:"), 4860, 1080);
 
     imgCard = new ImageBox(this);
     imgCard->setObjectName(QStringLiteral("imgCard"));
@@ -57,7 +57,7 @@ CardScreen::CardScreen(const QString& captionStem, bool editing) : captionStem_(
     MediaPlayer1->setObjectName(QStringLiteral("MediaPlayer1"));
     MediaPlayer1->setGeometry(At(6000, 5040, 3360, 480));
 
-    cmdBack = MakeButton(this, "cmdBack", QStringLiteral("&Close"), At(7860, 6240, 1500, 420));
+    cmdBack = MakeButton(this, "cmdBack", tr("&Close"), At(7860, 6240, 1500, 420));
 
     connect(optUpright, &QRadioButton::clicked, this, Handler([this] { optPosition_Click(); }));
     connect(optReversed, &QRadioButton::clicked, this, Handler([this] { optPosition_Click(); }));
@@ -78,7 +78,7 @@ void CardScreen::OpenCard() {
 
 void CardScreen::FillFields() {
     const QString title = CurrentCard.CardTitle.Trimmed();
-    setCaption(title.isEmpty() ? captionStem_ : captionStem_ + QStringLiteral(" - ") + title);
+    setCaption(title.isEmpty() ? captionStem_ : tr("%1 - %2").arg(captionStem_, title));
     txtCardTitle->setText(title);
     ShowCardType();
     optReversed->setEnabled(CurrentDeck.IncludesReversed != 0);

@@ -1,5 +1,7 @@
 #include "screens/decks/DeckLoadQuestion.h"
 
+#include <QCoreApplication>
+
 #include "core/store/DeckLoading.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
@@ -9,9 +11,11 @@
 bool LoadDeck(bool& DeckRemoved) {
     DeckRemoved = false;
     if (LoadDeckCards()) return true;
-    const int answer = MsgBox(QStringLiteral("This deck is missing some pictures. Cannot continue loading.\n"
-                                             "Do you want to remove it?"),
-                              vbYesNo | vbCritical);
+    const int answer =
+        MsgBox(QCoreApplication::translate("DeckLoadQuestion",
+                                           "This deck is missing some pictures. Cannot continue loading.\n"
+                                           "Do you want to remove it?"),
+               vbYesNo | vbCritical);
     if (answer == vbYes) {
         DeleteDeck(FindDeckByName(ListDeck.DeckName.Value()));
         DeckRemoved = true;

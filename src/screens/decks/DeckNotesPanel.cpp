@@ -13,12 +13,12 @@ DeckNotesPanel::DeckNotesPanel(bool editing) {
     txtComments->setObjectName(QStringLiteral("txtComments"));
     txtComments->setReadOnly(!editing);
     txtComments->setGeometry(At(120, 120, 4560, 2760));
-    cmdClose = MakeButton(this, "cmdClose", QStringLiteral("&Close"), At(3180, 3000, 1500, 420));
+    cmdClose = MakeButton(this, "cmdClose", tr("&Close"), At(3180, 3000, 1500, 420));
     connect(cmdClose, &QPushButton::clicked, this, Handler([this] { cmdClose_Click(); }));
 }
 
 void DeckNotesPanel::Form_Load() {
-    setCaption(QStringLiteral("Deck Notes"));
+    setCaption(tr("Deck Notes"));
     PlaceBesideFrame(*this, false);
     Loading = true;
     txtComments->setPlainText(CurrentDeck.DeckComments.Trimmed());

@@ -10,16 +10,15 @@
 
 DeckPropertiesScreen::DeckPropertiesScreen(bool editing) {
     resize(TwipsToPixels(5400), TwipsToPixels(3900));
-    chkUseReversed = new QCheckBox(QStringLiteral("Deck Includes Reversed Cards"), this);
+    chkUseReversed = new QCheckBox(tr("Deck Includes Reversed Cards"), this);
     chkUseReversed->setObjectName(QStringLiteral("chkUseReversed"));
     chkUseReversed->setGeometry(At(240, 180, 4800, 300));
-    chkDisplay = new QCheckBox(QStringLiteral("Display Card Titles"), this);
+    chkDisplay = new QCheckBox(tr("Display Card Titles"), this);
     chkDisplay->setObjectName(QStringLiteral("chkDisplay"));
     chkDisplay->setGeometry(At(240, 540, 4800, 300));
     for (int i = 0; i < 4; ++i) {
         const int top = 1080 + i * 480;
-        chkType[static_cast<std::size_t>(i)] =
-            new QCheckBox(QStringLiteral("Type %1:").arg(i + 1), this);
+        chkType[static_cast<std::size_t>(i)] = new QCheckBox(tr("Type %1:").arg(i + 1), this);
         QCheckBox* check = chkType[static_cast<std::size_t>(i)];
         check->setObjectName(QStringLiteral("chkType%1").arg(i));
         check->setGeometry(At(240, top + 30, 1200, 300));
@@ -31,7 +30,7 @@ DeckPropertiesScreen::DeckPropertiesScreen(bool editing) {
         name->setGeometry(At(1500, top, 3600, 360));
         connect(check, &QCheckBox::clicked, this, Handler([this, i] { chkType_Click(i); }));
     }
-    cmdClose = MakeButton(this, "cmdClose", QStringLiteral("&Close"), At(3600, 3120, 1500, 420));
+    cmdClose = MakeButton(this, "cmdClose", tr("&Close"), At(3600, 3120, 1500, 420));
     connect(chkUseReversed, &QCheckBox::clicked, this, Handler([this] { chkUseReversed_Click(); }));
     connect(chkDisplay, &QCheckBox::clicked, this, Handler([this] { chkDisplay_Click(); }));
     connect(cmdClose, &QPushButton::clicked, this, Handler([this] { cmdClose_Click(); }));
@@ -39,7 +38,7 @@ DeckPropertiesScreen::DeckPropertiesScreen(bool editing) {
 }
 
 void DeckPropertiesScreen::Form_Load() {
-    setCaption(QStringLiteral("Deck Properties"));
+    setCaption(tr("Deck Properties"));
     CentreInFrame(*this);
     Loading = true;
     FillProperties();

@@ -25,31 +25,31 @@ DeckScreen::DeckScreen(const QString& captionStem, bool designing) : captionStem
         edit->setGeometry(At(1800, top, 3600, 360));
         return edit;
     };
-    txtDeckTitle = box("txtDeckTitle", QStringLiteral("Deck Title:"), 240, 50);
-    txtDeckDesigner = box("txtDeckDesigner", QStringLiteral("Designer:"), 720, 40);
-    txtDesignerEmail = box("txtDesignerEmail", QStringLiteral("E-mail:"), 1200, 40);
-    txtDesignerWebPage = box("txtDesignerWebPage", QStringLiteral("Web Page:"), 1680, 50);
-    MakeLabel(this, QStringLiteral("Modified On:"), At(240, 2205, 1500, 285));
+    txtDeckTitle = box("txtDeckTitle", tr("Deck Title:"), 240, 50);
+    txtDeckDesigner = box("txtDeckDesigner", tr("Designer:"), 720, 40);
+    txtDesignerEmail = box("txtDesignerEmail", tr("E-mail:"), 1200, 40);
+    txtDesignerWebPage = box("txtDesignerWebPage", tr("Web Page:"), 1680, 50);
+    MakeLabel(this, tr("Modified On:"), At(240, 2205, 1500, 285));
     lblModifiedOnDate = MakeLabel(this, QString(), At(1800, 2205, 3600, 285), "lblModifiedOnDate");
-    MakeLabel(this, QStringLiteral("Description:"), At(240, 2640, 1500, 285));
+    MakeLabel(this, tr("Description:"), At(240, 2640, 1500, 285));
     txtDeckDescription = new QPlainTextEdit(this);
     txtDeckDescription->setObjectName(QStringLiteral("txtDeckDescription"));
     txtDeckDescription->setReadOnly(!designing);
     txtDeckDescription->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     txtDeckDescription->setGeometry(At(240, 2940, 5160, 2400));
 
-    MakeLabel(this, QStringLiteral("Cards:"), At(5640, 240, 3240, 285));
+    MakeLabel(this, tr("Cards:"), At(5640, 240, 3240, 285));
     lstCards = new ListBox(this);
     lstCards->setObjectName(QStringLiteral("lstCards"));
     lstCards->setSorted(true);
     lstCards->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstCards->setGeometry(At(5640, 540, 3240, 3960));
 
-    cmdEditCard = MakeButton(this, "cmdEditCard", designing ? QStringLiteral("&Edit") : QStringLiteral("&View"),
+    cmdEditCard = MakeButton(this, "cmdEditCard", designing ? tr("&Edit") : tr("&View"),
                              At(designing ? 6720 : 5640, 4620, 1020, 420));
-    cmdProperties = MakeButton(this, "cmdProperties", QStringLiteral("&Properties"), At(240, 5580, 1500, 420));
-    cmdComments = MakeButton(this, "cmdComments", QStringLiteral("No&tes"), At(1920, 5580, 1500, 420));
-    cmdBack = MakeButton(this, "cmdBack", QStringLiteral("&Close"), At(7380, 5580, 1500, 420));
+    cmdProperties = MakeButton(this, "cmdProperties", tr("&Properties"), At(240, 5580, 1500, 420));
+    cmdComments = MakeButton(this, "cmdComments", tr("No&tes"), At(1920, 5580, 1500, 420));
+    cmdBack = MakeButton(this, "cmdBack", tr("&Close"), At(7380, 5580, 1500, 420));
 
     connect(lstCards, &ListBox::Click, this, Handler([this] { UpdateCardButtons(); }));
 }
@@ -66,7 +66,7 @@ void DeckScreen::OpenDeck(bool existingDeck, bool skipDefaultReversed) {
 
 void DeckScreen::FillDeckFields() {
     const QString name = CurrentDeck.DeckName.Trimmed();
-    setCaption(name.isEmpty() ? captionStem_ : captionStem_ + QStringLiteral(" - ") + name);
+    setCaption(name.isEmpty() ? captionStem_ : tr("%1 - %2").arg(captionStem_, name));
     txtDeckTitle->setText(CurrentDeck.DeckTitle.Trimmed());
     txtDeckDesigner->setText(CurrentDeck.DeckDesigner.DesignerName.Trimmed());
     txtDesignerEmail->setText(CurrentDeck.DeckDesigner.DesignerEmail.Trimmed());

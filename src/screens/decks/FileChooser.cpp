@@ -12,24 +12,24 @@
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/store/Startup.h"
 
-FileChooser::FileChooser(const QString& kindWord, const QString& pattern, ChooserMemory& memory)
-    : kindWord_(kindWord), memory_(memory) {
+FileChooser::FileChooser(const std::array<QString, 2>& captions, const QString& pattern, ChooserMemory& memory)
+    : captions_(captions), memory_(memory) {
     resize(TwipsToPixels(8400), TwipsToPixels(5400));
-    MakeLabel(this, QStringLiteral("Drive:"), At(240, 120, 3000, 255));
+    MakeLabel(this, tr("Drive:"), At(240, 120, 3000, 255));
     drvSelection = new DriveListBox(this);
     drvSelection->setObjectName(QStringLiteral("drvSelection"));
     drvSelection->setGeometry(At(240, 390, 3000, 360));
-    MakeLabel(this, QStringLiteral("Folders:"), At(240, 870, 3000, 255));
+    MakeLabel(this, tr("Folders:"), At(240, 870, 3000, 255));
     dirSelection = new DirListBox(this);
     dirSelection->setObjectName(QStringLiteral("dirSelection"));
     dirSelection->setGeometry(At(240, 1140, 3000, 3360));
-    MakeLabel(this, QStringLiteral("Files:"), At(3360, 120, 2400, 255));
+    MakeLabel(this, tr("Files:"), At(3360, 120, 2400, 255));
     filSelection = new FileListBox(this);
     filSelection->setObjectName(QStringLiteral("filSelection"));
     filSelection->setPattern(pattern);
     filSelection->setGeometry(At(3360, 390, 2400, 4110));
-    cmdSelect = MakeButton(this, "cmdSelect", QStringLiteral("&Select"), At(5160, 4800, 1380, 420));
-    cmdCancel = MakeButton(this, "cmdCancel", QStringLiteral("&Cancel"), At(6780, 4800, 1380, 420));
+    cmdSelect = MakeButton(this, "cmdSelect", tr("&Select"), At(5160, 4800, 1380, 420));
+    cmdCancel = MakeButton(this, "cmdCancel", tr("&Cancel"), At(6780, 4800, 1380, 420));
     cmdSelect->setEnabled(false);
 
     connect(filSelection, &FileListBox::Click, this, Handler([this] { filSelection_Click(); }));
@@ -43,8 +43,7 @@ FileChooser::FileChooser(const QString& kindWord, const QString& pattern, Choose
 
 void FileChooser::ShowFor(int code) {
     GetPictureCode = code;
-    setCaption(QStringLiteral("Select ") + (code == 2 ? QStringLiteral("Reversed") : QStringLiteral("Upright")) +
-               QStringLiteral(" ") + kindWord_);
+    setCaption(captions_[static_cast<std::size_t>(Side())]);
     Show(true);
 }
 
@@ -81,7 +80,7 @@ void FileChooser::drvSelection_Change() {
     try {
         dirSelection->setPath(drvSelection->Drive());
     } catch (const RuntimeError&) {
-        MsgBox(QStringLiteral("This device is currently unavailable!"));
+        MsgBox(tr("This device is currently unavailable!"));
         drvSelection->setDrive(dirSelection->Path());
     }
 }
@@ -89,7 +88,7 @@ void FileChooser::drvSelection_Change() {
 void FileChooser::cmdSelect_Click() {
     if (filSelection->FileName().isEmpty()) return;
     if (GetPictureCode != 1 && GetPictureCode != 2) {
-        MsgBox(QStringLiteral("Error in application. If this problem persists, please contact Ondine Software."));
+        MsgBox(tr("Error in application. If this problem persists, please contact Ondine Software."));
         EndProcess(1);
         return;
     }

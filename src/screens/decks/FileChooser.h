@@ -39,9 +39,10 @@ public:
     void cmdCancel_Click();
 
 protected:
-    // kindWord ends the caption ("Image", "Sound"); pattern filters the
-    // file list; memory is where this kind of chooser was left in the run.
-    FileChooser(const QString& kindWord, const QString& pattern, ChooserMemory& memory);
+    // captions: the screen's caption for the upright side and for the
+    // reversed ("Select Upright Image"); pattern filters the file list;
+    // memory is where this kind of chooser was left in the run.
+    FileChooser(const std::array<QString, 2>& captions, const QString& pattern, ChooserMemory& memory);
 
     void Form_Load() override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
@@ -59,7 +60,7 @@ protected:
 private:
     int Side() const { return GetPictureCode == 2 ? 1 : 0; }
 
-    QString kindWord_;
+    std::array<QString, 2> captions_;
     ChooserMemory& memory_;
     std::array<QString, 2> selected_;
 };

@@ -20,16 +20,16 @@
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/store/Startup.h"
 
-frmAddCard::frmAddCard() : CardScreen(QStringLiteral("Add Card"), true) {
+frmAddCard::frmAddCard() : CardScreen(tr("Add Card"), true) {
     setObjectName(QStringLiteral("frmAddCard"));
     lstCardType = new ListBox(this);
     lstCardType->setObjectName(QStringLiteral("lstCardType"));
     lstCardType->setGeometry(At(1560, 720, 4200, 900));
-    imgCard->setToolTip(QStringLiteral("Click Here to Edit the Image"));
-    cmdEditImage = MakeButton(this, "cmdEditImage", QStringLiteral("Edit &Image"), At(6000, 5640, 1620, 420));
-    cmdGetSound = MakeButton(this, "cmdGetSound", QStringLiteral("Edit &Sound"), At(7740, 5640, 1620, 420));
-    cmdSaveClose = MakeButton(this, "cmdSaveClose", QStringLiteral("&Save-Close"), At(4260, 6240, 1500, 420));
-    cmdSaveNew = MakeButton(this, "cmdSaveNew", QStringLiteral("Save-&New"), At(6000, 6240, 1620, 420));
+    imgCard->setToolTip(tr("Click Here to Edit the Image"));
+    cmdEditImage = MakeButton(this, "cmdEditImage", tr("Edit &Image"), At(6000, 5640, 1620, 420));
+    cmdGetSound = MakeButton(this, "cmdGetSound", tr("Edit &Sound"), At(7740, 5640, 1620, 420));
+    cmdSaveClose = MakeButton(this, "cmdSaveClose", tr("&Save-Close"), At(4260, 6240, 1500, 420));
+    cmdSaveNew = MakeButton(this, "cmdSaveNew", tr("Save-&New"), At(6000, 6240, 1620, 420));
 
     connect(txtCardTitle, &QLineEdit::textChanged, this, Handler([this] { txtCardTitle_Change(); }));
     connect(txtDescription, &QPlainTextEdit::textChanged, this, Handler([this] { txtDescription_Change(); }));
@@ -170,7 +170,7 @@ void frmAddCard::cmdSaveNew_Click() {
 
 void frmAddCard::cmdBack_Click() {
     if (DesignModified) {
-        const int answer = MsgBox(QStringLiteral("Save changes to the card?"), vbYesNoCancel | vbQuestion);
+        const int answer = MsgBox(tr("Save changes to the card?"), vbYesNoCancel | vbQuestion);
         if (answer == vbCancel) {
             CloseForm = false;
             return;

@@ -12,21 +12,21 @@
 frmBrowseDeck::frmBrowseDeck() {
     setObjectName(QStringLiteral("frmBrowseDeck"));
     resize(TwipsToPixels(4560), TwipsToPixels(4200));
-    MakeLabel(this, QStringLiteral("Decks:"), At(240, 120, 2400, 255));
+    MakeLabel(this, tr("Decks:"), At(240, 120, 2400, 255));
     lstDecks = new ListBox(this);
     lstDecks->setObjectName(QStringLiteral("lstDecks"));
     lstDecks->setSorted(true);
     lstDecks->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstDecks->setGeometry(At(240, 420, 4080, 2940));
-    cmdSelect = MakeButton(this, "cmdSelect", QStringLiteral("&Select"), At(1200, 3540, 1500, 420));
-    cmdCancel = MakeButton(this, "cmdCancel", QStringLiteral("&Cancel"), At(2820, 3540, 1500, 420));
+    cmdSelect = MakeButton(this, "cmdSelect", tr("&Select"), At(1200, 3540, 1500, 420));
+    cmdCancel = MakeButton(this, "cmdCancel", tr("&Cancel"), At(2820, 3540, 1500, 420));
     connect(lstDecks, &ListBox::DblClick, this, Handler([this] { cmdSelect_Click(); }));
     connect(cmdSelect, &QPushButton::clicked, this, Handler([this] { cmdSelect_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
 }
 
 void frmBrowseDeck::Form_Load() {
-    setCaption(QStringLiteral("Browse Decks"));
+    setCaption(tr("Browse Decks"));
     CentreInFrame(*this);
     RecordReader<DeckRecord> reader(DecksPath);
     DeckRecord deck;

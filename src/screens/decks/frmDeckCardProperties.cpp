@@ -42,8 +42,8 @@ void frmDeckCardProperties::chkUseReversed_Click() {
     if (!chkUseReversed->isChecked()) return;
     for (const CardRecord& card : CurrentDeck.DeckCards) {
         if (card.CardPicture[1].Value() == DefaultPictureName) {
-            MsgBox(QStringLiteral("Note: Don't forget to supply the reversed versions of the cards.\n"
-                                  "Unless you do so, you will not be able to use this deck."),
+            MsgBox(tr("Note: Don't forget to supply the reversed versions of the cards.\n"
+                      "Unless you do so, you will not be able to use this deck."),
                    vbInformation);
             return;
         }

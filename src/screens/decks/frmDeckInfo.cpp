@@ -10,7 +10,7 @@
 #include "screens/decks/frmViewCard.h"
 #include "screens/platform/ListBox.h"
 
-frmDeckInfo::frmDeckInfo() : DeckScreen(QStringLiteral("Deck View"), false) {
+frmDeckInfo::frmDeckInfo() : DeckScreen(tr("Deck View"), false) {
     setObjectName(QStringLiteral("frmDeckInfo"));
     connect(lstCards, &ListBox::DblClick, this, Handler([this] { cmdEditCard_Click(); }));
     connect(cmdEditCard, &QPushButton::clicked, this, Handler([this] { cmdEditCard_Click(); }));

@@ -24,26 +24,21 @@
 #include "screens/store/PasswordPrompts.h"
 #include "screens/store/Startup.h"
 
-namespace {
-const QString CardsListText = QStringLiteral("Cards List");
-}
-
 frmDecks::frmDecks() {
     setObjectName(QStringLiteral("frmDecks"));
     resize(TwipsToPixels(7800), TwipsToPixels(5000));
 
-    MakeLabel(this, QStringLiteral("Decks:"), At(240, 120, 3600, 285));
+    MakeLabel(this, tr("Decks:"), At(240, 120, 3600, 285));
     lstDecks = new ListBox(this);
     lstDecks->setObjectName(QStringLiteral("lstDecks"));
     lstDecks->setSorted(true);
     lstDecks->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstDecks->setGeometry(At(240, 420, 3600, 3600));
 
-    fraQuickInfo = new QGroupBox(QStringLiteral(" Brief Info "), this);
+    fraQuickInfo = new QGroupBox(tr(" Brief Info "), this);
     fraQuickInfo->setObjectName(QStringLiteral("fraQuickInfo"));
     fraQuickInfo->setGeometry(At(4080, 300, 3480, 3720));
-    const QStringList captions{QStringLiteral("Title:"), QStringLiteral("Modified On:"), QStringLiteral("Designer:"),
-                               QStringLiteral("Cards:")};
+    const QStringList captions{tr("Title:"), tr("Modified On:"), tr("Designer:"), tr("Cards:")};
     const char* names[] = {"lblTitleField", "lblDesignDateField", "lblDesignerNameField", "lblCardsField"};
     QLabel** fields[] = {&lblTitleField, &lblDesignDateField, &lblDesignerNameField, &lblCardsField};
     for (int i = 0; i < 4; ++i) {
@@ -57,13 +52,13 @@ frmDecks::frmDecks() {
     cboCards->lineEdit()->setReadOnly(true);
     cboCards->setInsertPolicy(QComboBox::NoInsert);
     cboCards->setGeometry(At(120, 3000, 3240, 360));
-    cboCards->setEditText(CardsListText);
+    cboCards->setEditText(tr("Cards List"));
 
-    cmdDesign = MakeButton(this, "cmdDesign", QStringLiteral("&New"), At(240, 4260, 1320, 420));
-    cmdEdit = MakeButton(this, "cmdEdit", QStringLiteral("&Edit"), At(1740, 4260, 1320, 420));
-    cmdInfo = MakeButton(this, "cmdInfo", QStringLiteral("&View"), At(3240, 4260, 1320, 420));
-    cmdDelete = MakeButton(this, "cmdDelete", QStringLiteral("&Delete"), At(4740, 4260, 1320, 420));
-    cmdClose = MakeButton(this, "cmdClose", QStringLiteral("&Close"), At(6240, 4260, 1320, 420));
+    cmdDesign = MakeButton(this, "cmdDesign", tr("&New"), At(240, 4260, 1320, 420));
+    cmdEdit = MakeButton(this, "cmdEdit", tr("&Edit"), At(1740, 4260, 1320, 420));
+    cmdInfo = MakeButton(this, "cmdInfo", tr("&View"), At(3240, 4260, 1320, 420));
+    cmdDelete = MakeButton(this, "cmdDelete", tr("&Delete"), At(4740, 4260, 1320, 420));
+    cmdClose = MakeButton(this, "cmdClose", tr("&Close"), At(6240, 4260, 1320, 420));
 
     connect(lstDecks, &ListBox::Click, this, Handler([this] { lstDecks_Click(); }));
     connect(lstDecks, &ListBox::DblClick, this, Handler([this] { cmdEdit_Click(); }));
@@ -77,7 +72,7 @@ frmDecks::frmDecks() {
 }
 
 void frmDecks::Form_Load() {
-    setCaption(QStringLiteral("Decks' Menu"));
+    setCaption(tr("Decks' Menu"));
     SetScreenPointer(MousePointer::Hourglass);
     CentreInFrame(*this);
     ResetDeck();
@@ -109,7 +104,7 @@ void frmDecks::ClearBriefInfo() {
 
 void frmDecks::lstDecks_Click() {
     UpdateButtons();
-    cboCards->setEditText(CardsListText);
+    cboCards->setEditText(tr("Cards List"));
     if (lstDecks->ListIndex() < 0) {
         ClearBriefInfo();
         return;
@@ -132,7 +127,7 @@ void frmDecks::cboCards_GotFocus() {
     CardRecord card;
     while (reader.Next(card))
         if (card.CardDeckId == ListDeck.DeckId) cboCards->addItem(card.CardTitle.Trimmed());
-    cboCards->setEditText(CardsListText);
+    cboCards->setEditText(tr("Cards List"));
 }
 
 void frmDecks::SelectDeck(const QString& deckName) {

@@ -23,14 +23,13 @@
 #include "screens/platform/ListBox.h"
 #include "screens/platform/MsgBox.h"
 
-frmDesignDeck::frmDesignDeck() : DeckScreen(QStringLiteral("Deck Design"), true) {
+frmDesignDeck::frmDesignDeck() : DeckScreen(tr("Deck Design"), true) {
     setObjectName(QStringLiteral("frmDesignDeck"));
-    cmdAddCard = MakeButton(this, "cmdAddCard", QStringLiteral("&Add"), At(5640, 4620, 1020, 420));
-    cmdDeleteCard = MakeButton(this, "cmdDeleteCard", QStringLiteral("Dele&te"), At(7860, 4620, 1020, 420));
-    cmdSave = MakeButton(this, "cmdSave", QStringLiteral("&Save"), At(5700, 5580, 1500, 420));
+    cmdAddCard = MakeButton(this, "cmdAddCard", tr("&Add"), At(5640, 4620, 1020, 420));
+    cmdDeleteCard = MakeButton(this, "cmdDeleteCard", tr("Dele&te"), At(7860, 4620, 1020, 420));
+    cmdSave = MakeButton(this, "cmdSave", tr("&Save"), At(5700, 5580, 1500, 420));
     // In the gap between the notes and the save buttons, so nothing moves.
-    cmdImportPictures =
-        MakeButton(this, "cmdImportPictures", QStringLiteral("&Import Pictures..."), At(3540, 5580, 2040, 420));
+    cmdImportPictures = MakeButton(this, "cmdImportPictures", tr("&Import Pictures..."), At(3540, 5580, 2040, 420));
 
     connect(txtDeckTitle, &QLineEdit::textChanged, this, Handler([this] { txtDeckTitle_Change(); }));
     // Each of the other boxes stores its own field and marks the deck changed.
@@ -164,7 +163,7 @@ void frmDesignDeck::cmdDeleteCard_Click() {
         return;
     }
     const QString title = lstCards->Text();
-    if (MsgBox(QStringLiteral("Are you sure you want to delete card '") + TrimField(title) + QStringLiteral("' ?"),
+    if (MsgBox(tr("Are you sure you want to delete card '%1' ?").arg(TrimField(title)),
                vbYesNo | vbQuestion | vbDefaultButton2) == vbNo)
         return;
     const int position = SelectedCardPosition();
@@ -183,7 +182,7 @@ void frmDesignDeck::cmdImportPictures_Click() {
         return;
     }
     CommonDialog dialog;
-    dialog.DialogTitle = QStringLiteral("Import Pictures");
+    dialog.DialogTitle = tr("Import Pictures");
     dialog.FileName = RememberedPictureFolder().Folder;
     if (!dialog.ShowFolder()) return;
     Get<frmImportPictures>().ShowFolder(dialog.FileName);
@@ -195,7 +194,7 @@ void frmDesignDeck::cmdComments_Click() { Get<frmDeckComments>().Show(); }
 
 void frmDesignDeck::cmdBack_Click() {
     if (DesignModified) {
-        const int answer = MsgBox(QStringLiteral("Save changes to the deck?"), vbYesNoCancel | vbQuestion);
+        const int answer = MsgBox(tr("Save changes to the deck?"), vbYesNoCancel | vbQuestion);
         if (answer == vbCancel) return;
         if (answer == vbYes) cmdSave_Click();
     }

@@ -10,9 +10,10 @@
 #include "screens/shell/ImageBox.h"
 
 frmGetImageFile::frmGetImageFile()
-    : FileChooser(QStringLiteral("Image"), QStringLiteral("*.bmp;*.jpg;*.gif"), RememberedPictureFolder()) {
+    : FileChooser({tr("Select Upright Image"), tr("Select Reversed Image")}, QStringLiteral("*.bmp;*.jpg;*.gif"),
+                  RememberedPictureFolder()) {
     setObjectName(QStringLiteral("frmGetImageFile"));
-    chkPreview = new QCheckBox(QStringLiteral("&Preview"), this);
+    chkPreview = new QCheckBox(tr("&Preview"), this);
     chkPreview->setObjectName(QStringLiteral("chkPreview"));
     chkPreview->setChecked(true);
     chkPreview->setGeometry(At(6000, 120, 2160, 300));

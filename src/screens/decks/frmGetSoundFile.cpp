@@ -6,9 +6,10 @@
 #include "screens/platform/MediaPlayer.h"
 
 frmGetSoundFile::frmGetSoundFile()
-    : FileChooser(QStringLiteral("Sound"), QStringLiteral("*.mp3;*.wav"), RememberedSoundFolder()) {
+    : FileChooser({tr("Select Upright Sound"), tr("Select Reversed Sound")}, QStringLiteral("*.mp3;*.wav"),
+                  RememberedSoundFolder()) {
     setObjectName(QStringLiteral("frmGetSoundFile"));
-    MakeLabel(this, QStringLiteral("Play Sound"), At(6000, 120, 2160, 255));
+    MakeLabel(this, tr("Play Sound"), At(6000, 120, 2160, 255));
     MediaPlayer1 = new MediaPlayer(this);
     MediaPlayer1->setObjectName(QStringLiteral("MediaPlayer1"));
     MediaPlayer1->setGeometry(At(6000, 420, 2160, 480));

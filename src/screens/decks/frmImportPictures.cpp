@@ -195,7 +195,7 @@ void frmImportPictures::cmdOK_Click() {
     QStringList pastLimit;
     const QList<ProposedCard> within = CardsWithinLimit(cards, pastLimit);
     if (!pastLimit.isEmpty())
-        MsgBox(CardLimitMessage() + QLatin1Char('\n') + tr("These cards were not added: %1").arg(NamesForMessage(pastLimit)),
+        MsgBox(tr("%1\nThese cards were not added: %2").arg(CardLimitMessage(), NamesForMessage(pastLimit)),
                vbCritical);
     if (!within.isEmpty()) {
         PictureImport import(folder_, within, ChosenReversedSide());

@@ -17,19 +17,19 @@
 frmSaveDeck::frmSaveDeck() {
     setObjectName(QStringLiteral("frmSaveDeck"));
     resize(TwipsToPixels(5160), TwipsToPixels(4560));
-    MakeLabel(this, QStringLiteral("Save As:"), At(240, 165, 1200, 255));
+    MakeLabel(this, tr("Save As:"), At(240, 165, 1200, 255));
     txtSaveAs = new QLineEdit(this);
     txtSaveAs->setObjectName(QStringLiteral("txtSaveAs"));
     txtSaveAs->setMaxLength(50);
     txtSaveAs->setGeometry(At(1440, 120, 3480, 360));
-    MakeLabel(this, QStringLiteral("Saved Decks:"), At(240, 600, 2400, 255));
+    MakeLabel(this, tr("Saved Decks:"), At(240, 600, 2400, 255));
     lstDeckNames = new ListBox(this);
     lstDeckNames->setObjectName(QStringLiteral("lstDeckNames"));
     lstDeckNames->setSorted(true);
     lstDeckNames->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstDeckNames->setGeometry(At(240, 900, 4680, 2820));
-    cmdSave = MakeButton(this, "cmdSave", QStringLiteral("&Save"), At(1800, 3900, 1500, 420));
-    cmdCancel = MakeButton(this, "cmdCancel", QStringLiteral("&Cancel"), At(3420, 3900, 1500, 420));
+    cmdSave = MakeButton(this, "cmdSave", tr("&Save"), At(1800, 3900, 1500, 420));
+    cmdCancel = MakeButton(this, "cmdCancel", tr("&Cancel"), At(3420, 3900, 1500, 420));
     cmdSave->setEnabled(false);
 
     connect(lstDeckNames, &ListBox::Click, this, Handler([this] { lstDeckNames_Click(); }));
@@ -39,7 +39,7 @@ frmSaveDeck::frmSaveDeck() {
 }
 
 void frmSaveDeck::Form_Load() {
-    setCaption(QStringLiteral("Save Deck"));
+    setCaption(tr("Save Deck"));
     CentreInFrame(*this);
     const QString name = CurrentDeck.DeckName.Trimmed();
     txtSaveAs->setText(name.isEmpty() ? CurrentDeck.DeckTitle.Trimmed() : name);

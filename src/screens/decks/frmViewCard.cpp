@@ -8,7 +8,7 @@
 #include "screens/shell/ScreenPlacement.h"
 #include "screens/store/Startup.h"
 
-frmViewCard::frmViewCard() : CardScreen(QStringLiteral("View Card"), false) {
+frmViewCard::frmViewCard() : CardScreen(tr("View Card"), false) {
     setObjectName(QStringLiteral("frmViewCard"));
     txtCardType = new QLineEdit(this);
     txtCardType->setObjectName(QStringLiteral("txtCardType"));

@@ -21,11 +21,11 @@ PackageSummaryScreen::PackageSummaryScreen(const QString& caption, const QString
     Label1 = new QLabel(message, this);
     Label1->setObjectName(QStringLiteral("Label1"));
     Label1->setGeometry(At(240, 240, 5400, 330));
-    txtDecksCount = AddField(QStringLiteral("Decks:"), "txtDecksCount", firstRow);
-    txtSpreadsCount = AddField(QStringLiteral("Spreads:"), "txtSpreadsCount", firstRow + 1);
-    txtAttachment = AddField(QStringLiteral("Attachment:"), "txtAttachment", firstRow + 2);
+    txtDecksCount = AddField(tr("Decks:"), "txtDecksCount", firstRow);
+    txtSpreadsCount = AddField(tr("Spreads:"), "txtSpreadsCount", firstRow + 1);
+    txtAttachment = AddField(tr("Attachment:"), "txtAttachment", firstRow + 2);
     const int bottom = FirstFieldTop + (firstRow + 3) * RowPitch;
-    cmdCancel = new QPushButton(QStringLiteral("&Close"), this);
+    cmdCancel = new QPushButton(tr("&Close"), this);
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     cmdCancel->setGeometry(At(4200, bottom + 120, 1440, 400));
     resize(TwipsToPixels(5880), TwipsToPixels(bottom + 720));
@@ -53,14 +53,14 @@ void PackageSummaryScreen::ShowCounts(int decks, int spreads) {
 void frmCreatePackageSummary::ShowPackageFile(const QString& fileName, const QString& folder) {
     txtFilename->setText(fileName);
     txtLocation->setText(folder);
-    setCaption(QStringLiteral("Package Summary - ") + fileName);
+    setCaption(tr("Package Summary - %1").arg(fileName));
 }
 
 void PackageSummaryScreen::SetAttachment(bool present, const QString& name) {
     QFont font = txtAttachment->font();
     font.setItalic(!present);
     txtAttachment->setFont(font);
-    txtAttachment->setText(present ? name : QStringLiteral("NONE"));
+    txtAttachment->setText(present ? name : tr("NONE"));
 }
 
 void PackageSummaryScreen::cmdCancel_Click() { Unload(); }
@@ -72,8 +72,7 @@ void PackageSummaryScreen::Form_KeyUp(int key, Qt::KeyboardModifiers, bool& hand
 }
 
 frmPackageSummary::frmPackageSummary()
-    : PackageSummaryScreen(QStringLiteral("Package Summary"), QStringLiteral("The package was successfully installed."),
-                           0) {
+    : PackageSummaryScreen(tr("Package Summary"), tr("The package was successfully installed."), 0) {
     setObjectName(QStringLiteral("frmPackageSummary"));
 }
 
@@ -82,13 +81,12 @@ void frmPackageSummary::UpdateInfo() {
     QPalette p = Label1->palette();
     p.setColor(QPalette::WindowText, QColor(255, 0, 0));
     Label1->setPalette(p);
-    Label1->setText(QStringLiteral("No elements of this package were installed."));
+    Label1->setText(tr("No elements of this package were installed."));
 }
 
 frmCreatePackageSummary::frmCreatePackageSummary()
-    : PackageSummaryScreen(QStringLiteral("Package Summary"), QStringLiteral("The package was successfully created."),
-                           2) {
+    : PackageSummaryScreen(tr("Package Summary"), tr("The package was successfully created."), 2) {
     setObjectName(QStringLiteral("frmCreatePackageSummary"));
-    txtLocation = AddField(QStringLiteral("Location:"), "txtLocation", 0);
-    txtFilename = AddField(QStringLiteral("File name:"), "txtFilename", 1);
+    txtLocation = AddField(tr("Location:"), "txtLocation", 0);
+    txtFilename = AddField(tr("File name:"), "txtFilename", 1);
 }

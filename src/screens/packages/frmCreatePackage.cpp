@@ -50,9 +50,6 @@ void AddCheckRow(QListWidget* list, const QString& text) {
 
 bool IsChecked(const QListWidget* list, int row) { return list->item(row)->checkState() == Qt::Checked; }
 
-const QString AttachmentFilter = QStringLiteral(
-    "All Files (*.*)|*.*|HTML Files (*.htm)|*.htm|Document Files (*.doc)|*.doc|Text Files (*.txt)|*.txt");
-
 // The text of every checked row, in list order.
 QStringList CheckedNames(const QListWidget* list) {
     QStringList names;
@@ -70,33 +67,33 @@ QString AddPackageExtension(const QString& name) {
 
 frmCreatePackage::frmCreatePackage() {
     setObjectName(QStringLiteral("frmCreatePackage"));
-    setCaption(QStringLiteral("Create Package"));
+    setCaption(tr("Create Package"));
     resize(TwipsToPixels(9840), TwipsToPixels(7560));
 
-    (new QLabel(QStringLiteral("Decks:"), this))->setGeometry(At(240, 120, 4560, 270));
+    (new QLabel(tr("Decks:"), this))->setGeometry(At(240, 120, 4560, 270));
     lstAvailableDecks = CheckList(this, "lstAvailableDecks", At(240, 390, 4560, 2400));
-    (new QLabel(QStringLiteral("Spreads:"), this))->setGeometry(At(5040, 120, 4560, 270));
+    (new QLabel(tr("Spreads:"), this))->setGeometry(At(5040, 120, 4560, 270));
     lstAvailableSpreads = CheckList(this, "lstAvailableSpreads", At(5040, 390, 4560, 2400));
-    chkAutoSelect = Named(new QCheckBox(QStringLiteral("Automatically select the decks a spread works with"), this),
+    chkAutoSelect = Named(new QCheckBox(tr("Automatically select the decks a spread works with"), this),
                           "chkAutoSelect", At(5040, 2880, 4560, 300));
     chkAutoSelect->setChecked(true);
-    chkPassword = Named(new QCheckBox(QStringLiteral("Protect all designs with a password."), this), "chkPassword",
-                        At(240, 2880, 4560, 300));
-    (new QLabel(QStringLiteral("Attachment:"), this))->setGeometry(At(240, 3300, 1200, 270));
+    chkPassword =
+        Named(new QCheckBox(tr("Protect all designs with a password."), this), "chkPassword", At(240, 2880, 4560, 300));
+    (new QLabel(tr("Attachment:"), this))->setGeometry(At(240, 3300, 1200, 270));
     txtAttachment = Named(new QLineEdit(this), "txtAttachment", At(1440, 3300, 5400, 330));
     txtAttachment->setReadOnly(true);
-    cmdAttach = Named(new QPushButton(QStringLiteral("&Attach..."), this), "cmdAttach", At(6960, 3270, 1260, 400));
-    cmdDeAttach = Named(new QPushButton(QStringLiteral("&Remove"), this), "cmdDeAttach", At(8340, 3270, 1260, 400));
+    cmdAttach = Named(new QPushButton(tr("&Attach..."), this), "cmdAttach", At(6960, 3270, 1260, 400));
+    cmdDeAttach = Named(new QPushButton(tr("&Remove"), this), "cmdDeAttach", At(8340, 3270, 1260, 400));
     cmdDeAttach->setEnabled(false);
     drvSelection = Named(new DriveListBox(this), "drvSelection", At(240, 3840, 4560, 360));
     dirSelection = Named(new DirListBox(this), "dirSelection", At(240, 4260, 4560, 2280));
     filSelection = Named(new FileListBox(this), "filSelection", At(5040, 3840, 4560, 2700));
     filSelection->setPattern(QStringLiteral("*.pck"));
-    (new QLabel(QStringLiteral("File name:"), this))->setGeometry(At(240, 6660, 1200, 270));
+    (new QLabel(tr("File name:"), this))->setGeometry(At(240, 6660, 1200, 270));
     txtFilename = Named(new QLineEdit(this), "txtFilename", At(1440, 6660, 4800, 330));
     txtFilename->setMaxLength(100);
-    cmdCreate = Named(new QPushButton(QStringLiteral("C&reate"), this), "cmdCreate", At(6600, 6630, 1440, 400));
-    cmdCancel = Named(new QPushButton(QStringLiteral("&Cancel"), this), "cmdCancel", At(8160, 6630, 1440, 400));
+    cmdCreate = Named(new QPushButton(tr("C&reate"), this), "cmdCreate", At(6600, 6630, 1440, 400));
+    cmdCancel = Named(new QPushButton(tr("&Cancel"), this), "cmdCancel", At(8160, 6630, 1440, 400));
 
     connect(lstAvailableDecks, &QListWidget::itemChanged, this, Handler([this] { lstAvailableDecks_Click(); }));
     connect(lstAvailableSpreads, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
@@ -139,7 +136,7 @@ void frmCreatePackage::SuggestFilename() {
     filSelection->setPath(dirSelection->Path());
     const QString folder = AddTrailingBackslash(dirSelection->Path());
     for (int n = 1; n <= 1000; ++n) {
-        const QString name = AddPackageExtension(QStringLiteral("Cartomar Package - ") + QString::number(n));
+        const QString name = AddPackageExtension(tr("Cartomar Package - %1").arg(n));
         if (!FileExists(folder + name)) {
             txtFilename->setText(name);
             return;
@@ -210,13 +207,14 @@ void frmCreatePackage::chkPassword_Click() {
 }
 
 void frmCreatePackage::cmdAttach_Click() {
-    CommonDialog1.Filter = AttachmentFilter;
+    CommonDialog1.Filter =
+        tr("All Files (*.*)|*.*|HTML Files (*.htm)|*.htm|Document Files (*.doc)|*.doc|Text Files (*.txt)|*.txt");
     CommonDialog1.FilterIndex = 1;
-    CommonDialog1.DialogTitle = QStringLiteral("Select Attachment");
+    CommonDialog1.DialogTitle = tr("Select Attachment");
     CommonDialog1.Flags = CommonDialog::cdlOFNHideReadOnly;
     const bool chosen = CommonDialog1.ShowOpen();
     if (!chosen && !FileExists(CommonDialog1.FileName)) {
-        MsgBox(QStringLiteral("There is no file with the name you provided!"), vbCritical);
+        MsgBox(tr("There is no file with the name you provided!"), vbCritical);
         return;
     }
     AttachmentName = CommonDialog1.FileTitle;
@@ -238,7 +236,7 @@ void frmCreatePackage::drvSelection_Change() {
         dirSelection->setPath(drvSelection->Drive());
         filSelection->setPath(dirSelection->Path());
     } catch (const RuntimeError&) {
-        MsgBox(QStringLiteral("This device is currently unavailable!"), vbCritical);
+        MsgBox(tr("This device is currently unavailable!"), vbCritical);
         drvSelection->setDrive(dirSelection->Path());
     }
 }
@@ -247,8 +245,8 @@ void frmCreatePackage::dirSelection_Change() {
     // Temp/ is emptied by every design operation: a package there would be
     // lost. Its subfolders pass.
     if (dirSelection->Path().trimmed() == AppPath + QStringLiteral("Temp")) {
-        MsgBox(QStringLiteral("This folder and its subfolders are solely for the use of Cartomar. Please select a "
-                              "different folder."),
+        MsgBox(tr("This folder and its subfolders are solely for the use of Cartomar. Please select a "
+                  "different folder."),
                vbInformation);
         dirSelection->setPath(filSelection->Path());
         return;
@@ -281,19 +279,18 @@ void frmCreatePackage::CheckInputs() {
     if (!AnyChecked(lstAvailableDecks) && !AnyChecked(lstAvailableSpreads) &&
         txtAttachment->text().trimmed().isEmpty()) {
         SetScreenPointer(MousePointer::Default);
-        MsgBox(QStringLiteral("You have selected nothing to pack. Please select at least one design."), vbInformation);
+        MsgBox(tr("You have selected nothing to pack. Please select at least one design."), vbInformation);
         AbortCreate = true;
     } else if (!IsValidFilename()) {
         SetScreenPointer(MousePointer::Default);
-        MsgBox(QStringLiteral("Invalid FileName!\nA valid filename cannot contain \\, /, :, *, ?, <, > or |."),
-               vbCritical);
+        MsgBox(tr("Invalid FileName!\nA valid filename cannot contain \\, /, :, *, ?, <, > or |."), vbCritical);
         AbortCreate = true;
     } else {
         // The name as typed: a name without ".pck" is looked for without it.
         const QString path = AddTrailingBackslash(dirSelection->Path()) + txtFilename->text().trimmed();
         if (!FileExists(path)) return;
         SetScreenPointer(MousePointer::Default);
-        if (MsgBox(QStringLiteral("Package already exists. Overwrite?"), vbYesNo | vbQuestion) == vbYes)
+        if (MsgBox(tr("Package already exists. Overwrite?"), vbYesNo | vbQuestion) == vbYes)
             KillIgnoringErrors(path);
         else
             AbortCreate = true;
@@ -322,8 +319,8 @@ void frmCreatePackage::cmdCreate_Click() {
     std::optional<RuntimeError> failure;
     if (!CreatePackageFile(TempDir, path, &failure)) {
         CreateFailed = true;
-        MsgBox(QStringLiteral("Unable to create package.  Error") + QString::number(failure->Number()) +
-                   QStringLiteral(": ") + failure->Description(),
+        MsgBox(tr("Unable to create package.  Error%1: %2")
+                   .arg(QString::number(failure->Number()), failure->Description()),
                vbCritical);
     }
     ClearTemp();
@@ -356,8 +353,8 @@ void frmCreatePackage::WarnProtectedDesign() {
     if (ProtectedWarningShown) return;
     ProtectedWarningShown = true;
     SetScreenPointer(MousePointer::Default);
-    MsgBox(QStringLiteral("Some designs were intially protected. Their passwords cannot be replaced.\n"
-                          "However, they will still be added to the package."),
+    MsgBox(tr("Some designs were intially protected. Their passwords cannot be replaced.\n"
+              "However, they will still be added to the package."),
            vbInformation);
     SetScreenPointer(MousePointer::Hourglass);
 }
@@ -369,8 +366,8 @@ void frmCreatePackage::StageAttachment() {
     } catch (const RuntimeError&) {
         AttachmentStaged = false;
         SetScreenPointer(MousePointer::Default);
-        MsgBox(QStringLiteral("The selected attachment could not be copied because either it is in use or it has "
-                              "been removed from disk."),
+        MsgBox(tr("The selected attachment could not be copied because either it is in use or it has "
+                  "been removed from disk."),
                vbInformation);
         SetScreenPointer(MousePointer::Hourglass);
     }
@@ -388,7 +385,7 @@ void frmCreatePackage::ShowSummary() {
 void frmCreatePackage::cmdCancel_Click() {
     if (AnyChecked(lstAvailableDecks) || AnyChecked(lstAvailableSpreads) ||
         !txtAttachment->text().trimmed().isEmpty()) {
-        if (MsgBox(QStringLiteral("Are you sure you want to cancel creating this package?"),
+        if (MsgBox(tr("Are you sure you want to cancel creating this package?"),
                    vbYesNo | vbQuestion | vbDefaultButton2) == vbNo)
             return;
     }

@@ -43,7 +43,7 @@ QString TempFile(const char* name) { return TempDir + QLatin1String(name); }
 
 frmInstallPackage::frmInstallPackage() {
     setObjectName(QStringLiteral("frmInstallPackage"));
-    setCaption(QStringLiteral("Install Package"));
+    setCaption(tr("Install Package"));
     resize(TwipsToPixels(7560), TwipsToPixels(5160));
 
     drvSelection = new DriveListBox(this);
@@ -59,10 +59,10 @@ frmInstallPackage::frmInstallPackage() {
     lblStatus = new QLabel(this);
     lblStatus->setObjectName(QStringLiteral("lblStatus"));
     lblStatus->setGeometry(At(240, 4320, 7080, 270));
-    cmdInstall = MakeButton(this, QStringLiteral("&Install"), "cmdInstall", At(240, 4620, 1680, 400));
-    cmdInfo = MakeButton(this, QStringLiteral("In&fo"), "cmdInfo", At(2040, 4620, 1680, 400));
-    cmdDelete = MakeButton(this, QStringLiteral("&Delete"), "cmdDelete", At(3840, 4620, 1680, 400));
-    cmdCancel = MakeButton(this, QStringLiteral("&Close"), "cmdCancel", At(5640, 4620, 1680, 400));
+    cmdInstall = MakeButton(this, tr("&Install"), "cmdInstall", At(240, 4620, 1680, 400));
+    cmdInfo = MakeButton(this, tr("In&fo"), "cmdInfo", At(2040, 4620, 1680, 400));
+    cmdDelete = MakeButton(this, tr("&Delete"), "cmdDelete", At(3840, 4620, 1680, 400));
+    cmdCancel = MakeButton(this, tr("&Close"), "cmdCancel", At(5640, 4620, 1680, 400));
 
     connect(drvSelection, &DriveListBox::Change, this, Handler([this] { drvSelection_Change(); }));
     connect(dirSelection, &DirListBox::Change, this, Handler([this] { dirSelection_Change(); }));
@@ -108,7 +108,7 @@ void frmInstallPackage::drvSelection_Change() {
         dirSelection->setPath(drvSelection->Drive());
         filSelection->setPath(dirSelection->Path());
     } catch (const RuntimeError&) {
-        MsgBox(QStringLiteral("This device is currently unavailable!"), vbCritical);
+        MsgBox(tr("This device is currently unavailable!"), vbCritical);
         drvSelection->setDrive(dirSelection->Path());
     }
     if (filSelection->FileName().isEmpty()) cmdInstall->setEnabled(false);
@@ -147,7 +147,7 @@ void frmInstallPackage::cmdCancel_Click() {
 void frmInstallPackage::cmdDelete_Click() {
     const QString name = filSelection->FileName();
     if (name.isEmpty()) return;
-    if (MsgBox(QStringLiteral("Are you sure you want to delete package '") + name + QStringLiteral("' ?"),
+    if (MsgBox(tr("Are you sure you want to delete package '%1' ?").arg(name),
                vbYesNo | vbQuestion | vbDefaultButton2) != vbYes)
         return;
     SetScreenPointer(MousePointer::Hourglass);
@@ -168,7 +168,7 @@ void frmInstallPackage::ExtractFiles() {
     const QString path = AddTrailingBackslash(filSelection->Path()) + filSelection->FileName();
     ExtractFailed = !ExtractPackageFile(path, TempDir);
     if (ExtractFailed) {
-        MsgBox(QStringLiteral("Unable to open package"), vbCritical);
+        MsgBox(tr("Unable to open package"), vbCritical);
         return;
     }
     const QStringList attachments = Dir(TempDir + AttachmentPrefix + QStringLiteral("*.*"));
@@ -186,7 +186,7 @@ void frmInstallPackage::cmdInstall_Click() {
     if (!PackageExtracted) ExtractFiles();
     bool ended = false;
     if (!ExtractFailed) {
-        // An error part-way (a list that runs out of places) ends the
+        // An error part-way (a file that cannot be written) ends the
         // installation with the error box and nothing written; a damaged
         // package is refused before anything is asked. Either way the
         // screen stays for another choice.
@@ -222,19 +222,19 @@ bool frmInstallPackage::Install() {
     }
     if (outcome == InstallOutcome::Incompatible) {
         SetScreenPointer(MousePointer::Default);
-        MsgBox(QStringLiteral("Unable to install: Incompatible Cartomar Package."));
+        MsgBox(tr("Unable to install: Incompatible Cartomar Package."));
         if (AnyFileMatches(TempDir + QStringLiteral("*.*"))) ClearTemp();
     }
     return true;
 }
 
 QString frmInstallPackage::AttachmentTarget(const QString& proposed) {
-    CommonDialog1.Filter = QStringLiteral(
-        "All Files (*.*)|*.*|HTML Files (*.htm)|*.htm|Document Files (*.doc)|*.doc|Text Files (*.txt)|*.txt");
+    CommonDialog1.Filter =
+        tr("All Files (*.*)|*.*|HTML Files (*.htm)|*.htm|Document Files (*.doc)|*.doc|Text Files (*.txt)|*.txt");
     CommonDialog1.FilterIndex = 1;
     CommonDialog1.FileName = proposed;
     CommonDialog1.Flags = CommonDialog::cdlOFNOverwritePrompt | CommonDialog::cdlOFNPathMustExist;
-    CommonDialog1.DialogTitle = QStringLiteral("Save Attachment As");
+    CommonDialog1.DialogTitle = tr("Save Attachment As");
     if (!CommonDialog1.ShowSave()) return QString();
     if (!CommonDialog1.FileName.contains(CommonDialog1.FileTitle)) FatalError();
     return CommonDialog1.FileName;
@@ -274,26 +274,26 @@ void frmInstallPackage::ShowPackageSummary() {
 
 frmPackageInfo::frmPackageInfo() {
     setObjectName(QStringLiteral("frmPackageInfo"));
-    setCaption(QStringLiteral("Package Info"));
+    setCaption(tr("Package Info"));
     resize(TwipsToPixels(6720), TwipsToPixels(4680));
-    auto* spreadsLabel = new QLabel(QStringLiteral("Spreads:"), this);
+    auto* spreadsLabel = new QLabel(tr("Spreads:"), this);
     spreadsLabel->setGeometry(At(240, 120, 3000, 270));
     lstSpreads = new QListWidget(this);
     lstSpreads->setObjectName(QStringLiteral("lstSpreads"));
     lstSpreads->setGeometry(At(240, 420, 3000, 2880));
-    auto* decksLabel = new QLabel(QStringLiteral("Decks:"), this);
+    auto* decksLabel = new QLabel(tr("Decks:"), this);
     decksLabel->setGeometry(At(3480, 120, 3000, 270));
     lstDecks = new QListWidget(this);
     lstDecks->setObjectName(QStringLiteral("lstDecks"));
     lstDecks->setGeometry(At(3480, 420, 3000, 2880));
-    auto* attachmentLabel = new QLabel(QStringLiteral("Attachment:"), this);
+    auto* attachmentLabel = new QLabel(tr("Attachment:"), this);
     attachmentLabel->setGeometry(At(240, 3420, 1200, 270));
     txtAttachment = new QLineEdit(this);
     txtAttachment->setObjectName(QStringLiteral("txtAttachment"));
     txtAttachment->setReadOnly(true);
     txtAttachment->setGeometry(At(1440, 3420, 5040, 330));
-    cmdInstall = MakeButton(this, QStringLiteral("&Install"), "cmdInstall", At(3480, 3960, 1440, 400));
-    cmdCancel = MakeButton(this, QStringLiteral("&Close"), "cmdCancel", At(5040, 3960, 1440, 400));
+    cmdInstall = MakeButton(this, tr("&Install"), "cmdInstall", At(3480, 3960, 1440, 400));
+    cmdCancel = MakeButton(this, tr("&Close"), "cmdCancel", At(5040, 3960, 1440, 400));
     connect(cmdInstall, &QPushButton::clicked, this, Handler([this] { cmdInstall_Click(); }));
     connect(cmdCancel, &QPushButton::clicked, this, Handler([this] { cmdCancel_Click(); }));
 }

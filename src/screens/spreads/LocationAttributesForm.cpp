@@ -34,14 +34,14 @@ void SetMultiLine(QWidget* box, const QString& text) { static_cast<MultiLineText
 
 LocationAttributesForm::LocationAttributesForm(bool locked, int descriptionLimit) {
     resize(TwipsToPixels(6900), TwipsToPixels(6120));
-    AddCaption(this, QStringLiteral("Title:"), 120);
+    AddCaption(this, tr("Title:"), 120);
     txtTitle = new TextBox(this);
     txtTitle->setObjectName(QStringLiteral("txtTitle"));
     txtTitle->setMaxLength(30);
     txtTitle->setGeometry(At(120, 390, 6600, 330));
     txtTitle->setReadOnly(locked);
 
-    AddCaption(this, QStringLiteral("Description:"), 840);
+    AddCaption(this, tr("Description:"), 840);
     txtDescription = new MultiLineTextBox(this);
     txtDescription->setObjectName(QStringLiteral("txtDescription"));
     txtDescription->setMaxLength(descriptionLimit);
@@ -50,7 +50,7 @@ LocationAttributesForm::LocationAttributesForm(bool locked, int descriptionLimit
 
     int top = 3330;
     for (int i = 1; i <= 3; ++i) {
-        AddCaption(this, QStringLiteral("Question %1:").arg(i), top);
+        AddCaption(this, tr("Question %1:").arg(i), top);
         auto* box = new TextBox(this);
         box->setObjectName(QStringLiteral("txtQuestion%1").arg(i));
         box->setMaxLength(125);
@@ -59,7 +59,7 @@ LocationAttributesForm::LocationAttributesForm(bool locked, int descriptionLimit
         question_[static_cast<std::size_t>(i - 1)] = box;
         top += 720;
     }
-    cmdClose = new QPushButton(QStringLiteral("&Close"), this);
+    cmdClose = new QPushButton(tr("&Close"), this);
     cmdClose->setObjectName(QStringLiteral("cmdClose"));
     cmdClose->setGeometry(At(5400, top + 60, 1320, 400));
     connect(cmdClose, &QPushButton::clicked, this, Handler([this] { cmdClose_Click(); }));
@@ -72,7 +72,7 @@ TextBox* LocationAttributesForm::txtQuestion(int Index) const {
 
 void LocationAttributesForm::Form_Load() {
     CentreLowInFrame(*this);
-    setCaption(QStringLiteral("Location Attriubtes - Location number ") + QString::number(SelectedLocation));
+    setCaption(tr("Location Attriubtes - Location number %1").arg(SelectedLocation));
     LocationRecord& location = SpreadLocations(SelectedLocation);
     TakeField(location.LocationTitle, txtTitle, SetLine);
     TakeField(location.LocationDescription, txtDescription, SetMultiLine);

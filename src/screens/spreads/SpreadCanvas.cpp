@@ -216,7 +216,7 @@ void SpreadCanvas::BuildLocation(int Index) {
     title->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     title->setAttribute(Qt::WA_TransparentForMouseEvents);
 
-    auto* attributes = new QPushButton(QStringLiteral("Attributes"), pic);
+    auto* attributes = new QPushButton(tr("Attributes"), pic);
     attributes->setObjectName(QStringLiteral("cmdCardAttributes%1").arg(Index));
     attributes->setGeometry(PixelRect(720, 600, 900, 310));
     attributes->installEventFilter(this);
@@ -294,7 +294,7 @@ QString SpreadCanvas::ToggleGrid(Integer stepX, Integer stepY) {
         }
         line->setVisible(show);
     }
-    return show ? QStringLiteral("Hide &Grid") : QStringLiteral("Show &Grid");
+    return show ? tr("Hide &Grid") : tr("Show &Grid");
 }
 
 void SpreadCanvas::SetLocationActive(int Index, bool active) {

@@ -34,10 +34,10 @@ SpreadDetailsPage::SpreadDetailsPage(bool withNotes, QWidget* parent) : QWidget(
     setObjectName(QStringLiteral("picDesignInfo"));
     const int labelLeft = 240, boxLeft = 1800, boxWidth = 7400;
 
-    Caption(this, QStringLiteral("lblTitle"), QStringLiteral("Title:"), At(labelLeft, 240, 1500, 300));
+    Caption(this, QStringLiteral("lblTitle"), tr("Title:"), At(labelLeft, 240, 1500, 300));
     txtSpreadTitle = Line(this, QStringLiteral("txtSpreadTitle"), 50, At(boxLeft, 200, boxWidth, 330));
 
-    Caption(this, QStringLiteral("lblDescription"), QStringLiteral("Description:"), At(labelLeft, 660, 1500, 300));
+    Caption(this, QStringLiteral("lblDescription"), tr("Description:"), At(labelLeft, 660, 1500, 300));
     txtSpreadDescription = new MultiLineTextBox(this);
     txtSpreadDescription->setObjectName(QStringLiteral("txtSpreadDescription"));
     txtSpreadDescription->setMaxLength(1500);
@@ -46,7 +46,7 @@ SpreadDetailsPage::SpreadDetailsPage(bool withNotes, QWidget* parent) : QWidget(
 
     int top = 640 + descriptionHeight + 120;
     if (withNotes) {
-        Caption(this, QStringLiteral("lblComments"), QStringLiteral("Notes:"), At(labelLeft, top + 20, 1500, 300));
+        Caption(this, QStringLiteral("lblComments"), tr("Notes:"), At(labelLeft, top + 20, 1500, 300));
         txtComments = new MultiLineTextBox(this);
         txtComments->setObjectName(QStringLiteral("txtComments"));
         txtComments->setMaxLength(650);
@@ -54,20 +54,20 @@ SpreadDetailsPage::SpreadDetailsPage(bool withNotes, QWidget* parent) : QWidget(
         top += 1020;
     }
 
-    Caption(this, QStringLiteral("lblDesigner"), QStringLiteral("Designer:"), At(labelLeft, top + 20, 1500, 300));
+    Caption(this, QStringLiteral("lblDesigner"), tr("Designer:"), At(labelLeft, top + 20, 1500, 300));
     txtSpreadDesigner = Line(this, QStringLiteral("txtSpreadDesigner"), 40, At(boxLeft, top, boxWidth, 330));
     top += 450;
-    Caption(this, QStringLiteral("lblEmail"), QStringLiteral("E-mail:"), At(labelLeft, top + 20, 1500, 300));
+    Caption(this, QStringLiteral("lblEmail"), tr("E-mail:"), At(labelLeft, top + 20, 1500, 300));
     txtDesignerEmail = Line(this, QStringLiteral("txtDesignerEmail"), 40, At(boxLeft, top, boxWidth, 330));
     top += 450;
-    Caption(this, QStringLiteral("lblWebPage"), QStringLiteral("Web Page:"), At(labelLeft, top + 20, 1500, 300));
+    Caption(this, QStringLiteral("lblWebPage"), tr("Web Page:"), At(labelLeft, top + 20, 1500, 300));
     txtDesignerWebPage = Line(this, QStringLiteral("txtDesignerWebPage"), 50, At(boxLeft, top, boxWidth, 330));
     top += 480;
 
-    chkQuestion = new QCheckBox(QStringLiteral("Question or Query"), this);
+    chkQuestion = new QCheckBox(tr("Question or Query"), this);
     chkQuestion->setObjectName(QStringLiteral("chkQuestion"));
     chkQuestion->setGeometry(At(boxLeft, top, 3000, 330));
-    Caption(this, QStringLiteral("lblModifiedOn"), QStringLiteral("Modified On:"), At(5400, top + 20, 1500, 300));
+    Caption(this, QStringLiteral("lblModifiedOn"), tr("Modified On:"), At(5400, top + 20, 1500, 300));
     lblModifiedOnDate = Caption(this, QStringLiteral("lblModifiedOnDate"), QString(), At(6900, top + 20, 2000, 300));
 }
 

@@ -27,34 +27,33 @@ QPushButton* Button(QWidget* parent, const QString& name, const QString& caption
 
 frmDeckChooser::frmDeckChooser() {
     setObjectName(QStringLiteral("frmDeckChooser"));
-    setCaption(QStringLiteral("Decks Available"));
+    setCaption(tr("Decks Available"));
     resize(TwipsToPixels(9000), TwipsToPixels(5700));
 
-    chkAnyDeck = new QCheckBox(QStringLiteral("&Allow this spread to use all available decks"), this);
+    chkAnyDeck = new QCheckBox(tr("&Allow this spread to use all available decks"), this);
     chkAnyDeck->setObjectName(QStringLiteral("chkAnyDeck"));
     chkAnyDeck->setGeometry(At(120, 120, 6000, 330));
-    lblAvailable = new QLabel(QStringLiteral("Available Decks:"), this);
+    lblAvailable = new QLabel(tr("Available Decks:"), this);
     lblAvailable->setObjectName(QStringLiteral("lblAvailable"));
     lblAvailable->setGeometry(At(120, 600, 3400, 300));
     lstAvailableDecks = new ListBox(this);
     lstAvailableDecks->setSorted(true);
     lstAvailableDecks->setObjectName(QStringLiteral("lstAvailableDecks"));
     lstAvailableDecks->setGeometry(At(120, 900, 3400, 3480));
-    lblDecks = new QLabel(QStringLiteral("Spread works on the following Decks:"), this);
+    lblDecks = new QLabel(tr("Spread works on the following Decks:"), this);
     lblDecks->setObjectName(QStringLiteral("lblDecks"));
     lblDecks->setGeometry(At(5400, 600, 3480, 300));
     lstDecks = new ListBox(this);
     lstDecks->setSorted(true);
     lstDecks->setObjectName(QStringLiteral("lstDecks"));
     lstDecks->setGeometry(At(5400, 900, 3480, 3480));
-    cmdAddDeck = Button(this, QStringLiteral("cmdAddDeck"), QStringLiteral("Add &>>"), At(3720, 1800, 1480, 420));
-    cmdDeleteDeck =
-        Button(this, QStringLiteral("cmdDeleteDeck"), QStringLiteral("&<< Delete"), At(3720, 2400, 1480, 420));
-    chkInstallAll = new QCheckBox(QStringLiteral("&Install all spreads in the package with selected decks"), this);
+    cmdAddDeck = Button(this, QStringLiteral("cmdAddDeck"), tr("Add &>>"), At(3720, 1800, 1480, 420));
+    cmdDeleteDeck = Button(this, QStringLiteral("cmdDeleteDeck"), tr("&<< Delete"), At(3720, 2400, 1480, 420));
+    chkInstallAll = new QCheckBox(tr("&Install all spreads in the package with selected decks"), this);
     chkInstallAll->setObjectName(QStringLiteral("chkInstallAll"));
     chkInstallAll->setGeometry(At(120, 4560, 5400, 330));
-    cmdLink = Button(this, QStringLiteral("cmdLink"), QStringLiteral("&Save"), At(5760, 5040, 1440, 420));
-    cmdClose = Button(this, QStringLiteral("cmdClose"), QStringLiteral("&Close"), At(7440, 5040, 1440, 420));
+    cmdLink = Button(this, QStringLiteral("cmdLink"), tr("&Save"), At(5760, 5040, 1440, 420));
+    cmdClose = Button(this, QStringLiteral("cmdClose"), tr("&Close"), At(7440, 5040, 1440, 420));
 
     decks_.lstAvailableDecks = lstAvailableDecks;
     decks_.lstDecks = lstDecks;
@@ -77,20 +76,20 @@ frmDeckChooser::frmDeckChooser() {
 
 void frmDeckChooser::Form_Load() {
     CentreInFrame(*this);
-    setCaption(QStringLiteral("Choose decks to work with spread: ") + CurrentSpread.SpreadName.Trimmed());
+    setCaption(tr("Choose decks to work with spread: %1").arg(CurrentSpread.SpreadName.Trimmed()));
     RememberedSpreadName = CurrentSpread.SpreadName.Value();
     decks_.Decks = ChooserManageMode ? nullptr : DecksOnOffer;
     decks_.ShowDeckLists();
     if (ChooserManageMode) {
         cmdLink->show();
-        cmdClose->setText(QStringLiteral("&Close"));
+        cmdClose->setText(tr("&Close"));
         chkInstallAll->hide();
         AddDeckNames();
     } else {
         cmdLink->hide();
         chkInstallAll->show();
         chkInstallAll->setChecked(InstallAllSpreads);
-        cmdClose->setText(QStringLiteral("&Continue"));
+        cmdClose->setText(tr("&Continue"));
         // What the package said about decks does not count here.
         CurrentSpread.AllowedDeckCount = 0;
         CurrentSpread.AllowedDeckId.fill(0);
@@ -135,12 +134,12 @@ void frmDeckChooser::cmdClose_Click() { UnloadThisForm(); }
 void frmDeckChooser::UnloadThisForm() {
     if (!ChooserManageMode) cmdLink_Click();
     if (ChooserDirty) {
-        const int answer = MsgBox(QStringLiteral("Save changes to the spread?"), vbYesNoCancel | vbQuestion);
+        const int answer = MsgBox(tr("Save changes to the spread?"), vbYesNoCancel | vbQuestion);
         if (answer == vbCancel) return;
         if (answer == vbYes) cmdLink_Click();
     }
     if (!chkAnyDeck->isChecked() && lstDecks->ListCount() == 0 &&
-        MsgBox(QStringLiteral("No decks have been selected.  Are you sure you want to continue?"), vbYesNo) == vbNo)
+        MsgBox(tr("No decks have been selected.  Are you sure you want to continue?"), vbYesNo) == vbNo)
         return;
     if (ChooserManageMode) {
         SetScreenPointer(MousePointer::Hourglass);

@@ -60,7 +60,7 @@ bool IsEnter(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter; }
 
 frmDesignSpread::frmDesignSpread() {
     setObjectName(QStringLiteral("frmDesignSpread"));
-    setCaption(QStringLiteral("Spread Design"));
+    setCaption(tr("Spread Design"));
     resize(TwipsToPixels(11400), TwipsToPixels(6300));
 
     picDesignInfo = new SpreadDetailsPage(false, this);
@@ -71,30 +71,27 @@ frmDesignSpread::frmDesignSpread() {
     picDecks = new QWidget(this);
     picDecks->setObjectName(QStringLiteral("picDecks"));
     picDecks->setGeometry(At(PageLeft, PageTop, CanvasWidth, CanvasHeight));
-    Label1 = new QLabel(QStringLiteral("Available Decks:"), picDecks);
+    Label1 = new QLabel(tr("Available Decks:"), picDecks);
     Label1->setObjectName(QStringLiteral("Label1"));
     Label1->setGeometry(At(240, 600, 3600, 300));
     lstAvailableDecks = new ListBox(picDecks);
     lstAvailableDecks->setSorted(true);
     lstAvailableDecks->setObjectName(QStringLiteral("lstAvailableDecks"));
     lstAvailableDecks->setGeometry(At(240, 900, 3600, 3600));
-    lblDecks = new QLabel(QStringLiteral("Spread works on the following Decks:"), picDecks);
+    lblDecks = new QLabel(tr("Spread works on the following Decks:"), picDecks);
     lblDecks->setObjectName(QStringLiteral("lblDecks"));
     lblDecks->setGeometry(At(5640, 600, 3600, 300));
     lstDecks = new ListBox(picDecks);
     lstDecks->setSorted(true);
     lstDecks->setObjectName(QStringLiteral("lstDecks"));
     lstDecks->setGeometry(At(5640, 900, 3600, 3600));
-    chkAnyDeck = new QCheckBox(QStringLiteral("&Allow this spread to use all available decks"), picDecks);
+    chkAnyDeck = new QCheckBox(tr("&Allow this spread to use all available decks"), picDecks);
     chkAnyDeck->setObjectName(QStringLiteral("chkAnyDeck"));
     chkAnyDeck->setGeometry(At(240, 180, 6000, 330));
-    cmdAddDeck = Button(picDecks, QStringLiteral("cmdAddDeck"), QStringLiteral("Add &>>"), At(4020, 1800, 1440, 420));
-    cmdDeleteDeck =
-        Button(picDecks, QStringLiteral("cmdDeleteDeck"), QStringLiteral("&<< Delete"), At(4020, 2400, 1440, 420));
-    cmdRemoveDeck =
-        Button(picDecks, QStringLiteral("cmdRemoveDeck"), QStringLiteral("&Remove"), At(5640, 4680, 1500, 420));
-    cmdBrowseDeck =
-        Button(picDecks, QStringLiteral("cmdBrowseDeck"), QStringLiteral("&Browse..."), At(7740, 4680, 1500, 420));
+    cmdAddDeck = Button(picDecks, QStringLiteral("cmdAddDeck"), tr("Add &>>"), At(4020, 1800, 1440, 420));
+    cmdDeleteDeck = Button(picDecks, QStringLiteral("cmdDeleteDeck"), tr("&<< Delete"), At(4020, 2400, 1440, 420));
+    cmdRemoveDeck = Button(picDecks, QStringLiteral("cmdRemoveDeck"), tr("&Remove"), At(5640, 4680, 1500, 420));
+    cmdBrowseDeck = Button(picDecks, QStringLiteral("cmdBrowseDeck"), tr("&Browse..."), At(7740, 4680, 1500, 420));
     // Decks are tied to a spread on the deck chooser; these two stay hidden.
     cmdRemoveDeck->hide();
     cmdBrowseDeck->hide();
@@ -116,17 +113,17 @@ frmDesignSpread::frmDesignSpread() {
         top += gap;
         return where;
     };
-    cmdDesignInfo = Button(this, QStringLiteral("cmdDesignInfo"), QStringLiteral("&Details"), next());
-    cmdSpread = Button(this, QStringLiteral("cmdSpread"), QStringLiteral("Sp&read"), next());
-    cmdDecks = Button(this, QStringLiteral("cmdDecks"), QStringLiteral("Dec&ks"), next(600));
-    cmdAddCard = Button(this, QStringLiteral("cmdAddCard"), QStringLiteral("&Add"), next());
-    cmdRemoveCard = Button(this, QStringLiteral("cmdRemoveCard"), QStringLiteral("Re&move"), next());
-    cmdGrid = Button(this, QStringLiteral("cmdGrid"), QStringLiteral("Show &Grid"), next());
-    cmdSnap = Button(this, QStringLiteral("cmdSnap"), QStringLiteral("S&nap"), next(600));
-    cmdPicture = Button(this, QStringLiteral("cmdPicture"), QStringLiteral("&Picture"), next());
-    cmdComments = Button(this, QStringLiteral("cmdComments"), QStringLiteral("No&tes"), next(600));
-    cmdSave = Button(this, QStringLiteral("cmdSave"), QStringLiteral("&Save"), next());
-    cmdBack = Button(this, QStringLiteral("cmdBack"), QStringLiteral("&Close"), next());
+    cmdDesignInfo = Button(this, QStringLiteral("cmdDesignInfo"), tr("&Details"), next());
+    cmdSpread = Button(this, QStringLiteral("cmdSpread"), tr("Sp&read"), next());
+    cmdDecks = Button(this, QStringLiteral("cmdDecks"), tr("Dec&ks"), next(600));
+    cmdAddCard = Button(this, QStringLiteral("cmdAddCard"), tr("&Add"), next());
+    cmdRemoveCard = Button(this, QStringLiteral("cmdRemoveCard"), tr("Re&move"), next());
+    cmdGrid = Button(this, QStringLiteral("cmdGrid"), tr("Show &Grid"), next());
+    cmdSnap = Button(this, QStringLiteral("cmdSnap"), tr("S&nap"), next(600));
+    cmdPicture = Button(this, QStringLiteral("cmdPicture"), tr("&Picture"), next());
+    cmdComments = Button(this, QStringLiteral("cmdComments"), tr("No&tes"), next(600));
+    cmdSave = Button(this, QStringLiteral("cmdSave"), tr("&Save"), next());
+    cmdBack = Button(this, QStringLiteral("cmdBack"), tr("&Close"), next());
     cmdDecks->hide();
 
     // ---- Events ----
@@ -248,7 +245,7 @@ void frmDesignSpread::Form_Load() {
 
 void frmDesignSpread::FillFields() {
     const QString name = CurrentSpread.SpreadName.Trimmed();
-    setCaption(name.isEmpty() ? QStringLiteral("Spread Design") : QStringLiteral("Spread Design - ") + name);
+    setCaption(name.isEmpty() ? tr("Spread Design") : tr("Spread Design - %1").arg(name));
     picDesignInfo->Fill(CurrentSpread);
     if (CurrentSpread.AllowedDeckCount < 0) chkAnyDeck->setChecked(true);
     UpdateDeckButtons();
@@ -315,9 +312,7 @@ void frmDesignSpread::SetFocusTo(QWidget* control, int Index) {
 
 void frmDesignSpread::cmdAddCard_Click() {
     if (CurrentSpread.LocationCount >= MaxLocations) {
-        MsgBox(QStringLiteral("The number of locations in a spread cannot exceed ") + QString::number(MaxLocations) +
-                   QStringLiteral("."),
-               vbCritical);
+        MsgBox(tr("The number of locations in a spread cannot exceed %1.").arg(MaxLocations), vbCritical);
         return;
     }
     // The array is made anew one larger: the new entry is every byte zero,
@@ -344,11 +339,10 @@ void frmDesignSpread::cmdAddCard_Click() {
 void frmDesignSpread::cmdRemoveCard_Click() {
     const int count = CurrentSpread.LocationCount;
     if (count < 1) {
-        MsgBox(QStringLiteral("There are no locations to be removed."), vbExclamation);
+        MsgBox(tr("There are no locations to be removed."), vbExclamation);
         return;
     }
-    if (MsgBox(QStringLiteral("Are you sure you want to completely remove location number ") +
-                   QString::number(SelectedLocation) + QStringLiteral(" ?"),
+    if (MsgBox(tr("Are you sure you want to completely remove location number %1 ?").arg(SelectedLocation),
                vbYesNo | vbQuestion) == vbNo)
         return;
     // Every higher location goes down one number, keeping its place and its
@@ -443,11 +437,11 @@ void frmDesignSpread::cmdGrid_Click() { cmdGrid->setText(picDesignLocations->Tog
 void frmDesignSpread::cmdSnap_Click() {
     if (SnapOn) {
         SnapOn = false;
-        cmdSnap->setText(QStringLiteral("S&nap"));
+        cmdSnap->setText(tr("S&nap"));
         return;
     }
     SnapOn = true;
-    cmdSnap->setText(QStringLiteral("Don't S&nap"));
+    cmdSnap->setText(tr("Don't S&nap"));
     for (int i = 1; i <= CurrentSpread.LocationCount; ++i) SnapLocation(i);
 }
 
@@ -469,9 +463,7 @@ void frmDesignSpread::chkAnyDeck_Click() {
 void frmDesignSpread::cmdRemoveDeck_Click() {
     if (lstDecks->ListIndex() < 0) return;
     const QString name = TrimField(lstDecks->Text());
-    if (MsgBox(QStringLiteral("Are you sure you want to remove deck '") + name + QStringLiteral("' ?"),
-               vbYesNo | vbQuestion) == vbNo)
-        return;
+    if (MsgBox(tr("Are you sure you want to remove deck '%1' ?").arg(name), vbYesNo | vbQuestion) == vbNo) return;
     // The deck does not go back to the available list.
     lstDecks->RemoveItem(lstDecks->ListIndex());
     SpreadDirty = true;
@@ -516,7 +508,7 @@ void frmDesignSpread::cmdSave_Click() {
 
 void frmDesignSpread::cmdBack_Click() {
     if (SpreadDirty) {
-        const int answer = MsgBox(QStringLiteral("Save changes to the spread?"), vbYesNoCancel | vbQuestion);
+        const int answer = MsgBox(tr("Save changes to the spread?"), vbYesNoCancel | vbQuestion);
         if (answer == vbCancel) return;
         // After Yes the screen closes whatever the save dialogue did.
         if (answer == vbYes) cmdSave_Click();

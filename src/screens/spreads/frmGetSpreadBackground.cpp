@@ -21,28 +21,28 @@ QRect At(int left, int top, int width, int height) {
 
 frmGetSpreadBackground::frmGetSpreadBackground() {
     setObjectName(QStringLiteral("frmGetSpreadBackground"));
-    setCaption(QStringLiteral("Set Spread Background"));
+    setCaption(tr("Set Spread Background"));
     resize(TwipsToPixels(6600), TwipsToPixels(3300));
 
-    auto* label = new QLabel(QStringLiteral("Picture file:"), this);
+    auto* label = new QLabel(tr("Picture file:"), this);
     label->setGeometry(At(120, 120, 4200, 270));
     txtFilename = new TextBox(this);
     txtFilename->setObjectName(QStringLiteral("txtFilename"));
     txtFilename->setGeometry(At(120, 390, 4800, 330));
-    cmdBrowse = new QPushButton(QStringLiteral("&Browse..."), this);
+    cmdBrowse = new QPushButton(tr("&Browse..."), this);
     cmdBrowse->setObjectName(QStringLiteral("cmdBrowse"));
     cmdBrowse->setGeometry(At(5040, 360, 1440, 400));
-    chkStretchPicture = new QCheckBox(QStringLiteral("Stretch picture to fit"), this);
+    chkStretchPicture = new QCheckBox(tr("Stretch picture to fit"), this);
     chkStretchPicture->setObjectName(QStringLiteral("chkStretchPicture"));
     chkStretchPicture->setGeometry(At(120, 900, 3600, 330));
     Image1 = new ImageBox(this);
     Image1->setObjectName(QStringLiteral("Image1"));
     Image1->setStretch(true);
     Image1->Move(120, 1380, 2400, 1560);
-    cmdOK = new QPushButton(QStringLiteral("&OK"), this);
+    cmdOK = new QPushButton(tr("&OK"), this);
     cmdOK->setObjectName(QStringLiteral("cmdOK"));
     cmdOK->setGeometry(At(5040, 2040, 1440, 400));
-    cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
+    cmdCancel = new QPushButton(tr("&Cancel"), this);
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     cmdCancel->setGeometry(At(5040, 2560, 1440, 400));
 
@@ -59,11 +59,11 @@ void frmGetSpreadBackground::Form_Load() {
 }
 
 void frmGetSpreadBackground::cmdBrowse_Click() {
-    CommonDialog1.Filter = QStringLiteral(
-        "Bitmaps (*.bmp)|*.bmp|Joint Photographic Experts Group (*.jpg)|*.jpg|Graphics Interchange Format "
-        "(*.gif)|*.gif|All Supported Types (*.bmp; *.jpg; *.gif)|*.bmp;*.jpg;*.gif");
+    CommonDialog1.Filter =
+        tr("Bitmaps (*.bmp)|*.bmp|Joint Photographic Experts Group (*.jpg)|*.jpg|Graphics Interchange Format "
+           "(*.gif)|*.gif|All Supported Types (*.bmp; *.jpg; *.gif)|*.bmp;*.jpg;*.gif");
     CommonDialog1.FilterIndex = 4;
-    CommonDialog1.DialogTitle = QStringLiteral("Select Background Picture");
+    CommonDialog1.DialogTitle = tr("Select Background Picture");
     CommonDialog1.Flags = CommonDialog::cdlOFNHideReadOnly;
     CommonDialog1.ShowOpen();
     txtFilename->setText(CommonDialog1.FileName);

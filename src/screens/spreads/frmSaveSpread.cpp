@@ -21,26 +21,26 @@ QRect At(int left, int top, int width, int height) {
 
 frmSaveSpread::frmSaveSpread() {
     setObjectName(QStringLiteral("frmSaveSpread"));
-    setCaption(QStringLiteral("Save Spread"));
+    setCaption(tr("Save Spread"));
     resize(TwipsToPixels(5400), TwipsToPixels(4200));
 
-    auto* lblSaveAs = new QLabel(QStringLiteral("Save spread as:"), this);
+    auto* lblSaveAs = new QLabel(tr("Save spread as:"), this);
     lblSaveAs->setGeometry(At(120, 120, 3600, 300));
     txtSaveAs = new TextBox(this);
     txtSaveAs->setObjectName(QStringLiteral("txtSaveAs"));
     txtSaveAs->setMaxLength(30);
     txtSaveAs->setGeometry(At(120, 420, 3600, 330));
-    auto* lblNames = new QLabel(QStringLiteral("Saved spreads:"), this);
+    auto* lblNames = new QLabel(tr("Saved spreads:"), this);
     lblNames->setGeometry(At(120, 870, 3600, 300));
     lstSpreadNames = new ListBox(this);
     lstSpreadNames->setSorted(true);
     lstSpreadNames->setObjectName(QStringLiteral("lstSpreadNames"));
     lstSpreadNames->setGeometry(At(120, 1170, 3600, 2820));
 
-    cmdSave = new QPushButton(QStringLiteral("&Save"), this);
+    cmdSave = new QPushButton(tr("&Save"), this);
     cmdSave->setObjectName(QStringLiteral("cmdSave"));
     cmdSave->setGeometry(At(3900, 420, 1320, 420));
-    cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
+    cmdCancel = new QPushButton(tr("&Cancel"), this);
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     cmdCancel->setGeometry(At(3900, 960, 1320, 420));
 

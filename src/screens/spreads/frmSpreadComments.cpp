@@ -10,13 +10,13 @@
 
 frmSpreadComments::frmSpreadComments() {
     setObjectName(QStringLiteral("frmSpreadComments"));
-    setCaption(QStringLiteral("Spread Notes"));
+    setCaption(tr("Spread Notes"));
     resize(TwipsToPixels(5400), TwipsToPixels(4200));
     txtComments = new MultiLineTextBox(this);
     txtComments->setObjectName(QStringLiteral("txtComments"));
     txtComments->setMaxLength(500);
     txtComments->setGeometry(TwipsToPixels(120), TwipsToPixels(120), TwipsToPixels(5160), TwipsToPixels(3360));
-    cmdClose = new QPushButton(QStringLiteral("&Close"), this);
+    cmdClose = new QPushButton(tr("&Close"), this);
     cmdClose->setObjectName(QStringLiteral("cmdClose"));
     cmdClose->setGeometry(TwipsToPixels(3960), TwipsToPixels(3600), TwipsToPixels(1320), TwipsToPixels(420));
     connect(cmdClose, &QPushButton::clicked, this, Handler([this] { cmdClose_Click(); }));

@@ -24,9 +24,6 @@ constexpr int PageTop = 120;
 constexpr int CanvasWidth = 9615;
 constexpr int CanvasHeight = 5895;
 
-const QString AllDecksEntry = QStringLiteral("                          [ ALL DECKS ] ");
-const QString MissingDeckEntry = QStringLiteral("     [ MISSING DECK ] ");
-
 QRect At(int left, int top, int width, int height) {
     return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
 }
@@ -41,7 +38,7 @@ QPushButton* Button(QWidget* parent, const QString& name, const QString& caption
 
 frmSpreadInfo::frmSpreadInfo() {
     setObjectName(QStringLiteral("frmSpreadInfo"));
-    setCaption(QStringLiteral("View Spread"));
+    setCaption(tr("View Spread"));
     resize(TwipsToPixels(11520), TwipsToPixels(6300));
 
     picDesignInfo = new SpreadDetailsPage(true, this);
@@ -52,7 +49,7 @@ frmSpreadInfo::frmSpreadInfo() {
     picDecks = new QWidget(this);
     picDecks->setObjectName(QStringLiteral("picDecks"));
     picDecks->setGeometry(At(PageLeft, PageTop, CanvasWidth, CanvasHeight));
-    auto* lblDecks = new QLabel(QStringLiteral("Spread works on the following Decks:"), picDecks);
+    auto* lblDecks = new QLabel(tr("Spread works on the following Decks:"), picDecks);
     lblDecks->setGeometry(At(240, 600, 4800, 300));
     lstDecks = new ListBox(picDecks);
     lstDecks->setSorted(true);
@@ -60,11 +57,11 @@ frmSpreadInfo::frmSpreadInfo() {
     lstDecks->setGeometry(At(240, 900, 4800, 3600));
 
     const int column = PageLeft + CanvasWidth + 150;
-    cmdDesignInfo = Button(this, QStringLiteral("cmdDesignInfo"), QStringLiteral("&Details"), column, 120);
-    cmdSpread = Button(this, QStringLiteral("cmdSpread"), QStringLiteral("Sp&read"), column, 600);
-    cmdDecks = Button(this, QStringLiteral("cmdDecks"), QStringLiteral("Dec&ks"), column, 1080);
-    cmdGrid = Button(this, QStringLiteral("cmdGrid"), QStringLiteral("Show &Grid"), column, 1680);
-    cmdClose = Button(this, QStringLiteral("cmdClose"), QStringLiteral("&Close"), column, 5580);
+    cmdDesignInfo = Button(this, QStringLiteral("cmdDesignInfo"), tr("&Details"), column, 120);
+    cmdSpread = Button(this, QStringLiteral("cmdSpread"), tr("Sp&read"), column, 600);
+    cmdDecks = Button(this, QStringLiteral("cmdDecks"), tr("Dec&ks"), column, 1080);
+    cmdGrid = Button(this, QStringLiteral("cmdGrid"), tr("Show &Grid"), column, 1680);
+    cmdClose = Button(this, QStringLiteral("cmdClose"), tr("&Close"), column, 5580);
     // As on the designer, the deck page is not reachable.
     cmdDecks->hide();
 
@@ -100,13 +97,13 @@ void frmSpreadInfo::Form_Load() {
 
 void frmSpreadInfo::FillFields() {
     const QString name = CurrentSpread.SpreadName.Trimmed();
-    setCaption(name.isEmpty() ? QStringLiteral("Spread View") : QStringLiteral("Spread View - ") + name);
+    setCaption(name.isEmpty() ? tr("Spread View") : tr("Spread View - %1").arg(name));
     picDesignInfo->Fill(CurrentSpread);
     if (CurrentSpread.AllowedDeckCount >= 0) {
         AddDeckNames();
     } else {
         for (int i = 0; i < 3; ++i) lstDecks->AddItem(QString());
-        lstDecks->AddItem(AllDecksEntry);
+        lstDecks->AddItem(tr("                          [ ALL DECKS ] "));
     }
     picDesignLocations->ShowLocations(SpreadLocations, CurrentSpread.LocationCount);
 
@@ -124,7 +121,7 @@ void frmSpreadInfo::FillFields() {
 void frmSpreadInfo::AddDeckNames() {
     for (int i = 1; i <= CurrentSpread.AllowedDeckCount && i <= 10; ++i) {
         const QString deck = DeckNameById(CurrentSpread.AllowedDeckId[static_cast<std::size_t>(i - 1)]);
-        lstDecks->AddItem(deck.isEmpty() ? MissingDeckEntry : deck);
+        lstDecks->AddItem(deck.isEmpty() ? tr("     [ MISSING DECK ] ") : deck);
     }
     if (lstDecks->ListCount() > 0) lstDecks->setListIndex(0);
 }

@@ -45,35 +45,33 @@ QLabel* SummaryLine(QWidget* frame, const QString& name, const QString& caption,
 
 frmSpreads::frmSpreads() {
     setObjectName(QStringLiteral("frmSpreads"));
-    setCaption(QStringLiteral("Spreads' Menu"));
+    setCaption(tr("Spreads' Menu"));
     resize(TwipsToPixels(9660), TwipsToPixels(4500));
 
-    auto* lblAvailable = new QLabel(QStringLiteral("Available Spreads:"), this);
+    auto* lblAvailable = new QLabel(tr("Available Spreads:"), this);
     lblAvailable->setGeometry(At(120, 120, 3400, 300));
     lstSpreads = new ListBox(this);
     lstSpreads->setSorted(true);
     lstSpreads->setObjectName(QStringLiteral("lstSpreads"));
     lstSpreads->setGeometry(At(120, 420, 3400, 3840));
 
-    fraQuickInfo = new QGroupBox(QStringLiteral(" Brief Info "), this);
+    fraQuickInfo = new QGroupBox(tr(" Brief Info "), this);
     fraQuickInfo->setObjectName(QStringLiteral("fraQuickInfo"));
     fraQuickInfo->setGeometry(At(3660, 360, 4100, 2400));
-    lblTitleField = SummaryLine(fraQuickInfo, QStringLiteral("lblTitleField"), QStringLiteral("Title:"), 360);
-    lblDesignerNameField =
-        SummaryLine(fraQuickInfo, QStringLiteral("lblDesignerNameField"), QStringLiteral("Designer:"), 690);
-    lblDesignDateField =
-        SummaryLine(fraQuickInfo, QStringLiteral("lblDesignDateField"), QStringLiteral("Modified On:"), 1020);
-    lblDecksField = SummaryLine(fraQuickInfo, QStringLiteral("lblDecksField"), QStringLiteral("Decks:"), 1350);
+    lblTitleField = SummaryLine(fraQuickInfo, QStringLiteral("lblTitleField"), tr("Title:"), 360);
+    lblDesignerNameField = SummaryLine(fraQuickInfo, QStringLiteral("lblDesignerNameField"), tr("Designer:"), 690);
+    lblDesignDateField = SummaryLine(fraQuickInfo, QStringLiteral("lblDesignDateField"), tr("Modified On:"), 1020);
+    lblDecksField = SummaryLine(fraQuickInfo, QStringLiteral("lblDecksField"), tr("Decks:"), 1350);
     // The summary calls the locations cards: one card lies in each.
-    lblCardsField = SummaryLine(fraQuickInfo, QStringLiteral("lblCardsField"), QStringLiteral("Cards:"), 1680);
-    lblQueryField = SummaryLine(fraQuickInfo, QStringLiteral("lblQueryField"), QStringLiteral("Query:"), 2010);
+    lblCardsField = SummaryLine(fraQuickInfo, QStringLiteral("lblCardsField"), tr("Cards:"), 1680);
+    lblQueryField = SummaryLine(fraQuickInfo, QStringLiteral("lblQueryField"), tr("Query:"), 2010);
 
-    cmdInfo = MenuButton(this, QStringLiteral("cmdInfo"), QStringLiteral("&View"), 420);
-    cmdDesign = MenuButton(this, QStringLiteral("cmdDesign"), QStringLiteral("&New"), 960);
-    cmdEdit = MenuButton(this, QStringLiteral("cmdEdit"), QStringLiteral("&Edit"), 1500);
-    cmdDelete = MenuButton(this, QStringLiteral("cmdDelete"), QStringLiteral("&Delete"), 2040);
-    cmdManager = MenuButton(this, QStringLiteral("cmdManager"), QStringLiteral("&Manage"), 2580);
-    cmdClose = MenuButton(this, QStringLiteral("cmdClose"), QStringLiteral("&Close"), 3840);
+    cmdInfo = MenuButton(this, QStringLiteral("cmdInfo"), tr("&View"), 420);
+    cmdDesign = MenuButton(this, QStringLiteral("cmdDesign"), tr("&New"), 960);
+    cmdEdit = MenuButton(this, QStringLiteral("cmdEdit"), tr("&Edit"), 1500);
+    cmdDelete = MenuButton(this, QStringLiteral("cmdDelete"), tr("&Delete"), 2040);
+    cmdManager = MenuButton(this, QStringLiteral("cmdManager"), tr("&Manage"), 2580);
+    cmdClose = MenuButton(this, QStringLiteral("cmdClose"), tr("&Close"), 3840);
     for (QPushButton* button : {cmdInfo, cmdEdit, cmdDelete, cmdManager}) button->setEnabled(false);
 
     connect(lstSpreads, &ListBox::Click, this, Handler([this] { lstSpreads_Click(); }));
@@ -128,12 +126,12 @@ void frmSpreads::BriefInfo() {
     if (!GetRecord(SpreadsPath, FindSpreadByName(lstSpreads->Text()), CurrentSpread))
         RaiseError(errInputPastEndOfFile);
     LoadSpreadLocations(CurrentSpread.SpreadId, CurrentSpread.LocationCount);
-    lblQueryField->setText(CurrentSpread.AskQuestion ? QStringLiteral("Y") : QStringLiteral("N"));
+    lblQueryField->setText(CurrentSpread.AskQuestion ? tr("Y") : tr("N"));
     lblCardsField->setText(QString::number(CurrentSpread.LocationCount));
     lblDesignDateField->setText(FormatLongDate(CurrentSpread.ModifiedOn));
     lblDesignerNameField->setText(CurrentSpread.SpreadDesigner.DesignerName.Value());
-    lblDecksField->setText(CurrentSpread.AllowedDeckCount < 0 ? QStringLiteral("All")
-                                                               : QString::number(CurrentSpread.AllowedDeckCount));
+    lblDecksField->setText(CurrentSpread.AllowedDeckCount < 0 ? tr("All")
+                                                              : QString::number(CurrentSpread.AllowedDeckCount));
     lblTitleField->setText(CurrentSpread.SpreadTitle.Value());
 }
 
@@ -189,7 +187,7 @@ void frmSpreads::cmdDelete_Click() {
         return;
     }
     const QString name = TrimField(lstSpreads->Text());
-    if (MsgBox(QStringLiteral("Are you sure you want to delete spread '") + name + QStringLiteral("' ?"),
+    if (MsgBox(tr("Are you sure you want to delete spread '%1' ?").arg(name),
                vbYesNo | vbQuestion | vbDefaultButton2) == vbNo)
         return;
     const int noted = lstSpreads->ListIndex();
