@@ -29,14 +29,19 @@ void NoteAndGoOn(QStringList& problems, const std::function<void()>& step) {
 }
 
 // The final picture stems of one side, one per card: numbers upward whose
-// stem no file in Cards/ or Temp/ carries, the files of the deck being
-// replaced not counted.
+// stem no file in Cards/ or Temp/ carries, nor the sound named after it, the
+// files of the deck being replaced not counted. A sound's name follows its
+// picture's: one drawn onto another card's working sound would meet it in
+// Temp/, where the working files follow the save one by one.
 std::vector<QString> NameRow(int side, int count, const QStringList& going) {
     std::vector<QString> row;
     const TakenStems taken({CardsDir, TempDir}, going);
+    const auto isTaken = [&](int n) {
+        return taken.Contains(CardPictureStem(side, n)) || taken.Contains(QStringLiteral("M") + CardPictureStem(side, n));
+    };
     int n = 1;
     for (int i = 0; i < count; ++i) {
-        while (taken.Contains(CardPictureStem(side, n))) ++n;
+        while (isTaken(n)) ++n;
         row.push_back(CardPictureStem(side, n++));
     }
     return row;
