@@ -11,8 +11,6 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include "core/decks/DeckStore.h"
 #include "core/packages/PackageStaging.h"
@@ -228,18 +226,7 @@ class TestWriteFaults : public QObject {
     // is one.
     void RunKilled(const Operation& op, int step) {
         if (op.prepare) op.prepare();
-        const pid_t child = ::fork();
-        if (child == 0) {
-            WriteFaults::Arm(Fault::Kill, step);
-            try {
-                op.run();
-            } catch (...) {
-            }
-            ::_exit(0);
-        }
-        int status = 0;
-        ::waitpid(child, &status, 0);
-        QVERIFY2(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL, "the process outlived its kill");
+        QVERIFY2(Fixtures::KilledAt(step, op.run), "the process outlived its kill");
     }
 
     // The number of write steps of an operation, leaving its result in place.

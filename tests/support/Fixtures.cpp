@@ -1,10 +1,13 @@
 #include "support/Fixtures.h"
 
 #include <QImage>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "core/platform/FileSys.h"
 #include "core/platform/OleDate.h"
 #include "core/platform/Picture.h"
+#include "core/platform/WriteFaults.h"
 #include "core/records/RecordFile.h"
 #include "core/store/DeckLoading.h"
 #include "core/store/Housekeeping.h"
@@ -117,6 +120,21 @@ DiaryRecord NamedDiary(const QString& name) {
     r.DiaryName = name;
     r.SavedOn = 45000;
     return r;
+}
+
+bool KilledAt(int step, const std::function<void()>& writes) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        WriteFaults::Arm(WriteFaults::Fault::Kill, step);
+        try {
+            writes();
+        } catch (...) {
+        }
+        ::_exit(0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
 }
 
 }  // namespace Fixtures

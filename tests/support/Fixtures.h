@@ -53,6 +53,11 @@ Integer MakeSpread(const QString& name, int locationCount, const QList<Integer>&
 ReadingRecord NamedReading(const QString& name);
 DiaryRecord NamedDiary(const QString& name);
 
+// Runs the writes in a child process that dies at write step `step`, half
+// the bytes of a write stored first, as a crash leaves the folder; whether
+// it died there rather than ending before the step came.
+bool KilledAt(int step, const std::function<void()>& writes);
+
 }  // namespace Fixtures
 
 // Rewrites record n of a record file through a change.

@@ -29,14 +29,19 @@ void NoteAndGoOn(QStringList& problems, const std::function<void()>& step) {
 }
 
 // The final picture stems of one side, one per card: numbers upward whose
-// stem no file in Cards/ or Temp/ carries, the files of the deck being
-// replaced not counted.
+// stem no file in Cards/ or Temp/ carries, nor the sound named after it, the
+// files of the deck being replaced not counted. A sound's name follows its
+// picture's: one drawn onto another card's working sound would meet it in
+// Temp/, where the working files follow the save one by one.
 std::vector<QString> NameRow(int side, int count, const QStringList& going) {
     std::vector<QString> row;
     const TakenStems taken({CardsDir, TempDir}, going);
+    const auto isTaken = [&](int n) {
+        return taken.Contains(CardPictureStem(side, n)) || taken.Contains(QStringLiteral("M") + CardPictureStem(side, n));
+    };
     int n = 1;
     for (int i = 0; i < count; ++i) {
-        while (taken.Contains(CardPictureStem(side, n))) ++n;
+        while (isTaken(n)) ++n;
         row.push_back(CardPictureStem(side, n++));
     }
     return row;
@@ -111,14 +116,19 @@ DeckSaveResult SaveDeck(const DeckInMemory& inHand, const QString& name, int rep
         deck.DeckName = name;
         deck.ModifiedOn = OleToday();
         deck.DeckRevision = static_cast<Integer>(deck.DeckRevision + 1);
-        deck.DeckId = NextDeckId(replacingOne ? replacing : 0);
-
-        // The cards that go in the same write: the replaced deck's, unless
-        // another deck record carries its id as well, and every card still
-        // under the id the deck takes, which no deck holds (a delete killed
-        // between its writes leaves such cards). Their files go with them,
-        // those that no staying card names.
+        // The replaced deck's cards go with it, unless another deck record
+        // carries its id as well (a damaged file).
         const bool oldCardsGo = replacingOne && FindDeckRecordById(old.DeckId, replacing) < 0;
+        // A deck saved over another takes that deck's id, so that the spreads
+        // tied to it stay tied to the deck of that name: the smallest free id
+        // may be another, which no spread names, while the old one would be
+        // left to a later deck, which every such spread would then name.
+        deck.DeckId = oldCardsGo && old.DeckId > 0 ? old.DeckId : NextDeckId(replacingOne ? replacing : 0);
+
+        // The cards that go in the same write: the replaced deck's, and every
+        // card still under the id the deck takes, which no deck holds (a
+        // delete killed between its writes leaves such cards). Their files go
+        // with them, those that no staying card names.
         const int cardIdAt = OffsetOf(&CardRecord::CardDeckId);
         const auto goes = [&](const char* card) {
             const Integer id = RawInteger(card, cardIdAt);

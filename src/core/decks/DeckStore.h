@@ -32,8 +32,9 @@ struct DeckSaveResult {
 
 // Saves `deck` as `name` in one step, in place of deck record `replacing`
 // (-1 for none), with the pictures and sounds that its cards name in Temp/.
-// The deck takes the smallest free id and its files fresh CU, CR and M names
-// in Cards/, both drawn as if the replaced deck were gone already; its cards
+// The deck takes the replaced deck's id, or the smallest free one for a new
+// deck, and its files fresh CU, CR and M names in Cards/, drawn as if the
+// replaced deck were gone already; its cards
 // are added after every other card. Card records that stand under the id it
 // takes belong to no deck and go in the same step, with the files that they
 // alone name. Every side gets a file of its own, one on the default picture a

@@ -2,7 +2,9 @@
 
 #include <array>
 #include <cstring>
+#include <optional>
 
+#include "core/store/DesignCommit.h"
 #include "core/store/RecordPasses.h"
 
 using namespace RecordPasses;
@@ -105,20 +107,24 @@ QStringList LeavingCardFiles::Files() const {
     return files;
 }
 
-// What hangs on a design goes after the design's own record is gone: a
-// failure on the way then leaves records or files that nothing names, never
-// a design that has lost part of itself.
+// A spread goes in one step with its locations and its background, as a
+// save does: a process that dies part-way leaves the spread whole or gone,
+// never locations or a background that nothing names.
 void DeleteSpread(int recordNumber) {
-    std::vector<SpreadRecord> gone;
-    RewriteWithout<SpreadRecord>(SpreadsPath, AppPath + SpreadsTmpName, [&](const SpreadRecord& r, int number) {
-        if (number != recordNumber) return false;
-        gone.push_back(r);
-        return true;
-    });
-    for (const SpreadRecord& r : gone) {
-        DeleteSpreadLocations(r.SpreadId);
-        KillDesignFile(r.BackgroundFile.Value());
-    }
+    DesignCommit commit;
+    std::optional<SpreadRecord> gone;
+    commit.AddRecordFile(SpreadsPath, SpreadRecord::Length, [&](const char* raw, int number) -> const char* {
+        if (number != recordNumber) return raw;
+        DecodeRecord(raw, gone.emplace());
+        return nullptr;
+    }, {});
+    if (!gone) return;
+    const int idAt = OffsetOf(&LocationRecord::LocationSpreadId);
+    commit.AddRecordFile(LocationsPath, LocationRecord::Length, [&](const char* raw, int) -> const char* {
+        return RawInteger(raw, idAt) == gone->SpreadId ? nullptr : raw;
+    }, {});
+    commit.DropFile(DesignFilePath(gone->BackgroundFile.Value()));
+    commit.Commit();
 }
 
 void DeleteSpreadLocations(Integer spreadId) {
