@@ -40,8 +40,8 @@ void RowAbsolute(const char* operation, double value, double goal) {
 }
 
 void MakeDesigns() {
-    Writer<DeckRecord> decks(DecksPath);
-    Writer<CardRecord> cards(CardsPath);
+    Writer<DeckRecord> decks(TheRun.Paths.DecksPath);
+    Writer<CardRecord> cards(TheRun.Paths.CardsPath);
     for (Integer id = 1; id <= 10; ++id) {
         DeckRecord deck = ZeroRecord<DeckRecord>();
         deck.DeckName = QStringLiteral("Deck %1").arg(id);
@@ -61,8 +61,8 @@ void MakeDesigns() {
     }
     decks.Done();
     cards.Done();
-    Writer<SpreadRecord> spreads(SpreadsPath);
-    Writer<LocationRecord> locations(LocationsPath);
+    Writer<SpreadRecord> spreads(TheRun.Paths.SpreadsPath);
+    Writer<LocationRecord> locations(TheRun.Paths.LocationsPath);
     for (Integer id = 1; id <= 10; ++id) {
         SpreadRecord spread = ZeroRecord<SpreadRecord>();
         spread.SpreadName = QStringLiteral("Spread %1").arg(id);
@@ -121,12 +121,12 @@ int main(int argc, char** argv) {
     FormPaths(dir.path());
     InitDatabase();
     MakeDesigns();
-    MakeEntries(ReadingsPath, &ReadingRecord::ReadingName, &ReadingRecord::ReadingNotes, QStringLiteral("Reading "));
-    MakeEntries(DiaryPath, &DiaryRecord::DiaryName, &DiaryRecord::DiaryNotes, QStringLiteral("Diary "));
+    MakeEntries(TheRun.Paths.ReadingsPath, &ReadingRecord::ReadingName, &ReadingRecord::ReadingNotes, QStringLiteral("Reading "));
+    MakeEntries(TheRun.Paths.DiaryPath, &DiaryRecord::DiaryName, &DiaryRecord::DiaryNotes, QStringLiteral("Diary "));
 
     const double read = Time([] {
-        ReadOnce(ReadingsPath);
-        ReadOnce(DiaryPath);
+        ReadOnce(TheRun.Paths.ReadingsPath);
+        ReadOnce(TheRun.Paths.DiaryPath);
     });
     const JournalCatalogue catalogue = LoadJournalCatalogue();
     JournalQuery query;

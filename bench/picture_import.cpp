@@ -61,9 +61,9 @@ void MakeFolder(const QString& folder, const char* format, const char* extension
 }
 
 void EmptyDeck() {
-    KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
+    KillIgnoringErrors(TheRun.Paths.TempDir + QStringLiteral("*.*"));
     ResetDeck();
-    CurrentDeck.IncludesReversed = True16;
+    TheRun.CurrentDeck.IncludesReversed = True16;
 }
 
 // One whole import as the screen runs it: listed, worked, committed. The

@@ -80,8 +80,8 @@ double PeakMegabytes() {
 // decks decks of cardsEach cards with full texts and reversed sides, ids 1..decks
 // with every tenth id left out (gaps as deletions leave them).
 void MakeDecks(int decks, int cardsEach) {
-    Writer<DeckRecord> deckFile(DecksPath);
-    Writer<CardRecord> cardFile(CardsPath);
+    Writer<DeckRecord> deckFile(TheRun.Paths.DecksPath);
+    Writer<CardRecord> cardFile(TheRun.Paths.CardsPath);
     const QString text = QString(1400, QLatin1Char('x'));
     Integer id = 0;
     for (int d = 1; d <= decks; ++d) {
@@ -115,8 +115,8 @@ void MakeDecks(int decks, int cardsEach) {
 // spreads spreads of locationsEach locations, every spread open to any deck
 // or tied to the deck of its own number.
 void MakeSpreads(int spreads, int locationsEach, bool anyDeck) {
-    Writer<SpreadRecord> spreadFile(SpreadsPath);
-    Writer<LocationRecord> locationFile(LocationsPath);
+    Writer<SpreadRecord> spreadFile(TheRun.Paths.SpreadsPath);
+    Writer<LocationRecord> locationFile(TheRun.Paths.LocationsPath);
     Integer id = 0;
     for (int s = 1; s <= spreads; ++s) {
         if (++id % 10 == 0) ++id;
@@ -149,7 +149,7 @@ void MakeSpreads(int spreads, int locationsEach, bool anyDeck) {
 }
 
 void MakeReadings(int readings) {
-    Writer<ReadingRecord> file(ReadingsPath);
+    Writer<ReadingRecord> file(TheRun.Paths.ReadingsPath);
     for (int r = 1; r <= readings; ++r) {
         ReadingRecord reading = ZeroRecord<ReadingRecord>();
         reading.ReadingName = QStringLiteral("Reading %1").arg(r);
@@ -189,16 +189,16 @@ qint64 MakePictureDeck() {
     MakeDecks(1, 78);
     QImage picture(236, 283, QImage::Format_RGB888);
     qint64 bytes = 0;
-    std::vector<CardRecord> cards = ReadAllRecords<CardRecord>(CardsPath);
-    AtomicFileWriter out(CardsPath + QStringLiteral(".tmp"), CardsPath);
+    std::vector<CardRecord> cards = ReadAllRecords<CardRecord>(TheRun.Paths.CardsPath);
+    AtomicFileWriter out(TheRun.Paths.CardsPath + QStringLiteral(".tmp"), TheRun.Paths.CardsPath);
     std::vector<char> raw(CardRecord::Length);
     for (int c = 1; c <= 78; ++c) {
         CardRecord& card = cards[static_cast<std::size_t>(c - 1)];
         for (int side = 0; side < 2; ++side) {
             picture.fill(QColor((c * 37) % 256, (c * 11 + side * 90) % 256, (c * 5) % 256));
             const QString name = (side == 0 ? CardUprightName(c) : CardReversedName(c)) + QStringLiteral(".bmp");
-            picture.save(CardsDir + name, "BMP");
-            bytes += FileLen(CardsDir + name);
+            picture.save(TheRun.Paths.CardsDir + name, "BMP");
+            bytes += FileLen(TheRun.Paths.CardsDir + name);
             card.CardPicture[static_cast<std::size_t>(side)] = name;
         }
         EncodeRecord(card, raw.data());
@@ -206,9 +206,9 @@ qint64 MakePictureDeck() {
     }
     out.Commit();
     DeckRecord deck;
-    GetRecord(DecksPath, 1, deck);
+    GetRecord(TheRun.Paths.DecksPath, 1, deck);
     deck.IncludesReversed = True16;
-    PutRecord(DecksPath, 1, deck);
+    PutRecord(TheRun.Paths.DecksPath, 1, deck);
     return bytes;
 }
 
@@ -217,7 +217,7 @@ void Fresh(QTemporaryDir& dir) {
     ResetRun();
     FormPaths(dir.path());
     InitDatabase();
-    WriteWholeFile(LocationsPath, QByteArray());
+    WriteWholeFile(TheRun.Paths.LocationsPath, QByteArray());
 }
 
 }  // namespace
@@ -236,12 +236,12 @@ int main(int argc, char** argv) {
         Fresh(dir);
         MakeDecks(1, 100);
         MakeSpreads(1, 32, true);
-        GetRecord(DecksPath, 1, ListDeck);
+        GetRecord(TheRun.Paths.DecksPath, 1, TheRun.ListDeck);
         LoadDeckCards();
         const double afterDeck = PeakMegabytes();
-        GetRecord(SpreadsPath, 1, CurrentSpread);
-        LoadSpreadLocations(CurrentSpread.SpreadId, CurrentSpread.LocationCount);
-        ResetReading(CurrentReading);
+        GetRecord(TheRun.Paths.SpreadsPath, 1, TheRun.CurrentSpread);
+        LoadSpreadLocations(TheRun.CurrentSpread.SpreadId, TheRun.CurrentSpread.LocationCount);
+        ResetReading(TheRun.CurrentReading);
         Get<frmNewReading>().Show();
         app.processEvents();
         RowAbsolute("peak memory, 100-card deck loaded", afterDeck, "MB", 150, true);
@@ -272,8 +272,8 @@ int main(int argc, char** argv) {
         QTemporaryDir dir;
         Fresh(dir);
         MakeDecks(320, 100);   // 32,000 cards, about 163 MB
-        const double readCards = Time([] { ReadOnce(CardsPath); });
-        GetRecord(DecksPath, CountDecks(), ListDeck);
+        const double readCards = Time([] { ReadOnce(TheRun.Paths.CardsPath); });
+        GetRecord(TheRun.Paths.DecksPath, CountDecks(), TheRun.ListDeck);
         const double load = Time([] {
             LoadDeckCards();
         });
@@ -281,11 +281,11 @@ int main(int argc, char** argv) {
 
         const QString copyPath = dir.filePath(QStringLiteral("copy.bin"));
         const QString keep = dir.filePath(QStringLiteral("Cards.keep"));
-        CopyOnce(CardsPath, keep);
-        const double copyCards = Time([&] { CopyOnce(CardsPath, copyPath); });
+        CopyOnce(TheRun.Paths.CardsPath, keep);
+        const double copyCards = Time([&] { CopyOnce(TheRun.Paths.CardsPath, copyPath); });
         DeckRecord middle;
-        GetRecord(DecksPath, 160, middle);
-        const double del = Time([&] { DeleteDeckCards(middle.DeckId); }, [&] { CopyOnce(keep, CardsPath); });
+        GetRecord(TheRun.Paths.DecksPath, 160, middle);
+        const double del = Time([&] { DeleteDeckCards(middle.DeckId); }, [&] { CopyOnce(keep, TheRun.Paths.CardsPath); });
         Row("DeleteDeckCards on 32,000 cards", del, "copy of Cards.crd", copyCards, 2.0);
         // A deck save writes its cards in one replacement of the whole file,
         // prepared beside it and put in place by the save's plan, after a read
@@ -295,13 +295,13 @@ int main(int argc, char** argv) {
         hundred.DeckCards.Redim(1, 100);
         for (CardRecord& card : hundred.DeckCards) ResetCard(card);
         hundred.CardCount = 100;
-        FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
+        FileCopy(TheRun.Paths.DefaultPicturePath, TheRun.Paths.TempDir + DefaultPictureName);
         const QString keepDecks = dir.filePath(QStringLiteral("Decks.keep"));
-        CopyOnce(DecksPath, keepDecks);
+        CopyOnce(TheRun.Paths.DecksPath, keepDecks);
         const double save = Time([&] { SaveDeck(hundred, QStringLiteral("Saved"), -1); }, [&] {
-            CopyOnce(keep, CardsPath);
-            CopyOnce(keepDecks, DecksPath);
-            KillIgnoringErrors(CardsDir + QStringLiteral("CU*"));
+            CopyOnce(keep, TheRun.Paths.CardsPath);
+            CopyOnce(keepDecks, TheRun.Paths.DecksPath);
+            KillIgnoringErrors(TheRun.Paths.CardsDir + QStringLiteral("CU*"));
         });
         Row("100 cards saved after 32,000 cards (deck save)", save, "copy of Cards.crd", copyCards, 2.0);
         Kill(keep);
@@ -313,8 +313,8 @@ int main(int argc, char** argv) {
         Fresh(dir);
         MakeDecks(10000, 0);
         MakeSpreads(10000, 0, true);
-        const double readDecks = Time([] { ReadOnce(DecksPath); });
-        const double readSpreads = Time([] { ReadOnce(SpreadsPath); });
+        const double readDecks = Time([] { ReadOnce(TheRun.Paths.DecksPath); });
+        const double readSpreads = Time([] { ReadOnce(TheRun.Paths.SpreadsPath); });
         const QString absent = QStringLiteral("No Such Deck");
         Row("FindDeckByName on 10,000 decks, name absent", Time([&] { FindDeckByName(absent); }), "read of Decks.dck",
             readDecks, 1.5);
@@ -331,13 +331,13 @@ int main(int argc, char** argv) {
         Fresh(dir);
         MakeSpreads(1000, 32, true);   // 32,000 locations
         const QString keep = dir.filePath(QStringLiteral("Location.keep"));
-        CopyOnce(LocationsPath, keep);
-        const double copyLocations = Time([&] { CopyOnce(LocationsPath, dir.filePath(QStringLiteral("copy.bin"))); });
+        CopyOnce(TheRun.Paths.LocationsPath, keep);
+        const double copyLocations = Time([&] { CopyOnce(TheRun.Paths.LocationsPath, dir.filePath(QStringLiteral("copy.bin"))); });
         SpreadRecord middle;
-        GetRecord(SpreadsPath, 500, middle);
+        GetRecord(TheRun.Paths.SpreadsPath, 500, middle);
         LoadSpreadLocations(middle.SpreadId, 32);
         const double replace = Time([&] { ReplaceSpreadLocations(middle.SpreadId, 32); },
-                                    [&] { CopyOnce(keep, LocationsPath); });
+                                    [&] { CopyOnce(keep, TheRun.Paths.LocationsPath); });
         Row("ReplaceSpreadLocations on 32,000 locations", replace, "copy of Location.loc", copyLocations, 2.0);
     }
 
@@ -352,10 +352,10 @@ int main(int argc, char** argv) {
         });
         RowAbsolute("frmOpenReading listing 5,000 saved readings", list, "ms", 300, true);
         const QString copyPath = dir.filePath(QStringLiteral("copy.bin"));
-        const double copyReadings = Time([&] { CopyOnce(ReadingsPath, copyPath); });
+        const double copyReadings = Time([&] { CopyOnce(TheRun.Paths.ReadingsPath, copyPath); });
         const ReadingRecord reading = ZeroRecord<ReadingRecord>();
         Row("a reading saved over one of 5,000",
-            Time([&] { SaveEntry(reading, QStringLiteral("Reading 2500"), 2500, CardTypeSelected); }),
+            Time([&] { SaveEntry(reading, QStringLiteral("Reading 2500"), 2500, TheRun.CardTypeSelected); }),
             "copy of Readings.red", copyReadings, 2.0);
     }
     if (Want("lists")) {
@@ -375,13 +375,13 @@ int main(int argc, char** argv) {
     if (Want("shuffle")) {
         QTemporaryDir dir;
         Fresh(dir);
-        CurrentDeck.CardCount = 100;
-        CurrentDeck.DeckCards.Redim(1, 100);
-        for (int c = 1; c <= 100; ++c) CurrentDeck.DeckCards(c).CardType = 0;
-        CardTypeSelected = {true, false, false, false};
-        ResetReading(CurrentReading);
+        TheRun.CurrentDeck.CardCount = 100;
+        TheRun.CurrentDeck.DeckCards.Redim(1, 100);
+        for (int c = 1; c <= 100; ++c) TheRun.CurrentDeck.DeckCards(c).CardType = 0;
+        TheRun.CardTypeSelected = {true, false, false, false};
+        ResetReading(TheRun.CurrentReading);
         Get<frmNewReading>();
-        ReadingDeal.DeckCardsLeft = 100;
+        TheRun.ReadingDeal.DeckCardsLeft = 100;
         frmReadingCards& table = Get<frmReadingCards>();
         long moves = 0;
         struct Counter : QObject {
@@ -427,7 +427,7 @@ int main(int argc, char** argv) {
         const QString sameBytes = from.filePath(QStringLiteral("same.bin"));
         {
             QByteArray all;
-            for (const QString& name : Dir(CardsDir + QStringLiteral("C?0*.bmp"))) all += ReadWholeFile(CardsDir + name);
+            for (const QString& name : Dir(TheRun.Paths.CardsDir + QStringLiteral("C?0*.bmp"))) all += ReadWholeFile(TheRun.Paths.CardsDir + name);
             WriteWholeFile(sameBytes, all);
         }
         const double copyMs = Time([&] { CopyOnce(sameBytes, from.filePath(QStringLiteral("copy.bin"))); });
@@ -437,7 +437,7 @@ int main(int argc, char** argv) {
             answers.On<frmCreatePackageSummary>([](frmCreatePackageSummary& s) { s.cmdCancel->click(); });
             Get<frmMainScreen>().lblButton_Click(8);
             frmCreatePackage& create = Get<frmCreatePackage>();
-            package = PackagesDir + create.txtFilename->text();
+            package = TheRun.Paths.PackagesDir + create.txtFilename->text();
             create.lstAvailableDecks->item(0)->setCheckState(Qt::Checked);
             create.cmdCreate->click();
         });
@@ -460,7 +460,7 @@ int main(int argc, char** argv) {
                 Fresh(*targets.back());
                 MsgBoxScript::Answer(vbNo);
                 RunStartup(targets.back()->path());
-                FileCopy(package, PackagesDir + QStringLiteral("Starter.pck"));
+                FileCopy(package, TheRun.Paths.PackagesDir + QStringLiteral("Starter.pck"));
             });
         RowAbsolute("package installation: decks installed", CountDecks(), "", 1, false);
         Row("package installation, 78 cards, 156 pictures of 200 KB", installMs, "copy of the same bytes", copyMs, 3.0);
@@ -484,7 +484,7 @@ int main(int argc, char** argv) {
         frmNewReading& reading = Get<frmNewReading>();
         reading.cmdContinue->click();
         reading.cmdAllCards->click();
-        CurrentReading.ReadingNotes = QString(1500, QLatin1Char('n'));
+        TheRun.CurrentReading.ReadingNotes = QString(1500, QLatin1Char('n'));
         const QString pdf = dir.filePath(QStringLiteral("reading.pdf"));
         const double printMs = Time([&] {
             PrinterDialogScript::PrintToPdf(pdf);

@@ -33,14 +33,14 @@ int main(int argc, char** argv) {
     const int seconds = argc > 1 ? std::max(1, atoi(argv[1])) : 3;
 
     // A deck of 100 cards in memory, all of one selected type.
-    CurrentDeck.CardCount = 100;
-    CurrentDeck.DeckCards.Redim(1, 100);
-    for (int c = 1; c <= 100; ++c) CurrentDeck.DeckCards(c).CardType = 0;
-    CardTypeSelected = {true, false, false, false};
-    ResetReading(CurrentReading);
+    TheRun.CurrentDeck.CardCount = 100;
+    TheRun.CurrentDeck.DeckCards.Redim(1, 100);
+    for (int c = 1; c <= 100; ++c) TheRun.CurrentDeck.DeckCards(c).CardType = 0;
+    TheRun.CardTypeSelected = {true, false, false, false};
+    ResetReading(TheRun.CurrentReading);
 
     Get<frmNewReading>();
-    ReadingDeal.DeckCardsLeft = 100;
+    TheRun.ReadingDeal.DeckCardsLeft = 100;
     frmReadingCards& table = Get<frmReadingCards>();
 
     MoveCounter counter;

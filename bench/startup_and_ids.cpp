@@ -72,11 +72,11 @@ int main(int argc, char** argv) {
                 started ? "main screen up" : "ended early");
 
     // The id searches on full files.
-    const Integer freeDeck = WriteDesigns<DeckRecord>(DecksPath, designs, [](DeckRecord& r, Integer id) {
+    const Integer freeDeck = WriteDesigns<DeckRecord>(TheRun.Paths.DecksPath, designs, [](DeckRecord& r, Integer id) {
         r.DeckId = id;
         r.DeckName = QStringLiteral("Deck %1").arg(id);
     });
-    const Integer freeSpread = WriteDesigns<SpreadRecord>(SpreadsPath, designs, [](SpreadRecord& r, Integer id) {
+    const Integer freeSpread = WriteDesigns<SpreadRecord>(TheRun.Paths.SpreadsPath, designs, [](SpreadRecord& r, Integer id) {
         r.SpreadId = id;
         r.SpreadName = QStringLiteral("Spread %1").arg(id);
     });

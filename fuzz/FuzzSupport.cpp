@@ -236,7 +236,7 @@ void Initialize(int* argc, char*** argv) {
     WriteFaults::SetSyncs(false);
     Expect(Root().isValid(), "no temporary folder");
     FormPaths(ProgramDir());
-    for (const QString& dir : {TempDir, CardsDir, AttachmentsDir}) QDir().mkpath(dir);
+    for (const QString& dir : {TheRun.Paths.TempDir, TheRun.Paths.CardsDir, TheRun.Paths.AttachmentsDir}) QDir().mkpath(dir);
     WriteWholeFile(KeeperPath(), KeeperBytes);
 }
 
@@ -246,12 +246,12 @@ QByteArray Bytes(const std::uint8_t* data, std::size_t size) {
 
 QString PathOf(FuzzedFile file) {
     switch (file) {
-        case FuzzedFile::Decks: return DecksPath;
-        case FuzzedFile::Cards: return CardsPath;
-        case FuzzedFile::Spreads: return SpreadsPath;
-        case FuzzedFile::Locations: return LocationsPath;
-        case FuzzedFile::Readings: return ReadingsPath;
-        case FuzzedFile::Diary: return DiaryPath;
+        case FuzzedFile::Decks: return TheRun.Paths.DecksPath;
+        case FuzzedFile::Cards: return TheRun.Paths.CardsPath;
+        case FuzzedFile::Spreads: return TheRun.Paths.SpreadsPath;
+        case FuzzedFile::Locations: return TheRun.Paths.LocationsPath;
+        case FuzzedFile::Readings: return TheRun.Paths.ReadingsPath;
+        case FuzzedFile::Diary: return TheRun.Paths.DiaryPath;
     }
     Fail("no such record file");
 }
@@ -286,7 +286,7 @@ void LayDatabase(FuzzedFile fuzzed, const QByteArray& input) {
     // A delete pass may have taken a picture with its card: put back what is
     // gone. A file a fuzzed record made stays; it does no harm.
     for (const QString& name : PictureNames)
-        if (!FileExists(CardsDir + name)) WriteWholeFile(CardsDir + name, PictureBytes());
+        if (!FileExists(TheRun.Paths.CardsDir + name)) WriteWholeFile(TheRun.Paths.CardsDir + name, PictureBytes());
 }
 
 void Handled(const std::function<void()>& operation) {

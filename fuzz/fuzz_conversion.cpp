@@ -31,12 +31,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     old[static_cast<int>(fuzzed)] = Fuzz::Bytes(data + 1, size - 1);
 
     // An old database: no location file, and the entry files as they were.
-    const QString paths[3] = {DecksPath, CardsPath, SpreadsPath};
+    const QString paths[3] = {TheRun.Paths.DecksPath, TheRun.Paths.CardsPath, TheRun.Paths.SpreadsPath};
     for (int i = 0; i < 3; ++i) WriteWholeFile(paths[i], old[i]);
-    WriteWholeFile(ReadingsPath, QByteArray());
-    WriteWholeFile(DiaryPath, QByteArray());
-    QFile::remove(LocationsPath);
-    for (const QString& path : {DecksPath, SpreadsPath, CardsPath, ReadingsPath, DiaryPath})
+    WriteWholeFile(TheRun.Paths.ReadingsPath, QByteArray());
+    WriteWholeFile(TheRun.Paths.DiaryPath, QByteArray());
+    QFile::remove(TheRun.Paths.LocationsPath);
+    for (const QString& path : {TheRun.Paths.DecksPath, TheRun.Paths.SpreadsPath, TheRun.Paths.CardsPath, TheRun.Paths.ReadingsPath, TheRun.Paths.DiaryPath})
         QFile::remove(path + QStringLiteral(".bkp"));
     ClearTemp();
 
@@ -49,16 +49,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     for (int i = 0; i < 3; ++i)
         Expect(ReadWholeFile(paths[i] + QStringLiteral(".bkp")) == old[i], "a backup differs from its old file");
-    Expect(CountRecords<DeckRecord>(DecksPath) == old[0].size() / OldDeckRecord::Length, "decks lost or gained");
-    Expect(CountRecords<CardRecord>(CardsPath) == old[1].size() / OldCardRecord::Length, "cards lost or gained");
+    Expect(CountRecords<DeckRecord>(TheRun.Paths.DecksPath) == old[0].size() / OldDeckRecord::Length, "decks lost or gained");
+    Expect(CountRecords<CardRecord>(TheRun.Paths.CardsPath) == old[1].size() / OldCardRecord::Length, "cards lost or gained");
     const int oldSpreads = static_cast<int>(old[2].size() / OldSpreadRecord::Length);
-    Expect(CountRecords<SpreadRecord>(SpreadsPath) == oldSpreads, "spreads lost or gained");
+    Expect(CountRecords<SpreadRecord>(TheRun.Paths.SpreadsPath) == oldSpreads, "spreads lost or gained");
     int locations = 0;
-    for (const SpreadRecord& spread : ReadAllRecords<SpreadRecord>(SpreadsPath)) {
+    for (const SpreadRecord& spread : ReadAllRecords<SpreadRecord>(TheRun.Paths.SpreadsPath)) {
         Expect(spread.LocationCount >= 0 && spread.LocationCount <= 15, "a spread holds impossible locations");
         locations += spread.LocationCount;
     }
-    Expect(CountRecords<LocationRecord>(LocationsPath) == locations, "locations do not match their spreads");
+    Expect(CountRecords<LocationRecord>(TheRun.Paths.LocationsPath) == locations, "locations do not match their spreads");
     Fuzz::CheckNothingOutsideTouched();
     return 0;
 }

@@ -25,15 +25,15 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     // The package lies in Packages/, as the installation's file dialogue
     // finds it.
-    const QString package = PackagesDir + QStringLiteral("p.pck");
+    const QString package = TheRun.Paths.PackagesDir + QStringLiteral("p.pck");
     WriteWholeFile(package, Fuzz::Bytes(data, size));
-    const QStringList before = Entries(AppPath, QDir::AllEntries);
+    const QStringList before = Entries(TheRun.Paths.AppPath, QDir::AllEntries);
     ClearTemp();
-    ExtractPackageFile(package, TempDir);
+    ExtractPackageFile(package, TheRun.Paths.TempDir);
 
-    Expect(Entries(AppPath, QDir::AllEntries) == before, "a member landed beside Temp/");
-    Expect(Entries(PackagesDir, QDir::Files) == QStringList{QStringLiteral("p.pck")}, "a member landed in Packages/");
-    Expect(Entries(TempDir, QDir::Dirs).isEmpty(), "a member made a folder");
+    Expect(Entries(TheRun.Paths.AppPath, QDir::AllEntries) == before, "a member landed beside Temp/");
+    Expect(Entries(TheRun.Paths.PackagesDir, QDir::Files) == QStringList{QStringLiteral("p.pck")}, "a member landed in Packages/");
+    Expect(Entries(TheRun.Paths.TempDir, QDir::Dirs).isEmpty(), "a member made a folder");
     Fuzz::CheckNothingOutsideTouched();
     return 0;
 }

@@ -19,7 +19,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     // The extension says bitmap whatever the bytes are, as a renamed file
     // would: the reader must go by the content.
-    const QString path = CardsDir + QStringLiteral("CU00001.bmp");
+    const QString path = TheRun.Paths.CardsDir + QStringLiteral("CU00001.bmp");
     WriteWholeFile(path, Fuzz::Bytes(data, size));
     try {
         const Picture picture = LoadPicture(path);

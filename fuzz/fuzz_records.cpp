@@ -101,10 +101,10 @@ void LookUpDecks(const std::vector<DeckRecord>& decks) {
         Handled([&] {
             // As the deck list does: the chosen record in ListDeck, then the
             // load; a deck with missing cards is kept.
-            ListDeck = deck;
+            TheRun.ListDeck = deck;
             if (LoadDeckCards()) {
-                Expect(CurrentDeck.DeckCards.Count() == std::max<int>(0, deck.CardCount), "deck loaded short");
-                for (const CardRecord& card : CurrentDeck.DeckCards)
+                Expect(TheRun.CurrentDeck.DeckCards.Count() == std::max<int>(0, deck.CardCount), "deck loaded short");
+                for (const CardRecord& card : TheRun.CurrentDeck.DeckCards)
                     Expect(card.CardDeckId == deck.DeckId, "a card of another deck was loaded");
                 (void)CountCardsOfTypeName(deck.CardTypeName[0].Value());
             }
@@ -129,12 +129,12 @@ void LookUpSpreads(const std::vector<SpreadRecord>& spreads) {
             (void)FormatLongDate(spread.ModifiedOn);
             (void)IsSpreadUsable(spread.SpreadName.Value());
         });
-        if (!Plausible(spread.LocationCount, CountRecords<LocationRecord>(LocationsPath))) continue;
+        if (!Plausible(spread.LocationCount, CountRecords<LocationRecord>(TheRun.Paths.LocationsPath))) continue;
         Handled([&] {
             LoadSpreadLocations(spread.SpreadId, spread.LocationCount);
-            Expect(SpreadLocations.Count() == std::max<int>(0, spread.LocationCount), "locations sized wrongly");
+            Expect(TheRun.SpreadLocations.Count() == std::max<int>(0, spread.LocationCount), "locations sized wrongly");
             int n = 0;
-            for (const LocationRecord& location : SpreadLocations) {
+            for (const LocationRecord& location : TheRun.SpreadLocations) {
                 ++n;
                 Expect(location.LocationNumber == 0 ||
                            (location.LocationNumber == n && location.LocationSpreadId == spread.SpreadId),
@@ -178,12 +178,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::vector<ReadingRecord> readings;
     std::vector<DiaryRecord> diaries;
     Handled([&] {
-        decks = ReadAndCheck<DeckRecord>(DecksPath);
-        (void)ReadAndCheck<CardRecord>(CardsPath);
-        spreads = ReadAndCheck<SpreadRecord>(SpreadsPath);
-        (void)ReadAndCheck<LocationRecord>(LocationsPath);
-        readings = ReadAndCheck<ReadingRecord>(ReadingsPath);
-        diaries = ReadAndCheck<DiaryRecord>(DiaryPath);
+        decks = ReadAndCheck<DeckRecord>(TheRun.Paths.DecksPath);
+        (void)ReadAndCheck<CardRecord>(TheRun.Paths.CardsPath);
+        spreads = ReadAndCheck<SpreadRecord>(TheRun.Paths.SpreadsPath);
+        (void)ReadAndCheck<LocationRecord>(TheRun.Paths.LocationsPath);
+        readings = ReadAndCheck<ReadingRecord>(TheRun.Paths.ReadingsPath);
+        diaries = ReadAndCheck<DiaryRecord>(TheRun.Paths.DiaryPath);
     });
     LookUpDecks(decks);
     LookUpSpreads(spreads);

@@ -59,14 +59,14 @@ void SeedPackages() {
     // A package as the package screen makes it: the design's records and
     // its pictures, from a folder in Temp/.
     Fuzz::LayDatabase(FuzzedFile::Decks, Fuzz::BaselineFile(FuzzedFile::Decks));
-    const QString folder = TempDir + QStringLiteral("pack/");
+    const QString folder = TheRun.Paths.TempDir + QStringLiteral("pack/");
     QDir().mkpath(folder);
     for (FuzzedFile file : {FuzzedFile::Decks, FuzzedFile::Cards, FuzzedFile::Spreads, FuzzedFile::Locations}) {
         const QString path = Fuzz::PathOf(file);
         WriteWholeFile(folder + path.mid(path.lastIndexOf(QLatin1Char('/')) + 1), Fuzz::BaselineFile(file));
     }
-    FileCopy(CardsDir + QStringLiteral("CU00001.bmp"), folder + QStringLiteral("CU00001.bmp"));
-    const QString package = TempDir + QStringLiteral("design.pck");
+    FileCopy(TheRun.Paths.CardsDir + QStringLiteral("CU00001.bmp"), folder + QStringLiteral("CU00001.bmp"));
+    const QString package = TheRun.Paths.TempDir + QStringLiteral("design.pck");
     if (!CreatePackageFile(folder, package)) Fuzz::Fail("the seed package could not be made");
     Seed(QStringLiteral("package_reader"), QStringLiteral("design.pck"), ReadWholeFile(package));
     QDir(folder).removeRecursively();

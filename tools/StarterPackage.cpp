@@ -10,7 +10,7 @@ bool PackStarterPackage(const QStringList& deckNames, const QStringList& spreadN
     // As the create-package screen does: Temp/ empty before and after, and a
     // package file of that name deleted first, since packing never cuts an
     // existing file short.
-    MkDirIgnoringErrors(AppPath + QStringLiteral("Temp"));
+    MkDirIgnoringErrors(TheRun.Paths.AppPath + QStringLiteral("Temp"));
     ClearTemp();
     KillIgnoringErrors(packagePath);
     PackageStaging staging;
@@ -20,7 +20,7 @@ bool PackStarterPackage(const QStringList& deckNames, const QStringList& spreadN
     staging.StageCards();
     staging.StageSpreads();
     const bool packed = staging.DecksPacked == deckNames.size() && staging.SpreadsPacked == spreadNames.size() &&
-                        CreatePackageFile(TempDir, packagePath);
+                        CreatePackageFile(TheRun.Paths.TempDir, packagePath);
     ClearTemp();
     return packed;
 }

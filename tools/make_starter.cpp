@@ -54,7 +54,7 @@ void LayOutProgramFolder(const QString& workFolder) {
     if (!QDir::setCurrent(workFolder)) RaiseError(errPathNotFound, workFolder);
     FormPaths(ProgramFolderName);
     InitDatabase();
-    WriteWholeFile(LocationsPath, QByteArray());
+    WriteWholeFile(TheRun.Paths.LocationsPath, QByteArray());
 }
 
 void FillDesigner(Designer& designer, const StarterDeck& deck) {
@@ -76,12 +76,12 @@ CardRecord SaveCard(const StarterCard& card, const StarterDeck& deck, Integer de
     record.CardKeywords[0] = card.UprightKeywords;
     record.CardKeywords[1] = card.ReversedKeywords;
     const QImage upright = DrawCardFace(card);
-    const QString uprightName = CardPictureStem(0, FreeCardNumber(0, {CardsDir})) + QStringLiteral(".jpg");
-    WriteWholeFile(CardsDir + uprightName, FaceFileBytes(upright));
+    const QString uprightName = CardPictureStem(0, FreeCardNumber(0, {TheRun.Paths.CardsDir})) + QStringLiteral(".jpg");
+    WriteWholeFile(TheRun.Paths.CardsDir + uprightName, FaceFileBytes(upright));
     record.CardPicture[0] = uprightName;
     if (deck.IncludesReversed) {
-        const QString reversedName = CardPictureStem(1, FreeCardNumber(1, {CardsDir})) + QStringLiteral(".jpg");
-        WriteWholeFile(CardsDir + reversedName, FaceFileBytes(ReversedFace(upright)));
+        const QString reversedName = CardPictureStem(1, FreeCardNumber(1, {TheRun.Paths.CardsDir})) + QStringLiteral(".jpg");
+        WriteWholeFile(TheRun.Paths.CardsDir + reversedName, FaceFileBytes(ReversedFace(upright)));
         record.CardPicture[1] = reversedName;
     }
     record.CardDeckId = deckId;
@@ -90,7 +90,7 @@ CardRecord SaveCard(const StarterCard& card, const StarterDeck& deck, Integer de
 
 Integer SaveDeck(const StarterDeck& deck) {
     ResetDeck();
-    DeckRecord& record = CurrentDeck;
+    DeckRecord& record = TheRun.CurrentDeck;
     record.DeckId = NextDeckId();
     record.DeckName = deck.Name;
     record.DeckTitle = deck.Title;
@@ -107,14 +107,14 @@ Integer SaveDeck(const StarterDeck& deck) {
         record.CardTypeUsed[i] = Flag(i < deck.CardTypes.size());
     }
     // The cards first, in one run, then the deck that counts them.
-    for (const StarterCard& card : deck.Cards) AppendRecord(CardsPath, SaveCard(card, deck, record.DeckId));
-    AppendRecord(DecksPath, record);
+    for (const StarterCard& card : deck.Cards) AppendRecord(TheRun.Paths.CardsPath, SaveCard(card, deck, record.DeckId));
+    AppendRecord(TheRun.Paths.DecksPath, record);
     return record.DeckId;
 }
 
 void SaveSpread(const StarterSpread& spread, const StarterDeck& deck, Integer deckId) {
-    ResetSpread(CurrentSpread);
-    SpreadRecord& record = CurrentSpread;
+    ResetSpread(TheRun.CurrentSpread);
+    SpreadRecord& record = TheRun.CurrentSpread;
     record.SpreadId = NextSpreadId();
     record.SpreadName = spread.Name;
     record.SpreadTitle = spread.Title;
@@ -129,10 +129,10 @@ void SaveSpread(const StarterSpread& spread, const StarterDeck& deck, Integer de
     record.AllowedDeckId[0] = deckId;
     const int count = static_cast<int>(spread.Locations.size());
     record.LocationCount = static_cast<Integer>(count);
-    SpreadLocations.Redim(1, count);
+    TheRun.SpreadLocations.Redim(1, count);
     for (int n = 1; n <= count; ++n) {
         const StarterLocation& source = spread.Locations[static_cast<std::size_t>(n - 1)];
-        LocationRecord& location = SpreadLocations(n);
+        LocationRecord& location = TheRun.SpreadLocations(n);
         ResetLocation(location);
         location.LocationTitle = source.Title;
         location.LocationDescription = source.Description;
@@ -141,7 +141,7 @@ void SaveSpread(const StarterSpread& spread, const StarterDeck& deck, Integer de
         location.LocationTop = static_cast<Integer>(source.Top);
     }
     ReplaceSpreadLocations(record.SpreadId, count);
-    AppendRecord(SpreadsPath, record);
+    AppendRecord(TheRun.Paths.SpreadsPath, record);
 }
 
 int Run(const QString& sourceFolder, const QString& packagePath, const QString& workFolder) {

@@ -241,21 +241,21 @@ Integer MakeSampleDeck(const QString& name, const QString& title, int hueBase, b
         card.CardKeywords[1] = QString::fromUtf8(cards[i].Reversed);
         const QImage face = CardFace(cardTitle, major ? QString::fromLatin1(Numerals[i]) : QStringLiteral("Ace"),
                                      i, hueBase);
-        upright = FreeCardNumber(0, {CardsDir}, upright + 1);
+        upright = FreeCardNumber(0, {TheRun.Paths.CardsDir}, upright + 1);
         card.CardPicture[0] = CardUprightName(upright) + QStringLiteral(".bmp");
-        SavePictureAsBmp(face, CardsDir + card.CardPicture[0].Trimmed());
+        SavePictureAsBmp(face, TheRun.Paths.CardsDir + card.CardPicture[0].Trimmed());
         if (withReversed) {
-            reversed = FreeCardNumber(1, {CardsDir}, reversed + 1);
+            reversed = FreeCardNumber(1, {TheRun.Paths.CardsDir}, reversed + 1);
             card.CardPicture[1] = CardReversedName(reversed) + QStringLiteral(".bmp");
-            SavePictureAsBmp(face.mirrored(true, true), CardsDir + card.CardPicture[1].Trimmed());
+            SavePictureAsBmp(face.mirrored(true, true), TheRun.Paths.CardsDir + card.CardPicture[1].Trimmed());
         } else {
             card.CardPicture[1] = DefaultPictureName;
         }
         card.CardDeckId = deck.DeckId;
-        AppendRecord(CardsPath, card);
+        AppendRecord(TheRun.Paths.CardsPath, card);
     }
     deck.CardCount = static_cast<Integer>(cards.size());
-    AppendRecord(DecksPath, deck);
+    AppendRecord(TheRun.Paths.DecksPath, deck);
     return deck.DeckId;
 }
 
@@ -297,9 +297,9 @@ void MakeSampleSpread(const QString& name, const QString& description, bool askI
         location.LocationNumber = static_cast<Integer>(i + 1);
         location.LocationLeft = static_cast<Integer>(locations[i].Left);
         location.LocationTop = static_cast<Integer>(locations[i].Top);
-        AppendRecord(LocationsPath, location);
+        AppendRecord(TheRun.Paths.LocationsPath, location);
     }
-    AppendRecord(SpreadsPath, spread);
+    AppendRecord(TheRun.Paths.SpreadsPath, spread);
 }
 
 void MakeSampleDesigns() {
@@ -507,10 +507,10 @@ void Diary() {
 void JournalScreen() {
     const int deck = FindDeckRecordById(FindDeckIdByName(QStringLiteral("Moonlit Tarot")));
     DeckRecord tarot;
-    GetRecord(DecksPath, deck, tarot);
+    GetRecord(TheRun.Paths.DecksPath, deck, tarot);
     SpreadRecord crossroads, threeCards;
-    GetRecord(SpreadsPath, FindSpreadByName(QStringLiteral("The Crossroads")), crossroads);
-    GetRecord(SpreadsPath, FindSpreadByName(QStringLiteral("Past, Present, Future")), threeCards);
+    GetRecord(TheRun.Paths.SpreadsPath, FindSpreadByName(QStringLiteral("The Crossroads")), crossroads);
+    GetRecord(TheRun.Paths.SpreadsPath, FindSpreadByName(QStringLiteral("Past, Present, Future")), threeCards);
     const QStringList issues = {QStringLiteral("The move abroad"), QStringLiteral("A new job?"),
                                 QStringLiteral("My sister and I"), QStringLiteral("The house by the sea")};
     Randomize();
@@ -534,13 +534,13 @@ void JournalScreen() {
             r.ReadingName = issues[e % issues.size()] + QStringLiteral(" %1").arg(e / 4 + 1);
             r.DealtCount = spread.LocationCount;
             fill(r);
-            AppendRecord(ReadingsPath, r);
+            AppendRecord(TheRun.Paths.ReadingsPath, r);
         } else {
             DiaryRecord d;
             ResetDiary(d);
             d.DiaryName = QStringLiteral("Table reading %1").arg(e / 2 + 1);
             fill(d);
-            AppendRecord(DiaryPath, d);
+            AppendRecord(TheRun.Paths.DiaryPath, d);
         }
     }
     Get<frmMainScreen>().lblButton_Click(frmMainScreen::JournalButton);
@@ -572,12 +572,12 @@ void Decks() {
     Shot(QStringLiteral("deck-design"));
 
     // The import, on a folder of a few of the deck's own pictures and a note.
-    const QString scans = QDir(AppPath).absoluteFilePath(QStringLiteral("../Scans")) + QLatin1Char('/');
+    const QString scans = QDir(TheRun.Paths.AppPath).absoluteFilePath(QStringLiteral("../Scans")) + QLatin1Char('/');
     QDir().mkpath(scans);
     const char* names[] = {"01 the_moon", "02 the-sun", "03 the_world", "10 ace of cups", "11 two of cups"};
     for (int i = 0; i < 5; ++i) {
-        const QString picture = CurrentDeck.DeckCards(i + 1).CardPicture[0].Trimmed();
-        FileCopy(CardsDir + picture, scans + QLatin1String(names[i]) + picture.right(4));
+        const QString picture = TheRun.CurrentDeck.DeckCards(i + 1).CardPicture[0].Trimmed();
+        FileCopy(TheRun.Paths.CardsDir + picture, scans + QLatin1String(names[i]) + picture.right(4));
     }
     WriteWholeFile(scans + QStringLiteral("contents.txt"), "the cards of the deck");
     CommonDialogScript::Enable();
@@ -670,10 +670,10 @@ void Packages() {
 // The manual itself in the program's help viewer, when the manual is given.
 void HelpViewer(const QString& manualFolder) {
     if (manualFolder.isEmpty()) return;
-    QDir().mkpath(AppPath + QStringLiteral("Help/images"));
-    QFile::copy(manualFolder + QStringLiteral("/Cartomar.hlp"), AppPath + QStringLiteral("Cartomar.hlp"));
+    QDir().mkpath(TheRun.Paths.AppPath + QStringLiteral("Help/images"));
+    QFile::copy(manualFolder + QStringLiteral("/Cartomar.hlp"), TheRun.Paths.AppPath + QStringLiteral("Cartomar.hlp"));
     for (const QString& png : QDir(gOutDir).entryList({QStringLiteral("*.png")}))
-        QFile::copy(gOutDir + QLatin1Char('/') + png, AppPath + QStringLiteral("Help/images/") + png);
+        QFile::copy(gOutDir + QLatin1Char('/') + png, TheRun.Paths.AppPath + QStringLiteral("Help/images/") + png);
     Get<frmMainScreen>().lblButton_Click(9);
     if (IsLoaded<frmHelpViewer>()) Get<frmHelpViewer>().txtHelp->scrollToAnchor(QStringLiteral("mainscreen"));
     Shot(QStringLiteral("help-viewer"));
@@ -713,7 +713,7 @@ int main(int argc, char** argv) {
     // its record files; the start-up of the frame then finds them ready.
     FormPaths(programDir);
     InitDatabase();
-    WriteWholeFile(LocationsPath, QByteArray());
+    WriteWholeFile(TheRun.Paths.LocationsPath, QByteArray());
     MakeSampleDesigns();
 
     MDIMainForm::SetProgramDirectory(programDir);

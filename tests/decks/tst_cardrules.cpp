@@ -29,7 +29,7 @@ class TestCardRules : public QObject {
 
     // Loads a saved deck as the deck list does before it opens a screen on it.
     static void Load(const QString& name) {
-        GetRecord(DecksPath, FindDeckByName(name), ListDeck);
+        GetRecord(TheRun.Paths.DecksPath, FindDeckByName(name), TheRun.ListDeck);
         bool removed = false;
         if (!LoadDeck(removed)) QFAIL("deck did not load");
     }
@@ -37,7 +37,7 @@ class TestCardRules : public QObject {
     // Opens a saved deck in the designer as the deck list does.
     static frmDesignDeck& Design(const QString& name) {
         Load(name);
-        DesignMode = 0;
+        TheRun.DesignMode = 0;
         return Get<frmDesignDeck>();
     }
 
@@ -79,7 +79,7 @@ private slots:
         QCOMPARE(Prompts(), QStringList(2, QStringLiteral("The number of cards in a deck cannot exceed 100.")));
         QVERIFY(CommonDialogScript::History().isEmpty());
         QVERIFY(none.Done());
-        QCOMPARE(CurrentDeck.CardCount, MaxDeckCards);
+        QCOMPARE(TheRun.CurrentDeck.CardCount, MaxDeckCards);
     }
 
     // Which titles are refused is checked on the store (tst_pictureimport);
@@ -99,16 +99,16 @@ private slots:
 
         editor.txtCardTitle->setText(QStringLiteral("Card 3"));
         editor.cmdSaveClose_Click();
-        QCOMPARE(CurrentDeck.CardCount, 3);
-        QCOMPARE(CurrentDeck.DeckCards(3).CardPicture[1].Value(), DefaultPictureName);
+        QCOMPARE(TheRun.CurrentDeck.CardCount, 3);
+        QCOMPARE(TheRun.CurrentDeck.DeckCards(3).CardPicture[1].Value(), DefaultPictureName);
 
         // Deleting a card moves the later ones up by one.
         ClickLine(designer.lstCards, QStringLiteral("Card 1"));
         MsgBoxScript::Answer(vbYes);
         designer.cmdDeleteCard_Click();
-        QCOMPARE(CurrentDeck.CardCount, 2);
-        QCOMPARE(CurrentDeck.DeckCards(1).CardTitle.Trimmed(), QStringLiteral("Card 2"));
-        QCOMPARE(CurrentDeck.DeckCards(2).CardTitle.Trimmed(), QStringLiteral("Card 3"));
+        QCOMPARE(TheRun.CurrentDeck.CardCount, 2);
+        QCOMPARE(TheRun.CurrentDeck.DeckCards(1).CardTitle.Trimmed(), QStringLiteral("Card 2"));
+        QCOMPARE(TheRun.CurrentDeck.DeckCards(2).CardTitle.Trimmed(), QStringLiteral("Card 3"));
     }
 
     void cancelledPicksLeaveNothingBehind() {
@@ -125,7 +125,7 @@ private slots:
         designer.cmdAddCard_Click();
         QVERIFY(script.Done());
         QVERIFY(!IsLoaded<frmAddCard>());
-        QCOMPARE(CurrentDeck.CardCount, 0);
+        QCOMPARE(TheRun.CurrentDeck.CardCount, 0);
         QVERIFY(!designer.DesignModified);
     }
 
@@ -147,8 +147,8 @@ private slots:
         });
         Get<frmDecks>().cmdDesign_Click();
         QVERIFY(script.Done());
-        QCOMPARE(CurrentDeck.CardTypeName[1].Trimmed(), QStringLiteral("Minor"));
-        QCOMPARE(CurrentDeck.IncludesReversed, False16);
+        QCOMPARE(TheRun.CurrentDeck.CardTypeName[1].Trimmed(), QStringLiteral("Minor"));
+        QCOMPARE(TheRun.CurrentDeck.IncludesReversed, False16);
         QVERIFY(Get<frmDesignDeck>().DesignModified);
         Leave();
 
@@ -163,8 +163,8 @@ private slots:
         });
         Get<frmDesignDeck>().cmdProperties_Click();
         QVERIFY(script.Done());
-        QCOMPARE(CurrentDeck.DisplayCardTitles, False16);
-        QCOMPARE(CurrentDeck.IncludesReversed, False16);
+        QCOMPARE(TheRun.CurrentDeck.DisplayCardTitles, False16);
+        QCOMPARE(TheRun.CurrentDeck.IncludesReversed, False16);
         Leave();
 
         // The viewer's twin puts every check back.
@@ -192,7 +192,7 @@ private slots:
         QVERIFY(IsLoaded<frmAddCard>());  // Cancel stays
         MsgBoxScript::Answer(vbNo);
         editor.cmdBack_Click();
-        QCOMPARE(CurrentDeck.DeckCards(2).CardKeywords[0].Trimmed(), QStringLiteral("upright keywords 2"));
+        QCOMPARE(TheRun.CurrentDeck.DeckCards(2).CardKeywords[0].Trimmed(), QStringLiteral("upright keywords 2"));
 
         designer.txtDeckTitle->setText(QStringLiteral("Plain, retitled"));
         MsgBoxScript::Answer(vbCancel);
@@ -202,9 +202,9 @@ private slots:
         MsgBoxScript::Answer(vbNo);
         designer.cmdBack_Click();
         QVERIFY(!IsLoaded<frmDesignDeck>());
-        QVERIFY(FilesIn(TempDir).isEmpty());
-        GetRecord(DecksPath, FindDeckByName(QStringLiteral("Plain")), ListDeck);
-        QCOMPARE(ListDeck.DeckTitle.Trimmed(), QStringLiteral("Plain"));
+        QVERIFY(FilesIn(TheRun.Paths.TempDir).isEmpty());
+        GetRecord(TheRun.Paths.DecksPath, FindDeckByName(QStringLiteral("Plain")), TheRun.ListDeck);
+        QCOMPARE(TheRun.ListDeck.DeckTitle.Trimmed(), QStringLiteral("Plain"));
     }
 
     // The properties, the designer and the save screen; a deck name the code
@@ -240,7 +240,7 @@ private slots:
         }
         QCOMPARE(CountDecks(), decks + 1);
         DeckRecord deck;
-        GetRecord(DecksPath, FindDeckByName(BadInput::ForeignAsStored), deck);
+        GetRecord(TheRun.Paths.DecksPath, FindDeckByName(BadInput::ForeignAsStored), deck);
         // The tour left the pasted text in the designer's boxes.
         QCOMPARE(deck.DeckTitle.Trimmed(), BadInput::ForeignAsStored);
         designer.DesignModified = false;
@@ -271,8 +271,8 @@ private slots:
         }
         QCOMPARE(WorkingFiles().Picture[0], before);
         QCOMPARE(WorkingFiles().Sound[0], soundBefore);
-        QVERIFY(!AnyFileMatches(TempDir + QStringLiteral("TempUp.*")));
-        QVERIFY(!AnyFileMatches(TempDir + QStringLiteral("TsndUp.*")));
+        QVERIFY(!AnyFileMatches(TheRun.Paths.TempDir + QStringLiteral("TempUp.*")));
+        QVERIFY(!AnyFileMatches(TheRun.Paths.TempDir + QStringLiteral("TsndUp.*")));
         UnloadScreen<frmGetImageFile>();
         UnloadScreen<frmGetSoundFile>();
     }

@@ -52,12 +52,12 @@ class TestDeckDesign : public QObject {
     // picture: none missing, none stray.
     static void VerifyCardsFolder() {
         QSet<QString> named{QStringLiteral("C000000.bmp")};
-        for (const CardRecord& card : ReadAllRecords<CardRecord>(CardsPath)) {
+        for (const CardRecord& card : ReadAllRecords<CardRecord>(TheRun.Paths.CardsPath)) {
             for (const auto& picture : card.CardPicture) named.insert(picture.Trimmed());
             for (const auto& sound : card.CardSound)
                 if (!sound.IsBlank()) named.insert(sound.Trimmed());
         }
-        QCOMPARE(FilesIn(CardsDir), named);
+        QCOMPARE(FilesIn(TheRun.Paths.CardsDir), named);
     }
 
     // Fills the open card editor: title, type, both sides' texts ("up
@@ -137,8 +137,8 @@ private slots:
             editor->cmdGetSound_Click();
             QVERIFY(editor->MediaPlayer1->FileName().endsWith(QLatin1String("TsndUp.wav")));
             editor->cmdSaveNew_Click();
-            QCOMPARE(CurrentDeck.DeckCards(1).CardSound[0].Trimmed(), QStringLiteral("MCU00001.wav"));
-            QVERIFY(!FileExists(TempDir + QStringLiteral("TsndUp.wav")));
+            QCOMPARE(TheRun.CurrentDeck.DeckCards(1).CardSound[0].Trimmed(), QStringLiteral("MCU00001.wav"));
+            QVERIFY(!FileExists(TheRun.Paths.TempDir + QStringLiteral("TsndUp.wav")));
 
             editor = &Get<frmAddCard>();
             FillCard(*editor, QStringLiteral("The Magician"), QStringLiteral("Major Arcana"), QStringLiteral("mage"));
@@ -160,8 +160,8 @@ private slots:
                               again.txtDesignerWebPage->text(), again.txtDeckDescription->toPlainText()}),
                  (QStringList{"Sea Tarot", "ann@example.org", "example.org/ann", "Cards of the sea."}));
         // Saving drew names free in both Cards/ and Temp/.
-        QCOMPARE(CurrentDeck.DeckCards(1).CardSound[0].Trimmed(), QStringLiteral("MCU00004.wav"));
-        QVERIFY(FileExists(TempDir + QStringLiteral("MCU00004.wav")));
+        QCOMPARE(TheRun.CurrentDeck.DeckCards(1).CardSound[0].Trimmed(), QStringLiteral("MCU00004.wav"));
+        QVERIFY(FileExists(TheRun.Paths.TempDir + QStringLiteral("MCU00004.wav")));
         ClickLine(again.lstCards, QStringLiteral("The Fool"));
         again.cmdEditCard_Click();
         editor = &Get<frmAddCard>();
@@ -175,11 +175,11 @@ private slots:
         QCOMPARE(editor->imgCard->Image().pixelColor(0, 0), FoolRev);
         editor->txtKeywords->setPlainText(QStringLiteral("fool reversed, edited"));
         editor->cmdSaveClose_Click();
-        QCOMPARE(CurrentDeck.DeckCards(1).CardKeywords[1].Trimmed(), QStringLiteral("fool reversed, edited"));
+        QCOMPARE(TheRun.CurrentDeck.DeckCards(1).CardKeywords[1].Trimmed(), QStringLiteral("fool reversed, edited"));
 
         // A new upright picture for the magician takes a fresh CU name; the
         // old working file stays until the designer closes.
-        const QString oldMage = CurrentDeck.DeckCards(2).CardPicture[0].Trimmed();
+        const QString oldMage = TheRun.CurrentDeck.DeckCards(2).CardPicture[0].Trimmed();
         ClickLine(again.lstCards, QStringLiteral("The Magician"));
         again.cmdEditCard_Click();
         ModalScript replace;
@@ -188,9 +188,9 @@ private slots:
         QVERIFY(replace.Done());
         QCOMPARE(Get<frmAddCard>().imgCard->Image().pixelColor(0, 0), NewMage);
         Get<frmAddCard>().cmdSaveClose_Click();
-        const QString newMage = CurrentDeck.DeckCards(2).CardPicture[0].Trimmed();
+        const QString newMage = TheRun.CurrentDeck.DeckCards(2).CardPicture[0].Trimmed();
         QVERIFY(newMage.startsWith(QLatin1String("CU")) && newMage != oldMage);
-        QVERIFY(FileExists(TempDir + oldMage) && FileExists(TempDir + newMage));
+        QVERIFY(FileExists(TheRun.Paths.TempDir + oldMage) && FileExists(TheRun.Paths.TempDir + newMage));
 
         // ---- Saved over itself under the name offered: the overwrite
         // question, still one deck. (A No to it: tst_cardrules.)
@@ -212,7 +212,7 @@ private slots:
         SaveAs(QStringLiteral("Sea Tarot Copy"));
         QCOMPARE(CountDecks(), 2);
         VerifyCardsFolder();
-        QCOMPARE(FilesIn(CardsDir).size(), 15);
+        QCOMPARE(FilesIn(TheRun.Paths.CardsDir).size(), 15);
         again.cmdBack_Click();
         QCOMPARE(Get<frmDecks>().lstDecks->Text().trimmed(), QStringLiteral("Sea Tarot Copy"));
 

@@ -34,9 +34,9 @@ enum LeftOver {
 // Takes record n out of Decks.dck and nothing else, as a killed delete or an
 // overwriting installation leaves the folder.
 void DropDeckRecord(int n) {
-    QByteArray decks = ReadWholeFile(DecksPath);
+    QByteArray decks = ReadWholeFile(TheRun.Paths.DecksPath);
     decks.remove((n - 1) * DeckRecord::Length, DeckRecord::Length);
-    WriteWholeFile(DecksPath, decks);
+    WriteWholeFile(TheRun.Paths.DecksPath, decks);
 }
 
 void LeaveOver(LeftOver state) {
@@ -49,13 +49,13 @@ void LeaveOver(LeftOver state) {
         Fixtures::MakeDeck(QStringLiteral("Gone"), 3, false);
         if (state == SharedFile) {
             CardRecord shared;
-            GetRecord(CardsPath, 1, shared);
-            ChangeRecord<CardRecord>(CardsPath, 3, [&](CardRecord& c) { c.CardPicture[0] = shared.CardPicture[0]; });
+            GetRecord(TheRun.Paths.CardsPath, 1, shared);
+            ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 3, [&](CardRecord& c) { c.CardPicture[0] = shared.CardPicture[0]; });
         }
         DropDeckRecord(2);
     } else if (state == SharedId) {
         Fixtures::MakeDeck(QStringLiteral("Twin"), 2, true);
-        ChangeRecord<DeckRecord>(DecksPath, 2, [&](DeckRecord& d) { d.DeckId = other; });
+        ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 2, [&](DeckRecord& d) { d.DeckId = other; });
     }
 }
 
@@ -67,14 +67,14 @@ QStringList Held(const BoundedArray<CardRecord>& cards, const QString& folder) {
         held << card.CardTitle.Trimmed();
         for (const auto& picture : card.CardPicture)
             held.last() += QLatin1Char('|') + QString::fromLatin1(ReadWholeFile(
-                FileExists(folder + picture.Value()) ? folder + picture.Value() : DefaultPicturePath).toHex());
+                FileExists(folder + picture.Value()) ? folder + picture.Value() : TheRun.Paths.DefaultPicturePath).toHex());
     }
     return held;
 }
 
 QStringList Loaded(const QString& name) {
-    if (!GetRecord(DecksPath, FindDeckByName(name), ListDeck) || !LoadDeckCards()) return {QStringLiteral("(no deck)")};
-    return Held(CurrentDeck.DeckCards, CardsDir);
+    if (!GetRecord(TheRun.Paths.DecksPath, FindDeckByName(name), TheRun.ListDeck) || !LoadDeckCards()) return {QStringLiteral("(no deck)")};
+    return Held(TheRun.CurrentDeck.DeckCards, TheRun.Paths.CardsDir);
 }
 
 }  // namespace
@@ -85,7 +85,7 @@ class TestDeckList : public QObject {
 
     static SpreadRecord Spread(const QString& name) {
         SpreadRecord spread;
-        GetRecord(SpreadsPath, FindSpreadByName(name), spread);
+        GetRecord(TheRun.Paths.SpreadsPath, FindSpreadByName(name), spread);
         return spread;
     }
 
@@ -97,7 +97,7 @@ private slots:
         Fixtures::MakeDeck(QStringLiteral("Beta"), 2, false);
         Fixtures::MakeDeck(QStringLiteral("Gamma"), 2, false);
         // Beta carries a design password.
-        ChangeRecord<DeckRecord>(DecksPath, 2, [](DeckRecord& d) {
+        ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 2, [](DeckRecord& d) {
             d.DeckLocked = True16;
             d.DeckPassword = QStringLiteral("secret");
         });
@@ -152,7 +152,7 @@ private slots:
         Get<frmDecks>().cmdEdit_Click();
         QVERIFY(right.Done());
         QVERIFY(IsLoaded<frmDesignDeck>());
-        QCOMPARE(DesignMode, 0);
+        QCOMPARE(TheRun.DesignMode, 0);
         Get<frmDesignDeck>().cmdBack_Click();
         QCOMPARE(Get<frmDecks>().lstDecks->Text().trimmed(), QStringLiteral("Beta"));
     }
@@ -207,10 +207,10 @@ private slots:
         DeckRecord four;
         four.DeckName = QStringLiteral("Four");
         four.DeckId = 4;
-        AppendRecord(DecksPath, four);
+        AppendRecord(TheRun.Paths.DecksPath, four);
         Fixtures::MakeSpread(QStringLiteral("Tied"), 1, allowed);
-        if (anyDeck) ChangeRecord<SpreadRecord>(SpreadsPath, 1, [](SpreadRecord& s) { s.AllowedDeckCount = -1; });
-        const QByteArray before = ReadWholeFile(SpreadsPath);
+        if (anyDeck) ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1, [](SpreadRecord& s) { s.AllowedDeckCount = -1; });
+        const QByteArray before = ReadWholeFile(TheRun.Paths.SpreadsPath);
         const DeckDeleteCheck check = CheckDeckDelete(QStringLiteral("Four"));
         QCOMPARE(check.Questions.size(), 2);
         QCOMPARE(check.Questions[0], QStringLiteral("Are you sure you want to delete deck 'Four' ?\nBe aware that this "
@@ -222,7 +222,7 @@ private slots:
                                        "Proceed anyway?"));
         RemoveDeck(check.RecordNumber);
         QCOMPARE(CountDecks(), 0);
-        if (anyDeck || !allowed.contains(4)) QCOMPARE(ReadWholeFile(SpreadsPath), before);
+        if (anyDeck || !allowed.contains(4)) QCOMPARE(ReadWholeFile(TheRun.Paths.SpreadsPath), before);
         const SpreadRecord spread = Spread(QStringLiteral("Tied"));
         QCOMPARE(int(spread.AllowedDeckCount), anyDeck ? -1 : int(after.size()));
         for (int i = 0; i < 10; ++i) QCOMPARE(spread.AllowedDeckId[std::size_t(i)], after.value(i, -1));
@@ -254,28 +254,28 @@ private slots:
         Fixtures::UseProgramDir(dir.path());
         LeaveOver(LeftOver(leftOver));
         std::map<QString, QStringList> others;
-        for (const DeckRecord& other : ReadAllRecords<DeckRecord>(DecksPath))
+        for (const DeckRecord& other : ReadAllRecords<DeckRecord>(TheRun.Paths.DecksPath))
             if (other.DeckName.Trimmed() != over) others[other.DeckName.Trimmed()] = Loaded(other.DeckName.Value());
 
         // The deck as the designer holds it: pictures in Temp/, the default
         // picture beside them.
         ResetDeck();
-        CurrentDeck.IncludesReversed = True16;
-        FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
+        TheRun.CurrentDeck.IncludesReversed = True16;
+        FileCopy(TheRun.Paths.DefaultPicturePath, TheRun.Paths.TempDir + DefaultPictureName);
         for (int i = 1; i <= 5; ++i) {
             CardRecord card;
             ResetCard(card);
             card.CardTitle = QStringLiteral("Mine %1").arg(i);
             for (int side = 0; side < (defaultReversed ? 1 : 2); ++side) {
                 card.CardPicture[std::size_t(side)] = CardPictureStem(side, i) + QStringLiteral(".bmp");
-                Fixtures::WritePicture(TempDir + card.CardPicture[std::size_t(side)].Value(), Fixtures::CardColour(i, side == 0));
+                Fixtures::WritePicture(TheRun.Paths.TempDir + card.CardPicture[std::size_t(side)].Value(), Fixtures::CardColour(i, side == 0));
             }
             AppendDeckCard(card);
         }
-        DeckInMemory deck = CurrentDeck;
+        DeckInMemory deck = TheRun.CurrentDeck;
         // A gone picture shows, and is saved as, the default picture.
-        if (gone) QFile::remove(TempDir + deck.DeckCards(gone).CardPicture[0].Trimmed());
-        const QStringList mine = Held(deck.DeckCards, TempDir);
+        if (gone) QFile::remove(TheRun.Paths.TempDir + deck.DeckCards(gone).CardPicture[0].Trimmed());
+        const QStringList mine = Held(deck.DeckCards, TheRun.Paths.TempDir);
 
         const QString name = over.isEmpty() ? QStringLiteral("Mine") : over;
         for (int save = 1; save <= 2; ++save) {
@@ -286,10 +286,10 @@ private slots:
             deck = saved.Deck;
             QCOMPARE(Loaded(name), mine);
             int underItsId = 0;
-            for (const CardRecord& card : ReadAllRecords<CardRecord>(CardsPath)) underItsId += card.CardDeckId == deck.DeckId;
+            for (const CardRecord& card : ReadAllRecords<CardRecord>(TheRun.Paths.CardsPath)) underItsId += card.CardDeckId == deck.DeckId;
             QCOMPARE(underItsId, 5);
             for (const auto& [other, cards] : others) QCOMPARE(Loaded(other), cards);
-            QVERIFY(FileExists(DefaultPicturePath));
+            QVERIFY(FileExists(TheRun.Paths.DefaultPicturePath));
         }
     }
 };

@@ -49,10 +49,10 @@ bool RedAt(const QString& path, int x, int y) {
 // The deck being designed, holding "Card 1" .. "Card n".
 void DeckOf(int cards, bool withReversed = true) {
     ResetDeck();
-    CurrentDeck.IncludesReversed = Flag(withReversed);
-    CurrentDeck.CardCount = static_cast<Integer>(cards);
-    CurrentDeck.DeckCards.RedimPreserve(cards);
-    for (int i = 1; i <= cards; ++i) CurrentDeck.DeckCards(i).CardTitle = QStringLiteral("Card %1").arg(i);
+    TheRun.CurrentDeck.IncludesReversed = Flag(withReversed);
+    TheRun.CurrentDeck.CardCount = static_cast<Integer>(cards);
+    TheRun.CurrentDeck.DeckCards.RedimPreserve(cards);
+    for (int i = 1; i <= cards; ++i) TheRun.CurrentDeck.DeckCards(i).CardTitle = QStringLiteral("Card %1").arg(i);
 }
 
 }  // namespace
@@ -157,10 +157,10 @@ private slots:
         QFETCH(QStringList, pastLimit);
         QFETCH(QStringList, unreadable);
         Fixtures::UseProgramDir(program_.path());
-        KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
-        FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
+        KillIgnoringErrors(TheRun.Paths.TempDir + QStringLiteral("*.*"));
+        FileCopy(TheRun.Paths.DefaultPicturePath, TheRun.Paths.TempDir + DefaultPictureName);
         DeckOf(cardsBefore, deckReversed);
-        const QStringList tempBefore = QDir(TempDir).entryList(QDir::Files);
+        const QStringList tempBefore = QDir(TheRun.Paths.TempDir).entryList(QDir::Files);
 
         FolderPictures found = ListFolderPictures(folder_.path(), 0);
         QCOMPARE(found.NotPictures, (QStringList{"broken.jpg", "notes.txt"}));
@@ -175,24 +175,24 @@ private slots:
         else QCOMPARE(work.Commit(), unreadable);
 
         QStringList added, files = tempBefore;
-        for (int i = cardsBefore + 1; i <= CurrentDeck.CardCount; ++i) {
-            const CardRecord& card = CurrentDeck.DeckCards(i);
+        for (int i = cardsBefore + 1; i <= TheRun.CurrentDeck.CardCount; ++i) {
+            const CardRecord& card = TheRun.CurrentDeck.DeckCards(i);
             const QString up = card.CardPicture[0].Trimmed(), rev = card.CardPicture[1].Trimmed();
             added << QStringList{card.CardTitle.Trimmed(), QString::number(card.CardType), up, rev}.join('|');
             files << up;
             if (card.CardPicture[1].Value() != DefaultPictureName) files << rev;
             if (ReversedSide(reversed) == ReversedSide::Turned)
-                QVERIFY2(RedAt(TempDir + up, 2, 2) && RedAt(TempDir + rev, 13, 13) && !RedAt(TempDir + rev, 2, 2),
+                QVERIFY2(RedAt(TheRun.Paths.TempDir + up, 2, 2) && RedAt(TheRun.Paths.TempDir + rev, 13, 13) && !RedAt(TheRun.Paths.TempDir + rev, 2, 2),
                          qPrintable(rev));
             if (ReversedSide(reversed) == ReversedSide::None && deckReversed)
-                QCOMPARE(ReadWholeFile(TempDir + rev), ReadWholeFile(DefaultPicturePath));
+                QCOMPARE(ReadWholeFile(TheRun.Paths.TempDir + rev), ReadWholeFile(TheRun.Paths.DefaultPicturePath));
             // The bytes are in the format the name says.
             for (const QString& file : {up, rev})
-                QCOMPARE(FormatOf(TempDir + file), file.endsWith(QLatin1String(".jpg")) ? "jpeg" : "bmp");
+                QCOMPARE(FormatOf(TheRun.Paths.TempDir + file), file.endsWith(QLatin1String(".jpg")) ? "jpeg" : "bmp");
         }
         QCOMPARE(added, cards);
         files.sort();
-        QCOMPARE(QDir(TempDir).entryList(QDir::Files, QDir::Name), files);
+        QCOMPARE(QDir(TheRun.Paths.TempDir).entryList(QDir::Files, QDir::Name), files);
     }
 
     void namesForMessage() {
@@ -206,14 +206,14 @@ private slots:
         Fixtures::UseProgramDir(program_.path());
         const FolderPictures found = ListFolderPictures(clean_.path(), 0);
         for (int run = 0; run < 100; ++run) {
-            KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
+            KillIgnoringErrors(TheRun.Paths.TempDir + QStringLiteral("*.*"));
             DeckOf(0);
             // The list stays alive beside the import, as the screen's does.
             PictureImport work(clean_.path(), found.Cards, ReversedSide::Turned);
             work.Start();
             QCOMPARE(work.Commit(), QStringList());
-            QCOMPARE(CurrentDeck.CardCount, 6);
-            QCOMPARE(QDir(TempDir).entryList(QDir::Files).size(), 12);
+            QCOMPARE(TheRun.CurrentDeck.CardCount, 6);
+            QCOMPARE(QDir(TheRun.Paths.TempDir).entryList(QDir::Files).size(), 12);
         }
     }
 
@@ -273,12 +273,12 @@ private slots:
         ClickLine(Get<frmDecks>().lstDecks, QStringLiteral("Imported"));
         Get<frmDecks>().cmdEdit->click();
         QVERIFY2(MsgBoxScript::History().isEmpty(), qPrintable(MsgBoxScript::History().value(0).prompt));
-        QCOMPARE(CurrentDeck.CardCount, 7);
-        QCOMPARE(CurrentDeck.DeckCards(3).CardType, 1);
-        QCOMPARE(CurrentDeck.DeckCards(4).CardTitle.Trimmed(), QStringLiteral("Moon Rising"));
+        QCOMPARE(TheRun.CurrentDeck.CardCount, 7);
+        QCOMPARE(TheRun.CurrentDeck.DeckCards(3).CardType, 1);
+        QCOMPARE(TheRun.CurrentDeck.DeckCards(4).CardTitle.Trimmed(), QStringLiteral("Moon Rising"));
         QVERIFY(LineOf(Get<frmDesignDeck>().lstCards, QStringLiteral("Moon Rising")) >= 0);
-        for (const CardRecord& card : CurrentDeck.DeckCards) {
-            for (const auto& picture : card.CardPicture) QVERIFY2(FileExists(CardsDir + picture.Value()), qPrintable(picture.Value()));
+        for (const CardRecord& card : TheRun.CurrentDeck.DeckCards) {
+            for (const auto& picture : card.CardPicture) QVERIFY2(FileExists(TheRun.Paths.CardsDir + picture.Value()), qPrintable(picture.Value()));
             QCOMPARE(card.CardPicture[1].Value() == DefaultPictureName, !deckReversed);
         }
     }

@@ -66,7 +66,7 @@ inline void Choose(frmNewDiary& diary, int location, const QString& text, bool r
 // The cards a location's list offers, in order of title.
 inline QStringList Offered(int location) {
     QStringList texts;
-    for (const CardRow& row : DiaryLists.Rows(location)) texts << row.Text;
+    for (const CardRow& row : TheRun.DiaryLists.Rows(location)) texts << row.Text;
     texts.sort();
     return texts;
 }

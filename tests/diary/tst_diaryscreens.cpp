@@ -17,7 +17,7 @@ const QString SelectRow = QStringLiteral(" [Select]");
 // n come back without its number.
 QString Described(int location) {
     QStringList rows;
-    for (const CardRow& row : DiaryLists.Rows(location)) {
+    for (const CardRow& row : TheRun.DiaryLists.Rows(location)) {
         if (row.Text == SelectRow) rows << QStringLiteral("-");
         else rows << row.Text.section(QLatin1Char(' '), 1) + (row.Card == 0 ? QStringLiteral("'") : QString());
     }
@@ -72,14 +72,14 @@ private slots:
         for (int n = 1; n <= 6; ++n) deck.DeckCards(n).CardTitle = CardText(n);
         DiaryRecord diary;
         ResetDiary(diary);
-        FillCardLists(DiaryLists, deck, 4, {true, false, false, false});
+        FillCardLists(TheRun.DiaryLists, deck, 4, {true, false, false, false});
         for (const QString& choice : choices.split(QLatin1Char(' '))) {
             const int at = choice.section(QLatin1Char(':'), 0, 0).toInt();
             const int card = choice.section(QLatin1Char(':'), 1).toInt();
-            int row = IndexOfNone(DiaryLists, at);
-            for (int r = 0; card > 0 && r < DiaryLists.Rows(at).size(); ++r)
-                if (DiaryLists.Rows(at)[r].Text == CardText(card)) row = r;
-            QCOMPARE(ChooseRow(DiaryLists, diary, at, row, SelectedText(DiaryLists, at), duplicates, false, deck, 4),
+            int row = IndexOfNone(TheRun.DiaryLists, at);
+            for (int r = 0; card > 0 && r < TheRun.DiaryLists.Rows(at).size(); ++r)
+                if (TheRun.DiaryLists.Rows(at)[r].Text == CardText(card)) row = r;
+            QCOMPARE(ChooseRow(TheRun.DiaryLists, diary, at, row, SelectedText(TheRun.DiaryLists, at), duplicates, false, deck, 4),
                      card);
         }
         QStringList dealt;
@@ -93,7 +93,7 @@ private slots:
     // and reopened as it was, then closed unsaved after a cancelled save.
     void anEntryChosenInAnyOrderSavesAndReopensAsItWas() {
         const QString longTitle = QStringLiteral("Queen of the Pentacles of Old");
-        ChangeRecord<CardRecord>(CardsPath, 5, [&](CardRecord& c) { c.CardTitle = longTitle; });
+        ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 5, [&](CardRecord& c) { c.CardTitle = longTitle; });
         frmNewDiary& diary = NewDiary();
         diary.cmdContinue->click();
         diary.cmdNotes->click();
@@ -137,7 +137,7 @@ private slots:
         Settle();
         QVERIFY(!IsLoaded<frmNewDiary>());
         DiaryRecord saved;
-        QVERIFY(GetRecord(DiaryPath, 1, saved));
+        QVERIFY(GetRecord(TheRun.Paths.DiaryPath, 1, saved));
         QCOMPARE(saved.DiaryName.Trimmed() + saved.DiaryNotes.Trimmed(), QStringLiteral("TuesdayRain came."));
         QCOMPARE(saved.DealtCard, (std::array<Integer, 32>{0, 0, 5, 9}));
         std::array<Integer, 32> upright;
@@ -151,7 +151,7 @@ private slots:
         OpenPastDiary(0);
         frmNewDiary& reopened = Get<frmNewDiary>();
         QVERIFY(!reopened.IntroductionShown() && !reopened.DiaryChanged && reopened.FocusLocation == 4);
-        QCOMPARE(EncodeRecord(CurrentDiary), EncodeRecord(saved));
+        QCOMPARE(EncodeRecord(TheRun.CurrentDiary), EncodeRecord(saved));
         for (int i = 1; i <= Locations; ++i) {
             // Cards that came back stand in deck order again: what each list
             // offers is the same.
@@ -180,7 +180,7 @@ private slots:
             cards.chkReserved->click();
             cards.cmdCancel->click();
         });
-        QCOMPARE(CurrentDiary.DealtUpright[1], True16);
+        QCOMPARE(TheRun.CurrentDiary.DealtUpright[1], True16);
         Choose(diary, 1, QString(), false, [](frmDiaryCards& cards) {
             cards.lstCardTypes->clearSelection();
             QCOMPARE(cards.lstCards->count(), 1);  // the row of no card alone
@@ -193,10 +193,10 @@ private slots:
             QTest::keyClick(cards.lstCards, Qt::Key_Return);
         });
         QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Please select a card from the list."));
-        QCOMPARE(CurrentDiary.DealtCard[0], Integer(3));
+        QCOMPARE(TheRun.CurrentDiary.DealtCard[0], Integer(3));
         diary.cmdCardTitle(2)->setFocus();
         QTest::keyClick(diary.cmdCardTitle(2), Qt::Key_Delete);
-        QCOMPARE(CurrentDiary.DealtCard[1], Integer(0));
+        QCOMPARE(TheRun.CurrentDiary.DealtCard[1], Integer(0));
     }
 };
 

@@ -65,11 +65,11 @@ inline void LaySample(const QString& dir) {
     MsgBoxScript::Clear();
     const Integer deck = Fixtures::MakeDeck(QStringLiteral("Tarot"), 3, true);
     const Integer spread = Fixtures::MakeSpread(QStringLiteral("Celtic Cross"), 3, {deck});
-    ReadingFixtures::StoredEntry<ReadingRecord>(ReadingsPath, deck, spread, 0, 0);
-    ReadingFixtures::StoredEntry<DiaryRecord>(DiaryPath, deck, spread, 0, 0);
-    QFile::copy(DecksPath, TempDir + QStringLiteral("Temp.dck"));
-    QFile::copy(SpreadsPath, TempDir + QStringLiteral("Temp.spr"));
-    RememberedPictureFolder().Folder = RememberedSoundFolder().Folder = CardsDir;
+    ReadingFixtures::StoredEntry<ReadingRecord>(TheRun.Paths.ReadingsPath, deck, spread, 0, 0);
+    ReadingFixtures::StoredEntry<DiaryRecord>(TheRun.Paths.DiaryPath, deck, spread, 0, 0);
+    QFile::copy(TheRun.Paths.DecksPath, TheRun.Paths.TempDir + QStringLiteral("Temp.dck"));
+    QFile::copy(TheRun.Paths.SpreadsPath, TheRun.Paths.TempDir + QStringLiteral("Temp.spr"));
+    RememberedPictureFolder().Folder = RememberedSoundFolder().Folder = TheRun.Paths.CardsDir;
 }
 
 using Steps = std::function<void()>;
@@ -109,14 +109,14 @@ Steps Page(const Steps& steps, void (T::*page)()) {
 inline Steps FirstCard(const Steps& steps) {
     return [steps] {
         steps();
-        CurrentCard = CurrentDeck.DeckCards(1);
-        DesignMode = 0;
+        TheRun.CurrentCard = TheRun.CurrentDeck.DeckCards(1);
+        TheRun.DesignMode = 0;
     };
 }
 inline Steps FirstLocation(const Steps& steps) {
     return [steps] {
         steps();
-        SelectedLocation = 1;
+        TheRun.SelectedLocation = 1;
     };
 }
 inline const Steps NewReading = FirstLocation([] { ReadingFixtures::NewReading(); });
@@ -141,7 +141,7 @@ Steps Counted(bool created) {
         Get<T>().ShowCounts(1, 1);
         Get<T>().SetAttachment(created, QStringLiteral("Notes.txt"));
         if constexpr (std::is_same_v<T, frmCreatePackageSummary>)
-            Get<T>().ShowPackageFile(QStringLiteral("Tarot.pck"), PackagesDir);
+            Get<T>().ShowPackageFile(QStringLiteral("Tarot.pck"), TheRun.Paths.PackagesDir);
     };
 }
 
@@ -149,9 +149,9 @@ Steps Counted(bool created) {
 // sample's decks.
 inline void OfferDecks() {
     static std::vector<DeckRecord> offered;
-    offered = ReadAllRecords<DeckRecord>(DecksPath);
+    offered = ReadAllRecords<DeckRecord>(TheRun.Paths.DecksPath);
     Get<frmSpreads>().Show();
-    ChooserManageMode = false;
+    TheRun.ChooserManageMode = false;
     TheRun.DecksOnOffer = &offered;
 }
 
@@ -164,7 +164,7 @@ inline void ImportPictures(const Look& look) {
         look(import);
         import.cmdCancel->click();
     });
-    Get<frmImportPictures>().ShowFolder(CardsDir);
+    Get<frmImportPictures>().ShowFolder(TheRun.Paths.CardsDir);
 }
 
 // The card choice of the diary's first location, which runs modally.

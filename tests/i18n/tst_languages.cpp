@@ -29,24 +29,24 @@ QMap<QString, QByteArray> MakeEverything(const QString& base) {
     for (const char* folder : {"maker", "user"}) QDir(base).mkdir(QLatin1String(folder));
     Fixtures::UseProgramDir(base + QStringLiteral("/maker"));
     ResetDeck();
-    CurrentDeck.DeckId = 1;
-    CurrentDeck.DeckName = QStringLiteral("Tarot");
-    CurrentDeck.CardCount = 1;
+    TheRun.CurrentDeck.DeckId = 1;
+    TheRun.CurrentDeck.DeckName = QStringLiteral("Tarot");
+    TheRun.CurrentDeck.CardCount = 1;
     CardRecord card;
     ResetCard(card);
     card.CardTitle = QStringLiteral("The Moon");
     card.CardDeckId = 1;
-    AppendRecord(CardsPath, card);
-    AppendRecord(DecksPath, static_cast<const DeckRecord&>(CurrentDeck));
+    AppendRecord(TheRun.Paths.CardsPath, card);
+    AppendRecord(TheRun.Paths.DecksPath, static_cast<const DeckRecord&>(TheRun.CurrentDeck));
     Fixtures::MakeSpread(QStringLiteral("Cross"), 2, {1});
     ReadingRecord reading;
     ResetReading(reading);
     reading.ReadingName = QStringLiteral("Morning");
-    AppendRecord(ReadingsPath, reading);
+    AppendRecord(TheRun.Paths.ReadingsPath, reading);
     DiaryRecord diary;
     ResetDiary(diary);
     diary.DiaryName = QStringLiteral("Evening");
-    AppendRecord(DiaryPath, diary);
+    AppendRecord(TheRun.Paths.DiaryPath, diary);
 
     PackageStaging staging;
     staging.DeckNames = {QStringLiteral("Tarot")};
@@ -55,10 +55,10 @@ QMap<QString, QByteArray> MakeEverything(const QString& base) {
     staging.StageCards();
     staging.StageSpreads();
     const QString package = base + QStringLiteral("/Tarot.pck");
-    if (!CreatePackageFile(TempDir, package)) return {};
+    if (!CreatePackageFile(TheRun.Paths.TempDir, package)) return {};
 
     Fixtures::UseProgramDir(base + QStringLiteral("/user"));
-    ExtractPackageFile(package, TempDir);
+    ExtractPackageFile(package, TheRun.Paths.TempDir);
     InstallAnswers answers;
     answers.Chosen = {QStringLiteral("Tarot")};
     if (PackageInstallation(answers, QString()).Install() != InstallOutcome::Installed) return {};

@@ -88,7 +88,7 @@ private slots:
         other_ = Fixtures::MakeDeck(QStringLiteral("Other"), 10, false);
         gone_ = Fixtures::MakeDeck(QStringLiteral("Gone"), 10, false);
         DeleteDeck(3);
-        ChangeRecord<DeckRecord>(DecksPath, 2, [](DeckRecord& d) { d.DeckRevision = 2; });
+        ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 2, [](DeckRecord& d) { d.DeckRevision = 2; });
         cross_ = Fixtures::MakeSpread(QStringLiteral("Cross"), 3, {}, true);
         line_ = Fixtures::MakeSpread(QStringLiteral("Line"), 3, {}, true);
 
@@ -96,24 +96,24 @@ private slots:
         r.Issue = QStringLiteral("the move");
         r.ReadingNotes = QStringLiteral("Talk to Anna");
         r.DealtCount = 3;
-        Save(ReadingsPath, r, tarot_, cross_, {2024, 1, 15}, {{1, 1, true}, {2, 23, false}, {3, 5, true}});
+        Save(TheRun.Paths.ReadingsPath, r, tarot_, cross_, {2024, 1, 15}, {{1, 1, true}, {2, 23, false}, {3, 5, true}});
         r = Fixtures::NamedReading(QStringLiteral("Work"));
         r.ReadingNotes = QStringLiteral("New job; the MOVE maybe");
-        Save(ReadingsPath, r, tarot_, line_, {2024, 3, 2}, {{1, 1, false}, {2, 2, true}});
+        Save(TheRun.Paths.ReadingsPath, r, tarot_, line_, {2024, 3, 2}, {{1, 1, false}, {2, 2, true}});
         r = Fixtures::NamedReading(QStringLiteral("Secret"));
         r.Issue = QStringLiteral("hidden words");
         r.EntryLocked = True16;
         r.EntryPassword = QStringLiteral("pw");
-        Save(ReadingsPath, r, tarot_, line_, {2024, 3, 10}, {{1, 1, true}});
-        Save(ReadingsPath, Fixtures::NamedReading(QStringLiteral("Bad date")), tarot_, line_, {2024, 1, 1},
+        Save(TheRun.Paths.ReadingsPath, r, tarot_, line_, {2024, 3, 10}, {{1, 1, true}});
+        Save(TheRun.Paths.ReadingsPath, Fixtures::NamedReading(QStringLiteral("Bad date")), tarot_, line_, {2024, 1, 1},
              {{1, 3, true}});
-        ChangeRecord<ReadingRecord>(ReadingsPath, 4, [](ReadingRecord& bad) { bad.SavedOn = 1e9; });
+        ChangeRecord<ReadingRecord>(TheRun.Paths.ReadingsPath, 4, [](ReadingRecord& bad) { bad.SavedOn = 1e9; });
 
-        Save(DiaryPath, Fixtures::NamedDiary(QStringLiteral("Garden")), tarot_, cross_, {2024, 1, 20},
+        Save(TheRun.Paths.DiaryPath, Fixtures::NamedDiary(QStringLiteral("Garden")), tarot_, cross_, {2024, 1, 20},
              {{2, 5, true}, {3, 1, true}});
-        Save(DiaryPath, Fixtures::NamedDiary(QStringLiteral("Old deck")), other_, line_, {2024, 2, 5}, {{1, 3, true}});
-        Save(DiaryPath, Fixtures::NamedDiary(QStringLiteral("Gone deck")), gone_, line_, {2024, 2, 6}, {{1, 4, false}});
-        Save(DiaryPath, Fixtures::NamedDiary(QStringLiteral("Damaged")), tarot_, line_, {2024, 2, 7},
+        Save(TheRun.Paths.DiaryPath, Fixtures::NamedDiary(QStringLiteral("Old deck")), other_, line_, {2024, 2, 5}, {{1, 3, true}});
+        Save(TheRun.Paths.DiaryPath, Fixtures::NamedDiary(QStringLiteral("Gone deck")), gone_, line_, {2024, 2, 6}, {{1, 4, false}});
+        Save(TheRun.Paths.DiaryPath, Fixtures::NamedDiary(QStringLiteral("Damaged")), tarot_, line_, {2024, 2, 7},
              {{1, 45, true}, {2, 2, false}});
     }
 
@@ -366,7 +366,7 @@ private slots:
         Get<frmJournal>().grdResults->selectRow(0);
         Get<frmJournal>().cmdOpen->click();
         QTRY_VERIFY(IsLoaded<frmNewReading>() && !IsLoaded<frmJournal>());
-        QCOMPARE(CurrentReading.ReadingNotes.Trimmed(), QStringLiteral("Talk to Anna"));
+        QCOMPARE(TheRun.CurrentReading.ReadingNotes.Trimmed(), QStringLiteral("Talk to Anna"));
         Get<frmNewReading>().CloseReading();
     }
 };

@@ -41,7 +41,7 @@ QMap<QString, QByteArray> Tree(const QString& root) {
     return files;
 }
 
-QStringList TempNames() { return Dir(TempDir + QStringLiteral("*.*")); }
+QStringList TempNames() { return Dir(TheRun.Paths.TempDir + QStringLiteral("*.*")); }
 
 }  // namespace
 
@@ -86,9 +86,9 @@ private slots:
         QVERIFY(MsgBoxScript::History().isEmpty());
 
         // The reader keeps only the names: they land in this Temp/.
-        QVERIFY(ExtractPackageFile(package, TempDir));
+        QVERIFY(ExtractPackageFile(package, TheRun.Paths.TempDir));
         QCOMPARE(TempNames(), (QStringList{QStringLiteral("CU00001.bmp"), QStringLiteral("Temp.dck")}));
-        QCOMPARE(ReadWholeFile(TempDir + QStringLiteral("Temp.dck")), QByteArray("deck\0bytes", 10));
+        QCOMPARE(ReadWholeFile(TheRun.Paths.TempDir + QStringLiteral("Temp.dck")), QByteArray("deck\0bytes", 10));
 
         // A package of that name that is longer is written over, not cut short.
         WriteWholeFile(package, expected + "TAIL");
@@ -114,26 +114,26 @@ private slots:
 
     void cutShortAndOddPackagesYieldWhatIsWhole() {
         // Nothing at all.
-        QVERIFY(ExtractPackageFile(WritePackage(QByteArray()), TempDir));
+        QVERIFY(ExtractPackageFile(WritePackage(QByteArray()), TheRun.Paths.TempDir));
         QVERIFY(TempNames().isEmpty());
 
         // A member cut short is dropped with what follows (see the hostile
         // sizes below); one whole after another is kept.
         const QByteArray first = Member("C:\\Cartomar\\Temp\\a.txt", "first");
         const QByteArray second = Member("b.txt", "second member");   // no backslash: the whole name
-        QVERIFY(ExtractPackageFile(WritePackage(first + second), TempDir));
-        QCOMPARE(ReadWholeFile(TempDir + QStringLiteral("b.txt")), QByteArray("second member"));
+        QVERIFY(ExtractPackageFile(WritePackage(first + second), TheRun.Paths.TempDir));
+        QCOMPARE(ReadWholeFile(TheRun.Paths.TempDir + QStringLiteral("b.txt")), QByteArray("second member"));
 
         // The same name twice: the later one goes over the earlier in place.
         ClearTemp();
         QVERIFY(ExtractPackageFile(WritePackage(Member("x\\same", "LONGER TEXT") + Member("y\\same", "short")),
-                                   TempDir));
-        QCOMPARE(ReadWholeFile(TempDir + QStringLiteral("same")), QByteArray("shortR TEXT"));
+                                   TheRun.Paths.TempDir));
+        QCOMPARE(ReadWholeFile(TheRun.Paths.TempDir + QStringLiteral("same")), QByteArray("shortR TEXT"));
 
         // A member of no bytes has no buffer: the package cannot be opened.
         ClearTemp();
-        QVERIFY(!ExtractPackageFile(WritePackage(first + Member("empty", QByteArray())), TempDir));
-        QVERIFY(!ExtractPackageFile(outer_->path() + QStringLiteral("/missing.pck"), TempDir));
+        QVERIFY(!ExtractPackageFile(WritePackage(first + Member("empty", QByteArray())), TheRun.Paths.TempDir));
+        QVERIFY(!ExtractPackageFile(outer_->path() + QStringLiteral("/missing.pck"), TheRun.Paths.TempDir));
     }
 
     void hostilePackagesNeverWriteOutsideTempNorAllocateWhatTheyClaim() {
@@ -145,7 +145,7 @@ private slots:
             WritePackage(good + Member("..\\..\\..\\evil1.txt", "1") + Member("../../evil2.txt", "2") +
                          Member("/etc/evil3.txt", "3") + Member("C:\\Windows\\evil4.txt", "4") +
                          Member("a\\b/..\\../evil5.txt  ", "5")),
-            TempDir));
+            TheRun.Paths.TempDir));
         QCOMPARE(TempNames(), (QStringList{QStringLiteral("evil1.txt"), QStringLiteral("evil2.txt"),
                                            QStringLiteral("evil3.txt"), QStringLiteral("evil4.txt"),
                                            QStringLiteral("evil5.txt"), QStringLiteral("ok.txt")}));
@@ -153,7 +153,7 @@ private slots:
         // Names that are no file name end the unpacking as a failure.
         for (const QByteArray& name : {QByteArray(), QByteArray("."), QByteArray(".."), QByteArray("x\\.."),
                                        QByteArray("x/.. "), QByteArray("x/"), QByteArray("bad\0name", 8)})
-            QVERIFY2(!ExtractPackageFile(WritePackage(good + Member(name, "payload")), TempDir), name.constData());
+            QVERIFY2(!ExtractPackageFile(WritePackage(good + Member(name, "payload")), TheRun.Paths.TempDir), name.constData());
 
         // Sizes and lengths past the end, or below 0, end the reading quietly
         // with what came before, as a member cut short in its data, its name
@@ -162,7 +162,7 @@ private slots:
              {Member("huge", "abc", 0x7fffffff), Member("negative", "abc", -5), Member("past", "abc", 4),
               QByteArray("\x10\x00short", 7), QByteArray("\xff\xff", 2) + QByteArray(20, 'n'), QByteArray("\x05", 1)}) {
             ClearTemp();
-            QVERIFY(ExtractPackageFile(WritePackage(good + tail), TempDir));
+            QVERIFY(ExtractPackageFile(WritePackage(good + tail), TheRun.Paths.TempDir));
             QCOMPARE(TempNames(), QStringList{QStringLiteral("ok.txt")});
         }
 
@@ -170,9 +170,9 @@ private slots:
         ClearTemp();
         QByteArray many;
         for (int i = 0; i < 3000; ++i) many += Member("C:\\T\\m" + QByteArray::number(i), QByteArray::number(i * 7));
-        QVERIFY(ExtractPackageFile(WritePackage(many), TempDir));
+        QVERIFY(ExtractPackageFile(WritePackage(many), TheRun.Paths.TempDir));
         QCOMPARE(TempNames().size(), 3000);
-        QCOMPARE(ReadWholeFile(TempDir + QStringLiteral("m2999")), QByteArray::number(2999 * 7));
+        QCOMPARE(ReadWholeFile(TheRun.Paths.TempDir + QStringLiteral("m2999")), QByteArray::number(2999 * 7));
 
         // Beside Temp/ nothing changed but the package itself.
         ClearTemp();

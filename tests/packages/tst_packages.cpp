@@ -39,7 +39,7 @@ void GiveSounds(const QString& cardsPath, Integer deckId) {
             for (int side = 0; side < 2; ++side) {
                 const QString name = QStringLiteral("MC%1%2.wav").arg(side ? 'R' : 'U').arg(n, 5, 10, QLatin1Char('0'));
                 c.CardSound[static_cast<std::size_t>(side)] = name;
-                WriteWholeFile(CardsDir + name, "RIFF sound " + name.toLatin1());
+                WriteWholeFile(TheRun.Paths.CardsDir + name, "RIFF sound " + name.toLatin1());
             }
         });
 }
@@ -63,25 +63,25 @@ QByteArray Int16s(std::initializer_list<int> values) {
 void StagePackage(const QString& from, const QString& to) {
     FreshRun(from);
     const Integer tarot = Fixtures::MakeDeck(QStringLiteral("Tarot"), 2, true);
-    GiveSounds(CardsPath, tarot);
+    GiveSounds(TheRun.Paths.CardsPath, tarot);
     Fixtures::MakeDeck(QStringLiteral("Lenormand"), 1, false);
     Fixtures::MakeDeck(QStringLiteral("Empty"), 0, false);
     Fixtures::MakeSpread(QStringLiteral("Cross"), 2, {tarot});
     Fixtures::MakeSpread(QStringLiteral("Line"), 1);
-    ChangeRecord<SpreadRecord>(SpreadsPath, 1,
+    ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1,
                                [](SpreadRecord& s) { s.BackgroundFile = QStringLiteral("S000001.bmp"); });
-    Fixtures::WritePicture(CardsDir + QStringLiteral("S000001.bmp"));
+    Fixtures::WritePicture(TheRun.Paths.CardsDir + QStringLiteral("S000001.bmp"));
     PackageStaging staging;
     staging.DeckNames = {QStringLiteral("Tarot"), QStringLiteral("Lenormand"), QStringLiteral("Empty")};
     staging.SpreadNames = {QStringLiteral("Cross"), QStringLiteral("Line")};
     staging.StageDecks();
     staging.StageCards();
     staging.StageSpreads();
-    const QString staged = TempDir;
+    const QString staged = TheRun.Paths.TempDir;
     FreshRun(to);
     Fixtures::MakeDeck(QStringLiteral("Mine"), 1, false);
     Fixtures::MakeSpread(QStringLiteral("Mine"), 1);
-    for (const QString& name : Dir(staged + QStringLiteral("*.*"))) FileCopy(staged + name, TempDir + name);
+    for (const QString& name : Dir(staged + QStringLiteral("*.*"))) FileCopy(staged + name, TheRun.Paths.TempDir + name);
 }
 
 // Designs written into the program folder in one of the states the designers
@@ -95,11 +95,11 @@ using DesignState = std::function<Packed()>;
 // spread "Cross" of two locations tied to it, with a background.
 Packed TarotAndCross() {
     const Integer tarot = Fixtures::MakeDeck(QStringLiteral("Tarot"), 3, true);
-    GiveSounds(CardsPath, tarot);
+    GiveSounds(TheRun.Paths.CardsPath, tarot);
     Fixtures::MakeSpread(QStringLiteral("Cross"), 2, {tarot});
-    ChangeRecord<SpreadRecord>(SpreadsPath, 1,
+    ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1,
                                [](SpreadRecord& s) { s.BackgroundFile = QStringLiteral("S000001.bmp"); });
-    Fixtures::WritePicture(CardsDir + QStringLiteral("S000001.bmp"), Qt::darkGreen);
+    Fixtures::WritePicture(TheRun.Paths.CardsDir + QStringLiteral("S000001.bmp"), Qt::darkGreen);
     return {{QStringLiteral("Tarot")}, {QStringLiteral("Cross")}};
 }
 
@@ -107,7 +107,7 @@ Packed TarotAndCross() {
 DesignState TarotAndCrossWithout(const QStringList& gone) {
     return [gone] {
         const Packed packed = TarotAndCross();
-        for (const QString& name : gone) Kill(CardsDir + name);
+        for (const QString& name : gone) Kill(TheRun.Paths.CardsDir + name);
         return packed;
     };
 }
@@ -121,20 +121,20 @@ DesignState TarotAndCrossWithout(const QStringList& gone) {
 QList<QByteArray> AsShown(const Packed& designs, bool attachmentsMustBeThere) {
     QList<QByteArray> shown;
     const auto file = [](const auto& field, bool picture) {
-        const QString path = CardsDir + field.Trimmed();
+        const QString path = TheRun.Paths.CardsDir + field.Trimmed();
         if (!field.IsBlank() && FileExists(path)) return ReadWholeFile(path);
-        return picture ? ReadWholeFile(DefaultPicturePath) : QByteArray();
+        return picture ? ReadWholeFile(TheRun.Paths.DefaultPicturePath) : QByteArray();
     };
     const auto attachment = [attachmentsMustBeThere](auto& field) {
-        if (attachmentsMustBeThere && !FileExists(CardsDir + field.Trimmed())) field = QString();
+        if (attachmentsMustBeThere && !FileExists(TheRun.Paths.CardsDir + field.Trimmed())) field = QString();
     };
     QMap<Integer, int> places;
     for (const QString& name : designs.Decks) {
         DeckRecord deck;
-        GetRecord(DecksPath, FindDeckByName(name), deck);
+        GetRecord(TheRun.Paths.DecksPath, FindDeckByName(name), deck);
         places[deck.DeckId] = places.size();
         int taken = 0;
-        for (CardRecord card : All<CardRecord>(CardsPath)) {
+        for (CardRecord card : All<CardRecord>(TheRun.Paths.CardsPath)) {
             if (card.CardDeckId != deck.DeckId || ++taken > deck.CardCount) continue;
             QByteArray files;
             for (int side = 0; side < 2; ++side) {
@@ -152,9 +152,9 @@ QList<QByteArray> AsShown(const Packed& designs, bool attachmentsMustBeThere) {
     }
     for (const QString& name : designs.Spreads) {
         SpreadRecord spread;
-        GetRecord(SpreadsPath, FindSpreadByName(name), spread);
+        GetRecord(TheRun.Paths.SpreadsPath, FindSpreadByName(name), spread);
         LoadSpreadLocations(spread.SpreadId, spread.LocationCount);
-        for (LocationRecord location : SpreadLocations) {
+        for (LocationRecord location : TheRun.SpreadLocations) {
             location.LocationSpreadId = 0;
             attachment(location.LocationAttachment);
             shown << EncodeRecord(location);
@@ -180,23 +180,23 @@ QList<QByteArray> AsShown(const Packed& designs, bool attachmentsMustBeThere) {
 struct AsMade : InstallAnswers {
     QMap<QString, QStringList> Ties;  // "*" for any deck
     void ChooseDecks(const std::vector<DeckRecord>& decks) override {
-        InstallAllSpreads = false;
-        Chosen = Ties.value(CurrentSpread.SpreadName.Trimmed());
+        TheRun.InstallAllSpreads = false;
+        Chosen = Ties.value(TheRun.CurrentSpread.SpreadName.Trimmed());
         InstallAnswers::ChooseDecks(decks);
-        if (Chosen == QStringList{QStringLiteral("*")}) CurrentSpread.AllowedDeckCount = -1;
+        if (Chosen == QStringList{QStringLiteral("*")}) TheRun.CurrentSpread.AllowedDeckCount = -1;
     }
 };
 
 // The files of Cards/ that no card or spread names, the default picture aside.
 QStringList Unnamed() {
-    QSet<QString> named{NativePath(DefaultPicturePath)};
-    for (const CardRecord& card : All<CardRecord>(CardsPath))
+    QSet<QString> named{NativePath(TheRun.Paths.DefaultPicturePath)};
+    for (const CardRecord& card : All<CardRecord>(TheRun.Paths.CardsPath))
         for (const QString& path : CardFilesOf(card)) named << path;
-    for (const SpreadRecord& spread : All<SpreadRecord>(SpreadsPath))
+    for (const SpreadRecord& spread : All<SpreadRecord>(TheRun.Paths.SpreadsPath))
         named << DesignFilePath(spread.BackgroundFile.Value());
     QStringList unnamed;
-    for (const QString& name : Dir(CardsDir + QStringLiteral("*.*")))
-        if (!named.contains(NativePath(CardsDir + name))) unnamed << name;
+    for (const QString& name : Dir(TheRun.Paths.CardsDir + QStringLiteral("*.*")))
+        if (!named.contains(NativePath(TheRun.Paths.CardsDir + name))) unnamed << name;
     return unnamed;
 }
 
@@ -204,9 +204,9 @@ QStringList Unnamed() {
 // names in Cards/.
 QByteArray Stored() {
     QByteArray all;
-    for (const QString* path : {&DecksPath, &CardsPath, &SpreadsPath, &LocationsPath})
+    for (const QString* path : {&TheRun.Paths.DecksPath, &TheRun.Paths.CardsPath, &TheRun.Paths.SpreadsPath, &TheRun.Paths.LocationsPath})
         all += ReadWholeFile(*path) + '|';
-    return all + Dir(CardsDir + QStringLiteral("*.*")).join(QLatin1Char('|')).toLatin1();
+    return all + Dir(TheRun.Paths.CardsDir + QStringLiteral("*.*")).join(QLatin1Char('|')).toLatin1();
 }
 
 }  // namespace
@@ -262,19 +262,19 @@ private slots:
         QVERIFY(summaryScript.Done());
         Settle();
         QVERIFY(!IsLoaded<frmCreatePackage>() && Get<frmMainScreen>().Visible());
-        QCOMPARE(All<DeckRecord>(DecksPath)[0].DeckLocked, Integer(0));  // the live designs keep no password
-        const QString package = PackagesDir + QStringLiteral("Cartomar Package - 1.pck");
+        QCOMPARE(All<DeckRecord>(TheRun.Paths.DecksPath)[0].DeckLocked, Integer(0));  // the live designs keep no password
+        const QString package = TheRun.Paths.PackagesDir + QStringLiteral("Cartomar Package - 1.pck");
 
         // Directory B: a deck and a spread of the same names already.
         FreshRun(b.path());
-        FileCopy(package, PackagesDir + QStringLiteral("Cartomar Package - 1.pck"));
+        FileCopy(package, TheRun.Paths.PackagesDir + QStringLiteral("Cartomar Package - 1.pck"));
         const Integer oldDeckB = Fixtures::MakeDeck(QStringLiteral("Tarot"), 2, false);
         Fixtures::MakeSpread(QStringLiteral("Cross"), 1, {oldDeckB});
-        const QByteArray oldDeckRecordB = ReadWholeFile(DecksPath);
+        const QByteArray oldDeckRecordB = ReadWholeFile(TheRun.Paths.DecksPath);
 
         Get<frmMainScreen>().lblButton_Click(7);
         Get<frmInstallPackage>().filSelection->setListIndex(0);
-        CommonDialogScript::Answer(AttachmentsDir + QStringLiteral("notes.txt"));
+        CommonDialogScript::Answer(TheRun.Paths.AttachmentsDir + QStringLiteral("notes.txt"));
         ModalScript installScript;
         installScript
             .On<frmDesignExists>([](frmDesignExists& f) {
@@ -297,20 +297,20 @@ private slots:
         QVERIFY(installScript.Done());
         Settle();
         QVERIFY(!IsLoaded<frmInstallPackage>() && Get<frmMainScreen>().Visible());
-        QVERIFY(Dir(TempDir + QStringLiteral("*.*")).isEmpty());
+        QVERIFY(Dir(TheRun.Paths.TempDir + QStringLiteral("*.*")).isEmpty());
         // The attachment is saved with its extension added once more.
-        QCOMPARE(ReadWholeFile(AttachmentsDir + QStringLiteral("notes.txt.txt")), QByteArray("Read me first."));
+        QCOMPARE(ReadWholeFile(TheRun.Paths.AttachmentsDir + QStringLiteral("notes.txt.txt")), QByteArray("Read me first."));
 
         // B's own deck stays as it was; the renamed deck and the spread that
         // took the place of B's carry the package's password, and are
         // otherwise as they were in A.
-        QCOMPARE(ReadWholeFile(DecksPath).left(DeckRecord::Length), oldDeckRecordB);
-        ChangeRecord<DeckRecord>(DecksPath, 2, [](DeckRecord& d) {
+        QCOMPARE(ReadWholeFile(TheRun.Paths.DecksPath).left(DeckRecord::Length), oldDeckRecordB);
+        ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 2, [](DeckRecord& d) {
             QVERIFY(d.DeckLocked && d.DeckPassword.Trimmed() == QLatin1String("secret"));
             d.DeckLocked = 0;
             d.DeckPassword = QString();
         });
-        ChangeRecord<SpreadRecord>(SpreadsPath, 1, [](SpreadRecord& s) {
+        ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1, [](SpreadRecord& s) {
             QVERIFY(s.SpreadLocked && s.SpreadPassword.Trimmed() == QLatin1String("secret"));
             s.SpreadLocked = 0;
             s.SpreadPassword = QString();
@@ -329,19 +329,19 @@ private slots:
             {QStringLiteral("CU00001.bmp"), QStringLiteral("CR00002.bmp"), QStringLiteral("MCU00003.wav")});
         QTest::newRow("a card blanked by a load") << DesignState([] {
             const Packed packed = TarotAndCrossWithout({QStringLiteral("CU00002.bmp")})();
-            GetRecord(DecksPath, 1, ListDeck);
+            GetRecord(TheRun.Paths.DecksPath, 1, TheRun.ListDeck);
             LoadDeckCards();
             return packed;
         });
         QTest::newRow("attachments, two of them gone") << DesignState([] {
             const Packed packed = TarotAndCross();
-            for (const char* name : {"deck.txt", "place.txt"}) WriteWholeFile(CardsDir + QLatin1String(name), name);
-            ChangeRecord<DeckRecord>(DecksPath, 1,
+            for (const char* name : {"deck.txt", "place.txt"}) WriteWholeFile(TheRun.Paths.CardsDir + QLatin1String(name), name);
+            ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 1,
                                      [](DeckRecord& d) { d.DeckAttachment = QStringLiteral("deck.txt"); });
-            ChangeRecord<SpreadRecord>(SpreadsPath, 1,
+            ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1,
                                        [](SpreadRecord& s) { s.SpreadAttachment = QStringLiteral("gone.txt"); });
             for (int n = 1; n <= 2; ++n)
-                ChangeRecord<LocationRecord>(LocationsPath, n, [n](LocationRecord& l) {
+                ChangeRecord<LocationRecord>(TheRun.Paths.LocationsPath, n, [n](LocationRecord& l) {
                     l.LocationAttachment = n == 1 ? QStringLiteral("place.txt") : QStringLiteral("lost.txt");
                 });
             return packed;
@@ -378,7 +378,7 @@ private slots:
         AsMade answers;
         for (const QString& name : packed.Spreads) {
             SpreadRecord spread;
-            GetRecord(SpreadsPath, FindSpreadByName(name), spread);
+            GetRecord(TheRun.Paths.SpreadsPath, FindSpreadByName(name), spread);
             QStringList& ties = answers.Ties[name];
             if (spread.AllowedDeckCount < 0) ties << QStringLiteral("*");
             for (int k = 0; k < spread.AllowedDeckCount; ++k)
@@ -393,10 +393,10 @@ private slots:
         staging.StageCards();
         staging.StageSpreads();
         const QString package = a.path() + QStringLiteral("/p.pck");
-        QVERIFY(CreatePackageFile(TempDir, package));
+        QVERIFY(CreatePackageFile(TheRun.Paths.TempDir, package));
 
         FreshRun(b.path());
-        QVERIFY(ExtractPackageFile(package, TempDir));
+        QVERIFY(ExtractPackageFile(package, TheRun.Paths.TempDir));
         PackageInstallation installation(answers, QString());
         QCOMPARE(installation.Install(), InstallOutcome::Installed);
         QCOMPARE(AsShown(packed, false), made);
@@ -414,32 +414,32 @@ private slots:
         nobodys.CardTitle = QStringLiteral("Nobody's");
         nobodys.CardPicture[0] = QStringLiteral("CU00009.bmp");
         nobodys.CardDeckId = 2;  // the id Tarot takes
-        Fixtures::WritePicture(CardsDir + QStringLiteral("CU00009.bmp"));
-        AppendRecord(CardsPath, nobodys);
+        Fixtures::WritePicture(TheRun.Paths.CardsDir + QStringLiteral("CU00009.bmp"));
+        AppendRecord(TheRun.Paths.CardsPath, nobodys);
         InstallAnswers answers;
         answers.Chosen = {QStringLiteral("Tarot")};
         answers.Exists = DesignExistsOverwriteAll;
         for (int round = 1; round <= 2; ++round) {
             // "Mine" is tied to a deck that has gone under Tarot's id, then to Tarot.
             const Integer tarot = round == 1 ? 2 : FindDeckIdByName(QStringLiteral("Tarot"));
-            ChangeRecord<SpreadRecord>(SpreadsPath, 1, [tarot](SpreadRecord& s) {
+            ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1, [tarot](SpreadRecord& s) {
                 s.AllowedDeckId[0] = tarot;
                 s.AllowedDeckCount = 1;
             });
-            for (const QString& name : Dir(unpacked + QStringLiteral("*.*"))) FileCopy(unpacked + name, TempDir + name);
+            for (const QString& name : Dir(unpacked + QStringLiteral("*.*"))) FileCopy(unpacked + name, TheRun.Paths.TempDir + name);
             QCOMPARE(PackageInstallation(answers, QString()).Install(), InstallOutcome::Installed);
             std::set<Integer> ids;
-            for (const DeckRecord& deck : All<DeckRecord>(DecksPath)) {
+            for (const DeckRecord& deck : All<DeckRecord>(TheRun.Paths.DecksPath)) {
                 ids.insert(deck.DeckId);
-                ListDeck = deck;
+                TheRun.ListDeck = deck;
                 QVERIFY(LoadDeckCards());
-                for (const CardRecord& card : CurrentDeck.DeckCards)
+                for (const CardRecord& card : TheRun.CurrentDeck.DeckCards)
                     QVERIFY(card.CardTitle.Trimmed() != QLatin1String("Nobody's"));
             }
             QCOMPARE(int(ids.size()), 4);
-            for (const CardRecord& card : All<CardRecord>(CardsPath)) QVERIFY(ids.count(card.CardDeckId));
+            for (const CardRecord& card : All<CardRecord>(TheRun.Paths.CardsPath)) QVERIFY(ids.count(card.CardDeckId));
             QCOMPARE(Unnamed(), QStringList());
-            const SpreadRecord mine = All<SpreadRecord>(SpreadsPath)[0];
+            const SpreadRecord mine = All<SpreadRecord>(TheRun.Paths.SpreadsPath)[0];
             QCOMPARE(mine.AllowedDeckCount, Integer(round - 1));
             QCOMPARE(mine.AllowedDeckId[0], round == 1 ? Integer(-1) : FindDeckIdByName(QStringLiteral("Tarot")));
         }
@@ -507,9 +507,9 @@ private slots:
         QFETCH(QString, refusal);
         QTemporaryDir a, b;
         StagePackage(a.path(), b.path());
-        const QByteArray staged = ReadWholeFile(TempDir + member);
-        WriteWholeFile(TempDir + member, staged.left(at) + bytes + staged.mid(at + bytes.size()));
-        WriteWholeFile(AppPath + QStringLiteral("x.bmp"), "not the package's to take");
+        const QByteArray staged = ReadWholeFile(TheRun.Paths.TempDir + member);
+        WriteWholeFile(TheRun.Paths.TempDir + member, staged.left(at) + bytes + staged.mid(at + bytes.size()));
+        WriteWholeFile(TheRun.Paths.AppPath + QStringLiteral("x.bmp"), "not the package's to take");
         const QByteArray before = Stored();
         InstallAnswers answers;
         PackageInstallation installation(answers, QString());
@@ -518,8 +518,8 @@ private slots:
         QCOMPARE(Stored() != before, refusal.isEmpty());
         // A location the package lacks is put in its place as a fresh one.
         if (QTest::currentDataTag() == QByteArray("a spread short of a location")) {
-            LoadSpreadLocations(All<SpreadRecord>(SpreadsPath)[1].SpreadId, 3);
-            QCOMPARE(SpreadLocations(3).LocationLeft, Integer(6480));
+            LoadSpreadLocations(All<SpreadRecord>(TheRun.Paths.SpreadsPath)[1].SpreadId, 3);
+            QCOMPARE(TheRun.SpreadLocations(3).LocationLeft, Integer(6480));
         }
     }
 
@@ -530,25 +530,25 @@ private slots:
     void aPackageTakesFreeNamesAndOffersItsOwnDecks() {
         QTemporaryDir a, b;
         StagePackage(a.path(), b.path());
-        ChangeRecord<CardRecord>(TempDir + QStringLiteral("Temp.crd"), 2,
+        ChangeRecord<CardRecord>(TheRun.Paths.TempDir + QStringLiteral("Temp.crd"), 2,
                                  [](CardRecord& c) { c.CardPicture[0] = QStringLiteral("CU00001.bmp"); });
-        WriteWholeFile(CardsDir + QStringLiteral("CU00002jpeg"), "photo.jpeg");
-        WriteWholeFile(CardsDir + QStringLiteral("cr00003.bmp"), "a reversed picture whose upright one went");
+        WriteWholeFile(TheRun.Paths.CardsDir + QStringLiteral("CU00002jpeg"), "photo.jpeg");
+        WriteWholeFile(TheRun.Paths.CardsDir + QStringLiteral("cr00003.bmp"), "a reversed picture whose upright one went");
         InstallAnswers answers;
         answers.Chosen = {QStringLiteral("Tarot")};
         QCOMPARE(PackageInstallation(answers, QString()).Install(), InstallOutcome::Installed);
         QCOMPARE(answers.Offered, (QStringList{"Mine", "Tarot", "Lenormand", "Empty"}));
         QStringList names;
-        for (const CardRecord& c : All<CardRecord>(CardsPath))
+        for (const CardRecord& c : All<CardRecord>(TheRun.Paths.CardsPath))
             names << c.CardPicture[0].Trimmed() << c.CardPicture[1].Trimmed() << c.CardSound[0].Trimmed()
                   << c.CardSound[1].Trimmed();
         QCOMPARE(names, (QStringList{"CU00001.bmp", "C000000.bmp", "", "",                          // Mine
                                      "CU00000.bmp", "CR00000.bmp", "CU00000M.WAV", "CR00000M.WAV",  // Tarot
                                      "CU00004.bmp", "CR00004.bmp", "CU00004M.WAV", "CR00004M.WAV", "CU00005.bmp",
                                      "C000000.bmp", "", ""}));  // Lenormand
-        QCOMPARE(ReadWholeFile(CardsDir + QStringLiteral("CU00004.bmp")),
-                 ReadWholeFile(CardsDir + QStringLiteral("CU00000.bmp")));
-        for (const SpreadRecord& s : All<SpreadRecord>(SpreadsPath))
+        QCOMPARE(ReadWholeFile(TheRun.Paths.CardsDir + QStringLiteral("CU00004.bmp")),
+                 ReadWholeFile(TheRun.Paths.CardsDir + QStringLiteral("CU00000.bmp")));
+        for (const SpreadRecord& s : All<SpreadRecord>(TheRun.Paths.SpreadsPath))
             if (s.SpreadName.Trimmed() != QStringLiteral("Mine")) QCOMPARE(s.AllowedDeckId[0], Integer(2));
     }
 
@@ -559,7 +559,7 @@ private slots:
     void theScreenStaysOnAPackageItCannotInstall() {
         QTemporaryDir b;
         FreshRun(b.path());
-        const QString packages = PackagesDir;
+        const QString packages = TheRun.Paths.PackagesDir;
         DeckRecord claims;
         claims.CardCount = 5;
         WriteWholeFile(packages + QStringLiteral("damaged.pck"), Member("C:\\Temp\\Temp.dck", EncodeRecord(claims)));
@@ -576,7 +576,7 @@ private slots:
             QCOMPARE(MsgBoxScript::History().size(), 1);
             QCOMPARE(MsgBoxScript::History()[0].style & style, style);
             QCOMPARE(Stored(), before);
-            QVERIFY(Dir(TempDir + QStringLiteral("*.*")).isEmpty());
+            QVERIFY(Dir(TheRun.Paths.TempDir + QStringLiteral("*.*")).isEmpty());
             QVERIFY(IsLoaded<frmInstallPackage>());
         }
 
@@ -586,17 +586,17 @@ private slots:
                        Member("C:\\Temp\\Temp.spr", "garbage") + Member("ATT - a.txt", "hi"));
         Chosen(packages, QStringLiteral("bad.pck"));
         MsgBoxScript::Clear();
-        CommonDialogScript::Answer(AttachmentsDir + QStringLiteral("a"));
+        CommonDialogScript::Answer(TheRun.Paths.AttachmentsDir + QStringLiteral("a"));
         ModalScript summary;
         summary.On<frmPackageSummary>([](frmPackageSummary& s) {
             QCOMPARE(s.Label1->text(), QStringLiteral("No elements of this package were installed."));
-            QCOMPARE(s.txtAttachment->text(), AttachmentsDir + QStringLiteral("a.txt"));
+            QCOMPARE(s.txtAttachment->text(), TheRun.Paths.AttachmentsDir + QStringLiteral("a.txt"));
             s.cmdCancel->click();
         });
         install.cmdInstall_Click();
         QVERIFY(summary.Done());
         QCOMPARE(Prompts(), QStringList{QStringLiteral("Unable to install: Incompatible Cartomar Package.")});
-        QCOMPARE(ReadWholeFile(AttachmentsDir + QStringLiteral("a.txt")), QByteArray("hi"));
+        QCOMPARE(ReadWholeFile(TheRun.Paths.AttachmentsDir + QStringLiteral("a.txt")), QByteArray("hi"));
         QCOMPARE(CountSpreads(), 0);
         Settle();
     }

@@ -141,7 +141,7 @@ private slots:
         FreshRun(program.path());
         // Installed as the package reader and installation do it, the deck chosen
         // for every spread; the screen's part is shown with the package tests.
-        QVERIFY(ExtractPackageFile(QStringLiteral(STARTER_PACKAGE_PATH), TempDir));
+        QVERIFY(ExtractPackageFile(QStringLiteral(STARTER_PACKAGE_PATH), TheRun.Paths.TempDir));
         InstallAnswers answers;
         answers.Chosen = {ReadSources().Deck.Name};
         PackageInstallation installation(answers, QString());
@@ -151,14 +151,14 @@ private slots:
 
         // One deck of 78 cards, its pictures the faces drawn; five spreads tied
         // to it (the texts themselves are checked in the sources).
-        const std::vector<DeckRecord> decks = ReadAllRecords<DeckRecord>(DecksPath);
+        const std::vector<DeckRecord> decks = ReadAllRecords<DeckRecord>(TheRun.Paths.DecksPath);
         const DeckRecord& deck = decks[0];
-        const std::vector<CardRecord> cards = ReadAllRecords<CardRecord>(CardsPath);
+        const std::vector<CardRecord> cards = ReadAllRecords<CardRecord>(TheRun.Paths.CardsPath);
         QCOMPARE(QList<int>({int(decks.size()), deck.CardCount, int(cards.size())}), QList<int>({1, 78, 78}));
         for (const CardRecord& card : {cards.front(), cards.back()})
             for (const auto& picture : card.CardPicture)
-                QCOMPARE(LoadPicture(CardsDir + picture.Trimmed()).Image.size(), QSize(FaceWidth, FaceHeight));
-        for (const SpreadRecord& spread : ReadAllRecords<SpreadRecord>(SpreadsPath)) {
+                QCOMPARE(LoadPicture(TheRun.Paths.CardsDir + picture.Trimmed()).Image.size(), QSize(FaceWidth, FaceHeight));
+        for (const SpreadRecord& spread : ReadAllRecords<SpreadRecord>(TheRun.Paths.SpreadsPath)) {
             QCOMPARE(spread.AllowedDeckCount, Integer(1));
             QCOMPARE(spread.AllowedDeckId[0], deck.DeckId);
         }
@@ -173,7 +173,7 @@ private slots:
         reading.cmdContinue->click();
         reading.cmdAllCards->click();
         QSet<Integer> dealt;
-        for (int i = 1; i <= 10; ++i) dealt << ReadingDeal.DealtCard(i);
+        for (int i = 1; i <= 10; ++i) dealt << TheRun.ReadingDeal.DealtCard(i);
         QVERIFY(dealt.size() == 10 && !dealt.contains(0));
         UnloadScreen<frmReadingCards>();
         UnloadScreen<frmNewReading>();

@@ -81,22 +81,22 @@ std::function<void()> MainButton(int index) {
 }
 
 const FailingLoad kFailingLoads[] = {
-    {[] { ChangeRecord<SpreadRecord>(SpreadsPath, 1, [](SpreadRecord& s) { s.BackgroundFile = "S000001.bmp"; }); },
+    {[] { ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1, [](SpreadRecord& s) { s.BackgroundFile = "S000001.bmp"; }); },
      [] {
          Get<frmSpreads>().SelectSpread(QStringLiteral("First"));
          Get<frmSpreads>().cmdInfo->click();
      },
      IsLoaded<frmSpreadInfo>},
-    {[] { ChangeRecord<CardRecord>(CardsPath, 1, [](CardRecord& c) { c.CardSound[0] = "MCU00001.wav"; }); },
+    {[] { ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 1, [](CardRecord& c) { c.CardSound[0] = "MCU00001.wav"; }); },
      [] {
          Get<frmDecks>().lstDecks->setListIndex(0);
          Get<frmDecks>().cmdInfo->click();
      },
      IsLoaded<frmDeckInfo>},
-    {[] { Unreadable(ReadingsPath); }, MainButton(2),
+    {[] { Unreadable(TheRun.Paths.ReadingsPath); }, MainButton(2),
      [] { return IsLoaded<frmOpenReading>() || IsLoaded<frmNewReading>(); }},
-    {[] { Unreadable(DiaryPath); }, MainButton(4), [] { return IsLoaded<frmOpenDiary>() || IsLoaded<frmNewDiary>(); }},
-    {[] { Unreadable(DecksPath); }, MainButton(8), IsLoaded<frmCreatePackage>},
+    {[] { Unreadable(TheRun.Paths.DiaryPath); }, MainButton(4), [] { return IsLoaded<frmOpenDiary>() || IsLoaded<frmNewDiary>(); }},
+    {[] { Unreadable(TheRun.Paths.DecksPath); }, MainButton(8), IsLoaded<frmCreatePackage>},
 };
 }  // namespace
 

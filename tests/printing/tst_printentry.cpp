@@ -81,7 +81,7 @@ QList<int> CheckLocations(const QList<PrinterCall>& page, int canvasHeight) {
             if (call.X < x || call.Y < y || call.X + call.W > x + 735 || call.Y + call.H > y + 975) return {-1};
         } else if (call.Op == QLatin1String("PrintInBox") && call.Text.startsWith(QLatin1String("Position "))) {
             const int i = call.Text.section(QLatin1Char(' '), 1).toInt();
-            const LocationRecord& location = SpreadLocations(i);
+            const LocationRecord& location = TheRun.SpreadLocations(i);
             if (!Near(x - 840, qRound(location.LocationLeft * 10095.0 / 9615.0)) ||
                 y - 2880 != qRound(location.LocationTop * 5895.0 / canvasHeight) || call.X != x + 720)
                 return {-2};
@@ -124,13 +124,13 @@ class TestPrintEntry : public QObject, ScreenRun {
     void MakeDesigns(int locations) {
         const Integer deckId = Fixtures::MakeDeck(QStringLiteral("Tarot"), 30, true);
         Fixtures::MakeSpread(QStringLiteral("Cross"), locations, {deckId});
-        ChangeRecord<SpreadRecord>(SpreadsPath, 1, [](SpreadRecord& s) {
+        ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1, [](SpreadRecord& s) {
             s.AskQuestion = True16;
             s.SpreadDesigner.DesignerName = QStringLiteral("Iris Vane");
         });
-        ChangeRecord<DeckRecord>(DecksPath, 1,
+        ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 1,
                                  [](DeckRecord& d) { d.DeckDesigner.DesignerName = QStringLiteral("Odo Marl"); });
-        ChangeRecord<LocationRecord>(LocationsPath, 3, [](LocationRecord& l) {
+        ChangeRecord<LocationRecord>(TheRun.Paths.LocationsPath, 3, [](LocationRecord& l) {
             l.LocationQuestion[0] = QStringLiteral(" Who? ");
             l.LocationQuestion[2] = QStringLiteral("Why?");
         });
@@ -138,7 +138,7 @@ class TestPrintEntry : public QObject, ScreenRun {
         // into the printed box as real ones are.
         for (int n = 1; n <= 30; ++n) {
             CardRecord card;
-            GetRecord(CardsPath, n, card);
+            GetRecord(TheRun.Paths.CardsPath, n, card);
             for (int side = 0; side < 2; ++side) {
                 QImage picture(120, 180, QImage::Format_RGB32);
                 picture.fill(QColor::fromHsv((n * 37) % 360, 160, side == 0 ? 220 : 120));
@@ -146,10 +146,10 @@ class TestPrintEntry : public QObject, ScreenRun {
                 painter.drawRect(4, 4, 111, 171);
                 painter.drawText(picture.rect(), Qt::AlignCenter, QString::number(n));
                 painter.end();
-                SavePictureAsBmp(picture, CardsDir + card.CardPicture[static_cast<std::size_t>(side)].Trimmed());
+                SavePictureAsBmp(picture, TheRun.Paths.CardsDir + card.CardPicture[static_cast<std::size_t>(side)].Trimmed());
             }
         }
-        ChangeRecord<CardRecord>(CardsPath, 1, [](CardRecord& c) {
+        ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 1, [](CardRecord& c) {
             c.CardDescription[0] = QStringLiteral("First line\nSecond line");
             c.CardDescription[1] = QStringLiteral("First line\nSecond line");
         });
@@ -197,9 +197,9 @@ private slots:
 
     void readingPrintsTheSpreadPageThenSummaryAndBlocks() {
         QFETCH(bool, titles);
-        ChangeRecord<DeckRecord>(DecksPath, 1, [titles](DeckRecord& d) { d.DisplayCardTitles = Flag(titles); });
+        ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 1, [titles](DeckRecord& d) { d.DisplayCardTitles = Flag(titles); });
         frmNewReading& reading = Reading();
-        CurrentReading.ReadingNotes = QStringLiteral("Line one\nLine two");
+        TheRun.CurrentReading.ReadingNotes = QStringLiteral("Line one\nLine two");
         auto printer = RecorderChosen();
         reading.cmdPrint->click();
         QVERIFY(MsgBoxScript::History().isEmpty());
@@ -212,7 +212,7 @@ private slots:
         QCOMPARE(CheckLocations(page, 5895), (QList<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
         QCOMPARE(Count(page, QStringLiteral("PaintPicture")), Locations);
         for (int i = 1; i <= Locations; ++i) {
-            QVERIFY(boxes.contains(DeckCard(ReadingDeal.DealtCard(i)).CardTitle.Trimmed()));
+            QVERIFY(boxes.contains(DeckCard(TheRun.ReadingDeal.DealtCard(i)).CardTitle.Trimmed()));
             QVERIFY(!boxes.contains(QString::number(i)));
         }
 
@@ -222,8 +222,8 @@ private slots:
         for (int i = 1; i <= Locations; ++i) {
             locations << QStringLiteral("Location: Position %1").arg(i);
             cards << QStringLiteral("Card: Card %1%2")
-                         .arg(ReadingDeal.DealtCard(i))
-                         .arg(ReadingDeal.DealtUpright(i) != 0 ? QStringLiteral("(Upright)")
+                         .arg(TheRun.ReadingDeal.DealtCard(i))
+                         .arg(TheRun.ReadingDeal.DealtUpright(i) != 0 ? QStringLiteral("(Upright)")
                                                                : QStringLiteral("(Reversed)"));
         }
         QCOMPARE(Starting(texts, QStringLiteral("Location: ")), locations);
@@ -231,8 +231,8 @@ private slots:
         // The questions run on behind the description.
         QVERIFY(texts.contains(QStringLiteral("What position 3 stands for  Who?  Why?")));
         // Each card's text is its side's.
-        const Integer first = ReadingDeal.DealtCard(1);
-        const QString meaning = DeckCard(first).CardDescription[ReadingDeal.DealtUpright(1) != 0 ? 0 : 1].Trimmed();
+        const Integer first = TheRun.ReadingDeal.DealtCard(1);
+        const QString meaning = DeckCard(first).CardDescription[TheRun.ReadingDeal.DealtUpright(1) != 0 ? 0 : 1].Trimmed();
         QCOMPARE(texts[texts.indexOf(cards[0]) + 1], meaning.section(QLatin1Char('\n'), 0, 0));
     }
 
@@ -282,7 +282,7 @@ private slots:
                  (QStringList{"Card: Card 5(Upright)", "Card: Card 7 (Reversed)"}));
         QVERIFY(texts.contains(QStringLiteral("Reversed meaning of card 7")));
         // Notes make the summary page that an entry without them goes without.
-        CurrentDiary.DiaryNotes = QStringLiteral("Cards laid on the kitchen table.");
+        TheRun.CurrentDiary.DiaryNotes = QStringLiteral("Cards laid on the kitchen table.");
         auto withNotes = RecorderChosen();
         diary.cmdPrint->click();
         QVERIFY(withNotes->Texts().contains(QStringLiteral("Cards laid on the kitchen table.")));
@@ -306,7 +306,7 @@ private slots:
         QFile::remove(readingPdf);
 
         frmNewReading& reading = Reading();
-        CurrentReading.ReadingNotes = QStringLiteral("The weather turns by the end of the week.\nTake an umbrella.");
+        TheRun.CurrentReading.ReadingNotes = QStringLiteral("The weather turns by the end of the week.\nTake an umbrella.");
         PrinterDialogScript::PrintToPdf(readingPdf);
         reading.cmdPrint->click();
         QVERIFY(MsgBoxScript::History().isEmpty());

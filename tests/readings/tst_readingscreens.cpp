@@ -27,10 +27,10 @@ private slots:
         FreshRun(NewDir());
         deckId_ = Fixtures::MakeDeck(QStringLiteral("Tarot"), DeckSize, true);
         Fixtures::MakeSpread(QStringLiteral("Cross"), Locations, {deckId_});
-        ChangeRecord<SpreadRecord>(SpreadsPath, 1, [](SpreadRecord& s) { s.AskQuestion = True16; });
+        ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1, [](SpreadRecord& s) { s.AskQuestion = True16; });
         // Every card sounds on its reversed side.
         for (int n = 1; n <= DeckSize; ++n)
-            ChangeRecord<CardRecord>(CardsPath, n, [n](CardRecord& c) {
+            ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, n, [n](CardRecord& c) {
                 c.CardSound[1] = QStringLiteral("MCR%1.wav").arg(n, 5, 10, QLatin1Char('0'));
             });
     }
@@ -47,11 +47,11 @@ private slots:
         QTest::keyClick(reading.txtIssue, Qt::Key_Return);
         QCOMPARE(reading.Caption(), QStringLiteral("Reading - Cross:   Will it rain?  "));
         frmReadingCards& table = Get<frmReadingCards>();
-        const auto order = CurrentReading.LocationCard;
+        const auto order = TheRun.CurrentReading.LocationCard;
 
         // A card by a click, one by Next Card; closing asks, Yes saves.
         table.picCard_Click(7);
-        QCOMPARE(ReadingDeal.DealtCard(1), order[6]);
+        QCOMPARE(TheRun.ReadingDeal.DealtCard(1), order[6]);
         reading.cmdNextCard->click();
         const auto onTable = [] {
             QList<int> cards;
@@ -63,7 +63,7 @@ private slots:
         SaveThrough<frmSaveReading>(reading.cmdClose, QStringLiteral("Morning"));
         QCOMPARE(MsgBoxScript::History().at(0).prompt, QStringLiteral("Save changes to the reading?"));
         ReadingRecord saved;
-        QVERIFY(GetRecord(ReadingsPath, 1, saved));
+        QVERIFY(GetRecord(TheRun.Paths.ReadingsPath, 1, saved));
         QVERIFY(saved.Issue.Value().startsWith(QStringLiteral("  Will it rain?  ")));
         QCOMPARE(QList<Integer>({saved.DealtCount, saved.ReadingDeckId}), QList<Integer>({2, deckId_}));
 
@@ -75,9 +75,9 @@ private slots:
         again.cmdAllCards->click();
         QVERIFY(!IsLoaded<frmReadingCards>() && again.ReadingChanged);
         int reversedAt = 1;
-        while (ReadingDeal.DealtUpright(reversedAt) != False16 && reversedAt < Locations) ++reversedAt;
-        const Integer card = ReadingDeal.DealtCard(reversedAt);
-        QVERIFY2(ReadingDeal.DealtUpright(reversedAt) == False16, "the seed deals no reversed card");
+        while (TheRun.ReadingDeal.DealtUpright(reversedAt) != False16 && reversedAt < Locations) ++reversedAt;
+        const Integer card = TheRun.ReadingDeal.DealtCard(reversedAt);
+        QVERIFY2(TheRun.ReadingDeal.DealtUpright(reversedAt) == False16, "the seed deals no reversed card");
         QCOMPARE(again.imgCard(reversedAt)->Image().pixelColor(0, 0).rgb(), Fixtures::CardColour(card, False16).rgb());
 
         // Interpreting the reversed card: its reversed texts, picture and sound.
@@ -87,7 +87,7 @@ private slots:
         page.optKeywords->click();
         QCOMPARE(page.lblText->toPlainText(), QStringLiteral("reversed keywords %1").arg(card));
         QCOMPARE(page.MediaPlayer1->FileName(),
-                 CardsDir + QStringLiteral("MCR%1.wav").arg(card, 5, 10, QLatin1Char('0')));
+                 TheRun.Paths.CardsDir + QStringLiteral("MCR%1.wav").arg(card, 5, 10, QLatin1Char('0')));
         page.cmdEnlargePic->click();  // the picture takes the player's place
         QVERIFY(!page.picEnlargedBackground->isHidden() && page.MediaPlayer1->isHidden());
         page.cmdClose->click();
@@ -101,10 +101,10 @@ private slots:
         SaveThrough<frmSaveReading>(again.cmdSave, QStringLiteral("Morning"));
         QVERIFY(!again.ReadingChanged);
         again.cmdClose->click();
-        QVERIFY(GetRecord(ReadingsPath, 1, saved));
+        QVERIFY(GetRecord(TheRun.Paths.ReadingsPath, 1, saved));
         QCOMPARE(saved.ReadingNotes.Trimmed(), QStringLiteral("Rain later."));
         QCOMPARE(QList<Integer>({saved.SaveCount, saved.DealtCount}), QList<Integer>({2, Locations}));
-        for (int i = 1; i <= Locations; ++i) QCOMPARE(saved.DealtCard[std::size_t(i - 1)], ReadingDeal.DealtCard(i));
+        for (int i = 1; i <= Locations; ++i) QCOMPARE(saved.DealtCard[std::size_t(i - 1)], TheRun.ReadingDeal.DealtCard(i));
 
         // Reopened complete: no table, Deal offered.
         OpenPastReading(0);

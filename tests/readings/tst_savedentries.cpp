@@ -54,10 +54,10 @@ class TestSavedEntries : public QObject, ScreenRun {
 
     // A complete reading or diary entry of the 20-location spread, saved as "Saved".
     ReadingRecord SavedReading(int highCardAt = 0, Integer highCard = 0) {
-        return StoredEntry<ReadingRecord>(ReadingsPath, deckId_, spreadId_, highCardAt, highCard);
+        return StoredEntry<ReadingRecord>(TheRun.Paths.ReadingsPath, deckId_, spreadId_, highCardAt, highCard);
     }
     void SavedDiary(int highCardAt = 0, Integer highCard = 0) {
-        StoredEntry<DiaryRecord>(DiaryPath, deckId_, spreadId_, highCardAt, highCard);
+        StoredEntry<DiaryRecord>(TheRun.Paths.DiaryPath, deckId_, spreadId_, highCardAt, highCard);
     }
     // The entry in hand saved under the typed name of the test's row, in a
     // file of "First" and "Second", and read back from the disk.
@@ -175,9 +175,9 @@ private slots:
         if (change == DeckDeleted) DeleteDeck(1);
         if (change == SpreadDeleted || change == DeckRevisedSpreadDeleted) DeleteSpread(1);
         if (change == SpreadRevised)
-            ChangeRecord<SpreadRecord>(SpreadsPath, 1, [](SpreadRecord& s) { s.SpreadRevision = 2; });
+            ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1, [](SpreadRecord& s) { s.SpreadRevision = 2; });
         if (change == CardsRemoved || change == DeckRevised || change == DeckRevisedSpreadDeleted)
-            ChangeRecord<DeckRecord>(DecksPath, 1, [change](DeckRecord& d) {
+            ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 1, [change](DeckRecord& d) {
                 d.DeckRevision = 2;
                 if (change == CardsRemoved) d.CardCount = 21;
             });
@@ -191,12 +191,12 @@ private slots:
     void theOpenScreenStopsWhereTheCoreSays() {
         SavedReading();
         SavedDiary();
-        ChangeRecord<DeckRecord>(DecksPath, 1, [](DeckRecord& d) { d.DeckRevision = 2; });
-        const QByteArray file = ReadWholeFile(ReadingsPath);
+        ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 1, [](DeckRecord& d) { d.DeckRevision = 2; });
+        const QByteArray file = ReadWholeFile(TheRun.Paths.ReadingsPath);
         MsgBoxScript::Answer(vbNo);
         TryOpen();
         QVERIFY(IsLoaded<frmOpenReading>() && !IsLoaded<frmReadingCards>());
-        QCOMPARE(ReadWholeFile(ReadingsPath), file);
+        QCOMPARE(ReadWholeFile(TheRun.Paths.ReadingsPath), file);
         UnloadScreen<frmOpenReading>();
         DeleteSpread(1);
         MsgBoxScript::Answer(vbYes);  // the changed deck, asked before the refusal
@@ -225,14 +225,14 @@ private slots:
 
     void savingAnEntryWritesItWhole() {
         QFETCH(bool, diary);
-        if (diary) SaveAndReadBack<DiaryRecord>(EntryKind::Diary, DiaryPath);
-        else SaveAndReadBack<ReadingRecord>(EntryKind::Reading, ReadingsPath);
+        if (diary) SaveAndReadBack<DiaryRecord>(EntryKind::Diary, TheRun.Paths.DiaryPath);
+        else SaveAndReadBack<ReadingRecord>(EntryKind::Reading, TheRun.Paths.ReadingsPath);
     }
 
     // After the question, a card past a changed deck at location 16 leaves it empty.
     void aCardPastASmallerDeckBeyondLocationFifteenIsLeftOut() {
         SavedDiary(16, 22);
-        ChangeRecord<DeckRecord>(DecksPath, 1, [](DeckRecord& d) {
+        ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 1, [](DeckRecord& d) {
             d.DeckRevision = 2;
             d.CardCount = 21;
         });
@@ -240,24 +240,24 @@ private slots:
         ReadingFixtures::TryOpen<frmNewDiary, frmOpenDiary>();
         QVERIFY(!IsLoaded<frmOpenDiary>());
         QCOMPARE(Get<frmNewDiary>().cmdCardTitle(16)->text(), QStringLiteral(" [Select]"));
-        QCOMPARE(CurrentDiary.DealtCard[15], Integer(0));
+        QCOMPARE(TheRun.CurrentDiary.DealtCard[15], Integer(0));
     }
 
     void aCardPastTheDeckBeyondLocationFifteenClosesTheReadingCleanly() {
         SavedReading(18, 40);
-        ChangeRecord<DeckRecord>(DecksPath, 1, [](DeckRecord& d) { d.DeckRevision = 2; });
-        const QByteArray file = ReadWholeFile(ReadingsPath);
+        ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 1, [](DeckRecord& d) { d.DeckRevision = 2; });
+        const QByteArray file = ReadWholeFile(TheRun.Paths.ReadingsPath);
         MsgBoxScript::Answer(vbYes);  // open with the changed deck
         TryOpen();
         QCOMPARE(MsgBoxScript::History().size(), 2);
         QVERIFY(MsgBoxScript::History().at(1).prompt.contains(ErrorDescription(errSubscriptOutOfRange)));
-        QVERIFY(!IsLoaded<frmNewReading>() && !IsLoaded<frmReadingCards>() && !ReadingDeal.LoadingReading);
-        QCOMPARE(ReadWholeFile(ReadingsPath), file);
+        QVERIFY(!IsLoaded<frmNewReading>() && !IsLoaded<frmReadingCards>() && !TheRun.ReadingDeal.LoadingReading);
+        QCOMPARE(ReadWholeFile(TheRun.Paths.ReadingsPath), file);
     }
 
     void aLockedReadingAsksItsPassword() {
         SavedReading();
-        ChangeRecord<ReadingRecord>(ReadingsPath, 1, [](ReadingRecord& r) {
+        ChangeRecord<ReadingRecord>(TheRun.Paths.ReadingsPath, 1, [](ReadingRecord& r) {
             r.EntryLocked = True16;
             r.EntryPassword = QStringLiteral("moon");
         });
@@ -268,14 +268,14 @@ private slots:
         });
         TryOpen();
         QVERIFY(script.Done() && !IsLoaded<frmOpenReading>());
-        QCOMPARE(ReadingDeal.ThisLocationNumber, Integer(21));
+        QCOMPARE(TheRun.ReadingDeal.ThisLocationNumber, Integer(21));
     }
 
     void theListIsByDateAndDeletesAfterTheQuestion() {
         ReadingRecord later = SavedReading();
-        ChangeRecord<ReadingRecord>(ReadingsPath, 1, [](ReadingRecord& r) { r.SavedOn = 46100; });
+        ChangeRecord<ReadingRecord>(TheRun.Paths.ReadingsPath, 1, [](ReadingRecord& r) { r.SavedOn = 46100; });
         later.ReadingName = QStringLiteral("Earlier");
-        AppendRecord(ReadingsPath, later);
+        AppendRecord(TheRun.Paths.ReadingsPath, later);
         frmOpenReading& open = Get<frmOpenReading>();
         QVERIFY(open.lstEntries->item(0)->text().startsWith(FormatSortDate(46000) + QStringLiteral(" - Earlier")));
         for (const int answer : {vbNo, vbYes}) {
@@ -301,7 +301,7 @@ private slots:
         QTest::keyClick(save.lstNames, Qt::Key_Return);
         QVERIFY(!IsLoaded<frmSaveReading>());
         QCOMPARE(CountReadings(), 1);
-        QCOMPARE(CurrentReading.SaveCount, Integer(1));  // the screen keeps the entry as saved
+        QCOMPARE(TheRun.CurrentReading.SaveCount, Integer(1));  // the screen keeps the entry as saved
     }
 
     void theSelectionListsWhatCanRunAndDefendsItsBoxes() {
@@ -329,7 +329,7 @@ private slots:
         select.lstCardTypes->item(0)->setSelected(true);
         select.chkAllowDuplicateCards->setChecked(true);
         select.cmdSelect_Click();
-        QVERIFY(AllowDuplicateCards && UseReversed && CurrentReading.AllowDuplicateCards == True16);
+        QVERIFY(TheRun.AllowDuplicateCards && TheRun.UseReversed && TheRun.CurrentReading.AllowDuplicateCards == True16);
         QVERIFY(Get<frmSelectSpread>().chkAllowDuplicateCards->isChecked());
         SelectSpreadScreen::LastAllowDuplicateCards = false;
         UnloadScreen<frmSelectSpread>();
@@ -354,7 +354,7 @@ private slots:
         }
         QCOMPARE(MsgBoxScript::History().size(), 1);
         ReadingRecord saved;
-        GetRecord(ReadingsPath, 1, saved);
+        GetRecord(TheRun.Paths.ReadingsPath, 1, saved);
         QCOMPARE(saved.ReadingName.Trimmed(), BadInput::ForeignAsStored);
         reading.CloseReading();
         QVERIFY(Get<frmOpenReading>().lstEntries->item(0)->text().trimmed().endsWith(QStringLiteral(" - ") +
@@ -365,17 +365,17 @@ private slots:
     // nothing, the screen stays and the file is untouched.
     void aReadingThatVanishedAfterListingIsNotOpened() {
         for (const char* name : {"Gone", "Kept"})
-            AppendRecord(ReadingsPath, Fixtures::NamedReading(QLatin1String(name)));
+            AppendRecord(TheRun.Paths.ReadingsPath, Fixtures::NamedReading(QLatin1String(name)));
         frmOpenReading& open = Get<frmOpenReading>();
         DeleteReading(QStringLiteral("Gone"));
-        const QByteArray file = ReadWholeFile(ReadingsPath);
+        const QByteArray file = ReadWholeFile(TheRun.Paths.ReadingsPath);
         for (int row = 0; row < 2; ++row) {
             if (!open.lstEntries->item(row)->text().trimmed().endsWith(QStringLiteral("Gone"))) continue;
             open.lstEntries->setCurrentRow(row);
             open.cmdOpen_Click();
         }
         QVERIFY(IsLoaded<frmOpenReading>() && !IsLoaded<frmReadingCards>());
-        QCOMPARE(ReadWholeFile(ReadingsPath), file);
+        QCOMPARE(ReadWholeFile(TheRun.Paths.ReadingsPath), file);
     }
 };
 

@@ -68,7 +68,7 @@ class TestShuffle : public QObject, ScreenRun {
         Fixtures::MakeDeck(QStringLiteral("Deck"), cards, true);
         Fixtures::MakeSpread(QStringLiteral("Line"), qMin(cards, 12), {}, true);
         for (int n = 1; n <= cards; ++n)
-            ChangeRecord<CardRecord>(CardsPath, n, [n](CardRecord& c) { c.CardType = static_cast<Integer>(n % 2); });
+            ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, n, [n](CardRecord& c) { c.CardType = static_cast<Integer>(n % 2); });
         SetRandomizeSeedForTests(seed);
         return NewReading([&](frmSelectSpread& select) {
             select.chkUseReversed->setChecked(useReversed);
@@ -105,7 +105,7 @@ private slots:
         QFETCH(bool, useReversed);
         BoundedArray<CardRecord> deck(1, 20);
         for (int n = 1; n <= 20; ++n) deck(n).CardType = static_cast<Integer>(n % 2);
-        CardTypeSelected = {true, true, false, false};
+        TheRun.CardTypeSelected = {true, true, false, false};
         BoundedArray<Integer> cards(1, Deal::TableSize), upright(1, Deal::TableSize);
         QCOMPARE(PoolSize(deck, 20), 20);
         ListPool(cards, deck, 20);
@@ -289,7 +289,7 @@ private slots:
             QVERIFY(table.CardLeft(i) == frmReadingCards::HomeLeft(i) &&
                     table.CardTop(i) == frmReadingCards::HomeTop(i));
         // The order of the cards is not the animation's business.
-        QCOMPARE(CurrentReading.LocationCard[0], ReadingDeal.LocationCard(1));
+        QCOMPARE(TheRun.CurrentReading.LocationCard[0], TheRun.ReadingDeal.LocationCard(1));
         // Closing the reading ends a run in progress, and its table with it.
         reading.cmdNextCard->click();
         MsgBoxScript::Answer(vbNo);

@@ -101,12 +101,12 @@ private slots:
         frame.close();
         QCOMPARE(Prompts(), (QStringList{question, question}));
         QVERIFY(frame.isVisible() && gEnds.isEmpty());
-        WriteWholeFile(TempDir + QStringLiteral("work.tmp"), "x");
+        WriteWholeFile(TheRun.Paths.TempDir + QStringLiteral("work.tmp"), "x");
         MsgBoxScript::Answer(vbYes);
         frame.close();
         QCOMPARE(gEnds, QList<int>{0});
         QVERIFY(!IsLoaded<MDIMainForm>());
-        QVERIFY(QFileInfo(TempDir).isDir() && QDir(TempDir).entryList(QDir::Files).isEmpty());
+        QVERIFY(QFileInfo(TheRun.Paths.TempDir).isDir() && QDir(TheRun.Paths.TempDir).entryList(QDir::Files).isEmpty());
     }
 };
 

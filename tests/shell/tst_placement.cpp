@@ -127,15 +127,15 @@ private slots:
     void fitPictureLoadsAndFallsBack() {
         QWidget host;
         ImageBox box(&host);
-        const QImage defaultPicture = LoadPicture(DefaultPicturePath).Image;
+        const QImage defaultPicture = LoadPicture(TheRun.Paths.DefaultPicturePath).Image;
 
         // A picture 40 pixels wide and 20 high is smaller than the box: the
         // box takes its size, centred.
         QImage image(40, 20, QImage::Format_RGB32);
         image.fill(Qt::red);
-        SavePictureAsBmp(image, CardsDir + QStringLiteral("CU00001.bmp"));
+        SavePictureAsBmp(image, TheRun.Paths.CardsDir + QStringLiteral("CU00001.bmp"));
         box.Move(0, 0, 1500, 1500);
-        FitPicture(box, CardsDir + QStringLiteral("CU00001.bmp"), true, false);
+        FitPicture(box, TheRun.Paths.CardsDir + QStringLiteral("CU00001.bmp"), true, false);
         QVERIFY(box.Stretch());
         QCOMPARE(QList<int>({box.Top(), box.Left(), box.Width(), box.Height()}), QList<int>({600, 450, 600, 300}));
         QCOMPARE(box.Image().pixelColor(0, 0), QColor(Qt::red));
@@ -143,14 +143,14 @@ private slots:
 
         // A missing file: the default picture, without a word.
         box.Move(0, 0, 1500, 1500);
-        FitPicture(box, CardsDir + QStringLiteral("CU00099.bmp"), false, false);
+        FitPicture(box, TheRun.Paths.CardsDir + QStringLiteral("CU00099.bmp"), false, false);
         QCOMPARE(box.Image(), defaultPicture);
         QVERIFY(MsgBoxScript::History().isEmpty());
 
         // A file that is no picture: the message, then the default picture.
-        WriteWholeFile(CardsDir + QStringLiteral("CU00002.bmp"), "this is not a bitmap");
+        WriteWholeFile(TheRun.Paths.CardsDir + QStringLiteral("CU00002.bmp"), "this is not a bitmap");
         box.Move(0, 0, 1500, 1500);
-        FitPicture(box, CardsDir + QStringLiteral("CU00002.bmp"), false, false);
+        FitPicture(box, TheRun.Paths.CardsDir + QStringLiteral("CU00002.bmp"), false, false);
         QCOMPARE(Prompts(), QStringList{QStringLiteral("Error while loading the picture. A default picture is selected instead.\n"
                                 "Please save all your work, exit Cartomar, and then run it again")});
         QCOMPARE(box.Image(), defaultPicture);

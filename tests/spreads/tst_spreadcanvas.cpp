@@ -24,8 +24,8 @@ class TestSpreadCanvas : public QObject {
         UnloadScreen<frmLocationAttributes>();
         UnloadScreen<frmDesignSpread>();
         Settle();
-        DesignMode = 1;
-        ResetSpread(CurrentSpread);
+        TheRun.DesignMode = 1;
+        ResetSpread(TheRun.CurrentSpread);
         d_ = &Get<frmDesignSpread>();
         d_->Show();
         d_->cmdSpread_Click();
@@ -76,28 +76,28 @@ private slots:
         d.cmdAddCard_Click();
         QCOMPARE(MsgBoxScript::History().last().prompt,
                  QStringLiteral("The number of locations in a spread cannot exceed 32."));
-        QCOMPARE(CurrentSpread.LocationCount, Integer(32));
+        QCOMPARE(TheRun.CurrentSpread.LocationCount, Integer(32));
         QVERIFY(!d.SpreadDirty);
 
         // A new location is every byte zero, until a box of its attributes
         // changes: a title typed and taken back leaves blanks.
         Designer(1);
-        QCOMPARE(SpreadLocations(1).LocationTitle.Raw(), QByteArray(50, '\0'));
+        QCOMPARE(TheRun.SpreadLocations(1).LocationTitle.Raw(), QByteArray(50, '\0'));
         d_->cmdCardAttributes_Click(1);
         frmLocationAttributes& attributes = Get<frmLocationAttributes>();
         QTest::keyClicks(attributes.txtTitle, QStringLiteral("A"));
         QTest::keyClick(attributes.txtTitle, Qt::Key_Backspace);
-        QVERIFY(SpreadLocations(1).LocationTitle.Raw() == QByteArray(50, ' '));
+        QVERIFY(TheRun.SpreadLocations(1).LocationTitle.Raw() == QByteArray(50, ' '));
         attributes.cmdClose_Click();
 
         // The only location goes: nothing gets the focus, the selection
         // keeps its number, and Remove then has nothing to remove.
         MsgBoxScript::Answer(vbYes);
         QTest::keyClick(d_->picLocation(1), Qt::Key_Delete);   // key up removes
-        QCOMPARE(CurrentSpread.LocationCount, Integer(0));
-        QCOMPARE(SelectedLocation, 1);
-        QCOMPARE(SpreadLocations(1).LocationLeft, Integer(6480));
-        QCOMPARE(SpreadLocations(1).LocationTop, Integer(240));
+        QCOMPARE(TheRun.CurrentSpread.LocationCount, Integer(0));
+        QCOMPARE(TheRun.SelectedLocation, 1);
+        QCOMPARE(TheRun.SpreadLocations(1).LocationLeft, Integer(6480));
+        QCOMPARE(TheRun.SpreadLocations(1).LocationTop, Integer(240));
         d_->cmdRemoveCard_Click();
         QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("There are no locations to be removed."));
     }
@@ -118,16 +118,16 @@ private slots:
         QFETCH(bool, notes);
         QFETCH(QString, text);
         Designer(1);
-        if (notes) CurrentSpread.SpreadComments = text;
-        else if (!text.isEmpty()) SpreadLocations(1).LocationTitle = text;
-        const QByteArray before = EncodeRecord(CurrentSpread) + EncodeRecord(SpreadLocations(1));
+        if (notes) TheRun.CurrentSpread.SpreadComments = text;
+        else if (!text.isEmpty()) TheRun.SpreadLocations(1).LocationTitle = text;
+        const QByteArray before = EncodeRecord(TheRun.CurrentSpread) + EncodeRecord(TheRun.SpreadLocations(1));
         d_->SpreadDirty = false;
         if (notes) d_->cmdComments_Click();
         else d_->cmdCardAttributes_Click(1);
         UnloadScreen<frmSpreadComments>();
         UnloadScreen<frmLocationAttributes>();
         QCOMPARE(d_->SpreadDirty, !text.isEmpty());
-        if (text.isEmpty()) QCOMPARE(EncodeRecord(CurrentSpread) + EncodeRecord(SpreadLocations(1)), before);
+        if (text.isEmpty()) QCOMPARE(EncodeRecord(TheRun.CurrentSpread) + EncodeRecord(TheRun.SpreadLocations(1)), before);
     }
 
     void keysMoveOnlyWithShiftAlone() {
@@ -147,7 +147,7 @@ private slots:
         // Enter opens the attributes of that location.
         QTest::keyClick(d.cmdCardAttributes(1), Qt::Key_Return);
         QVERIFY(IsLoaded<frmLocationAttributes>());
-        QCOMPARE(SelectedLocation, 1);
+        QCOMPARE(TheRun.SelectedLocation, 1);
         UnloadScreen<frmLocationAttributes>();
 
         // A second press of Snap leaves the layout snapped.

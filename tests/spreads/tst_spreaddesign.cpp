@@ -114,7 +114,7 @@ private slots:
             attributes.NotifyActivated(false);
             QVERIFY(!IsLoaded<frmLocationAttributes>());
         }
-        QCOMPARE(SpreadLocations(2).LocationQuestion[2].Trimmed(), QStringLiteral("Why now?"));
+        QCOMPARE(TheRun.SpreadLocations(2).LocationQuestion[2].Trimmed(), QStringLiteral("Why now?"));
 
         // Location 3 goes: 4 to 6 move down one number with all they carry.
         const QPoint fourWas = Place(d, 4);
@@ -123,23 +123,23 @@ private slots:
         d.cmdRemoveCard_Click();
         QCOMPARE(MsgBoxScript::History().last().prompt,
                  QStringLiteral("Are you sure you want to completely remove location number 3 ?"));
-        QCOMPARE(CurrentSpread.LocationCount, Integer(5));
+        QCOMPARE(TheRun.CurrentSpread.LocationCount, Integer(5));
         QCOMPARE(Place(d, 3), fourWas);
-        QCOMPARE(SpreadLocations(5).LocationTitle.Trimmed(), QStringLiteral("Outcome"));
+        QCOMPARE(TheRun.SpreadLocations(5).LocationTitle.Trimmed(), QStringLiteral("Outcome"));
 
         // The background: a bitmap whose type is typed in capitals.
         Fixtures::WritePicture(dir_.path() + QStringLiteral("/PHOTO.BMP"), Qt::darkGreen);
         SetBackground(dir_.path() + QStringLiteral("/PHOTO.BMP"));
-        QCOMPARE(CurrentSpread.BackgroundFile.Trimmed(), QStringLiteral("sprpic.BMP"));
+        QCOMPARE(TheRun.CurrentSpread.BackgroundFile.Trimmed(), QStringLiteral("sprpic.BMP"));
         QVERIFY(d.picDesignLocations->imgBackground->HasPicture());
 
         SaveAs(d, QStringLiteral("Five Paths"));
         QVERIFY(!d.SpreadDirty);
         SpreadRecord saved;
-        QVERIFY(GetRecord(SpreadsPath, 1, saved));
+        QVERIFY(GetRecord(TheRun.Paths.SpreadsPath, 1, saved));
         QCOMPARE(saved.SpreadTitle.Trimmed(), QStringLiteral("Five Paths Title"));
         QCOMPARE(saved.BackgroundFile.Trimmed(), QStringLiteral("S000001.BMP"));
-        const QList<QByteArray> savedLocations = RawRecords(LocationsPath, LocationRecord::Length);
+        const QList<QByteArray> savedLocations = RawRecords(TheRun.Paths.LocationsPath, LocationRecord::Length);
         QCOMPARE(savedLocations.size(), 5);
         QList<QPoint> places;
         for (int i = 1; i <= 5; ++i) places.append(Place(d, i));
@@ -153,13 +153,13 @@ private slots:
         frmDesignSpread& again = Get<frmDesignSpread>();
         QVERIFY(again.picDesignLocations->imgBackground->HasPicture());
         for (int i = 1; i <= 5; ++i) {
-            QCOMPARE(EncodeRecord(SpreadLocations(i)), savedLocations[i - 1]);
+            QCOMPARE(EncodeRecord(TheRun.SpreadLocations(i)), savedLocations[i - 1]);
             QCOMPARE(Place(again, i), places[i - 1]);
         }
         // Saved again over itself, after the question: the same locations
         // to the byte.
         SaveAs(again, QStringLiteral("Five Paths"), vbYes);
-        QCOMPARE(RawRecords(LocationsPath, LocationRecord::Length), savedLocations);
+        QCOMPARE(RawRecords(TheRun.Paths.LocationsPath, LocationRecord::Length), savedLocations);
         again.cmdBack_Click();
         Settle();
     }
@@ -176,12 +176,12 @@ private slots:
         QVERIFY(!d.SpreadDirty);
         d.txtSpreadDesigner()->Change();
         QVERIFY(d.SpreadDirty);
-        QCOMPARE(CurrentSpread.SpreadDesigner.DesignerName.Trimmed(), QStringLiteral("Ann"));
+        QCOMPARE(TheRun.CurrentSpread.SpreadDesigner.DesignerName.Trimmed(), QStringLiteral("Ann"));
         // Notes write through at every keystroke; losing the focus closes them.
         d.SpreadDirty = false;
         d.cmdComments_Click();
         QTest::keyClicks(Get<frmSpreadComments>().txtComments, QStringLiteral("Lay slowly"));
-        QCOMPARE(CurrentSpread.SpreadComments.Trimmed(), QStringLiteral("Lay slowly"));
+        QCOMPARE(TheRun.CurrentSpread.SpreadComments.Trimmed(), QStringLiteral("Lay slowly"));
         QVERIFY(d.SpreadDirty);
         Get<frmSpreadComments>().NotifyActivated(true);
         Get<frmSpreadComments>().NotifyActivated(false);
@@ -200,7 +200,7 @@ private slots:
         QVERIFY(cancel.Done());
         Settle();
         QCOMPARE(CountSpreads(), 1);
-        QCOMPARE(CurrentSpread.SpreadTitle.Trimmed(), QStringLiteral("Five Paths Title"));
+        QCOMPARE(TheRun.CurrentSpread.SpreadTitle.Trimmed(), QStringLiteral("Five Paths Title"));
     }
 
     // A background must be there, be a BMP, JPG or GIF by its name and open
@@ -255,7 +255,7 @@ private slots:
         }
         QCOMPARE(chosen.Spread.BackgroundFile.Trimmed(), working);
         QCOMPARE(chosen.Spread.StretchBackground, False16);
-        QCOMPARE(chosen.Path, working.isEmpty() ? QString() : TempDir + working);
+        QCOMPARE(chosen.Path, working.isEmpty() ? QString() : TheRun.Paths.TempDir + working);
         if (!working.isEmpty()) QCOMPARE(ReadWholeFile(chosen.Path), ReadWholeFile(typed));
     }
 
@@ -271,14 +271,14 @@ private slots:
     void theDesignerOpensOnACopy() {
         QFETCH(QString, background);
         QFETCH(bool, inCards);
-        QFile::remove(CardsDir + QStringLiteral("S000009.bmp"));
-        if (inCards) Fixtures::WritePicture(CardsDir + QStringLiteral("S000009.bmp"));
+        QFile::remove(TheRun.Paths.CardsDir + QStringLiteral("S000009.bmp"));
+        if (inCards) Fixtures::WritePicture(TheRun.Paths.CardsDir + QStringLiteral("S000009.bmp"));
         SpreadRecord spread;
         spread.BackgroundFile = background;
         const WorkingBackground opened = OpenWorkingBackground(spread);
-        QCOMPARE(opened.Path, inCards ? TempDir + background : QString());
+        QCOMPARE(opened.Path, inCards ? TheRun.Paths.TempDir + background : QString());
         QCOMPARE(opened.Spread.BackgroundFile.Trimmed(), inCards ? background : QString());
-        if (inCards) QCOMPARE(ReadWholeFile(opened.Path), ReadWholeFile(CardsDir + background));
+        if (inCards) QCOMPARE(ReadWholeFile(opened.Path), ReadWholeFile(TheRun.Paths.CardsDir + background));
     }
 
     void theScreensHoldTheirLimitsAndTheCodePage() {
@@ -302,7 +302,7 @@ private slots:
         designer.cmdPicture_Click();
         QVERIFY(script.Done());
         QCOMPARE(Prompts(), QStringList{SpreadBackgroundProblem(picture)});
-        QVERIFY(CurrentSpread.BackgroundFile.IsBlank());
+        QVERIFY(TheRun.CurrentSpread.BackgroundFile.IsBlank());
 
         // A name the code page cannot hold is saved as the record holds it;
         // the same paste again is the same spread (the overwrite question, No).

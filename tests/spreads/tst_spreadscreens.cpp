@@ -21,12 +21,12 @@ using namespace SpreadTestKit;
 namespace {
 SpreadRecord SpreadNamed(const QString& name) {
     SpreadRecord spread;
-    GetRecord(SpreadsPath, FindSpreadByName(name), spread);
+    GetRecord(TheRun.Paths.SpreadsPath, FindSpreadByName(name), spread);
     return spread;
 }
 
 void Rewrite(const QString& name, const std::function<void(SpreadRecord&)>& change) {
-    ChangeRecord(SpreadsPath, FindSpreadByName(name), change);
+    ChangeRecord(TheRun.Paths.SpreadsPath, FindSpreadByName(name), change);
 }
 
 frmSpreads& ListOn(const QString& name) {
@@ -88,7 +88,7 @@ private slots:
         QCOMPARE((QStringList{list.lblQueryField->text(), list.lblCardsField->text(), list.lblDecksField->text(),
                               list.lblDesignDateField->text(), list.lblDesignerNameField->text().trimmed()}),
                  (QStringList{"Y", "4", "2", "05-Mar-2024", "Mira"}));
-        QCOMPARE(SpreadLocations.UBound(), 4);
+        QCOMPARE(TheRun.SpreadLocations.UBound(), 4);
         list.lstSpreads->setListIndex(0);
         QCOMPARE(list.lblDecksField->text(), QStringLiteral("All"));
 
@@ -101,7 +101,7 @@ private slots:
         list.cmdDelete_Click();
         QCOMPARE(CountSpreads(), 2);
         QCOMPARE(TrimField(list.lstSpreads->Text()), QStringLiteral("Beta"));
-        QCOMPARE(CurrentSpread.SpreadName.Trimmed(), QStringLiteral("Beta"));
+        QCOMPARE(TheRun.CurrentSpread.SpreadName.Trimmed(), QStringLiteral("Beta"));
     }
 
     void aLockedSpreadAsksForItsPassword() {
@@ -203,22 +203,22 @@ private slots:
         cleanup();
 
         // Installation: the chooser starts empty and writes nothing.
-        ChooserManageMode = false;
-        InstallAllSpreads = true;
-        CurrentSpread = SpreadNamed(QStringLiteral("Beta"));
-        const QByteArray onDisk = ReadWholeFile(SpreadsPath);
+        TheRun.ChooserManageMode = false;
+        TheRun.InstallAllSpreads = true;
+        TheRun.CurrentSpread = SpreadNamed(QStringLiteral("Beta"));
+        const QByteArray onDisk = ReadWholeFile(TheRun.Paths.SpreadsPath);
         frmDeckChooser& installing = Get<frmDeckChooser>();
         installing.chkInstallAll->setChecked(false);
-        QVERIFY(!InstallAllSpreads);
+        QVERIFY(!TheRun.InstallAllSpreads);
         installing.lstAvailableDecks->setListIndex(0);
         const QString chosen = installing.lstAvailableDecks->Text();
         installing.cmdAddDeck_Click();
         installing.cmdClose_Click();
         QVERIFY(!IsLoaded<frmDeckChooser>());
-        QCOMPARE(CurrentSpread.AllowedDeckCount, Integer(1));
-        QCOMPARE(CurrentSpread.AllowedDeckId[0], FindDeckIdByName(chosen));
-        QCOMPARE(ReadWholeFile(SpreadsPath), onDisk);
-        ChooserManageMode = true;
+        QCOMPARE(TheRun.CurrentSpread.AllowedDeckCount, Integer(1));
+        QCOMPARE(TheRun.CurrentSpread.AllowedDeckId[0], FindDeckIdByName(chosen));
+        QCOMPARE(ReadWholeFile(TheRun.Paths.SpreadsPath), onDisk);
+        TheRun.ChooserManageMode = true;
     }
 };
 

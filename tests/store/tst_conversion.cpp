@@ -97,15 +97,15 @@ OldDatabase WriteOldDatabase() {
     db.spreads = spread1 + spread2;
     db.readings = OldRecord(3466 + 5, {});
     db.diary = OldRecord(2866, {});
-    WriteWholeFile(DecksPath, db.decks);
-    WriteWholeFile(CardsPath, db.cards);
-    WriteWholeFile(SpreadsPath, db.spreads);
-    WriteWholeFile(ReadingsPath, db.readings);
-    WriteWholeFile(DiaryPath, db.diary);
+    WriteWholeFile(TheRun.Paths.DecksPath, db.decks);
+    WriteWholeFile(TheRun.Paths.CardsPath, db.cards);
+    WriteWholeFile(TheRun.Paths.SpreadsPath, db.spreads);
+    WriteWholeFile(TheRun.Paths.ReadingsPath, db.readings);
+    WriteWholeFile(TheRun.Paths.DiaryPath, db.diary);
     return db;
 }
 
-QStringList RecordFiles() { return {DecksPath, SpreadsPath, CardsPath, ReadingsPath, DiaryPath}; }
+QStringList RecordFiles() { return {TheRun.Paths.DecksPath, TheRun.Paths.SpreadsPath, TheRun.Paths.CardsPath, TheRun.Paths.ReadingsPath, TheRun.Paths.DiaryPath}; }
 
 }  // namespace
 
@@ -118,36 +118,36 @@ private slots:
         QVERIFY(dir_.isValid());
         for (const QString& name : QDir(dir_.path()).entryList(QDir::Files)) QFile::remove(dir_.filePath(name));
         Fixtures::UseProgramDir(dir_.path());
-        Kill(LocationsPath);
+        Kill(TheRun.Paths.LocationsPath);
         MsgBoxScript::Enable();
         MsgBoxScript::Clear();
     }
 
     void convertMovesEveryFieldAndKeepsBackups() {
         const OldDatabase db = WriteOldDatabase();
-        WriteWholeFile(LocationsPath, QByteArray(1100, 'X'));  // a stray locations file goes first
+        WriteWholeFile(TheRun.Paths.LocationsPath, QByteArray(1100, 'X'));  // a stray locations file goes first
         ConvertDatabase();
 
         const QList<QByteArray> olds = {db.decks, db.spreads, db.cards, db.readings, db.diary};
         for (int i = 0; i < olds.size(); ++i) QCOMPARE(ReadWholeFile(RecordFiles()[i] + ".bkp"), olds[i]);
-        QCOMPARE(ReadWholeFile(ReadingsPath), db.readings);
-        QCOMPARE(ReadWholeFile(DiaryPath), db.diary);
+        QCOMPARE(ReadWholeFile(TheRun.Paths.ReadingsPath), db.readings);
+        QCOMPARE(ReadWholeFile(TheRun.Paths.DiaryPath), db.diary);
 
-        const QByteArray decks = ReadWholeFile(DecksPath);
+        const QByteArray decks = ReadWholeFile(TheRun.Paths.DecksPath);
         QCOMPARE(decks.size(), 2 * 1077);
         for (int n = 0; n < 2; ++n)
             CheckRecord(db.decks.mid(n * 1021, 1021), decks.mid(n * 1077, 1077), DeckFields,
                         {{52, Int16(-1)}, {54, Spaces(12)}, {1075, Int16(0)}});
         QCOMPARE(decks.mid(2, 50), "Tarot de l'\xC9toile \xA7" + Spaces(11 + 20));
 
-        const QByteArray cards = ReadWholeFile(CardsPath);
+        const QByteArray cards = ReadWholeFile(TheRun.Paths.CardsPath);
         QCOMPARE(cards.size(), 3 * 5104);  // the partial old record is not a card
         for (int n = 0; n < 3; ++n)
             CheckRecord(db.cards.mid(n * 2058, 2058), cards.mid(n * 5104, 5104), CardFields,
                         {{5076, Spaces(24)}, {5102, Int16(0)}});
 
-        const QByteArray spreads = ReadWholeFile(SpreadsPath);
-        const QByteArray locations = ReadWholeFile(LocationsPath);
+        const QByteArray spreads = ReadWholeFile(TheRun.Paths.SpreadsPath);
+        const QByteArray locations = ReadWholeFile(TheRun.Paths.LocationsPath);
         QCOMPARE(spreads.size(), 2 * 2530);
         QCOMPARE(locations.size(), (3 + 15) * 1095);
         const int ids[] = {7, 300};
@@ -161,8 +161,8 @@ private slots:
                             {{50, Int16(ids[n])}, {52, Int16(i)}, {1083, Spaces(12)}});
         }
 
-        QCOMPARE(Dir(TempDir + "*.*"), QStringList());
-        QCOMPARE(Dir(AppPath + "*.new"), QStringList());
+        QCOMPARE(Dir(TheRun.Paths.TempDir + "*.*"), QStringList());
+        QCOMPARE(Dir(TheRun.Paths.AppPath + "*.new"), QStringList());
     }
 
     // The screen's Convert, on a folder with nothing to convert.
@@ -176,8 +176,8 @@ private slots:
             QCOMPARE(FileLen(path + ".bkp"), 0);
             QCOMPARE(FileLen(path), 0);
         }
-        QVERIFY(FileExists(LocationsPath) && FileLen(LocationsPath) == 0);
-        QCOMPARE(Dir(TempDir + "*.*"), QStringList());
+        QVERIFY(FileExists(TheRun.Paths.LocationsPath) && FileLen(TheRun.Paths.LocationsPath) == 0);
+        QCOMPARE(Dir(TheRun.Paths.TempDir + "*.*"), QStringList());
     }
 
     void cancelChangesNothing() {
@@ -194,12 +194,12 @@ private slots:
             QCOMPARE(ReadWholeFile(RecordFiles()[i]), olds[i]);
             QVERIFY(!FileExists(RecordFiles()[i] + ".bkp"));
         }
-        QVERIFY(!FileExists(LocationsPath));
+        QVERIFY(!FileExists(TheRun.Paths.LocationsPath));
     }
 
     void failureShowsErrorBoxAndStopsRetry() {
         const OldDatabase db = WriteOldDatabase();
-        Kill(CardsPath);
+        Kill(TheRun.Paths.CardsPath);
         Get<frmConvert>().Show();
         frmConvert* screen = ScreenSlot<frmConvert>();
         QTest::mouseClick(screen->cmdConvert, Qt::LeftButton);
@@ -207,9 +207,9 @@ private slots:
         QVERIFY(MsgBoxScript::History()[0].prompt.startsWith("Run-time error '53'"));
         QVERIFY(IsLoaded<frmConvert>());
         QVERIFY(!screen->cmdConvert->isEnabled());
-        QCOMPARE(ReadWholeFile(DecksPath), db.decks);
-        QVERIFY(!FileExists(LocationsPath));
-        QCOMPARE(Dir(TempDir + "*.*"), QStringList());
+        QCOMPARE(ReadWholeFile(TheRun.Paths.DecksPath), db.decks);
+        QVERIFY(!FileExists(TheRun.Paths.LocationsPath));
+        QCOMPARE(Dir(TheRun.Paths.TempDir + "*.*"), QStringList());
         QTest::mouseClick(screen->cmdClose, Qt::LeftButton);
         QVERIFY(!IsLoaded<frmConvert>());
     }

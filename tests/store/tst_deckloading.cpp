@@ -11,7 +11,7 @@ namespace {
 void SelectDeck(const QString& name) {
     const int number = FindDeckByName(name);
     QVERIFY(number > 0);
-    QVERIFY(GetRecord(DecksPath, number, ListDeck));
+    QVERIFY(GetRecord(TheRun.Paths.DecksPath, number, TheRun.ListDeck));
 }
 
 // Loads the deck of that name as a deck list does, from ListDeck.
@@ -21,7 +21,7 @@ bool Load(const QString& name) {
 }
 
 QByteArray CardBytes(int recordNumber) {
-    return ReadWholeFile(CardsPath).mid((recordNumber - 1) * CardRecord::Length, CardRecord::Length);
+    return ReadWholeFile(TheRun.Paths.CardsPath).mid((recordNumber - 1) * CardRecord::Length, CardRecord::Length);
 }
 
 }  // namespace
@@ -47,19 +47,19 @@ private slots:
         const Integer id = Fixtures::MakeDeck(QStringLiteral("Tarot"), 5, true);
         // Records 1-2 belong to Other; Tarot's third card is record 5.
         CardRecord third;
-        QVERIFY(GetRecord(CardsPath, 5, third));
-        QVERIFY(QFile::remove(CardsDir + third.CardPicture[1].Trimmed()));
-        const QByteArray before = ReadWholeFile(CardsPath);
+        QVERIFY(GetRecord(TheRun.Paths.CardsPath, 5, third));
+        QVERIFY(QFile::remove(TheRun.Paths.CardsDir + third.CardPicture[1].Trimmed()));
+        const QByteArray before = ReadWholeFile(TheRun.Paths.CardsPath);
 
         QVERIFY(Load(QStringLiteral("Tarot")));
-        QCOMPARE(CurrentDeck.DeckId, id);
-        QCOMPARE(CurrentDeck.DeckCards.Count(), 5);
-        QCOMPARE(CurrentDeck.DeckCards(3).CardPicture[0], third.CardPicture[0]);
-        QCOMPARE(CurrentDeck.DeckCards(3).CardPicture[1].Value(), DefaultPictureName);
-        QCOMPARE(CurrentDeck.DeckCards(4).CardTitle.Trimmed(), QStringLiteral("Card 4"));
+        QCOMPARE(TheRun.CurrentDeck.DeckId, id);
+        QCOMPARE(TheRun.CurrentDeck.DeckCards.Count(), 5);
+        QCOMPARE(TheRun.CurrentDeck.DeckCards(3).CardPicture[0], third.CardPicture[0]);
+        QCOMPARE(TheRun.CurrentDeck.DeckCards(3).CardPicture[1].Value(), DefaultPictureName);
+        QCOMPARE(TheRun.CurrentDeck.DeckCards(4).CardTitle.Trimmed(), QStringLiteral("Card 4"));
 
         // Exactly that record is blanked; every other byte stays.
-        const QByteArray after = ReadWholeFile(CardsPath);
+        const QByteArray after = ReadWholeFile(TheRun.Paths.CardsPath);
         QCOMPARE(CardBytes(5), QByteArray(CardRecord::Length, '\0'));
         QCOMPARE(after.left(4 * CardRecord::Length), before.left(4 * CardRecord::Length));
         QCOMPARE(after.mid(5 * CardRecord::Length), before.mid(5 * CardRecord::Length));
@@ -78,7 +78,7 @@ private slots:
         QVERIFY(LoadDeck(removed));  // a whole deck loads without a word
         QVERIFY(!removed && Prompts().isEmpty());
 
-        ListDeck.CardCount = 3;
+        TheRun.ListDeck.CardCount = 3;
         MsgBoxScript::Answer(vbNo);
         QVERIFY(!LoadDeck(removed));
         QVERIFY(!removed);
@@ -96,24 +96,24 @@ private slots:
     void cardCountDecidesHowManyCardsLoad() {
         const Integer id = Fixtures::MakeDeck(QStringLiteral("Empty"), 0, false);
         Fixtures::MakeDeck(QStringLiteral("Five"), 5, false);
-        const QByteArray before = ReadWholeFile(CardsPath);
+        const QByteArray before = ReadWholeFile(TheRun.Paths.CardsPath);
         QVERIFY(Load(QStringLiteral("Empty")));
-        QCOMPARE(CurrentDeck.DeckId, id);
-        QCOMPARE(CurrentDeck.DeckCards.Count(), 0);
+        QCOMPARE(TheRun.CurrentDeck.DeckId, id);
+        QCOMPARE(TheRun.CurrentDeck.DeckCards.Count(), 0);
 
         // A deck that claims fewer cards than it has loads only the first ones.
         SelectDeck(QStringLiteral("Five"));
-        ListDeck.CardCount = 3;
+        TheRun.ListDeck.CardCount = 3;
         QVERIFY(LoadDeckCards());
-        QCOMPARE(CurrentDeck.DeckCards.Count(), 3);
-        QCOMPARE(CurrentDeck.DeckCards(3).CardTitle.Trimmed(), QStringLiteral("Card 3"));
-        QCOMPARE(ReadWholeFile(CardsPath), before);
+        QCOMPARE(TheRun.CurrentDeck.DeckCards.Count(), 3);
+        QCOMPARE(TheRun.CurrentDeck.DeckCards(3).CardTitle.Trimmed(), QStringLiteral("Card 3"));
+        QCOMPARE(ReadWholeFile(TheRun.Paths.CardsPath), before);
 
         // A claim past what Cards.crd holds fails as a deck with missing
         // cards does, without a place for every card claimed.
-        ListDeck.CardCount = 32767;
+        TheRun.ListDeck.CardCount = 32767;
         QVERIFY(!LoadDeckCards());
-        QVERIFY(CurrentDeck.DeckCards.Count() <= CountCards());
+        QVERIFY(TheRun.CurrentDeck.DeckCards.Count() <= CountCards());
     }
 
     void cardTypes() {
@@ -124,10 +124,10 @@ private slots:
         QCOMPARE(CountCardsOfTypeName(QStringLiteral("Major Arcana")), 22);
         QCOMPARE(CountCardsOfTypeName(QStringLiteral("Minor Arcana")), 8);
 
-        CardTypeSelected = {true, false, false, false};
-        QCOMPARE(CountSelectedCardsOfType(CurrentDeck.DeckCards, 30, 0), 22);
-        QCOMPARE(CountSelectedCardsOfType(CurrentDeck.DeckCards, 30, 1), 0);
-        QCOMPARE(CountSelectedCardsOfType(CurrentDeck.DeckCards, 10, 0), 10);
+        TheRun.CardTypeSelected = {true, false, false, false};
+        QCOMPARE(CountSelectedCardsOfType(TheRun.CurrentDeck.DeckCards, 30, 0), 22);
+        QCOMPARE(CountSelectedCardsOfType(TheRun.CurrentDeck.DeckCards, 30, 1), 0);
+        QCOMPARE(CountSelectedCardsOfType(TheRun.CurrentDeck.DeckCards, 10, 0), 10);
     }
 
     void pictureNamesWidenPastTheirDigits() {
@@ -155,18 +155,18 @@ private slots:
         QFETCH(QString, file);
         QFETCH(QString, stem);
         QFETCH(bool, taken);
-        WriteWholeFile(TempDir + file, "x");
-        QCOMPARE(TakenStems({TempDir}).Contains(stem), taken);
+        WriteWholeFile(TheRun.Paths.TempDir + file, "x");
+        QCOMPARE(TakenStems({TheRun.Paths.TempDir}).Contains(stem), taken);
     }
 
     void freeNamesGoByStem() {
-        Fixtures::WritePicture(CardsDir + QStringLiteral("S000001.jpg"));
-        WriteWholeFile(CardsDir + QStringLiteral("S000002"), QByteArray("no extension"));
+        Fixtures::WritePicture(TheRun.Paths.CardsDir + QStringLiteral("S000001.jpg"));
+        WriteWholeFile(TheRun.Paths.CardsDir + QStringLiteral("S000002"), QByteArray("no extension"));
         QCOMPARE(NewBackgroundName(QStringLiteral("/home/user/table.gif  ")), QStringLiteral("S000003.gif"));
-        Fixtures::WritePicture(TempDir + QStringLiteral("CU00001.jpg"));
-        WriteWholeFile(CardsDir + QStringLiteral("CU00002jpeg"), QByteArray("a .jpeg source"));
-        QCOMPARE(FreeCardNumber(0, {CardsDir, TempDir}), 3);
-        QCOMPARE(FreeCardNumber(1, {CardsDir, TempDir}), 1);
+        Fixtures::WritePicture(TheRun.Paths.TempDir + QStringLiteral("CU00001.jpg"));
+        WriteWholeFile(TheRun.Paths.CardsDir + QStringLiteral("CU00002jpeg"), QByteArray("a .jpeg source"));
+        QCOMPARE(FreeCardNumber(0, {TheRun.Paths.CardsDir, TheRun.Paths.TempDir}), 3);
+        QCOMPARE(FreeCardNumber(1, {TheRun.Paths.CardsDir, TheRun.Paths.TempDir}), 1);
     }
 };
 

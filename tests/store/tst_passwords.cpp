@@ -86,14 +86,14 @@ private slots:
     }
 
     void designExistsAnswers() {
-        DesignExistsChoice = 0;
+        TheRun.DesignExistsChoice = 0;
         ModalScript script;
         script.On<frmDesignExists>([](frmDesignExists& f) {
             QCOMPARE(f.Caption(), QStringLiteral("Deck 'Rider Waite' exists."));
             f.cmdOverwriteAll->click();
         });
         Get<frmDesignExists>().Ask(DesignDeck, QStringLiteral("Rider Waite"));
-        QCOMPARE(DesignExistsChoice, 4);
+        QCOMPARE(TheRun.DesignExistsChoice, 4);
 
         // Rename: the proposal keeps 23 characters of the name and adds " (Copy)".
         QStringList offered;
@@ -121,7 +121,7 @@ private slots:
         QCOMPARE(h[0].prompt, QStringLiteral("You must enter a design name."));
         QCOMPARE(h[1].prompt, QStringLiteral("You already have a design with this name. Please enter a change the "
                                              "name or click 'Cancel' to return to the previous page."));
-        QCOMPARE(DesignExistsChoice, 1);
+        QCOMPARE(TheRun.DesignExistsChoice, 1);
         QCOMPARE(frmDesignExists::NewDesignName, QStringLiteral("Celtic Cross Mine"));
     }
 

@@ -48,18 +48,18 @@ using Fixtures::NamedReading;
 
 QStringList SpreadNames() {
     QStringList names;
-    for (const SpreadRecord& s : ReadAllRecords<SpreadRecord>(SpreadsPath)) names << s.SpreadName.Trimmed();
+    for (const SpreadRecord& s : ReadAllRecords<SpreadRecord>(TheRun.Paths.SpreadsPath)) names << s.SpreadName.Trimmed();
     return names;
 }
 
 QStringList LocationKeys() {
     QStringList keys;
-    for (const LocationRecord& l : ReadAllRecords<LocationRecord>(LocationsPath))
+    for (const LocationRecord& l : ReadAllRecords<LocationRecord>(TheRun.Paths.LocationsPath))
         keys << QStringLiteral("%1:%2:%3").arg(l.LocationSpreadId).arg(l.LocationNumber).arg(l.LocationTitle.Trimmed());
     return keys;
 }
 
-bool InCards(const QString& name) { return FileExists(CardsDir + name); }
+bool InCards(const QString& name) { return FileExists(TheRun.Paths.CardsDir + name); }
 
 // Record n of a file of spreads, as bytes.
 QByteArray SpreadsAt(const QByteArray& file, int n) {
@@ -85,8 +85,8 @@ private slots:
         QCOMPARE(NextDeckId(), Integer(1));
         QCOMPARE(NextSpreadId(), Integer(1));
         for (Integer id : {Integer(4), Integer(1), Integer(-1), Integer(2)}) {
-            AppendRecord(DecksPath, Deck(QStringLiteral("Deck %1").arg(id), id));
-            AppendRecord(SpreadsPath, Spread(QStringLiteral("Spread %1").arg(id), id));
+            AppendRecord(TheRun.Paths.DecksPath, Deck(QStringLiteral("Deck %1").arg(id), id));
+            AppendRecord(TheRun.Paths.SpreadsPath, Spread(QStringLiteral("Spread %1").arg(id), id));
         }
         QCOMPARE(NextDeckId(), Integer(3));
         QCOMPARE(NextSpreadId(), Integer(3));
@@ -98,9 +98,9 @@ private slots:
         QCOMPARE(FindDeckIdByName(QStringLiteral("Any")), Integer(-1));
         QCOMPARE(DeckNameById(1), QString());
 
-        AppendRecord(DecksPath, Deck(QStringLiteral("Rider"), 7));
-        AppendRecord(DecksPath, Deck(QStringLiteral("  Moon Deck  "), 3));
-        AppendRecord(DecksPath, Deck(QStringLiteral("Moon Deck"), 9));
+        AppendRecord(TheRun.Paths.DecksPath, Deck(QStringLiteral("Rider"), 7));
+        AppendRecord(TheRun.Paths.DecksPath, Deck(QStringLiteral("  Moon Deck  "), 3));
+        AppendRecord(TheRun.Paths.DecksPath, Deck(QStringLiteral("Moon Deck"), 9));
         QCOMPARE(CountDecks(), 3);
         QCOMPARE(FindDeckByName(QStringLiteral(" Moon Deck ")), 2);
         QCOMPARE(FindDeckIdByName(QStringLiteral("Moon Deck")), Integer(3));
@@ -109,14 +109,14 @@ private slots:
         QCOMPARE(FindDeckRecordById(5), -1);
         QCOMPARE(DeckNameById(3), QStringLiteral("  Moon Deck") + QString(50 - 11, QLatin1Char(' ')));
 
-        AppendRecord(SpreadsPath, Spread(QStringLiteral("Cross"), 2));
+        AppendRecord(TheRun.Paths.SpreadsPath, Spread(QStringLiteral("Cross"), 2));
         QCOMPARE(FindSpreadByName(QStringLiteral("Cross  ")), 1);
         QCOMPARE(FindSpreadRecordById(2), 1);
         QCOMPARE(SpreadNameById(2).trimmed(), QStringLiteral("Cross"));
         QCOMPARE(SpreadNameById(4), QString());
 
-        AppendRecord(ReadingsPath, NamedReading(QStringLiteral("Monday")));
-        AppendRecord(DiaryPath, NamedDiary(QStringLiteral("Tuesday")));
+        AppendRecord(TheRun.Paths.ReadingsPath, NamedReading(QStringLiteral("Monday")));
+        AppendRecord(TheRun.Paths.DiaryPath, NamedDiary(QStringLiteral("Tuesday")));
         QCOMPARE(FindReadingByName(QStringLiteral(" Monday")), 1);
         QCOMPARE(FindDiaryByName(QStringLiteral("Tuesday ")), 1);
         QCOMPARE(FindDiaryByName(QStringLiteral("Monday")), -1);
@@ -128,8 +128,8 @@ private slots:
         zeros.DeckName.Bytes.fill('\0');
         const QByteArray euro = QByteArrayLiteral("\0 Caf\xe9 \x80 ");
         std::memcpy(zeros.DeckName.Bytes.data(), euro.constData(), euro.size());
-        AppendRecord(DecksPath, zeros);
-        AppendRecord(DecksPath, Deck(QStringLiteral("\u03A9mega"), 21));
+        AppendRecord(TheRun.Paths.DecksPath, zeros);
+        AppendRecord(TheRun.Paths.DecksPath, Deck(QStringLiteral("\u03A9mega"), 21));
         QCOMPARE(FindDeckByName(QStringLiteral("Caf\u00e9 \u20AC")), 4);
         QCOMPARE(FindDeckIdByName(QStringLiteral(" Caf\u00e9 \u20AC ")), Integer(20));
         QCOMPARE(FindDeckByName(QStringLiteral("Caf\u00e9")), -1);
@@ -164,18 +164,18 @@ private slots:
         for (int n = 1; n <= 2; ++n) {
             Fixtures::MakeSpread(n == 1 ? QStringLiteral("Alpha") : QStringLiteral("Beta"), 2);
             const QString picture = QStringLiteral("S00000%1.bmp").arg(n);
-            ChangeRecord<SpreadRecord>(SpreadsPath, n, [&](SpreadRecord& s) { s.BackgroundFile = picture; });
-            Fixtures::WritePicture(CardsDir + picture);
+            ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, n, [&](SpreadRecord& s) { s.BackgroundFile = picture; });
+            Fixtures::WritePicture(TheRun.Paths.CardsDir + picture);
         }
         SpreadDesign design;
-        GetRecord(SpreadsPath, 1, design.Spread);
+        GetRecord(TheRun.Paths.SpreadsPath, 1, design.Spread);
         LoadSpreadLocations(design.Spread.SpreadId, 2);
-        design.Locations = SpreadLocations;
+        design.Locations = TheRun.SpreadLocations;
         design.Locations(2).LocationTitle = QStringLiteral("Retitled");
         design.Spread.BackgroundFile = QStringLiteral("sprpic.bmp");
-        if (withPicture) Fixtures::WritePicture(TempDir + QStringLiteral("sprpic.bmp"), Qt::green);
-        const QByteArray picture = withPicture ? ReadWholeFile(TempDir + QStringLiteral("sprpic.bmp")) : QByteArray();
-        const QByteArray spreadsBefore = ReadWholeFile(SpreadsPath);
+        if (withPicture) Fixtures::WritePicture(TheRun.Paths.TempDir + QStringLiteral("sprpic.bmp"), Qt::green);
+        const QByteArray picture = withPicture ? ReadWholeFile(TheRun.Paths.TempDir + QStringLiteral("sprpic.bmp")) : QByteArray();
+        const QByteArray spreadsBefore = ReadWholeFile(TheRun.Paths.SpreadsPath);
 
         const SpreadNameCheck check = CheckSpreadName(typed);
         const bool replacing = record > 0 && record < 3;
@@ -191,18 +191,18 @@ private slots:
         // its id, its picture under its S name; the other spread as it was.
         QCOMPARE(CountSpreads(), std::max(record, 2));
         SpreadRecord onDisk;
-        QVERIFY(GetRecord(SpreadsPath, record, onDisk));
+        QVERIFY(GetRecord(TheRun.Paths.SpreadsPath, record, onDisk));
         QCOMPARE(EncodeRecord(onDisk), EncodeRecord(saved.Spread));
         QCOMPARE(onDisk.SpreadName.Trimmed(), TrimField(typed));
         QCOMPARE(QList<Integer>({onDisk.SpreadId, onDisk.SpreadRevision}), QList<Integer>({id, 2}));
         QCOMPARE(onDisk.ModifiedOn, OleToday());
         QCOMPARE(onDisk.BackgroundFile.Trimmed(), background);
-        if (withPicture) QCOMPARE(ReadWholeFile(CardsDir + background), picture);
+        if (withPicture) QCOMPARE(ReadWholeFile(TheRun.Paths.CardsDir + background), picture);
         LoadSpreadLocations(id, 2);
-        for (int i = 1; i <= 2; ++i) QCOMPARE(EncodeRecord(SpreadLocations(i)), EncodeRecord(saved.Locations(i)));
-        QCOMPARE(SpreadLocations(2).LocationTitle.Trimmed(), QStringLiteral("Retitled"));
+        for (int i = 1; i <= 2; ++i) QCOMPARE(EncodeRecord(TheRun.SpreadLocations(i)), EncodeRecord(saved.Locations(i)));
+        QCOMPARE(TheRun.SpreadLocations(2).LocationTitle.Trimmed(), QStringLiteral("Retitled"));
         const int other = record == 1 ? 2 : 1;
-        QCOMPARE(SpreadsAt(ReadWholeFile(SpreadsPath), other), SpreadsAt(spreadsBefore, other));
+        QCOMPARE(SpreadsAt(ReadWholeFile(TheRun.Paths.SpreadsPath), other), SpreadsAt(spreadsBefore, other));
         QVERIFY(InCards(QStringLiteral("S00000%1.bmp").arg(other)));
         // Its locations replace those of its own id alone: saved over Beta,
         // Beta's stay, though no spread names them now.
@@ -227,9 +227,9 @@ private slots:
         const Integer a = Fixtures::MakeSpread(QStringLiteral("Alpha"), 2);
         const Integer b = Fixtures::MakeSpread(QStringLiteral("Beta"), 3, {a});
         Fixtures::MakeSpread(QStringLiteral("Gamma"), 1);
-        ChangeRecord<SpreadRecord>(SpreadsPath, 2, [](SpreadRecord& s) { s.BackgroundFile = QStringLiteral("S000001.bmp"); });
-        Fixtures::WritePicture(CardsDir + QStringLiteral("S000001.bmp"));
-        const QByteArray spreads = ReadWholeFile(SpreadsPath);
+        ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 2, [](SpreadRecord& s) { s.BackgroundFile = QStringLiteral("S000001.bmp"); });
+        Fixtures::WritePicture(TheRun.Paths.CardsDir + QStringLiteral("S000001.bmp"));
+        const QByteArray spreads = ReadWholeFile(TheRun.Paths.SpreadsPath);
         const QStringList locations = LocationKeys();
 
         if (deleting) {
@@ -247,8 +247,8 @@ private slots:
         const QString problem = SaveSpreadDecks(spread);
         const QString gone = QStringLiteral("Unable to find this spread. Please 'close' and select another spread.");
         QCOMPARE(problem, found ? QString() : gone);
-        QCOMPARE(SpreadsAt(ReadWholeFile(SpreadsPath), 2), found ? EncodeRecord(spread) : SpreadsAt(spreads, 2));
-        QCOMPARE(ReadWholeFile(SpreadsPath).size(), spreads.size());
+        QCOMPARE(SpreadsAt(ReadWholeFile(TheRun.Paths.SpreadsPath), 2), found ? EncodeRecord(spread) : SpreadsAt(spreads, 2));
+        QCOMPARE(ReadWholeFile(TheRun.Paths.SpreadsPath).size(), spreads.size());
         QCOMPARE(LocationKeys(), locations);
     }
 
@@ -259,21 +259,21 @@ private slots:
         // the reversed side of another: the sound goes, the default stays. A
         // card of the second deck names the first deck's third picture: that
         // stays too.
-        ChangeRecord<CardRecord>(CardsPath, 1, [](CardRecord& c) { c.CardSound[0] = QStringLiteral("MCU00001.wav"); });
-        WriteWholeFile(CardsDir + QStringLiteral("MCU00001.wav"), QByteArray("RIFF"));
+        ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 1, [](CardRecord& c) { c.CardSound[0] = QStringLiteral("MCU00001.wav"); });
+        WriteWholeFile(TheRun.Paths.CardsDir + QStringLiteral("MCU00001.wav"), QByteArray("RIFF"));
         QString ownReversed;
-        ChangeRecord<CardRecord>(CardsPath, 2, [&ownReversed](CardRecord& c) {
+        ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 2, [&ownReversed](CardRecord& c) {
             ownReversed = c.CardPicture[1].Trimmed();
             c.CardPicture[1] = DefaultPictureName;
         });
-        ChangeRecord<CardRecord>(CardsPath, 4, [](CardRecord& c) { c.CardPicture[1] = QStringLiteral("CU00003.bmp"); });
+        ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 4, [](CardRecord& c) { c.CardPicture[1] = QStringLiteral("CU00003.bmp"); });
 
         DeleteDeck(FindDeckByName(QStringLiteral("First")));
 
         QCOMPARE(CountDecks(), 1);
         QCOMPARE(DeckNameById(second).trimmed(), QStringLiteral("Second"));
         QCOMPARE(FindDeckRecordById(first), -1);
-        const std::vector<CardRecord> after = ReadAllRecords<CardRecord>(CardsPath);
+        const std::vector<CardRecord> after = ReadAllRecords<CardRecord>(TheRun.Paths.CardsPath);
         QCOMPARE(int(after.size()), 2);
         for (int i = 0; i < 2; ++i) {
             QCOMPARE(after[i].CardDeckId, second);
@@ -285,61 +285,61 @@ private slots:
                                     QStringLiteral("MCU00001.wav")})
             QVERIFY2(!InCards(gone), qPrintable(gone));
         QVERIFY(InCards(ownReversed));  // no longer named by any card, so nothing removes it
-        QVERIFY(!AnyFileMatches(AppPath + QStringLiteral("*.tmp")));
+        QVERIFY(!AnyFileMatches(TheRun.Paths.AppPath + QStringLiteral("*.tmp")));
 
         // Two deck records with one id (a damaged file): deleting one leaves
         // the cards that the other loads.
         Fixtures::MakeDeck(QStringLiteral("Twin"), 0, false);
-        ChangeRecord<DeckRecord>(DecksPath, 2, [&](DeckRecord& d) { d.DeckId = second; });
+        ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 2, [&](DeckRecord& d) { d.DeckId = second; });
         DeleteDeck(2);
         QCOMPARE(CountCards(), 2);
         DeleteDeck(1);
-        QCOMPARE(FileLen(DecksPath), qint64(0));
-        QCOMPARE(FileLen(CardsPath), qint64(0));
+        QCOMPARE(FileLen(TheRun.Paths.DecksPath), qint64(0));
+        QCOMPARE(FileLen(TheRun.Paths.CardsPath), qint64(0));
         QVERIFY(InCards(DefaultPictureName));
     }
 
     void deleteReadingAndDiaryDropEveryRecordOfTheName() {
         for (const char* name : {"Alpha", "Beta", " Alpha ", "Gamma"}) {
-            AppendRecord(ReadingsPath, NamedReading(QString::fromLatin1(name)));
-            AppendRecord(DiaryPath, NamedDiary(QString::fromLatin1(name)));
+            AppendRecord(TheRun.Paths.ReadingsPath, NamedReading(QString::fromLatin1(name)));
+            AppendRecord(TheRun.Paths.DiaryPath, NamedDiary(QString::fromLatin1(name)));
         }
         DeleteReading(QStringLiteral("Alpha"));
         DeleteDiary(QStringLiteral("Beta"));
         QStringList readings, diaries;
-        for (const auto& r : ReadAllRecords<ReadingRecord>(ReadingsPath)) readings << r.ReadingName.Trimmed();
-        for (const auto& d : ReadAllRecords<DiaryRecord>(DiaryPath)) diaries << d.DiaryName.Trimmed();
+        for (const auto& r : ReadAllRecords<ReadingRecord>(TheRun.Paths.ReadingsPath)) readings << r.ReadingName.Trimmed();
+        for (const auto& d : ReadAllRecords<DiaryRecord>(TheRun.Paths.DiaryPath)) diaries << d.DiaryName.Trimmed();
         QCOMPARE(readings, (QStringList{QStringLiteral("Beta"), QStringLiteral("Gamma")}));
         QCOMPARE(diaries, (QStringList{QStringLiteral("Alpha"), QStringLiteral("Alpha"), QStringLiteral("Gamma")}));
-        QVERIFY(!AnyFileMatches(AppPath + QStringLiteral("*.tmp")));
+        QVERIFY(!AnyFileMatches(TheRun.Paths.AppPath + QStringLiteral("*.tmp")));
     }
 
     void spreadLocationsLoadByNumberAndSaveAtTheEnd() {
-        AppendRecord(LocationsPath, Location(5, 2, QStringLiteral("five-two")));
-        AppendRecord(LocationsPath, Location(8, 1, QStringLiteral("eight-one")));
-        AppendRecord(LocationsPath, Location(5, 4, QStringLiteral("five-four")));
-        AppendRecord(LocationsPath, Location(5, 1, QStringLiteral("five-one")));
+        AppendRecord(TheRun.Paths.LocationsPath, Location(5, 2, QStringLiteral("five-two")));
+        AppendRecord(TheRun.Paths.LocationsPath, Location(8, 1, QStringLiteral("eight-one")));
+        AppendRecord(TheRun.Paths.LocationsPath, Location(5, 4, QStringLiteral("five-four")));
+        AppendRecord(TheRun.Paths.LocationsPath, Location(5, 1, QStringLiteral("five-one")));
 
         LoadSpreadLocations(5, 3);
-        QCOMPARE(SpreadLocations.LBound(), 1);
-        QCOMPARE(SpreadLocations.UBound(), 3);
-        QCOMPARE(SpreadLocations(1).LocationTitle.Trimmed(), QStringLiteral("five-one"));
-        QCOMPARE(SpreadLocations(2).LocationTitle.Trimmed(), QStringLiteral("five-two"));
+        QCOMPARE(TheRun.SpreadLocations.LBound(), 1);
+        QCOMPARE(TheRun.SpreadLocations.UBound(), 3);
+        QCOMPARE(TheRun.SpreadLocations(1).LocationTitle.Trimmed(), QStringLiteral("five-one"));
+        QCOMPARE(TheRun.SpreadLocations(2).LocationTitle.Trimmed(), QStringLiteral("five-two"));
         // Number 3 was not found: the element is all zero bytes, read as empty.
-        QCOMPARE(EncodeRecord(SpreadLocations(3)), QByteArray(LocationRecord::Length, '\0'));
-        QVERIFY(SpreadLocations(3).LocationTitle.Trimmed().isEmpty());
+        QCOMPARE(EncodeRecord(TheRun.SpreadLocations(3)), QByteArray(LocationRecord::Length, '\0'));
+        QVERIFY(TheRun.SpreadLocations(3).LocationTitle.Trimmed().isEmpty());
 
-        SpreadLocations(3).LocationTitle = QStringLiteral("five-three");
+        TheRun.SpreadLocations(3).LocationTitle = QStringLiteral("five-three");
         ReplaceSpreadLocations(5, 3);
         QCOMPARE(LocationKeys(), (QStringList{QStringLiteral("8:1:eight-one"), QStringLiteral("5:1:five-one"),
                                               QStringLiteral("5:2:five-two"), QStringLiteral("5:3:five-three")}));
-        QVERIFY(!AnyFileMatches(AppPath + QStringLiteral("*.tmp")));
+        QVERIFY(!AnyFileMatches(TheRun.Paths.AppPath + QStringLiteral("*.tmp")));
 
         // The same from another file, as a package's locations are read.
         const QString other = dir_->filePath(QStringLiteral("other.loc"));
         AppendRecord(other, Location(1, 1, QStringLiteral("elsewhere")));
         LoadSpreadLocationsFrom(other, 1, 1);
-        QCOMPARE(SpreadLocations(1).LocationTitle.Trimmed(), QStringLiteral("elsewhere"));
+        QCOMPARE(TheRun.SpreadLocations(1).LocationTitle.Trimmed(), QStringLiteral("elsewhere"));
 
         DeleteSpreadLocations(5);
         QCOMPARE(LocationKeys(), QStringList{QStringLiteral("8:1:eight-one")});
@@ -358,13 +358,13 @@ private slots:
         // A reversed side on the default picture still counts: only a
         // missing file makes the deck incomplete.
         CardRecord card;
-        QVERIFY(GetRecord(CardsPath, 3, card));
+        QVERIFY(GetRecord(TheRun.Paths.CardsPath, 3, card));
         QCOMPARE(card.CardDeckId, reversed);
         card.CardPicture[1] = DefaultPictureName;
-        PutRecord(CardsPath, 3, card);
+        PutRecord(TheRun.Paths.CardsPath, 3, card);
         QVERIFY(IsReversedComplete(reversed, 4));
-        QVERIFY(GetRecord(CardsPath, 4, card));
-        QVERIFY(QFile::remove(CardsDir + card.CardPicture[1].Trimmed()));
+        QVERIFY(GetRecord(TheRun.Paths.CardsPath, 4, card));
+        QVERIFY(QFile::remove(TheRun.Paths.CardsDir + card.CardPicture[1].Trimmed()));
         QVERIFY(!IsReversedComplete(reversed, 4));
         QVERIFY(IsReversedComplete(reversed, 1));  // only the first card is checked
         QVERIFY(!IsDeckUsable(reversed, 1));

@@ -113,7 +113,7 @@ struct Run {
         for (int i = 0; i < count; ++i)
             Fixtures::WritePicture(Pictures() + QStringLiteral("p%1.bmp").arg(++Made), QColor::fromRgb(rng.generate()));
         PictureImport work(Pictures(), ListFolderPictures(Pictures(), 0).Cards,
-                           CurrentDeck.IncludesReversed ? ReversedSide::Turned : ReversedSide::None);
+                           TheRun.CurrentDeck.IncludesReversed ? ReversedSide::Turned : ReversedSide::None);
         work.Start();
         work.Commit();
         KillIgnoringErrors(Pictures() + QStringLiteral("*.*"));
@@ -125,27 +125,27 @@ std::optional<Planned> SaveADeck(Run& run, QRandomGenerator& rng) {
     QString line = QStringLiteral("a new deck");
     if (from.isEmpty()) {
         ResetDeck();
-        CurrentDeck.IncludesReversed = Flag(rng.bounded(2) == 0);
-        OpenWorkingFolder(CurrentDeck, false, false);
-        if (CurrentDeck.IncludesReversed) line += QStringLiteral(" with reversed cards");
+        TheRun.CurrentDeck.IncludesReversed = Flag(rng.bounded(2) == 0);
+        OpenWorkingFolder(TheRun.CurrentDeck, false, false);
+        if (TheRun.CurrentDeck.IncludesReversed) line += QStringLiteral(" with reversed cards");
     } else {
-        GetRecord(DecksPath, FindDeckByName(from), ListDeck);
+        GetRecord(TheRun.Paths.DecksPath, FindDeckByName(from), TheRun.ListDeck);
         if (!LoadDeckCards()) return std::nullopt;
-        OpenWorkingFolder(ListDeck, true, false);
+        OpenWorkingFolder(TheRun.ListDeck, true, false);
         line = QStringLiteral("'%1' opened").arg(from);
-        if (CurrentDeck.DeckCards.Count() > 1 && rng.bounded(2)) {
-            RemoveDeckCard(CurrentDeck, 1);
+        if (TheRun.CurrentDeck.DeckCards.Count() > 1 && rng.bounded(2)) {
+            RemoveDeckCard(TheRun.CurrentDeck, 1);
             line += QStringLiteral(", its first card removed,");
         }
     }
-    const int had = CurrentDeck.DeckCards.Count();
+    const int had = TheRun.CurrentDeck.DeckCards.Count();
     const int added = static_cast<int>(from.isEmpty() ? 2 + rng.bounded(3) : rng.bounded(2));
     run.Import(added, rng);
-    for (int i = had + 1; i <= CurrentDeck.DeckCards.Count(); ++i)
+    for (int i = had + 1; i <= TheRun.CurrentDeck.DeckCards.Count(); ++i)
         if (rng.bounded(3) == 0) {
             const QString sound = QStringLiteral("TS%1.wav").arg(++run.Made);
-            WriteWholeFile(TempDir + sound, "sound " + QByteArray::number(run.Made));
-            CurrentDeck.DeckCards(i).CardSound[0] = sound;
+            WriteWholeFile(TheRun.Paths.TempDir + sound, "sound " + QByteArray::number(run.Made));
+            TheRun.CurrentDeck.DeckCards(i).CardSound[0] = sound;
         }
     const QString name = Pick(rng, kDecks);
     const int replacing = CheckDeckSave(name).Replacing;
@@ -155,8 +155,8 @@ std::optional<Planned> SaveADeck(Run& run, QRandomGenerator& rng) {
                   .arg(name, replacing >= 0 ? QStringLiteral(" over the deck of that name") : QString()),
               run.Now};
     QList<Card>& saved = p.After.Decks[name] = {};
-    for (const CardRecord& c : CurrentDeck.DeckCards) saved << CardIn(TempDir, c, CurrentDeck.IncludesReversed);
-    p.Write = [deck = CurrentDeck, name, replacing] {
+    for (const CardRecord& c : TheRun.CurrentDeck.DeckCards) saved << CardIn(TheRun.Paths.TempDir, c, TheRun.CurrentDeck.IncludesReversed);
+    p.Write = [deck = TheRun.CurrentDeck, name, replacing] {
         const DeckSaveResult result = SaveDeck(deck, name, replacing);
         return result.Failure ? result.Failure->Description() : result.Problems.join(QLatin1Char(' '));
     };
@@ -243,9 +243,9 @@ std::optional<Planned> SaveASpread(Run& run, QRandomGenerator& rng) {
     // The spread of that name opened and saved as itself, or a new design
     // tied at random.
     if (replacing > 0 && rng.bounded(2)) {
-        GetRecord(SpreadsPath, replacing, design.Spread);
+        GetRecord(TheRun.Paths.SpreadsPath, replacing, design.Spread);
         LoadSpreadLocations(design.Spread.SpreadId, design.Spread.LocationCount);
-        design.Locations = SpreadLocations;
+        design.Locations = TheRun.SpreadLocations;
         design.Spread = OpenWorkingBackground(design.Spread).Spread;
         s = run.Now.Spreads[name];
         line = QStringLiteral("open spread '%1', retitle its first location").arg(name);
@@ -359,25 +359,25 @@ QString Compare(const char* kind, const Map& disk, const Map& saved) {
 // the model: the first thing a user relies on that it breaks.
 QString Differences(const Model& m) {
     QSet<QString> named{DefaultPictureName.trimmed()};
-    for (const CardRecord& c : ReadAllRecords<CardRecord>(CardsPath))
+    for (const CardRecord& c : ReadAllRecords<CardRecord>(TheRun.Paths.CardsPath))
         for (const auto* field : {&c.CardPicture[0], &c.CardPicture[1], &c.CardSound[0], &c.CardSound[1]})
             if (!field->IsBlank()) named << field->Trimmed();
     Model disk;
     QSet<Integer> deckIds;
-    for (const DeckRecord& d : ReadAllRecords<DeckRecord>(DecksPath)) {
+    for (const DeckRecord& d : ReadAllRecords<DeckRecord>(TheRun.Paths.DecksPath)) {
         deckIds << d.DeckId;
-        ListDeck = d;
+        TheRun.ListDeck = d;
         if (!LoadDeckCards()) return QStringLiteral("deck '%1' has lost cards").arg(d.DeckName.Trimmed());
-        for (const CardRecord& c : CurrentDeck.DeckCards)
-            disk.Decks[d.DeckName.Trimmed()] << CardIn(CardsDir, c, d.IncludesReversed);
+        for (const CardRecord& c : TheRun.CurrentDeck.DeckCards)
+            disk.Decks[d.DeckName.Trimmed()] << CardIn(TheRun.Paths.CardsDir, c, d.IncludesReversed);
     }
-    for (const SpreadRecord& r : ReadAllRecords<SpreadRecord>(SpreadsPath)) {
+    for (const SpreadRecord& r : ReadAllRecords<SpreadRecord>(TheRun.Paths.SpreadsPath)) {
         Spread& s = disk.Spreads[r.SpreadName.Trimmed()];
         LoadSpreadLocations(r.SpreadId, r.LocationCount);
-        for (const LocationRecord& l : SpreadLocations) s.Titles << l.LocationTitle.Trimmed();
+        for (const LocationRecord& l : TheRun.SpreadLocations) s.Titles << l.LocationTitle.Trimmed();
         if (!r.BackgroundFile.IsBlank()) {
             named << r.BackgroundFile.Trimmed();
-            s.Background = Bytes(CardsDir + r.BackgroundFile.Trimmed());
+            s.Background = Bytes(TheRun.Paths.CardsDir + r.BackgroundFile.Trimmed());
         }
         s.AnyDeck = r.AllowedDeckCount < 0;
         for (int i = 0; i < r.AllowedDeckCount; ++i) {
@@ -390,14 +390,14 @@ QString Differences(const Model& m) {
         }
         s.Decks.sort();
     }
-    for (const ReadingRecord& r : ReadAllRecords<ReadingRecord>(ReadingsPath))
+    for (const ReadingRecord& r : ReadAllRecords<ReadingRecord>(TheRun.Paths.ReadingsPath))
         disk.Entries[0][r.ReadingName.Trimmed()] = r.Issue.Trimmed();
-    for (const DiaryRecord& r : ReadAllRecords<DiaryRecord>(DiaryPath))
+    for (const DiaryRecord& r : ReadAllRecords<DiaryRecord>(TheRun.Paths.DiaryPath))
         disk.Entries[1][r.DiaryName.Trimmed()] = r.Issue.Trimmed();
     for (const QString& name : named)
-        if (!FileExists(CardsDir + name))
+        if (!FileExists(TheRun.Paths.CardsDir + name))
             return QStringLiteral("a record names Cards/%1, which is not there").arg(name);
-    for (const QString& file : Dir(CardsDir + QStringLiteral("*")))
+    for (const QString& file : Dir(TheRun.Paths.CardsDir + QStringLiteral("*")))
         if (!named.contains(file)) return QStringLiteral("Cards/%1 is left, and nothing names it").arg(file);
     for (const QString& problem :
          {Compare("deck", disk.Decks, m.Decks), Compare("spread", disk.Spreads, m.Spreads),

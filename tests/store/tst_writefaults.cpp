@@ -38,9 +38,9 @@ struct RecordFileKind {
     int length;
 };
 
-const RecordFileKind kFiles[] = {{&DecksPath, DeckRecord::Length},       {&CardsPath, CardRecord::Length},
-                                 {&SpreadsPath, SpreadRecord::Length},   {&LocationsPath, LocationRecord::Length},
-                                 {&ReadingsPath, ReadingRecord::Length}, {&DiaryPath, DiaryRecord::Length}};
+const RecordFileKind kFiles[] = {{&TheRun.Paths.DecksPath, DeckRecord::Length},       {&TheRun.Paths.CardsPath, CardRecord::Length},
+                                 {&TheRun.Paths.SpreadsPath, SpreadRecord::Length},   {&TheRun.Paths.LocationsPath, LocationRecord::Length},
+                                 {&TheRun.Paths.ReadingsPath, ReadingRecord::Length}, {&TheRun.Paths.DiaryPath, DiaryRecord::Length}};
 
 using Snapshot = std::map<QString, QByteArray>;   // file name ("Cards/" name) -> bytes
 
@@ -48,8 +48,8 @@ Snapshot Snap() {
     Snapshot s;
     for (const RecordFileKind& f : kFiles)
         s[FileNameOf(*f.path)] = FileExists(*f.path) ? ReadWholeFile(*f.path) : QByteArray();
-    for (const QString& name : Dir(CardsDir + QStringLiteral("*")))
-        s[QStringLiteral("Cards/") + name] = ReadWholeFile(CardsDir + name);
+    for (const QString& name : Dir(TheRun.Paths.CardsDir + QStringLiteral("*")))
+        s[QStringLiteral("Cards/") + name] = ReadWholeFile(TheRun.Paths.CardsDir + name);
     return s;
 }
 
@@ -117,10 +117,10 @@ void MakeFixture(const QString& dir) {
     Fixtures::MakeDeck(QStringLiteral("Deck B"), 2, false);
     Fixtures::MakeSpread(QStringLiteral("Spread A"), 3, {deckA});
     Fixtures::MakeSpread(QStringLiteral("Spread B"), 2, {}, true);
-    ChangeRecord<SpreadRecord>(SpreadsPath, 1, [](SpreadRecord& s) { s.BackgroundFile = QStringLiteral("S000001.bmp"); });
-    Fixtures::WritePicture(CardsDir + QStringLiteral("S000001.bmp"));
-    for (const char* name : {"First", "Second", "Third"}) AppendRecord(ReadingsPath, NamedReading(QLatin1String(name)));
-    for (const char* name : {"Monday", "Tuesday"}) AppendRecord(DiaryPath, NamedDiary(QLatin1String(name)));
+    ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1, [](SpreadRecord& s) { s.BackgroundFile = QStringLiteral("S000001.bmp"); });
+    Fixtures::WritePicture(TheRun.Paths.CardsDir + QStringLiteral("S000001.bmp"));
+    for (const char* name : {"First", "Second", "Third"}) AppendRecord(TheRun.Paths.ReadingsPath, NamedReading(QLatin1String(name)));
+    for (const char* name : {"Monday", "Tuesday"}) AppendRecord(TheRun.Paths.DiaryPath, NamedDiary(QLatin1String(name)));
 
     const Integer packed = Fixtures::MakeDeck(QStringLiteral("Packed"), 2, true);
     Fixtures::MakeSpread(QStringLiteral("Packed spread"), 2, {packed});
@@ -136,23 +136,23 @@ void MakeFixture(const QString& dir) {
 // Puts a deck in the designer's place, pictures in Temp/, as the save screen
 // finds it.
 void OpenDeckForSaving(int record) {
-    GetRecord(DecksPath, record, ListDeck);
+    GetRecord(TheRun.Paths.DecksPath, record, TheRun.ListDeck);
     bool removed = false;
     LoadDeck(removed);
-    for (const CardRecord& card : CurrentDeck.DeckCards)
+    for (const CardRecord& card : TheRun.CurrentDeck.DeckCards)
         for (const auto& picture : card.CardPicture)
-            if (!FileExists(TempDir + picture.Value())) FileCopy(CardsDir + picture.Value(), TempDir + picture.Value());
+            if (!FileExists(TheRun.Paths.TempDir + picture.Value())) FileCopy(TheRun.Paths.CardsDir + picture.Value(), TheRun.Paths.TempDir + picture.Value());
 }
 
 // Spread A as the designer holds it: a location retitled, a new picture in
 // Temp/.
 SpreadDesign gSpreadA;
 void HoldSpreadA() {
-    GetRecord(SpreadsPath, 1, gSpreadA.Spread);
+    GetRecord(TheRun.Paths.SpreadsPath, 1, gSpreadA.Spread);
     LoadSpreadLocations(gSpreadA.Spread.SpreadId, 3);
-    gSpreadA.Locations = SpreadLocations;
+    gSpreadA.Locations = TheRun.SpreadLocations;
     gSpreadA.Locations(2).LocationTitle = QStringLiteral("Moved");
-    Fixtures::WritePicture(TempDir + QStringLiteral("sprpic.bmp"), Qt::red);
+    Fixtures::WritePicture(TheRun.Paths.TempDir + QStringLiteral("sprpic.bmp"), Qt::red);
     gSpreadA.Spread.BackgroundFile = QStringLiteral("sprpic.bmp");
 }
 
@@ -163,7 +163,7 @@ struct Operation {
 };
 
 void SaveDeckAs(const QString& name) {
-    const DeckSaveResult saved = SaveDeck(CurrentDeck, name, FindDeckByName(name));
+    const DeckSaveResult saved = SaveDeck(TheRun.CurrentDeck, name, FindDeckByName(name));
     if (saved.Failure) throw *saved.Failure;
 }
 
@@ -180,7 +180,7 @@ const QList<Operation>& Operations() {
         {"spread saved as new", HoldSpreadA, [] { SaveSpread(gSpreadA, QStringLiteral("Spread C"), 0); }},
         {"spread tied to any deck",
          [] {
-             GetRecord(SpreadsPath, 1, gSpreadA.Spread);
+             GetRecord(TheRun.Paths.SpreadsPath, 1, gSpreadA.Spread);
              gSpreadA.Spread.AllowedDeckCount = -1;
          },
          [] { SaveSpreadDecks(gSpreadA.Spread); }},
@@ -188,7 +188,7 @@ const QList<Operation>& Operations() {
         // Deck B's record gone, its cards left: the new deck takes its id.
         {"deck saved as new over left-over cards",
          [] {
-             WriteWholeFile(DecksPath, ReadWholeFile(DecksPath).left(DeckRecord::Length));
+             WriteWholeFile(TheRun.Paths.DecksPath, ReadWholeFile(TheRun.Paths.DecksPath).left(DeckRecord::Length));
              OpenDeckForSaving(1);
          },
          [] { SaveDeckAs(QStringLiteral("Deck C")); }},
@@ -244,8 +244,8 @@ class TestWriteFaults : public QObject {
         MsgBoxScript::Clear();
         QVERIFY2(RunStartup(dir), qPrintable(what));
         QCOMPARE(MsgBoxScript::Unanswered(), 0);
-        for (const QString& left : {AppPath + QStringLiteral("*.new"), CardsDir + QStringLiteral("*.staged"),
-                                    AppPath + QStringLiteral("Cartomar.commit")})
+        for (const QString& left : {TheRun.Paths.AppPath + QStringLiteral("*.new"), TheRun.Paths.CardsDir + QStringLiteral("*.staged"),
+                                    TheRun.Paths.AppPath + QStringLiteral("Cartomar.commit")})
             QVERIFY2(!AnyFileMatches(left), qPrintable(what + QStringLiteral(": left ") + left));
         const Snapshot now = Snap();
         for (const RecordFileKind& f : kFiles) {

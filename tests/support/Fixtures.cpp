@@ -21,10 +21,10 @@ void UseProgramDir(const QString& dir) {
     ResetRun();
     FormPaths(dir);
 
-    for (const QString& folder : {CardsDir, PackagesDir, AttachmentsDir, TempDir}) MkDirIgnoringErrors(folder);
-    for (const QString& file : {ReadingsPath, DiaryPath, SpreadsPath, DecksPath, CardsPath, LocationsPath})
+    for (const QString& folder : {TheRun.Paths.CardsDir, TheRun.Paths.PackagesDir, TheRun.Paths.AttachmentsDir, TheRun.Paths.TempDir}) MkDirIgnoringErrors(folder);
+    for (const QString& file : {TheRun.Paths.ReadingsPath, TheRun.Paths.DiaryPath, TheRun.Paths.SpreadsPath, TheRun.Paths.DecksPath, TheRun.Paths.CardsPath, TheRun.Paths.LocationsPath})
         WriteWholeFile(file, QByteArray());
-    WritePicture(DefaultPicturePath, QColor(Qt::white));
+    WritePicture(TheRun.Paths.DefaultPicturePath, QColor(Qt::white));
 }
 
 void WritePicture(const QString& path, const QColor& colour) {
@@ -59,20 +59,20 @@ Integer MakeDeck(const QString& name, int cardCount, bool withReversed) {
         card.CardDescription[1] = QStringLiteral("Reversed meaning of card %1").arg(i);
         card.CardKeywords[0] = QStringLiteral("upright keywords %1").arg(i);
         card.CardKeywords[1] = QStringLiteral("reversed keywords %1").arg(i);
-        upright = FreeCardNumber(0, {CardsDir}, upright + 1);
+        upright = FreeCardNumber(0, {TheRun.Paths.CardsDir}, upright + 1);
         card.CardPicture[0] = CardUprightName(upright) + QStringLiteral(".bmp");
-        WritePicture(CardsDir + card.CardPicture[0].Trimmed(), CardColour(i, true));
+        WritePicture(TheRun.Paths.CardsDir + card.CardPicture[0].Trimmed(), CardColour(i, true));
         if (withReversed) {
-            reversed = FreeCardNumber(1, {CardsDir}, reversed + 1);
+            reversed = FreeCardNumber(1, {TheRun.Paths.CardsDir}, reversed + 1);
             card.CardPicture[1] = CardReversedName(reversed) + QStringLiteral(".bmp");
-            WritePicture(CardsDir + card.CardPicture[1].Trimmed(), CardColour(i, false));
+            WritePicture(TheRun.Paths.CardsDir + card.CardPicture[1].Trimmed(), CardColour(i, false));
         } else {
             card.CardPicture[1] = DefaultPictureName;
         }
         card.CardDeckId = deck.DeckId;
-        AppendRecord(CardsPath, card);
+        AppendRecord(TheRun.Paths.CardsPath, card);
     }
-    AppendRecord(DecksPath, deck);
+    AppendRecord(TheRun.Paths.DecksPath, deck);
     return deck.DeckId;
 }
 
@@ -100,9 +100,9 @@ Integer MakeSpread(const QString& name, int locationCount, const QList<Integer>&
         location.LocationNumber = static_cast<Integer>(i);
         location.LocationLeft = static_cast<Integer>(240 + ((i - 1) % 8) * 1200);
         location.LocationTop = static_cast<Integer>(240 + ((i - 1) / 8) * 1800);
-        AppendRecord(LocationsPath, location);
+        AppendRecord(TheRun.Paths.LocationsPath, location);
     }
-    AppendRecord(SpreadsPath, spread);
+    AppendRecord(TheRun.Paths.SpreadsPath, spread);
     return spread.SpreadId;
 }
 

@@ -16,16 +16,16 @@ struct InstallAnswers : InstallationQuestions {
 
     QString AttachmentTarget(const QString&) override { return {}; }
     DesignExistsReply DesignExists(int, const QString&, const std::function<bool(const QString&)>&) override {
-        return {Exists.value_or(DesignExistsChoice), {}};
+        return {Exists.value_or(TheRun.DesignExistsChoice), {}};
     }
     void ChooseDecks(const std::vector<DeckRecord>& decks) override {
         Offered.clear();
-        CurrentSpread.AllowedDeckCount = 0;
-        CurrentSpread.AllowedDeckId.fill(-1);
+        TheRun.CurrentSpread.AllowedDeckCount = 0;
+        TheRun.CurrentSpread.AllowedDeckId.fill(-1);
         for (const DeckRecord& deck : decks) {
             Offered << deck.DeckName.Trimmed();
             if (Chosen.contains(deck.DeckName.Trimmed()))
-                CurrentSpread.AllowedDeckId[static_cast<std::size_t>(CurrentSpread.AllowedDeckCount++)] = deck.DeckId;
+                TheRun.CurrentSpread.AllowedDeckId[static_cast<std::size_t>(TheRun.CurrentSpread.AllowedDeckCount++)] = deck.DeckId;
         }
     }
 };

@@ -12,7 +12,7 @@ namespace {
 
 QString TakePicked(const QString& stem, const QString& source, QString& working) {
     const QString name = stem + source.right(4);
-    FileCopy(source, TempDir + name);
+    FileCopy(source, TheRun.Paths.TempDir + name);
     working = name;
     return name;
 }
@@ -30,31 +30,31 @@ QString TakePickedSound(int side, const QString& source) {
 }
 
 void PointReversedAtDefault(CardRecord& card) {
-    WorkingFiles().Picture[1] = DefaultPicturePath;
+    WorkingFiles().Picture[1] = TheRun.Paths.DefaultPicturePath;
     card.CardPicture[1] = DefaultPictureName;
-    FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
+    FileCopy(TheRun.Paths.DefaultPicturePath, TheRun.Paths.TempDir + DefaultPictureName);
 }
 
 void DropUnstoredWorkingFiles() {
     for (const QString& stem : {UprightPictureStem, ReversedPictureStem, UprightSoundStem, ReversedSoundStem})
-        KillIgnoringErrors(TempDir + stem + QStringLiteral(".*"));
+        KillIgnoringErrors(TheRun.Paths.TempDir + stem + QStringLiteral(".*"));
 }
 
 void OpenWorkingFolder(const DeckRecord& deck, bool copyIn, bool skipDefaultReversed) {
-    KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
+    KillIgnoringErrors(TheRun.Paths.TempDir + QStringLiteral("*.*"));
     if (copyIn) {
-        RecordReader<CardRecord> reader(CardsPath);
+        RecordReader<CardRecord> reader(TheRun.Paths.CardsPath);
         CardRecord card;
         int seen = 0;
         while (seen < deck.CardCount && reader.Next(card)) {
             if (card.CardDeckId != deck.DeckId) continue;
             ++seen;
-            FileCopy(CardsDir + card.CardPicture[0].Value(), TempDir + card.CardPicture[0].Value());
+            FileCopy(TheRun.Paths.CardsDir + card.CardPicture[0].Value(), TheRun.Paths.TempDir + card.CardPicture[0].Value());
             if (!skipDefaultReversed || card.CardPicture[1].Value() != DefaultPictureName)
-                FileCopy(CardsDir + card.CardPicture[1].Value(), TempDir + card.CardPicture[1].Value());
+                FileCopy(TheRun.Paths.CardsDir + card.CardPicture[1].Value(), TheRun.Paths.TempDir + card.CardPicture[1].Value());
             for (const auto& sound : card.CardSound)
-                if (!sound.IsBlank()) FileCopy(CardsDir + sound.Value(), TempDir + sound.Value());
+                if (!sound.IsBlank()) FileCopy(TheRun.Paths.CardsDir + sound.Value(), TheRun.Paths.TempDir + sound.Value());
         }
     }
-    FileCopy(DefaultPicturePath, TempDir + DefaultPictureName);
+    FileCopy(TheRun.Paths.DefaultPicturePath, TheRun.Paths.TempDir + DefaultPictureName);
 }

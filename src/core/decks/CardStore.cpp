@@ -11,14 +11,14 @@
 
 void RenameWorkingFile(const QString& workingName, const QString& finalName, bool keepWorkingFile) {
     try {
-        if (keepWorkingFile) FileCopyUnsynced(TempDir + workingName, TempDir + finalName);
-        else FileMoveUnsynced(TempDir + workingName, TempDir + finalName);
+        if (keepWorkingFile) FileCopyUnsynced(TheRun.Paths.TempDir + workingName, TheRun.Paths.TempDir + finalName);
+        else FileMoveUnsynced(TheRun.Paths.TempDir + workingName, TheRun.Paths.TempDir + finalName);
     } catch (const RuntimeError&) {
     }
 }
 
 QString PlaceWorkingPicture(int side, const QString& workingName, bool keepWorkingFile) {
-    const QString finalName = CardPictureStem(side, FreeCardNumber(side, {TempDir})) + workingName.right(4);
+    const QString finalName = CardPictureStem(side, FreeCardNumber(side, {TheRun.Paths.TempDir})) + workingName.right(4);
     RenameWorkingFile(workingName, finalName, keepWorkingFile);
     return finalName;
 }
@@ -27,7 +27,7 @@ void StoreWorkingFiles(CardRecord& card) {
     CardWorkingFiles& files = WorkingFiles();
     if (files.Picture[0].startsWith(UprightPictureStem)) card.CardPicture[0] = PlaceWorkingPicture(0, files.Picture[0]);
     if (files.Picture[1].startsWith(ReversedPictureStem))
-        card.CardPicture[1] = PlaceWorkingPicture(1, files.Picture[1], files.Picture[1] == DefaultPicturePath);
+        card.CardPicture[1] = PlaceWorkingPicture(1, files.Picture[1], files.Picture[1] == TheRun.Paths.DefaultPicturePath);
     const QString soundStems[2] = {UprightSoundStem, ReversedSoundStem};
     for (std::size_t side = 0; side < 2; ++side) {
         const QString& working = files.Sound[side];
@@ -41,7 +41,7 @@ void StoreWorkingFiles(CardRecord& card) {
 
 void RemoveDeckCard(DeckInMemory& deck, int position) {
     for (const auto& picture : deck.DeckCards(position).CardPicture)
-        if (picture.Value() != DefaultPictureName) KillIgnoringErrors(TempDir + picture.Value());
+        if (picture.Value() != DefaultPictureName) KillIgnoringErrors(TheRun.Paths.TempDir + picture.Value());
     const int count = deck.CardCount;
     for (int i = position; i < count; ++i) deck.DeckCards(i) = deck.DeckCards(i + 1);
     deck.CardCount = static_cast<Integer>(count - 1);
@@ -49,10 +49,10 @@ void RemoveDeckCard(DeckInMemory& deck, int position) {
 }
 
 int AppendDeckCard(const CardRecord& card) {
-    CurrentDeck.CardCount = static_cast<Integer>(CurrentDeck.CardCount + 1);
-    CurrentDeck.DeckCards.RedimPreserve(CurrentDeck.CardCount);
-    CurrentDeck.DeckCards(CurrentDeck.CardCount) = card;
-    return CurrentDeck.CardCount;
+    TheRun.CurrentDeck.CardCount = static_cast<Integer>(TheRun.CurrentDeck.CardCount + 1);
+    TheRun.CurrentDeck.DeckCards.RedimPreserve(TheRun.CurrentDeck.CardCount);
+    TheRun.CurrentDeck.DeckCards(TheRun.CurrentDeck.CardCount) = card;
+    return TheRun.CurrentDeck.CardCount;
 }
 
 QString CardLimitMessage() {
@@ -64,7 +64,7 @@ QString NewCardTitleProblem(const QString& title, const QStringList& otherTitles
     const QString wanted = TrimField(title);
     if (wanted.isEmpty()) return QCoreApplication::translate("CardStore", "Please enter a title for this card.");
     bool taken = false;
-    for (const CardRecord& card : CurrentDeck.DeckCards) taken = taken || card.CardTitle.Trimmed() == wanted;
+    for (const CardRecord& card : TheRun.CurrentDeck.DeckCards) taken = taken || card.CardTitle.Trimmed() == wanted;
     for (const QString& other : otherTitles) taken = taken || TrimField(other) == wanted;
     return taken ? QCoreApplication::translate("CardStore",
                                                "You already have a card with the same title. Please change the title.")

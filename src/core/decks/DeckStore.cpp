@@ -35,7 +35,7 @@ void NoteAndGoOn(QStringList& problems, const std::function<void()>& step) {
 // Temp/, where the working files follow the save one by one.
 std::vector<QString> NameRow(int side, int count, const QStringList& going) {
     std::vector<QString> row;
-    const TakenStems taken({CardsDir, TempDir}, going);
+    const TakenStems taken({TheRun.Paths.CardsDir, TheRun.Paths.TempDir}, going);
     const auto isTaken = [&](int n) {
         return taken.Contains(CardPictureStem(side, n)) || taken.Contains(QStringLiteral("M") + CardPictureStem(side, n));
     };
@@ -59,13 +59,13 @@ public:
     // there is told for the copy and for the rename, and false says that
     // the side keeps no file of its own.
     bool Take(const QString& from, const QString& to) {
-        const QString source = NativePath(TempDir + from);
+        const QString source = NativePath(TheRun.Paths.TempDir + from);
         if (!FileExists(source)) {
             for (int i = 0; i < 2; ++i) NoteAndGoOn(problems_, [] { RaiseError(errFileNotFound); });
             return false;
         }
         commit_.AddFile(source, to);
-        takes_.emplace_back(source, NativePath(TempDir + to));
+        takes_.emplace_back(source, NativePath(TheRun.Paths.TempDir + to));
         return true;
     }
 
@@ -75,7 +75,7 @@ public:
     void FollowInTemp() {
         QHash<QString, int> left;
         for (const auto& take : takes_) ++left[take.first];
-        const QString defaultPicture = NativePath(TempDir + DefaultPictureName);
+        const QString defaultPicture = NativePath(TheRun.Paths.TempDir + DefaultPictureName);
         for (const auto& [from, to] : takes_) {
             NoteAndGoOn(problems_, [&, from = from, to = to] {
                 if (--left[from] > 0 || from == defaultPicture) FileCopyUnsynced(from, to);
@@ -112,7 +112,7 @@ DeckSaveResult SaveDeck(const DeckInMemory& inHand, const QString& name, int rep
         // The deck being replaced goes in the same step as the new one comes,
         // so ids and picture names are drawn as if it were gone already.
         DeckRecord old;
-        const bool replacingOne = replacing >= 0 && GetRecord(DecksPath, replacing, old);
+        const bool replacingOne = replacing >= 0 && GetRecord(TheRun.Paths.DecksPath, replacing, old);
         deck.DeckName = name;
         deck.ModifiedOn = OleToday();
         deck.DeckRevision = static_cast<Integer>(deck.DeckRevision + 1);
@@ -137,7 +137,7 @@ DeckSaveResult SaveDeck(const DeckInMemory& inHand, const QString& name, int rep
         LeavingCardFiles leaving;
         for (const bool leavingPass : {true, false}) {
             if (!leavingPass && leaving.IsEmpty()) break;
-            RecordReader<CardRecord> reader(CardsPath);
+            RecordReader<CardRecord> reader(TheRun.Paths.CardsPath);
             while (const char* card = reader.NextRaw()) {
                 if (goes(card) != leavingPass) continue;
                 if (leavingPass) leaving.Leaving(card);
@@ -178,11 +178,11 @@ DeckSaveResult SaveDeck(const DeckInMemory& inHand, const QString& name, int rep
             cards += EncodeRecord(card);
             ++i;
         }
-        commit.AddRecordFile(CardsPath, CardRecord::Length, [&](const char* card, int) {
+        commit.AddRecordFile(TheRun.Paths.CardsPath, CardRecord::Length, [&](const char* card, int) {
             return goes(card) ? nullptr : card;
         }, cards);
         const DeckRecord& record = deck;
-        commit.AddRecordFile(DecksPath, DeckRecord::Length, [&](const char* r, int number) {
+        commit.AddRecordFile(TheRun.Paths.DecksPath, DeckRecord::Length, [&](const char* r, int number) {
             return replacingOne && number == replacing ? nullptr : r;
         }, EncodeRecord(record));
         for (const QString& file : going) commit.DropFile(file);
@@ -201,7 +201,7 @@ DeckDeleteCheck CheckDeckDelete(const QString& name) {
     DeckDeleteCheck check;
     check.RecordNumber = FindDeckByName(name);
     DeckRecord deck;
-    if (check.RecordNumber < 0 || !GetRecord(DecksPath, check.RecordNumber, deck)) RaiseError(errInputPastEndOfFile);
+    if (check.RecordNumber < 0 || !GetRecord(TheRun.Paths.DecksPath, check.RecordNumber, deck)) RaiseError(errInputPastEndOfFile);
     check.Questions << QCoreApplication::translate("DeckStore",
                                                    "Are you sure you want to delete deck '%1' ?\n"
                                                    "Be aware that this deck will be removed from all spreads that use it.")
@@ -219,7 +219,7 @@ DeckDeleteCheck CheckDeckDelete(const QString& name) {
 
 void RemoveDeck(int recordNumber) {
     DeckRecord deck;
-    if (!GetRecord(DecksPath, recordNumber, deck)) return;
+    if (!GetRecord(TheRun.Paths.DecksPath, recordNumber, deck)) return;
     // The spreads let go of the deck before it goes: a process that dies in
     // between leaves a deck that no spread names, never a spread naming an id
     // that a later deck may take.

@@ -198,7 +198,7 @@ QList<ProposedCard> CardsWithinLimit(const QList<ProposedCard>& cards, QStringLi
     QList<ProposedCard> within;
     for (const ProposedCard& card : cards) {
         if (!card.Included) continue;
-        if (CurrentDeck.CardCount + within.size() < MaxDeckCards) within.append(card);
+        if (TheRun.CurrentDeck.CardCount + within.size() < MaxDeckCards) within.append(card);
         else pastLimit.append(card.Title);
     }
     return within;
@@ -228,15 +228,15 @@ QString NamesForMessage(const QStringList& names, int shown) {
 }
 
 PictureImport::PictureImport(const QString& folder, const QList<ProposedCard>& cards, ReversedSide reversed)
-    : tempDir_(TempDir), cards_(cards), worked_(static_cast<std::size_t>(cards.size())) {
+    : tempDir_(TheRun.Paths.TempDir), cards_(cards), worked_(static_cast<std::size_t>(cards.size())) {
     handedOver_.Results.resize(worked_.size());
     // A deck without reversed cards shows the default picture on that side
     // and saves only the upright one. In a deck with reversed cards every
     // card gets a reversed file of its own, as the card editor gives it: one
     // of the default picture when there is no other, since the deck's save
     // gives each side its own name in Cards/.
-    const bool reversedSides = CurrentDeck.IncludesReversed != 0;
-    const QString defaultPicture = NativePath(DefaultPicturePath);
+    const bool reversedSides = TheRun.CurrentDeck.IncludesReversed != 0;
+    const QString defaultPicture = NativePath(TheRun.Paths.DefaultPicturePath);
     const QDir from(folder);
     for (int i = 0; i < cards.size(); ++i) {
         Job job;

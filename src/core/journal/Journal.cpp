@@ -359,7 +359,7 @@ JournalCatalogue LoadJournalCatalogue() {
     JournalCatalogue catalogue;
     QHash<Integer, std::size_t> deckAt;
     std::vector<int> cardCount;
-    for (const DeckRecord& d : ReadAllRecords<DeckRecord>(DecksPath)) {
+    for (const DeckRecord& d : ReadAllRecords<DeckRecord>(TheRun.Paths.DecksPath)) {
         if (deckAt.contains(d.DeckId)) continue;   // the first of an id is the deck, as lookups find it
         deckAt.insert(d.DeckId, catalogue.Decks.size());
         JournalDeck deck{d.DeckId, d.DeckRevision, d.DeckName.Trimmed(), {}, {}};
@@ -369,7 +369,7 @@ JournalCatalogue LoadJournalCatalogue() {
     }
     {
         // A deck's cards are its records in file order, wherever they stand.
-        RecordFileReader cards(CardsPath, CardRecord::Length);
+        RecordFileReader cards(TheRun.Paths.CardsPath, CardRecord::Length);
         const int deckIdAt = OffsetOf(&CardRecord::CardDeckId);
         const int titleAt = OffsetOf(&CardRecord::CardTitle);
         while (const char* raw = cards.Next()) {
@@ -381,14 +381,14 @@ JournalCatalogue LoadJournalCatalogue() {
         }
     }
     QHash<Integer, std::size_t> spreadAt;
-    for (const SpreadRecord& s : ReadAllRecords<SpreadRecord>(SpreadsPath)) {
+    for (const SpreadRecord& s : ReadAllRecords<SpreadRecord>(TheRun.Paths.SpreadsPath)) {
         if (spreadAt.contains(s.SpreadId)) continue;
         spreadAt.insert(s.SpreadId, catalogue.Spreads.size());
         JournalSpread spread{s.SpreadId, s.SpreadRevision, s.SpreadName.Trimmed(), {}};
         spread.LocationTitles.resize(static_cast<std::size_t>(std::clamp<int>(s.LocationCount, 0, MaxSpreadLocations)));
         catalogue.Spreads.push_back(std::move(spread));
     }
-    RecordFileReader locations(LocationsPath, LocationRecord::Length);
+    RecordFileReader locations(TheRun.Paths.LocationsPath, LocationRecord::Length);
     const int spreadIdAt = OffsetOf(&LocationRecord::LocationSpreadId);
     const int numberAt = OffsetOf(&LocationRecord::LocationNumber);
     while (const char* raw = locations.Next()) {
@@ -405,9 +405,9 @@ JournalCatalogue LoadJournalCatalogue() {
 Journal ReadJournal(const JournalCatalogue& catalogue) {
     Journal journal;
     std::vector<EntryExtent> extents;
-    ReadEntries(ReadingsPath, ReadingRecord::Length, EntryKind::Reading,
+    ReadEntries(TheRun.Paths.ReadingsPath, ReadingRecord::Length, EntryKind::Reading,
                 LayoutOf(&ReadingRecord::ReadingName, &ReadingRecord::ReadingNotes), catalogue, journal, extents);
-    ReadEntries(DiaryPath, DiaryRecord::Length, EntryKind::Diary,
+    ReadEntries(TheRun.Paths.DiaryPath, DiaryRecord::Length, EntryKind::Diary,
                 LayoutOf(&DiaryRecord::DiaryName, &DiaryRecord::DiaryNotes), catalogue, journal, extents);
     const std::span<const DealtLocation> dealt(journal.Dealt);
     const std::string_view text(journal.Text.constData(), static_cast<std::size_t>(journal.Text.size()));
@@ -604,8 +604,8 @@ void PrintChart(Printer& printer, const ChartData& chart, const QRect& box) {
     const ChartDrawing drawing = LayOutChart(chart, box, metrics);
     for (const ChartBlock& block : drawing.Blocks) {
         const QRect r = block.Box.toAlignedRect();
-        const int colour = block.Ink == ChartInk::First    ? LongColour(QBColor(CurrentLocationColour))
-                           : block.Ink == ChartInk::Second ? LongColour(QBColor(OtherLocationColour))
+        const int colour = block.Ink == ChartInk::First    ? LongColour(QBColor(TheRun.CurrentLocationColour))
+                           : block.Ink == ChartInk::Second ? LongColour(QBColor(TheRun.OtherLocationColour))
                            : block.Ink == ChartInk::Axis   ? 0x808080
                                                            : 0xE0E0E0;
         printer.FillRect(r.x(), r.y(), r.width(), r.height(), colour);

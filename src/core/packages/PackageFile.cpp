@@ -144,7 +144,7 @@ bool UnpackPackage(const QString& packagePath) {
     QFile package;
     try {
         OpenBinary(package, packagePath, QIODevice::ReadOnly);
-        const QString tempFolder = AddTrailingBackslash(AppPath + QStringLiteral("Temp"));
+        const QString tempFolder = AddTrailingBackslash(TheRun.Paths.AppPath + QStringLiteral("Temp"));
         for (;;) {
             PackageMemberHeader header;
             if (!ReadMemberHead(package, header)) break;

@@ -21,7 +21,7 @@ namespace {
 constexpr int DeckIdStep = 5;
 constexpr int SpreadIdStep = 15;
 
-QString TempFile(const char* name) { return TempDir + QLatin1String(name); }
+QString TempFile(const char* name) { return TheRun.Paths.TempDir + QLatin1String(name); }
 
 // A record file the package does not hold counts as one without records.
 qint64 LengthOrZero(const QString& path) { return FileExists(path) ? FileLen(path) : 0; }
@@ -46,7 +46,7 @@ bool PassesCompatibilityTest() {
 // which holds plain file names only. A name that would reach elsewhere
 // ("../x", "/etc/x") names no file the package brought.
 bool IsUnpackedFile(const QString& name) {
-    return !name.isEmpty() && MemberFileName(name) == name && FileExists(TempDir + name);
+    return !name.isEmpty() && MemberFileName(name) == name && FileExists(TheRun.Paths.TempDir + name);
 }
 
 QString Damaged(const QString& why) {
@@ -315,7 +315,7 @@ InstallOutcome PackageInstallation::Install() {
     }
     if (!PassesCompatibilityTest()) return InstallOutcome::Incompatible;
 
-    DesignExistsChoice = 0;
+    TheRun.DesignExistsChoice = 0;
     PackageCardCount = CountCards(TempFile("Temp.crd"));
     ReserveCardFileNames();
     LoadInstalledDecks();
@@ -336,15 +336,15 @@ InstallOutcome PackageInstallation::Install() {
 }
 
 bool PackageInstallation::SaveAttachment() {
-    const QString chosen = ask_.AttachmentTarget(AttachmentsDir + AttachmentFile);
+    const QString chosen = ask_.AttachmentTarget(TheRun.Paths.AttachmentsDir + AttachmentFile);
     if (chosen.isEmpty()) return false;
-    const QStringList found = Dir(TempDir + AttachmentPrefix + QStringLiteral("*.*"));
+    const QStringList found = Dir(TheRun.Paths.TempDir + AttachmentPrefix + QStringLiteral("*.*"));
     const QString tempName = found.isEmpty() ? QString() : found.first();
     // The package's extension is added even when the chosen name has it
     // already: accepting the proposed "notes.txt" saves "notes.txt.txt".
     const int dot = tempName.lastIndexOf(QLatin1Char('.'));
     const QString target = chosen + (dot < 0 ? QString() : tempName.mid(dot));
-    FileCopy(TempDir + tempName, target);
+    FileCopy(TheRun.Paths.TempDir + tempName, target);
     AttachmentFile = target;
     return true;
 }
@@ -356,7 +356,7 @@ void PackageInstallation::ReserveCardFileNames() {
     // A number is free when none of the four names it gives is taken: both
     // pictures and both sounds. A deck save numbers its two sides apart, so
     // a free upright name says nothing of the reversed one.
-    const TakenStems taken({CardsDir});
+    const TakenStems taken({TheRun.Paths.CardsDir});
     const QString sound = QStringLiteral("M");
     int slot = 1;
     for (int number = 0; slot <= PackageCardCount; ++number) {
@@ -374,7 +374,7 @@ void PackageInstallation::ReserveCardFileNames() {
 }
 
 void PackageInstallation::LoadInstalledDecks() {
-    decks_ = ReadAllRecords<DeckRecord>(DecksPath);
+    decks_ = ReadAllRecords<DeckRecord>(TheRun.Paths.DecksPath);
     for (const DeckRecord& deck : decks_) heldBefore_.insert(deck.DeckId);
     InstalledDeckNames.Redim(1, std::max<int>(1, static_cast<int>(decks_.size())));
     int n = 0;
@@ -385,7 +385,7 @@ void PackageInstallation::LoadInstalledDecks() {
 }
 
 void PackageInstallation::LoadInstalledSpreads() {
-    spreads_ = ReadAllRecords<SpreadRecord>(SpreadsPath);
+    spreads_ = ReadAllRecords<SpreadRecord>(TheRun.Paths.SpreadsPath);
     InstalledSpreadNames.Redim(1, std::max<int>(1, static_cast<int>(spreads_.size())));
     int n = 0;
     for (const SpreadRecord& spread : spreads_) {
@@ -407,13 +407,13 @@ bool PackageInstallation::NameIsInSpreadInstalledArray(const QString& name) cons
 }
 
 int PackageInstallation::AskDesignExists(int design, const QString& title) {
-    if (AnswersForAll(DesignExistsChoice)) return DesignExistsChoice;
+    if (AnswersForAll(TheRun.DesignExistsChoice)) return TheRun.DesignExistsChoice;
     const DesignExistsReply reply = ask_.DesignExists(design, title, [this, design](const QString& padded) {
         return design == DesignSpread ? NameIsInSpreadInstalledArray(padded) : NameIsInDeckInstalledArray(padded);
     });
-    DesignExistsChoice = reply.Choice;
+    TheRun.DesignExistsChoice = reply.Choice;
     newDesignName_ = reply.NewName;
-    return DesignExistsChoice;
+    return TheRun.DesignExistsChoice;
 }
 
 void PackageInstallation::InstallDecks() {
@@ -488,94 +488,94 @@ void PackageInstallation::InstallCards() {
 }
 
 void PackageInstallation::InstallSpreads() {
-    ChooserManageMode = false;
-    InstallAllSpreads = true;
+    TheRun.ChooserManageMode = false;
+    TheRun.InstallAllSpreads = true;
     FirstLinkPending = true;
     ChosenDeckCount = -1;
     // Background names are drawn against Cards/ and the names already given
     // out by this installation, whose files are not there yet.
-    TakenStems backgrounds({CardsDir});
+    TakenStems backgrounds({TheRun.Paths.CardsDir});
     const std::vector<SpreadRecord> package = ReadAllRecords<SpreadRecord>(TempFile("Temp.spr"));
     int position = static_cast<int>(spreads_.size()) + 1;
     for (int i = 1; i <= static_cast<int>(package.size()); ++i) {
-        CurrentSpread = package[static_cast<std::size_t>(i - 1)];
+        TheRun.CurrentSpread = package[static_cast<std::size_t>(i - 1)];
         InstallSpread(i, position, backgrounds);
     }
 }
 
 void PackageInstallation::InstallSpread(int i, int& position, TakenStems& backgrounds) {
-    const int locationCount = CurrentSpread.LocationCount;
-    LoadSpreadLocationsFrom(TempFile("Temp.loc"), CurrentSpread.SpreadId, locationCount);
-    if (NameIsInArray(InstalledSpreadNames, CurrentSpread.SpreadName.Value())) {
-        const int choice = AskDesignExists(DesignSpread, CurrentSpread.SpreadName.Trimmed());
+    const int locationCount = TheRun.CurrentSpread.LocationCount;
+    LoadSpreadLocationsFrom(TempFile("Temp.loc"), TheRun.CurrentSpread.SpreadId, locationCount);
+    if (NameIsInArray(InstalledSpreadNames, TheRun.CurrentSpread.SpreadName.Value())) {
+        const int choice = AskDesignExists(DesignSpread, TheRun.CurrentSpread.SpreadName.Trimmed());
         if (IsOverwrite(choice)) {
             RemapSpread(i);
             InstallSpreadBackground(backgrounds);
-            const int at = FindSpreadByName(CurrentSpread.SpreadName.Trimmed());
+            const int at = FindSpreadByName(TheRun.CurrentSpread.SpreadName.Trimmed());
             if (at < 1 || at > static_cast<int>(spreads_.size())) RaiseError(errInputPastEndOfFile);
             // The old background goes once no record names it.
             oldBackgrounds_.append(spreads_[static_cast<std::size_t>(at - 1)].BackgroundFile.Value());
             ReplaceSpreadLocations(locationCount);
             LinkToExistingDecks();
-            Place(spreads_, changedSpreads_, at, CurrentSpread);
+            Place(spreads_, changedSpreads_, at, TheRun.CurrentSpread);
             ++SpreadsInstalled;
             return;
         }
         if (choice != DesignExistsRename) return;
-        CurrentSpread.SpreadName = newDesignName_;
+        TheRun.CurrentSpread.SpreadName = newDesignName_;
     }
     RemapSpread(i);
     InstallSpreadBackground(backgrounds);
     ReplaceSpreadLocations(locationCount);
     LinkToExistingDecks();
-    Place(spreads_, changedSpreads_, position++, CurrentSpread);
+    Place(spreads_, changedSpreads_, position++, TheRun.CurrentSpread);
     ++SpreadsInstalled;
 }
 
 void PackageInstallation::RemapSpread(int i) {
-    CurrentSpread.SpreadId = NewSpreadIds.Ids(i);
-    const int count = CurrentSpread.AllowedDeckCount;
+    TheRun.CurrentSpread.SpreadId = NewSpreadIds.Ids(i);
+    const int count = TheRun.CurrentSpread.AllowedDeckCount;
     if (count < 0) return;
     for (int k = 1; k <= count; ++k) {
         if (k > 10) RaiseError(errSubscriptOutOfRange);
-        Integer& id = CurrentSpread.AllowedDeckId[static_cast<std::size_t>(k - 1)];
+        Integer& id = TheRun.CurrentSpread.AllowedDeckId[static_cast<std::size_t>(k - 1)];
         const int at = IndexOfId(PackageDeckIds.Ids, id);
         id = at == -1 ? Integer(-1) : NewDeckIds.Ids(at);
     }
-    CompactAllowedDecks(CurrentSpread, count);
+    CompactAllowedDecks(TheRun.CurrentSpread, count);
 }
 
 void PackageInstallation::InstallSpreadBackground(TakenStems& backgrounds) {
-    if (CurrentSpread.BackgroundFile.Trimmed().isEmpty()) return;
-    const QString oldName = CurrentSpread.BackgroundFile.Trimmed();
+    if (TheRun.CurrentSpread.BackgroundFile.Trimmed().isEmpty()) return;
+    const QString oldName = TheRun.CurrentSpread.BackgroundFile.Trimmed();
     const QString newName = NewBackgroundName(oldName, backgrounds);
     backgrounds.Take(newName);
-    CurrentSpread.BackgroundFile = TakeUnpackedFile(oldName, newName);
+    TheRun.CurrentSpread.BackgroundFile = TakeUnpackedFile(oldName, newName);
 }
 
 void PackageInstallation::ReplaceSpreadLocations(int count) {
     std::vector<LocationRecord> mine;
     for (int n = 1; n <= count; ++n) {
-        LocationRecord location = SpreadLocations(n);
+        LocationRecord location = TheRun.SpreadLocations(n);
         // A location the package lacks is put in its place as a fresh one.
         if (location.LocationNumber != n) ResetLocation(location);
-        location.LocationSpreadId = CurrentSpread.SpreadId;
+        location.LocationSpreadId = TheRun.CurrentSpread.SpreadId;
         location.LocationNumber = static_cast<Integer>(n);
         mine.push_back(location);
     }
-    locations_.emplace_back(CurrentSpread.SpreadId, std::move(mine));
+    locations_.emplace_back(TheRun.CurrentSpread.SpreadId, std::move(mine));
 }
 
 void PackageInstallation::LinkToExistingDecks() {
-    if (!FirstLinkPending && InstallAllSpreads) {
-        CurrentSpread.AllowedDeckCount = static_cast<Integer>(ChosenDeckCount);
-        CurrentSpread.AllowedDeckId = ChosenDeckIds;
+    if (!FirstLinkPending && TheRun.InstallAllSpreads) {
+        TheRun.CurrentSpread.AllowedDeckCount = static_cast<Integer>(ChosenDeckCount);
+        TheRun.CurrentSpread.AllowedDeckId = ChosenDeckIds;
         return;
     }
-    ChooserManageMode = false;
+    TheRun.ChooserManageMode = false;
     ask_.ChooseDecks(decks_);
-    ChosenDeckCount = CurrentSpread.AllowedDeckCount;
-    ChosenDeckIds = CurrentSpread.AllowedDeckId;
+    ChosenDeckCount = TheRun.CurrentSpread.AllowedDeckCount;
+    ChosenDeckIds = TheRun.CurrentSpread.AllowedDeckId;
     FirstLinkPending = false;
 }
 
@@ -619,9 +619,9 @@ void PackageInstallation::Commit() {
         const bool takenAgain = std::any_of(files_.begin() + static_cast<std::ptrdiff_t>(k) + 1, files_.end(),
                                             [&](const FileTake& later) { return later.From == files_[k].From; });
         if (takenAgain)
-            commit.AddFile(TempDir + files_[k].From, files_[k].To);
+            commit.AddFile(TheRun.Paths.TempDir + files_[k].From, files_[k].To);
         else
-            commit.MoveFile(TempDir + files_[k].From, files_[k].To);
+            commit.MoveFile(TheRun.Paths.TempDir + files_[k].From, files_[k].To);
     }
 
     // The decks and spreads as they will be, and the ids this installation
@@ -646,7 +646,7 @@ void PackageInstallation::Commit() {
     QSet<QString> unnamed;
     CardRecord card;
     {
-        RecordReader<CardRecord> reader(CardsPath);
+        RecordReader<CardRecord> reader(TheRun.Paths.CardsPath);
         while (const char* raw = reader.NextRaw()) {
             if (stays(raw)) continue;
             DecodeRecord(raw, card);
@@ -656,7 +656,7 @@ void PackageInstallation::Commit() {
     QByteArray added;
     for (const CardRecord& mine : cards_) added += EncodeRecord(mine);
     commit.AddRecordFile(
-        CardsPath, CardRecord::Length,
+        TheRun.Paths.CardsPath, CardRecord::Length,
         [&](const char* raw, int) -> const char* {
             if (!stays(raw)) return nullptr;
             if (!unnamed.isEmpty()) {
@@ -686,14 +686,14 @@ void PackageInstallation::Commit() {
     }
     const int locationIdAt = OffsetOf(&LocationRecord::LocationSpreadId);
     commit.AddRecordFile(
-        LocationsPath, LocationRecord::Length,
+        TheRun.Paths.LocationsPath, LocationRecord::Length,
         [&](const char* raw, int) -> const char* {
             const Integer id = RawInteger(raw, locationIdAt);
             return spreadIds.count(id) && !installedSpreads.count(id) ? raw : nullptr;
         },
         placed);
 
-    AddRecords(commit, DecksPath, decks_, changedDecks_);
-    AddRecords(commit, SpreadsPath, spreads_, changedSpreads_);
+    AddRecords(commit, TheRun.Paths.DecksPath, decks_, changedDecks_);
+    AddRecords(commit, TheRun.Paths.SpreadsPath, spreads_, changedSpreads_);
     commit.Commit();
 }

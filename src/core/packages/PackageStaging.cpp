@@ -12,14 +12,14 @@ namespace {
 // Copies a file a record names from Cards/ into Temp/ under the same name.
 // Temp/ holds working copies only, emptied after packing and at every
 // start, so the copies are not waited for on the disk.
-void StageFile(const QString& name) { FileCopyUnsynced(CardsDir + name, TempDir + name); }
+void StageFile(const QString& name) { FileCopyUnsynced(TheRun.Paths.CardsDir + name, TheRun.Paths.TempDir + name); }
 
 // Whether a record's field names a file of Cards/ that is there. A name that
 // is no plain file name names none: a package carries plain names only.
 template <int N>
 bool NamesAFile(const FixedText<N>& field) {
     const QString name = field.Trimmed();
-    return !name.isEmpty() && MemberFileName(name) == name && FileExists(CardsDir + name);
+    return !name.isEmpty() && MemberFileName(name) == name && FileExists(TheRun.Paths.CardsDir + name);
 }
 
 // A field naming a file that is not there is packed as the design shows it,
@@ -48,7 +48,7 @@ void StageOrBlankForgiving(FixedText<N>& field) {
 // A record file without records is not staged: a package member cannot be
 // empty, and a missing record file holds no records.
 void StageRecordFile(const char* name, const QByteArray& records) {
-    if (!records.isEmpty()) WriteWholeFile(TempDir + QLatin1String(name), records);
+    if (!records.isEmpty()) WriteWholeFile(TheRun.Paths.TempDir + QLatin1String(name), records);
 }
 
 }  // namespace
@@ -70,7 +70,7 @@ void PackageStaging::StageDecks() {
     QByteArray staged;
     for (const QString& name : DeckNames) {
         DeckRecord deck;
-        if (!GetRecord(DecksPath, FindDeckByName(name), deck)) continue;
+        if (!GetRecord(TheRun.Paths.DecksPath, FindDeckByName(name), deck)) continue;
         ApplyPassword(deck.DeckLocked, deck.DeckPassword);
         PackedDeckIds.push_back(deck.DeckId);
         StageOrBlank(deck.DeckAttachment);
@@ -95,7 +95,7 @@ bool PackageStaging::IsCardOfPackedDeck(Integer id) {
 
 void PackageStaging::StageCards() {
     QByteArray staged;
-    RecordReader<CardRecord> reader(CardsPath);
+    RecordReader<CardRecord> reader(TheRun.Paths.CardsPath);
     CardRecord card;
     while (reader.Next(card)) {
         if (!IsCardOfPackedDeck(card.CardDeckId)) continue;
@@ -120,7 +120,7 @@ void PackageStaging::StageSpreads() {
     QByteArray locations;
     for (const QString& name : SpreadNames) {
         SpreadRecord spread;
-        if (!GetRecord(SpreadsPath, FindSpreadByName(name), spread)) continue;
+        if (!GetRecord(TheRun.Paths.SpreadsPath, FindSpreadByName(name), spread)) continue;
         ApplyPassword(spread.SpreadLocked, spread.SpreadPassword);
         // A spread's file that has gone is left out with its field blanked,
         // before the record is packed; the spread keeps everything else, its
@@ -129,7 +129,7 @@ void PackageStaging::StageSpreads() {
         StageOrBlankForgiving(spread.SpreadAttachment);
         LoadSpreadLocations(spread.SpreadId, spread.LocationCount);
         for (int n = 1; n <= spread.LocationCount; ++n) {
-            LocationRecord& location = SpreadLocations(n);
+            LocationRecord& location = TheRun.SpreadLocations(n);
             location.LocationSpreadId = spread.SpreadId;
             // A location the store lacks goes as a blank one in its place.
             location.LocationNumber = static_cast<Integer>(n);

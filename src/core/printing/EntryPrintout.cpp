@@ -43,7 +43,7 @@ Integer At(const std::array<Integer, N>& values, int location) {
 }
 
 const CardRecord& CardAt(const EntryPrintout& entry, int location) {
-    return CurrentDeck.DeckCards(At(entry.DealtCard, location));
+    return TheRun.CurrentDeck.DeckCards(At(entry.DealtCard, location));
 }
 
 bool Upright(const EntryPrintout& entry, int location) { return At(entry.DealtUpright, location) != 0; }
@@ -54,14 +54,14 @@ int LongColour(const QColor& colour) { return colour.red() | colour.green() << 8
 // The picture of the card's side that lies, as the screen shows it: a file
 // that has gone or cannot be read gives the default card picture.
 Picture CardPicture(const CardRecord& card, bool upright) {
-    const QString path = CardsDir + card.CardPicture[upright ? 0 : 1].Trimmed();
+    const QString path = TheRun.Paths.CardsDir + card.CardPicture[upright ? 0 : 1].Trimmed();
     if (FileExists(path)) {
         try {
             return LoadPicture(path);
         } catch (const RuntimeError&) {
         }
     }
-    return LoadPicture(DefaultPicturePath);
+    return LoadPicture(TheRun.Paths.DefaultPicturePath);
 }
 
 // A text in a box of its own font; an empty text draws nothing, as an empty
@@ -91,14 +91,14 @@ QString CopyrightLine(const QString& sentence, const Designer& designer) {
 // The spread's background over the white canvas: stretched to the canvas, or
 // at its own size and cut off at the canvas's edges.
 void PrintBackground(Printer& printer) {
-    if (!CurrentSpread.BackgroundFile.Value().contains(QLatin1Char('.'))) return;
+    if (!TheRun.CurrentSpread.BackgroundFile.Value().contains(QLatin1Char('.'))) return;
     Picture background;
     try {
-        background = LoadPicture(CardsDir + CurrentSpread.BackgroundFile.Trimmed());
+        background = LoadPicture(TheRun.Paths.CardsDir + TheRun.CurrentSpread.BackgroundFile.Trimmed());
     } catch (const RuntimeError&) {
         return;   // a background that has gone leaves the canvas plain, as on the screen
     }
-    if (CurrentSpread.StretchBackground != 0) {
+    if (TheRun.CurrentSpread.StretchBackground != 0) {
         printer.PaintPicture(background.Image, CanvasLeft, CanvasTop, CanvasWidth, CanvasHeight);
         return;
     }
@@ -112,11 +112,11 @@ void PrintBackground(Printer& printer) {
 // rectangle, the card's picture fitted into the card frame, the location's
 // title, and the card's name or the location's number.
 bool PrintLocation(Printer& printer, const EntryPrintout& entry, const Pictures& pictures, int i) {
-    const LocationRecord& location = SpreadLocations(i);
+    const LocationRecord& location = TheRun.SpreadLocations(i);
     const int x = CanvasLeft + qRound(location.LocationLeft * static_cast<double>(CanvasWidth) / entry.CanvasWidth);
     const int y = CanvasTop + qRound(location.LocationTop * static_cast<double>(CanvasHeight) / entry.CanvasHeight);
-    const int text = LongColour(QBColor(OtherLocationColour));
-    printer.FillRect(x, y, LocationWidth, LocationHeight, LongColour(QBColor(CurrentLocationColour)));
+    const int text = LongColour(QBColor(TheRun.OtherLocationColour));
+    printer.FillRect(x, y, LocationWidth, LocationHeight, LongColour(QBColor(TheRun.CurrentLocationColour)));
     const bool hasCard = pictures.contains(i);
     if (hasCard) {
         const Picture& picture = pictures[i];
@@ -147,7 +147,7 @@ bool PrintSpreadPage(Printer& printer, const EntryPrintout& entry, const Picture
     PrintBackground(printer);
     // Cards lie above empty places, and of two cards the higher number on top.
     bool fitted = true;
-    for (int i = 1; i <= CurrentSpread.LocationCount; ++i)
+    for (int i = 1; i <= TheRun.CurrentSpread.LocationCount; ++i)
         if (!entry.CardLocations.contains(i)) fitted = PrintLocation(printer, entry, pictures, i) && fitted;
     for (int i : entry.CardLocations) fitted = PrintLocation(printer, entry, pictures, i) && fitted;
 
@@ -156,9 +156,9 @@ bool PrintSpreadPage(Printer& printer, const EntryPrintout& entry, const Picture
         QString caption, value;
         int top, height;
     } lines[] = {
-        {QCoreApplication::translate("EntryPrintout", "Spread:"), SpreadNameById(CurrentSpread.SpreadId).trimmed(),
+        {QCoreApplication::translate("EntryPrintout", "Spread:"), SpreadNameById(TheRun.CurrentSpread.SpreadId).trimmed(),
          10560, LineHeight},
-        {QCoreApplication::translate("EntryPrintout", "Deck:"), DeckNameById(CurrentDeck.DeckId).trimmed(), 11040,
+        {QCoreApplication::translate("EntryPrintout", "Deck:"), DeckNameById(TheRun.CurrentDeck.DeckId).trimmed(), 11040,
          LineHeight},
         {QCoreApplication::translate("EntryPrintout", "Date & Time:"),
          FormatLongDayDate(now) + QStringLiteral(" - ") + entry.FormatTime(now), 11520, LineHeight},
@@ -171,9 +171,9 @@ bool PrintSpreadPage(Printer& printer, const EntryPrintout& entry, const Picture
     }
     const QString spreadLine = QCoreApplication::translate("EntryPrintout", "Spread © Copyright 2001 By %1.");
     const QString deckLine = QCoreApplication::translate("EntryPrintout", "Deck © Copyright 2001 By %1.");
-    PrintLabel(printer, CopyrightLine(spreadLine, CurrentSpread.SpreadDesigner), 1680, 13080, 8415, 255,
+    PrintLabel(printer, CopyrightLine(spreadLine, TheRun.CurrentSpread.SpreadDesigner), 1680, 13080, 8415, 255,
                CopyrightPoints);
-    PrintLabel(printer, CopyrightLine(deckLine, CurrentDeck.DeckDesigner), 1680, 13560, 8415, 255, CopyrightPoints);
+    PrintLabel(printer, CopyrightLine(deckLine, TheRun.CurrentDeck.DeckDesigner), 1680, 13560, 8415, 255, CopyrightPoints);
     return fitted;
 }
 
@@ -189,7 +189,7 @@ QString LocationText(const LocationRecord& location) {
 // False when the engine could not print them properly.
 bool PrintTextPages(PrintLayout& layout, const EntryPrintout& entry, const Pictures& pictures) {
     const int n = static_cast<int>(entry.CardLocations.size());
-    const QString spreadTitle = CurrentSpread.SpreadTitle.Value();
+    const QString spreadTitle = TheRun.CurrentSpread.SpreadTitle.Value();
     const bool started = layout.StartPrint(n, MakerWebAddress, spreadTitle, spreadTitle);
     if (n < 1) return true;
     if (!started) return false;
@@ -197,7 +197,7 @@ bool PrintTextPages(PrintLayout& layout, const EntryPrintout& entry, const Pictu
     const QString notes = entry.Notes.trimmed();
     if (!notes.isEmpty()) ok = layout.PrintSummary(notes) && ok;
     for (int i : entry.CardLocations) {
-        const LocationRecord& location = SpreadLocations(i);
+        const LocationRecord& location = TheRun.SpreadLocations(i);
         const CardRecord& card = CardAt(entry, i);
         const bool upright = Upright(entry, i);
         const QString cardTitle = (upright ? entry.UprightTitle : entry.ReversedTitle).arg(card.CardTitle.Trimmed());

@@ -46,7 +46,7 @@ void KeepOrder(const Deal& deal, ReadingRecord& reading) {
 
 }  // namespace
 
-DealOptions RunDealOptions() { return {UseReversed, AllowDuplicateCards, CardTypeSelected}; }
+DealOptions RunDealOptions() { return {TheRun.UseReversed, TheRun.AllowDuplicateCards, TheRun.CardTypeSelected}; }
 
 void NewDeal(Deal& deal, int deckCardCount) {
     deal.DeckCardsLeft = static_cast<Integer>(deckCardCount);

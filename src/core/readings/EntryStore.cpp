@@ -18,7 +18,7 @@ struct Kind;
 
 template <>
 struct Kind<ReadingRecord> {
-    static const QString& Path() { return ReadingsPath; }
+    static const QString& Path() { return TheRun.Paths.ReadingsPath; }
     static FixedText<50>& Name(ReadingRecord& r) { return r.ReadingName; }
     static const FixedText<50>& Name(const ReadingRecord& r) { return r.ReadingName; }
     static int Find(const QString& name) { return FindReadingByName(name); }
@@ -60,7 +60,7 @@ struct Kind<ReadingRecord> {
 
 template <>
 struct Kind<DiaryRecord> {
-    static const QString& Path() { return DiaryPath; }
+    static const QString& Path() { return TheRun.Paths.DiaryPath; }
     static FixedText<50>& Name(DiaryRecord& r) { return r.DiaryName; }
     static const FixedText<50>& Name(const DiaryRecord& r) { return r.DiaryName; }
     static int Find(const QString& name) { return FindDiaryByName(name); }
@@ -176,7 +176,7 @@ EntryOpening<R> Judge(const QString& name) {
         refuse(Kind<R>::DeckGone());
         return opening;
     }
-    GetRecord(DecksPath, deckNumber, opening.Deck);
+    GetRecord(TheRun.Paths.DecksPath, deckNumber, opening.Deck);
     if (opening.Deck.DeckRevision != entry.ReadingDeckRevision) {
         // A changed deck: the cards of the first locations must still be there.
         const auto first = entry.DealtCard.begin();
@@ -191,7 +191,7 @@ EntryOpening<R> Judge(const QString& name) {
         refuse(Kind<R>::SpreadGone());
         return opening;
     }
-    GetRecord(SpreadsPath, spreadNumber, opening.Spread);
+    GetRecord(TheRun.Paths.SpreadsPath, spreadNumber, opening.Spread);
     if (opening.Spread.SpreadRevision != entry.ReadingSpreadRevision) ask(Kind<R>::SpreadChanged());
     return opening;
 }

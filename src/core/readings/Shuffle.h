@@ -18,13 +18,13 @@ int RandomPosition(int n, float r);
 // The cards a reading draws from: those of the selected card types (the
 // run's, unless others are given).
 int PoolSize(const BoundedArray<CardRecord>& deckCards, int cardCount,
-             const std::array<bool, 4>& types = CardTypeSelected);
+             const std::array<bool, 4>& types = TheRun.CardTypeSelected);
 
 // Lists the pool into positions 1 .. PoolSize of `positions`: grouped by
 // card type, in deck order within a type. Positions past the pool keep what
 // they held.
 void ListPool(BoundedArray<Integer>& positions, const BoundedArray<CardRecord>& deckCards, int cardCount,
-              const std::array<bool, 4>& types = CardTypeSelected);
+              const std::array<bool, 4>& types = TheRun.CardTypeSelected);
 
 // Seeds the generator afresh, then each of positions 1 .. n swaps with a
 // partner from the whole range and draws its orientation (-1 upright, 0

@@ -14,7 +14,7 @@ QString SpreadDeckLimitProblem(int tied) {
 }
 
 bool IsSoleDeckOfASpread(Integer deckId) {
-    RecordReader<SpreadRecord> reader(SpreadsPath);
+    RecordReader<SpreadRecord> reader(TheRun.Paths.SpreadsPath);
     SpreadRecord spread;
     while (reader.Next(spread))
         if (spread.AllowedDeckCount == 1 && spread.AllowedDeckId[0] == deckId) return true;
@@ -22,9 +22,9 @@ bool IsSoleDeckOfASpread(Integer deckId) {
 }
 
 void RemoveDeckFromSpreads(Integer deckId) {
-    RecordEdit<SpreadRecord> changed(SpreadsPath);
+    RecordEdit<SpreadRecord> changed(TheRun.Paths.SpreadsPath);
     {
-        RecordReader<SpreadRecord> reader(SpreadsPath);
+        RecordReader<SpreadRecord> reader(TheRun.Paths.SpreadsPath);
         SpreadRecord spread;
         while (reader.Next(spread)) {
             auto& ids = spread.AllowedDeckId;

@@ -47,16 +47,16 @@ SpreadDesign SaveSpread(SpreadDesign design, const QString& name, int replacing)
         spread.SpreadId = NextSpreadId();
     } else {
         SpreadRecord replaced;
-        if (!GetRecord(SpreadsPath, replacing, replaced)) RaiseError(errInputPastEndOfFile);
+        if (!GetRecord(TheRun.Paths.SpreadsPath, replacing, replaced)) RaiseError(errInputPastEndOfFile);
         going = DesignFilePath(replaced.BackgroundFile.Value());
     }
 
     DesignCommit commit;
     // The picture in Temp/ takes its permanent S name in Cards/ here.
     const QString working = spread.BackgroundFile.Value();
-    if (!TrimField(working).isEmpty() && FileExists(TempDir + TrimField(working))) {
-        spread.BackgroundFile = NewBackgroundName(working, TakenStems({CardsDir}, {going}));
-        commit.AddFile(TempDir + working, spread.BackgroundFile.Value());
+    if (!TrimField(working).isEmpty() && FileExists(TheRun.Paths.TempDir + TrimField(working))) {
+        spread.BackgroundFile = NewBackgroundName(working, TakenStems({TheRun.Paths.CardsDir}, {going}));
+        commit.AddFile(TheRun.Paths.TempDir + working, spread.BackgroundFile.Value());
     } else {
         spread.BackgroundFile = QString();
     }
@@ -73,11 +73,11 @@ SpreadDesign SaveSpread(SpreadDesign design, const QString& name, int replacing)
         locations += EncodeRecord(location);
     }
     const int idAt = OffsetOf(&LocationRecord::LocationSpreadId);
-    commit.AddRecordFile(LocationsPath, LocationRecord::Length, [&](const char* location, int) {
+    commit.AddRecordFile(TheRun.Paths.LocationsPath, LocationRecord::Length, [&](const char* location, int) {
         return RawInteger(location, idAt) == spread.SpreadId ? nullptr : location;
     }, locations);
     const QByteArray record = EncodeRecord(spread);
-    commit.AddRecordFile(SpreadsPath, SpreadRecord::Length, [&](const char* r, int number) {
+    commit.AddRecordFile(TheRun.Paths.SpreadsPath, SpreadRecord::Length, [&](const char* r, int number) {
         return number == replacing ? record.constData() : r;
     }, anew ? record : QByteArray());
     commit.DropFile(going);
@@ -90,7 +90,7 @@ QString SaveSpreadDecks(const SpreadRecord& spread) {
     if (n < 0)
         return QCoreApplication::translate("SpreadStore",
                                            "Unable to find this spread. Please 'close' and select another spread.");
-    PutRecord(SpreadsPath, n, spread);
+    PutRecord(TheRun.Paths.SpreadsPath, n, spread);
     return QString();
 }
 
@@ -108,8 +108,8 @@ WorkingBackground OpenWorkingBackground(SpreadRecord spread) {
     const QString name = spread.BackgroundFile.Value();
     if (!name.contains(QLatin1Char('.'))) return working;
     try {
-        FileCopy(CardsDir + name, TempDir + name);
-        working.Path = TempDir + name;
+        FileCopy(TheRun.Paths.CardsDir + name, TheRun.Paths.TempDir + name);
+        working.Path = TheRun.Paths.TempDir + name;
     } catch (const RuntimeError&) {
         working.Spread.BackgroundFile = QString();
     }
@@ -128,7 +128,7 @@ WorkingBackground ChooseWorkingBackground(SpreadRecord spread, const QString& ty
     if (fileName.isEmpty()) {
         // The name has no extension and so normally matches nothing: what
         // the spread had stays in Temp/ until the next opening empties it.
-        KillIgnoringErrors(TempDir + WorkingStem);
+        KillIgnoringErrors(TheRun.Paths.TempDir + WorkingStem);
         working.Spread.StretchBackground = Flag(stretch);
         working.Spread.BackgroundFile = QString();
         return working;
@@ -138,9 +138,9 @@ WorkingBackground ChooseWorkingBackground(SpreadRecord spread, const QString& ty
     // The spread takes the picture only once the copy is there: a file that
     // vanished since it was checked leaves the spread as it was.
     const QString name = WorkingBackgroundName(fileName);
-    FileCopy(fileName, TempDir + name);
+    FileCopy(fileName, TheRun.Paths.TempDir + name);
     working.Spread.StretchBackground = Flag(stretch);
     working.Spread.BackgroundFile = name;
-    working.Path = TempDir + name;
+    working.Path = TheRun.Paths.TempDir + name;
     return working;
 }

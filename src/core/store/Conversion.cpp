@@ -151,22 +151,22 @@ void ConvertSpreadFile(const QString& oldPath, const QString& newSpreadsPath, co
 void ConvertDatabase() {
     // The copies come first, so that the old data survive whatever follows;
     // their presence also keeps a later start from converting again.
-    for (const QString& path : {DecksPath, SpreadsPath, CardsPath, ReadingsPath, DiaryPath})
+    for (const QString& path : {TheRun.Paths.DecksPath, TheRun.Paths.SpreadsPath, TheRun.Paths.CardsPath, TheRun.Paths.ReadingsPath, TheRun.Paths.DiaryPath})
         FileCopy(path, path + QStringLiteral(".bkp"));
 
-    const QString tempDecks = TempDir + QStringLiteral("Temp.dck");
-    const QString tempSpreads = TempDir + QStringLiteral("Temp.spr");
-    const QString tempLocations = TempDir + QStringLiteral("Temp.loc");
-    const QString tempCards = TempDir + QStringLiteral("Temp.crd");
+    const QString tempDecks = TheRun.Paths.TempDir + QStringLiteral("Temp.dck");
+    const QString tempSpreads = TheRun.Paths.TempDir + QStringLiteral("Temp.spr");
+    const QString tempLocations = TheRun.Paths.TempDir + QStringLiteral("Temp.loc");
+    const QString tempCards = TheRun.Paths.TempDir + QStringLiteral("Temp.crd");
 
-    ConvertDeckFile(DecksPath, tempDecks);
+    ConvertDeckFile(TheRun.Paths.DecksPath, tempDecks);
     // Whatever locations file stands there belongs to no converted spread.
-    if (FileExists(LocationsPath)) Kill(LocationsPath);
-    ConvertSpreadFile(SpreadsPath, tempSpreads, tempLocations);
-    ConvertCardFile(CardsPath, tempCards);
+    if (FileExists(TheRun.Paths.LocationsPath)) Kill(TheRun.Paths.LocationsPath);
+    ConvertSpreadFile(TheRun.Paths.SpreadsPath, tempSpreads, tempLocations);
+    ConvertCardFile(TheRun.Paths.CardsPath, tempCards);
 
-    PutInPlace(tempDecks, DecksPath);
-    PutInPlace(tempSpreads, SpreadsPath);
-    PutInPlace(tempLocations, LocationsPath);
-    PutInPlace(tempCards, CardsPath);
+    PutInPlace(tempDecks, TheRun.Paths.DecksPath);
+    PutInPlace(tempSpreads, TheRun.Paths.SpreadsPath);
+    PutInPlace(tempLocations, TheRun.Paths.LocationsPath);
+    PutInPlace(tempCards, TheRun.Paths.CardsPath);
 }

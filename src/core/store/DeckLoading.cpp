@@ -12,50 +12,50 @@
 #include "core/store/RunState.h"
 
 bool LoadDeckCards() {
-    static_cast<DeckRecord&>(CurrentDeck) = ListDeck;
-    const int cardCount = CurrentDeck.CardCount;
+    static_cast<DeckRecord&>(TheRun.CurrentDeck) = TheRun.ListDeck;
+    const int cardCount = TheRun.CurrentDeck.CardCount;
     // Never more places than Cards.crd has records: a deck claiming more
     // cards than that fails below all the same, and a claim of 32,767 must
     // not cost 160 MB on the way.
-    CurrentDeck.DeckCards.Redim(1, std::min(cardCount, CountCards()));
+    TheRun.CurrentDeck.DeckCards.Redim(1, std::min(cardCount, CountCards()));
     const CardRecord empty = ZeroRecord<CardRecord>();
-    for (CardRecord& card : CurrentDeck.DeckCards) card = empty;
+    for (CardRecord& card : TheRun.CurrentDeck.DeckCards) card = empty;
 
     // Records whose pictures have gone are written back blank: the element
     // of DeckCards stands all zero at that moment, so the card is lost to
     // later loads, and the load after next reports the deck as incomplete.
-    RecordEdit<CardRecord> blanked(CardsPath);
+    RecordEdit<CardRecord> blanked(TheRun.Paths.CardsPath);
     int cardNumber = 1;
     {
         // Only the deck's own cards are decoded; the others are passed over
         // by the id in their bytes.
         const int idAt = OffsetOf(&CardRecord::CardDeckId);
-        RecordReader<CardRecord> reader(CardsPath);
+        RecordReader<CardRecord> reader(TheRun.Paths.CardsPath);
         while (cardNumber <= cardCount) {
             const char* raw = reader.NextRaw();
             if (!raw) break;
-            if (RawInteger(raw, idAt) != CurrentDeck.DeckId) continue;
-            DecodeRecord(raw, ScratchCard);
-            if (ValidateCardPictures(ScratchCard))
-                blanked.Put(reader.Current(), CurrentDeck.DeckCards(cardNumber));
-            CurrentDeck.DeckCards(cardNumber) = ScratchCard;
+            if (RawInteger(raw, idAt) != TheRun.CurrentDeck.DeckId) continue;
+            DecodeRecord(raw, TheRun.ScratchCard);
+            if (ValidateCardPictures(TheRun.ScratchCard))
+                blanked.Put(reader.Current(), TheRun.CurrentDeck.DeckCards(cardNumber));
+            TheRun.CurrentDeck.DeckCards(cardNumber) = TheRun.ScratchCard;
             ++cardNumber;
         }
     }
     blanked.Commit();
 
     if (cardNumber <= cardCount) return false;
-    CurrentDeck.CardTypeName = ListDeck.CardTypeName;
-    CurrentDeck.CardTypeUsed = ListDeck.CardTypeUsed;
+    TheRun.CurrentDeck.CardTypeName = TheRun.ListDeck.CardTypeName;
+    TheRun.CurrentDeck.CardTypeUsed = TheRun.ListDeck.CardTypeUsed;
     return true;
 }
 
-void StoreListDeck() { ListDeck = static_cast<const DeckRecord&>(CurrentDeck); }
+void StoreListDeck() { TheRun.ListDeck = static_cast<const DeckRecord&>(TheRun.CurrentDeck); }
 
 bool ValidateCardPictures(CardRecord& card) {
     bool replaced = false;
     for (auto& picture : card.CardPicture) {
-        if (!FileExists(CardsDir + picture.Value())) {
+        if (!FileExists(TheRun.Paths.CardsDir + picture.Value())) {
             picture = DefaultPictureName;
             replaced = true;
         }
@@ -65,8 +65,8 @@ bool ValidateCardPictures(CardRecord& card) {
 
 int CardTypeIndex(const QString& typeName) {
     const QString wanted = TrimField(typeName);
-    for (int i = 0; i < static_cast<int>(CurrentDeck.CardTypeName.size()); ++i) {
-        if (CurrentDeck.CardTypeName[static_cast<std::size_t>(i)].Trimmed() == wanted) return i;
+    for (int i = 0; i < static_cast<int>(TheRun.CurrentDeck.CardTypeName.size()); ++i) {
+        if (TheRun.CurrentDeck.CardTypeName[static_cast<std::size_t>(i)].Trimmed() == wanted) return i;
     }
     return -1;
 }
@@ -74,15 +74,15 @@ int CardTypeIndex(const QString& typeName) {
 int CountCardsOfTypeName(const QString& typeName) {
     const int type = CardTypeIndex(typeName);
     int count = 0;
-    for (const CardRecord& card : CurrentDeck.DeckCards) {
+    for (const CardRecord& card : TheRun.CurrentDeck.DeckCards) {
         if (card.CardType == type) ++count;
     }
     return count;
 }
 
 int CountSelectedCardsOfType(const BoundedArray<CardRecord>& cards, int cardCount, int typeIndex) {
-    if (typeIndex < 0 || typeIndex >= static_cast<int>(CardTypeSelected.size())) RaiseError(errSubscriptOutOfRange);
-    if (!CardTypeSelected[static_cast<std::size_t>(typeIndex)]) return 0;
+    if (typeIndex < 0 || typeIndex >= static_cast<int>(TheRun.CardTypeSelected.size())) RaiseError(errSubscriptOutOfRange);
+    if (!TheRun.CardTypeSelected[static_cast<std::size_t>(typeIndex)]) return 0;
     int count = 0;
     for (int i = 1; i <= cardCount; ++i) {
         if (cards(i).CardType == typeIndex) ++count;
@@ -135,7 +135,7 @@ void TakenStems::Take(const QString& fileName) {
         stems_.insert(folded.left(dot));
 }
 
-QString NewBackgroundName(const QString& sourcePath) { return NewBackgroundName(sourcePath, TakenStems({CardsDir})); }
+QString NewBackgroundName(const QString& sourcePath) { return NewBackgroundName(sourcePath, TakenStems({TheRun.Paths.CardsDir})); }
 
 QString NewBackgroundName(const QString& sourcePath, const TakenStems& taken) {
     int n = 1;

@@ -11,7 +11,7 @@ using namespace RecordPasses;
 
 void RemoveUnfinishedRewrites() {
     for (const QString* name : {&SpreadsTmpName, &LocationTmpName, &ReadingsTmpName, &DiariesTmpName, &CardsTmpName})
-        KillIgnoringErrors(AppPath + *name);
+        KillIgnoringErrors(TheRun.Paths.AppPath + *name);
 }
 
 QString DesignFilePath(const QString& name) {
@@ -19,7 +19,7 @@ QString DesignFilePath(const QString& name) {
     // Names come from records, which a package may have filled: a wildcard
     // in one must never widen a delete to other designs' files.
     if (trimmed.isEmpty() || trimmed.contains(QLatin1Char('*')) || trimmed.contains(QLatin1Char('?'))) return {};
-    return NativePath(CardsDir + name);
+    return NativePath(TheRun.Paths.CardsDir + name);
 }
 
 // A design file in Cards/ goes with its design; a failure to delete it is of
@@ -44,7 +44,7 @@ QStringList FilesNamed(const FileNames& pictures, const FileNames& sounds) {
     files.removeAll(QString());
     // A name from a package may spell the default picture otherwise (a zero
     // byte for its space, or as a sound): the file is still everyone's.
-    files.removeAll(NativePath(DefaultPicturePath));
+    files.removeAll(NativePath(TheRun.Paths.DefaultPicturePath));
     return files;
 }
 
@@ -113,14 +113,14 @@ QStringList LeavingCardFiles::Files() const {
 void DeleteSpread(int recordNumber) {
     DesignCommit commit;
     std::optional<SpreadRecord> gone;
-    commit.AddRecordFile(SpreadsPath, SpreadRecord::Length, [&](const char* raw, int number) -> const char* {
+    commit.AddRecordFile(TheRun.Paths.SpreadsPath, SpreadRecord::Length, [&](const char* raw, int number) -> const char* {
         if (number != recordNumber) return raw;
         DecodeRecord(raw, gone.emplace());
         return nullptr;
     }, {});
     if (!gone) return;
     const int idAt = OffsetOf(&LocationRecord::LocationSpreadId);
-    commit.AddRecordFile(LocationsPath, LocationRecord::Length, [&](const char* raw, int) -> const char* {
+    commit.AddRecordFile(TheRun.Paths.LocationsPath, LocationRecord::Length, [&](const char* raw, int) -> const char* {
         return RawInteger(raw, idAt) == gone->SpreadId ? nullptr : raw;
     }, {});
     commit.DropFile(DesignFilePath(gone->BackgroundFile.Value()));
@@ -129,21 +129,21 @@ void DeleteSpread(int recordNumber) {
 
 void DeleteSpreadLocations(Integer spreadId) {
     const int idAt = OffsetOf(&LocationRecord::LocationSpreadId);
-    RewriteWithout<LocationRecord>(LocationsPath, AppPath + LocationTmpName, [&](const char* raw) {
+    RewriteWithout<LocationRecord>(TheRun.Paths.LocationsPath, TheRun.Paths.AppPath + LocationTmpName, [&](const char* raw) {
         return RawInteger(raw, idAt) == spreadId;
     }, [](const LocationRecord&) {});
 }
 
 void ReplaceSpreadLocations(Integer spreadId, int count) {
-    RecordRewriter<LocationRecord> writer(AppPath + LocationTmpName, LocationsPath);
+    RecordRewriter<LocationRecord> writer(TheRun.Paths.AppPath + LocationTmpName, TheRun.Paths.LocationsPath);
     {
         const int idAt = OffsetOf(&LocationRecord::LocationSpreadId);
-        RecordReader<LocationRecord> reader(LocationsPath);
+        RecordReader<LocationRecord> reader(TheRun.Paths.LocationsPath);
         while (const char* raw = reader.NextRaw())
             if (RawInteger(raw, idAt) != spreadId) writer.AddRaw(raw);
     }
     for (int i = 1; i <= count; ++i) {
-        LocationRecord& location = SpreadLocations(i);
+        LocationRecord& location = TheRun.SpreadLocations(i);
         location.LocationSpreadId = spreadId;
         location.LocationNumber = static_cast<Integer>(i);
         writer.Add(location);
@@ -152,18 +152,18 @@ void ReplaceSpreadLocations(Integer spreadId, int count) {
 }
 
 void DeleteReading(const QString& name) {
-    RewriteWithout<ReadingRecord>(ReadingsPath, AppPath + ReadingsTmpName,
+    RewriteWithout<ReadingRecord>(TheRun.Paths.ReadingsPath, TheRun.Paths.AppPath + ReadingsTmpName,
                                   NameField(&ReadingRecord::ReadingName, name), [](const ReadingRecord&) {});
 }
 
 void DeleteDiary(const QString& name) {
-    RewriteWithout<DiaryRecord>(DiaryPath, AppPath + DiariesTmpName, NameField(&DiaryRecord::DiaryName, name),
+    RewriteWithout<DiaryRecord>(TheRun.Paths.DiaryPath, TheRun.Paths.AppPath + DiariesTmpName, NameField(&DiaryRecord::DiaryName, name),
                                 [](const DiaryRecord&) {});
 }
 
 void DeleteDeck(int recordNumber) {
     std::vector<Integer> gone;
-    RewriteWithout<DeckRecord>(DecksPath, TempDir + DecksTmpName, [&](const DeckRecord& r, int number) {
+    RewriteWithout<DeckRecord>(TheRun.Paths.DecksPath, TheRun.Paths.TempDir + DecksTmpName, [&](const DeckRecord& r, int number) {
         if (number != recordNumber) return false;
         gone.push_back(r.DeckId);
         return true;
@@ -178,11 +178,11 @@ void DeleteDeckCards(Integer deckId) {
     // that no other card names.
     LeavingCardFiles files;
     {
-        RecordReader<CardRecord> reader(CardsPath);
+        RecordReader<CardRecord> reader(TheRun.Paths.CardsPath);
         while (const char* raw = reader.NextRaw())
             if (RawInteger(raw, idAt) == deckId) files.Leaving(raw);
     }
-    RewriteWithout<CardRecord>(CardsPath, AppPath + CardsTmpName, [&](const char* raw) {
+    RewriteWithout<CardRecord>(TheRun.Paths.CardsPath, TheRun.Paths.AppPath + CardsTmpName, [&](const char* raw) {
         if (RawInteger(raw, idAt) == deckId) return true;
         files.Staying(raw);
         return false;

@@ -18,12 +18,12 @@ namespace {
 // Where a file brought by a save waits in Cards/ for its final name.
 const QString StagedSuffix = QStringLiteral(".staged");
 
-QString PlanPath() { return AppPath + QStringLiteral("Cartomar.commit"); }
+QString PlanPath() { return TheRun.Paths.AppPath + QStringLiteral("Cartomar.commit"); }
 
 // The plan names files relative to the program folder, so that it still
 // holds if the folder has moved before the next start.
-QString Relative(const QString& path) { return QDir(NativePath(AppPath)).relativeFilePath(NativePath(path)); }
-QString Absolute(const QString& relative) { return QDir(NativePath(AppPath)).filePath(relative); }
+QString Relative(const QString& path) { return QDir(NativePath(TheRun.Paths.AppPath)).relativeFilePath(NativePath(path)); }
+QString Absolute(const QString& relative) { return QDir(NativePath(TheRun.Paths.AppPath)).filePath(relative); }
 
 struct Plan {
     std::vector<std::pair<QString, QString>> renames;
@@ -67,10 +67,10 @@ void CarryOut(const Plan& plan) {
         }
     }
     if (failed) throw *failed;
-    SyncFileSystem(AppPath);
+    SyncFileSystem(TheRun.Paths.AppPath);
     for (const QString& drop : plan.drops) KillIgnoringErrors(drop);
     QFile::remove(NativePath(PlanPath()));
-    SyncFileSystem(AppPath);
+    SyncFileSystem(TheRun.Paths.AppPath);
 }
 
 }  // namespace
@@ -85,13 +85,13 @@ DesignCommit::~DesignCommit() {
 }
 
 void DesignCommit::AddFile(const QString& source, const QString& name) {
-    const QString real = NativePath(CardsDir + name);
+    const QString real = NativePath(TheRun.Paths.CardsDir + name);
     FileCopyUnsynced(source, real + StagedSuffix);
     renames_.emplace_back(real + StagedSuffix, real);
 }
 
 void DesignCommit::MoveFile(const QString& source, const QString& name) {
-    const QString real = NativePath(CardsDir + name);
+    const QString real = NativePath(TheRun.Paths.CardsDir + name);
     FileMoveUnsynced(source, real + StagedSuffix);
     renames_.emplace_back(real + StagedSuffix, real);
 }
@@ -116,7 +116,7 @@ void DesignCommit::AddRecordFile(const QString& path, int recordLength, const Re
 void DesignCommit::Commit() {
     // The copies into Cards/ were made without a wait each; one wait makes
     // them all durable before the plan that names them.
-    SyncFileSystem(CardsDir);
+    SyncFileSystem(TheRun.Paths.CardsDir);
     Plan plan{renames_, {}};
     for (const QString& drop : drops_) {
         const bool retaken = std::any_of(renames_.begin(), renames_.end(),
@@ -133,7 +133,7 @@ void DesignCommit::Commit() {
 void FinishUnfinishedCommit() {
     if (const std::optional<Plan> plan = ReadPlan()) CarryOut(*plan);
     KillIgnoringErrors(PlanPath() + QStringLiteral(".new"));
-    KillIgnoringErrors(CardsDir + QLatin1Char('*') + StagedSuffix);
+    KillIgnoringErrors(TheRun.Paths.CardsDir + QLatin1Char('*') + StagedSuffix);
     // A plan that could not be read stays no longer.
     KillIgnoringErrors(PlanPath());
 }

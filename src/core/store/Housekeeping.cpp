@@ -24,55 +24,55 @@ void MakeRecordFileIfMissing(const QString& path) {
 // as the plan says, from the files it had prepared.
 void RemoveUnfinishedWrites() {
     FinishUnfinishedCommit();
-    for (const QString* path : {&ReadingsPath, &DiaryPath, &SpreadsPath, &LocationsPath, &DecksPath, &CardsPath})
+    for (const QString* path : {&TheRun.Paths.ReadingsPath, &TheRun.Paths.DiaryPath, &TheRun.Paths.SpreadsPath, &TheRun.Paths.LocationsPath, &TheRun.Paths.DecksPath, &TheRun.Paths.CardsPath})
         KillIgnoringErrors(NewFileBeside(*path));
     RemoveUnfinishedRewrites();
-    RemoveUnfinishedCopies(CardsDir);
+    RemoveUnfinishedCopies(TheRun.Paths.CardsDir);
 }
 
 }  // namespace
 
 void FormPaths(const QString& programDir) {
     TheRun.Paths.AppPath = WithSlash(programDir);
-    TheRun.Paths.SettingsPath = AppPath + QStringLiteral("Settings.dat");
-    TheRun.Paths.SpreadsPath = AppPath + QStringLiteral("Spreads.spr");
-    TheRun.Paths.LocationsPath = AppPath + QStringLiteral("Location.loc");
-    TheRun.Paths.DecksPath = AppPath + QStringLiteral("Decks.dck");
-    TheRun.Paths.CardsDir = AppPath + QStringLiteral("Cards/");
-    TheRun.Paths.PackagesDir = AppPath + QStringLiteral("Packages/");
-    TheRun.Paths.AttachmentsDir = PackagesDir + QStringLiteral("Attachments/");
-    TheRun.Paths.CardsPath = AppPath + QStringLiteral("Cards.crd");
-    TheRun.Paths.ReadingsPath = AppPath + QStringLiteral("Readings.red");
-    TheRun.Paths.DiaryPath = AppPath + QStringLiteral("Diary.dry");
-    TheRun.Paths.DefaultPicturePath = CardsDir + DefaultPictureName;
+    TheRun.Paths.SettingsPath = TheRun.Paths.AppPath + QStringLiteral("Settings.dat");
+    TheRun.Paths.SpreadsPath = TheRun.Paths.AppPath + QStringLiteral("Spreads.spr");
+    TheRun.Paths.LocationsPath = TheRun.Paths.AppPath + QStringLiteral("Location.loc");
+    TheRun.Paths.DecksPath = TheRun.Paths.AppPath + QStringLiteral("Decks.dck");
+    TheRun.Paths.CardsDir = TheRun.Paths.AppPath + QStringLiteral("Cards/");
+    TheRun.Paths.PackagesDir = TheRun.Paths.AppPath + QStringLiteral("Packages/");
+    TheRun.Paths.AttachmentsDir = TheRun.Paths.PackagesDir + QStringLiteral("Attachments/");
+    TheRun.Paths.CardsPath = TheRun.Paths.AppPath + QStringLiteral("Cards.crd");
+    TheRun.Paths.ReadingsPath = TheRun.Paths.AppPath + QStringLiteral("Readings.red");
+    TheRun.Paths.DiaryPath = TheRun.Paths.AppPath + QStringLiteral("Diary.dry");
+    TheRun.Paths.DefaultPicturePath = TheRun.Paths.CardsDir + DefaultPictureName;
     // Formed before TempDir has its value, so it holds the bare file name.
     // Nothing reads it.
     TheRun.Paths.TempFilePath = QStringLiteral("temp.tmp");
-    TheRun.Paths.TempDir = AppPath + QStringLiteral("Temp/");
-    TheRun.Paths.TempCardsPath = TempDir + QStringLiteral("Cards.crd");
+    TheRun.Paths.TempDir = TheRun.Paths.AppPath + QStringLiteral("Temp/");
+    TheRun.Paths.TempCardsPath = TheRun.Paths.TempDir + QStringLiteral("Cards.crd");
 }
 
 void ClearTemp() {
     // Without a formed TempDir the pattern would reach the working folder.
-    if (TempDir.isEmpty()) return;
-    KillIgnoringErrors(TempDir + QStringLiteral("*.*"));
+    if (TheRun.Paths.TempDir.isEmpty()) return;
+    KillIgnoringErrors(TheRun.Paths.TempDir + QStringLiteral("*.*"));
 }
 
 void InitDatabase() {
-    MkDirIgnoringErrors(TempDir);
+    MkDirIgnoringErrors(TheRun.Paths.TempDir);
     ClearTemp();
     // The attachment folder lives inside Packages/, which is made only
     // below: on the very first start this fails quietly and the folder comes
     // at the next start.
-    MkDirIgnoringErrors(AttachmentsDir);
+    MkDirIgnoringErrors(TheRun.Paths.AttachmentsDir);
     // Location.loc is left out on purpose: its absence is what marks a
     // database of the old format.
-    for (const QString* path : {&ReadingsPath, &DiaryPath, &SpreadsPath, &DecksPath, &CardsPath})
+    for (const QString* path : {&TheRun.Paths.ReadingsPath, &TheRun.Paths.DiaryPath, &TheRun.Paths.SpreadsPath, &TheRun.Paths.DecksPath, &TheRun.Paths.CardsPath})
         MakeRecordFileIfMissing(*path);
     RemoveUnfinishedWrites();
-    MkDirIgnoringErrors(CardsDir);
-    MkDirIgnoringErrors(PackagesDir);
-    SavePictureAsBmp(DefaultCardPicture(), DefaultPicturePath);
+    MkDirIgnoringErrors(TheRun.Paths.CardsDir);
+    MkDirIgnoringErrors(TheRun.Paths.PackagesDir);
+    SavePictureAsBmp(DefaultCardPicture(), TheRun.Paths.DefaultPicturePath);
 }
 
 QImage DefaultCardPicture() {

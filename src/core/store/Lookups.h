@@ -20,11 +20,11 @@ R ZeroRecord() {
     return r;
 }
 
-int CountCards(const QString& path = CardsPath);
-int CountDecks(const QString& path = DecksPath);
-int CountSpreads(const QString& path = SpreadsPath);
-int CountReadings(const QString& path = ReadingsPath);
-int CountDiaries(const QString& path = DiaryPath);
+int CountCards(const QString& path = TheRun.Paths.CardsPath);
+int CountDecks(const QString& path = TheRun.Paths.DecksPath);
+int CountSpreads(const QString& path = TheRun.Paths.SpreadsPath);
+int CountReadings(const QString& path = TheRun.Paths.ReadingsPath);
+int CountDiaries(const QString& path = TheRun.Paths.DiaryPath);
 
 // Names are compared with both sides trimmed, exactly; the first match wins.
 // Record numbers, or -1 when nothing matches.

@@ -54,9 +54,9 @@ void ResetDiary(DiaryRecord& diary) {
 }
 
 void ResetDeck() {
-    for (CardRecord& card : CurrentDeck.DeckCards) ResetCard(card);
-    CurrentDeck.DeckCards.Clear();
-    DeckRecord& deck = CurrentDeck;
+    for (CardRecord& card : TheRun.CurrentDeck.DeckCards) ResetCard(card);
+    TheRun.CurrentDeck.DeckCards.Clear();
+    DeckRecord& deck = TheRun.CurrentDeck;
     deck = DeckRecord{};
     deck.IncludesReversed = False16;
     deck.DisplayCardTitles = True16;

@@ -5,10 +5,10 @@
 #include "core/records/Records.h"
 #include "core/store/RunState.h"
 
-void ResetSpread(SpreadRecord& spread = CurrentSpread);
-void ResetReading(ReadingRecord& reading = CurrentReading);
-void ResetDiary(DiaryRecord& diary = CurrentDiary);
-void ResetCard(CardRecord& card = CurrentCard);
+void ResetSpread(SpreadRecord& spread = TheRun.CurrentSpread);
+void ResetReading(ReadingRecord& reading = TheRun.CurrentReading);
+void ResetDiary(DiaryRecord& diary = TheRun.CurrentDiary);
+void ResetCard(CardRecord& card = TheRun.CurrentCard);
 void ResetLocation(LocationRecord& location);
 void ResetDesigner(Designer& designer);
 void ResetDeck();   // CurrentDeck, with an empty card array

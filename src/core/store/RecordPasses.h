@@ -134,15 +134,15 @@ Integer SmallestFreeId(const QString& path, Integer R::*idField, int leavingOut 
 }
 
 inline void LoadLocationsFrom(const QString& path, Integer spreadId, int count) {
-    SpreadLocations.Redim(1, count);
+    TheRun.SpreadLocations.Redim(1, count);
     const LocationRecord empty = ZeroRecord<LocationRecord>();
-    for (LocationRecord& location : SpreadLocations) location = empty;
+    for (LocationRecord& location : TheRun.SpreadLocations) location = empty;
     RecordReader<LocationRecord> reader(path);
     LocationRecord r;
     while (reader.Next(r)) {
         if (r.LocationSpreadId != spreadId) continue;
         // A number outside the spread's count has no place in the array.
-        if (SpreadLocations.InBounds(r.LocationNumber)) SpreadLocations(r.LocationNumber) = r;
+        if (TheRun.SpreadLocations.InBounds(r.LocationNumber)) TheRun.SpreadLocations(r.LocationNumber) = r;
     }
 }
 

@@ -106,45 +106,8 @@ extern RunState TheRun;
 // and the seed a test fixes are the test's and stay.
 void ResetRun();
 
-inline const QString& AppPath = TheRun.Paths.AppPath;
-inline const QString& SettingsPath = TheRun.Paths.SettingsPath;
-inline const QString& SpreadsPath = TheRun.Paths.SpreadsPath;
-inline const QString& LocationsPath = TheRun.Paths.LocationsPath;
-inline const QString& DecksPath = TheRun.Paths.DecksPath;
-inline const QString& CardsDir = TheRun.Paths.CardsDir;
-inline const QString& PackagesDir = TheRun.Paths.PackagesDir;
-inline const QString& AttachmentsDir = TheRun.Paths.AttachmentsDir;
-inline const QString& CardsPath = TheRun.Paths.CardsPath;
-inline const QString& ReadingsPath = TheRun.Paths.ReadingsPath;
-inline const QString& DiaryPath = TheRun.Paths.DiaryPath;
-inline const QString& DefaultPicturePath = TheRun.Paths.DefaultPicturePath;
-inline const QString& TempFilePath = TheRun.Paths.TempFilePath;
-inline const QString& TempDir = TheRun.Paths.TempDir;
-inline const QString& TempCardsPath = TheRun.Paths.TempCardsPath;
 
-inline DeckInMemory& CurrentDeck = TheRun.CurrentDeck;
-inline DeckRecord& ListDeck = TheRun.ListDeck;
-inline CardRecord& CurrentCard = TheRun.CurrentCard;
-inline SpreadRecord& CurrentSpread = TheRun.CurrentSpread;
-inline BoundedArray<LocationRecord>& SpreadLocations = TheRun.SpreadLocations;
-inline ReadingRecord& CurrentReading = TheRun.CurrentReading;
-inline DiaryRecord& CurrentDiary = TheRun.CurrentDiary;
-inline Deal& ReadingDeal = TheRun.ReadingDeal;
-inline DiaryCardLists& DiaryLists = TheRun.DiaryLists;
-inline CardRecord& ScratchCard = TheRun.ScratchCard;
-inline DeckRecord& ScratchDeck = TheRun.ScratchDeck;
-inline SpreadRecord& ScratchSpread = TheRun.ScratchSpread;
 
-inline int& DesignMode = TheRun.DesignMode;
-inline bool& UseReversed = TheRun.UseReversed;
-inline bool& AllowDuplicateCards = TheRun.AllowDuplicateCards;
-inline std::array<bool, 4>& CardTypeSelected = TheRun.CardTypeSelected;
-inline int& SelectedLocation = TheRun.SelectedLocation;
-inline bool& ChooserManageMode = TheRun.ChooserManageMode;
-inline bool& InstallAllSpreads = TheRun.InstallAllSpreads;
-inline int& DesignExistsChoice = TheRun.DesignExistsChoice;
-inline int& CurrentLocationColour = TheRun.CurrentLocationColour;
-inline int& OtherLocationColour = TheRun.OtherLocationColour;
 
 // The kinds of design the design-exists question names.
 enum DesignKind : int { DesignCard = 0, DesignDeck = 1, DesignSpread = 2 };

@@ -6,7 +6,7 @@
 using namespace RecordPasses;
 
 bool IsReversedComplete(Integer deckId, int cardCount) {
-    RecordReader<CardRecord> reader(CardsPath);
+    RecordReader<CardRecord> reader(TheRun.Paths.CardsPath);
     CardRecord card;
     int checked = 0;
     while (checked < cardCount && reader.Next(card)) {
@@ -15,7 +15,7 @@ bool IsReversedComplete(Integer deckId, int cardCount) {
         // The trimmed name never equals the default constant, which ends in a
         // space, so only a missing file fails here: a deck whose reversed
         // sides still show the default picture counts as complete.
-        if (!FileExists(CardsDir + card.CardPicture[1].Value()) || card.CardPicture[1].Trimmed() == DefaultPictureName)
+        if (!FileExists(TheRun.Paths.CardsDir + card.CardPicture[1].Value()) || card.CardPicture[1].Trimmed() == DefaultPictureName)
             return false;
     }
     return checked >= cardCount;
@@ -34,7 +34,7 @@ bool DeckQualifies(const DeckRecord& deck, int neededCardCount) {
 
 bool IsDeckUsable(Integer deckId, int neededCardCount) {
     DeckRecord deck;
-    const int number = FindRecord<DeckRecord>(DecksPath, [&](const DeckRecord& r) {
+    const int number = FindRecord<DeckRecord>(TheRun.Paths.DecksPath, [&](const DeckRecord& r) {
         if (r.DeckId != deckId) return false;
         deck = r;
         return true;
@@ -46,14 +46,14 @@ bool IsSpreadUsable(const QString& spreadName) {
     const int number = FindSpreadByName(spreadName);
     if (number < 0) return false;
     SpreadRecord spread;
-    if (!GetRecord(SpreadsPath, number, spread)) return false;
+    if (!GetRecord(TheRun.Paths.SpreadsPath, number, spread)) return false;
     if (spread.LocationCount < 1) return false;
     if (spread.AllowedDeckCount < 0) {
         // Each deck is judged by the first record that carries its id, as a
         // lookup by id would find it; a later record of the same id adds
         // nothing.
         std::vector<bool> seen(65536, false);
-        RecordReader<DeckRecord> reader(DecksPath);
+        RecordReader<DeckRecord> reader(TheRun.Paths.DecksPath);
         DeckRecord deck;
         while (reader.Next(deck)) {
             const auto slot = static_cast<std::size_t>(static_cast<std::uint16_t>(deck.DeckId));

@@ -70,25 +70,25 @@ void CardScreen::OpenCard() {
     IMGLeft = imgCard->Left();
     IMGHeight = imgCard->Height();
     IMGWidth = imgCard->Width();
-    WorkingFiles().Picture[0] = CurrentCard.CardPicture[0].Value();
-    if (CurrentDeck.IncludesReversed) WorkingFiles().Picture[1] = CurrentCard.CardPicture[1].Value();
-    else CurrentCard.CardPicture[1] = DefaultPictureName;
+    WorkingFiles().Picture[0] = TheRun.CurrentCard.CardPicture[0].Value();
+    if (TheRun.CurrentDeck.IncludesReversed) WorkingFiles().Picture[1] = TheRun.CurrentCard.CardPicture[1].Value();
+    else TheRun.CurrentCard.CardPicture[1] = DefaultPictureName;
     UpdateSound();
 }
 
 void CardScreen::FillFields() {
-    const QString title = CurrentCard.CardTitle.Trimmed();
+    const QString title = TheRun.CurrentCard.CardTitle.Trimmed();
     setCaption(title.isEmpty() ? captionStem_ : tr("%1 - %2").arg(captionStem_, title));
     txtCardTitle->setText(title);
     ShowCardType();
-    optReversed->setEnabled(CurrentDeck.IncludesReversed != 0);
+    optReversed->setEnabled(TheRun.CurrentDeck.IncludesReversed != 0);
     FillSide();
 }
 
 void CardScreen::FillSide() {
     const auto side = static_cast<std::size_t>(CheckedSide());
-    txtDescription->setPlainText(CurrentCard.CardDescription[side].Trimmed());
-    txtKeywords->setPlainText(CurrentCard.CardKeywords[side].Trimmed());
+    txtDescription->setPlainText(TheRun.CurrentCard.CardDescription[side].Trimmed());
+    txtKeywords->setPlainText(TheRun.CurrentCard.CardKeywords[side].Trimmed());
     UpdatePictures();
 }
 
@@ -96,13 +96,13 @@ void CardScreen::UpdatePictures() {
     imgCard->ClearPicture();
     imgCard->Move(IMGLeft, IMGTop, IMGWidth, IMGHeight);
     const QString& file = WorkingFiles().Picture[static_cast<std::size_t>(CheckedSide())];
-    FitPicture(*imgCard, TempDir + file, true, false);
+    FitPicture(*imgCard, TheRun.Paths.TempDir + file, true, false);
 }
 
 void CardScreen::UpdateSound() {
     MediaPlayer1->Stop();
-    const auto& sound = CurrentCard.CardSound[static_cast<std::size_t>(CheckedSide())];
-    MediaPlayer1->Open(sound.IsBlank() ? QString() : NativePath(TempDir + sound.Value()), false);
+    const auto& sound = TheRun.CurrentCard.CardSound[static_cast<std::size_t>(CheckedSide())];
+    MediaPlayer1->Open(sound.IsBlank() ? QString() : NativePath(TheRun.Paths.TempDir + sound.Value()), false);
 }
 
 void CardScreen::optPosition_Click() {

@@ -17,7 +17,7 @@ bool LoadDeck(bool& DeckRemoved) {
                                            "Do you want to remove it?"),
                vbYesNo | vbCritical);
     if (answer == vbYes) {
-        DeleteDeck(FindDeckByName(ListDeck.DeckName.Value()));
+        DeleteDeck(FindDeckByName(TheRun.ListDeck.DeckName.Value()));
         DeckRemoved = true;
     }
     return false;

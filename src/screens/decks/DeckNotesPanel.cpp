@@ -21,7 +21,7 @@ void DeckNotesPanel::Form_Load() {
     setCaption(tr("Deck Notes"));
     PlaceBesideFrame(*this, false);
     Loading = true;
-    txtComments->setPlainText(CurrentDeck.DeckComments.Trimmed());
+    txtComments->setPlainText(TheRun.CurrentDeck.DeckComments.Trimmed());
     Loading = false;
 }
 

@@ -46,11 +46,11 @@ void DeckPropertiesScreen::Form_Load() {
 }
 
 void DeckPropertiesScreen::FillProperties() {
-    chkUseReversed->setChecked(CurrentDeck.IncludesReversed != 0);
-    chkDisplay->setChecked(CurrentDeck.DisplayCardTitles != 0);
+    chkUseReversed->setChecked(TheRun.CurrentDeck.IncludesReversed != 0);
+    chkDisplay->setChecked(TheRun.CurrentDeck.DisplayCardTitles != 0);
     for (std::size_t i = 0; i < 4; ++i) {
-        txtCardTypeName[i]->setText(CurrentDeck.CardTypeName[i].Trimmed());
-        chkType[i]->setChecked(CurrentDeck.CardTypeUsed[i] != 0);
+        txtCardTypeName[i]->setText(TheRun.CurrentDeck.CardTypeName[i].Trimmed());
+        chkType[i]->setChecked(TheRun.CurrentDeck.CardTypeUsed[i] != 0);
     }
 }
 

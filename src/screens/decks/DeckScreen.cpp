@@ -59,33 +59,33 @@ void DeckScreen::UpdateCardButtons() { cmdEditCard->setEnabled(lstCards->ListInd
 void DeckScreen::OpenDeck(bool existingDeck, bool skipDefaultReversed) {
     if (IsLoaded<frmDecks>()) OldDesignName = Get<frmDecks>().ChosenDeckName();
     CentreInFrame(*this);
-    OpenWorkingFolder(CurrentDeck, existingDeck, skipDefaultReversed);
+    OpenWorkingFolder(TheRun.CurrentDeck, existingDeck, skipDefaultReversed);
     FillDeckFields();
     RefreshCardList();
 }
 
 void DeckScreen::FillDeckFields() {
-    const QString name = CurrentDeck.DeckName.Trimmed();
+    const QString name = TheRun.CurrentDeck.DeckName.Trimmed();
     setCaption(name.isEmpty() ? captionStem_ : tr("%1 - %2").arg(captionStem_, name));
-    txtDeckTitle->setText(CurrentDeck.DeckTitle.Trimmed());
-    txtDeckDesigner->setText(CurrentDeck.DeckDesigner.DesignerName.Trimmed());
-    txtDesignerEmail->setText(CurrentDeck.DeckDesigner.DesignerEmail.Trimmed());
-    txtDesignerWebPage->setText(CurrentDeck.DeckDesigner.DesignerWebPage.Trimmed());
-    txtDeckDescription->setPlainText(CurrentDeck.DeckDescription.Trimmed());
-    lblModifiedOnDate->setText(FormatLongDate(CurrentDeck.ModifiedOn));
+    txtDeckTitle->setText(TheRun.CurrentDeck.DeckTitle.Trimmed());
+    txtDeckDesigner->setText(TheRun.CurrentDeck.DeckDesigner.DesignerName.Trimmed());
+    txtDesignerEmail->setText(TheRun.CurrentDeck.DeckDesigner.DesignerEmail.Trimmed());
+    txtDesignerWebPage->setText(TheRun.CurrentDeck.DeckDesigner.DesignerWebPage.Trimmed());
+    txtDeckDescription->setPlainText(TheRun.CurrentDeck.DeckDescription.Trimmed());
+    lblModifiedOnDate->setText(FormatLongDate(TheRun.CurrentDeck.ModifiedOn));
 }
 
 void DeckScreen::RefreshCardList() {
     lstCards->Clear();
-    for (const CardRecord& card : CurrentDeck.DeckCards) lstCards->AddItem(card.CardTitle.Value());
+    for (const CardRecord& card : TheRun.CurrentDeck.DeckCards) lstCards->AddItem(card.CardTitle.Value());
     UpdateCardButtons();
 }
 
 int DeckScreen::SelectedCardPosition() const {
     if (lstCards->ListIndex() < 0) return 0;
     const QString title = TrimField(lstCards->Text());
-    for (int i = 1; i <= CurrentDeck.DeckCards.UBound(); ++i)
-        if (CurrentDeck.DeckCards(i).CardTitle.Trimmed() == title) return i;
+    for (int i = 1; i <= TheRun.CurrentDeck.DeckCards.UBound(); ++i)
+        if (TheRun.CurrentDeck.DeckCards(i).CardTitle.Trimmed() == title) return i;
     return 0;
 }
 

@@ -49,21 +49,21 @@ void frmAddCard::Form_Load() {
     SaveSuccessful = true;
     OpenCard();
     for (int i = 0; i < 4; ++i)
-        if (CurrentDeck.CardTypeUsed[static_cast<std::size_t>(i)])
-            lstCardType->AddItem(CurrentDeck.CardTypeName[static_cast<std::size_t>(i)].Trimmed(), i);
+        if (TheRun.CurrentDeck.CardTypeUsed[static_cast<std::size_t>(i)])
+            lstCardType->AddItem(TheRun.CurrentDeck.CardTypeName[static_cast<std::size_t>(i)].Trimmed(), i);
     CentreInFrame(*this);
     Loading = true;
     FillFields();
     DesignModified = false;
-    CardTitle = CurrentCard.CardTitle.Trimmed();
+    CardTitle = TheRun.CurrentCard.CardTitle.Trimmed();
     CardPositionBeingEdited = getCardPositionInTempDeckCards();
     Loading = false;
 }
 
 // The card's place in DeckCards by its title as stored, all 50 characters.
 int frmAddCard::getCardPositionInTempDeckCards() const {
-    for (int i = 1; i <= CurrentDeck.DeckCards.UBound(); ++i)
-        if (CurrentDeck.DeckCards(i).CardTitle == CurrentCard.CardTitle) return i;
+    for (int i = 1; i <= TheRun.CurrentDeck.DeckCards.UBound(); ++i)
+        if (TheRun.CurrentDeck.DeckCards(i).CardTitle == TheRun.CurrentCard.CardTitle) return i;
     return 0;
 }
 
@@ -72,7 +72,7 @@ void frmAddCard::ShowCardType() {
     const QSignalBlocker quiet(lstCardType);
     int line = -1;
     for (int row = 0; row < lstCardType->ListCount() && line < 0; ++row)
-        if (lstCardType->ItemData(row) == CurrentCard.CardType) line = row;
+        if (lstCardType->ItemData(row) == TheRun.CurrentCard.CardType) line = row;
     lstCardType->setListIndex(line);
 }
 
@@ -84,25 +84,25 @@ void frmAddCard::optPosition_Click() {
 }
 
 void frmAddCard::txtCardTitle_Change() {
-    CurrentCard.CardTitle = TrimField(txtCardTitle->text());
+    TheRun.CurrentCard.CardTitle = TrimField(txtCardTitle->text());
     DesignModified = true;
 }
 
 void frmAddCard::txtDescription_Change() {
     ClipText(txtDescription, 1500);
-    CurrentCard.CardDescription[static_cast<std::size_t>(CheckedSide())] = TrimField(txtDescription->toPlainText());
+    TheRun.CurrentCard.CardDescription[static_cast<std::size_t>(CheckedSide())] = TrimField(txtDescription->toPlainText());
     DesignModified = true;
 }
 
 void frmAddCard::txtKeywords_Change() {
     ClipText(txtKeywords, 1000);
-    CurrentCard.CardKeywords[static_cast<std::size_t>(CheckedSide())] = TrimField(txtKeywords->toPlainText());
+    TheRun.CurrentCard.CardKeywords[static_cast<std::size_t>(CheckedSide())] = TrimField(txtKeywords->toPlainText());
     DesignModified = true;
 }
 
 void frmAddCard::lstCardType_Click() {
     if (lstCardType->ListIndex() < 0) return;
-    CurrentCard.CardType = static_cast<Integer>(CardTypeIndex(lstCardType->Text()));
+    TheRun.CurrentCard.CardType = static_cast<Integer>(CardTypeIndex(lstCardType->Text()));
     DesignModified = true;
 }
 
@@ -119,21 +119,21 @@ void frmAddCard::cmdGetSound_Click() {
 }
 
 void frmAddCard::TakeWorkingSound(int side, const QString& workingName) {
-    CurrentCard.CardSound[static_cast<std::size_t>(side)] = workingName;
+    TheRun.CurrentCard.CardSound[static_cast<std::size_t>(side)] = workingName;
     DesignModified = true;
 }
 
 void frmAddCard::StoreCard() {
     // An edited card keeps its own title, which the deck holds already.
-    const QString problem = NewCardTitleProblem(CurrentCard.CardTitle.Value());
-    if (!problem.isEmpty() && (DesignMode == 1 || CurrentCard.CardTitle.IsBlank())) {
+    const QString problem = NewCardTitleProblem(TheRun.CurrentCard.CardTitle.Value());
+    if (!problem.isEmpty() && (TheRun.DesignMode == 1 || TheRun.CurrentCard.CardTitle.IsBlank())) {
         MsgBox(problem, vbInformation);
         SaveSuccessful = false;
         return;
     }
-    CurrentCard.CardReserved = 0;
-    if (DesignMode == 1) AddTolstCards = true;
-    else if (DesignMode == 0) AddTolstCards = false;
+    TheRun.CurrentCard.CardReserved = 0;
+    if (TheRun.DesignMode == 1) AddTolstCards = true;
+    else if (TheRun.DesignMode == 0) AddTolstCards = false;
     else {
         FatalError();
         return;
@@ -141,18 +141,18 @@ void frmAddCard::StoreCard() {
 
     // The player lets go of a sound before it takes its final name.
     MediaPlayer1->Close();
-    StoreWorkingFiles(CurrentCard);
+    StoreWorkingFiles(TheRun.CurrentCard);
 
     UpdateThisCartoDeck_frmDesignDeck();
     DesignModified = false;
     Get<frmDesignDeck>().DesignModified = true;
-    DesignMode = 0;
+    TheRun.DesignMode = 0;
     SaveSuccessful = true;
 }
 
 void frmAddCard::UpdateThisCartoDeck_frmDesignDeck() {
-    if (AddTolstCards) CardPositionBeingEdited = AppendDeckCard(CurrentCard);
-    else CurrentDeck.DeckCards(CardPositionBeingEdited) = CurrentCard;
+    if (AddTolstCards) CardPositionBeingEdited = AppendDeckCard(TheRun.CurrentCard);
+    else TheRun.CurrentDeck.DeckCards(CardPositionBeingEdited) = TheRun.CurrentCard;
     Get<frmDesignDeck>().RefreshCardList();
 }
 

@@ -28,7 +28,7 @@ frmBrowseDeck::frmBrowseDeck() {
 void frmBrowseDeck::Form_Load() {
     setCaption(tr("Browse Decks"));
     CentreInFrame(*this);
-    RecordReader<DeckRecord> reader(DecksPath);
+    RecordReader<DeckRecord> reader(TheRun.Paths.DecksPath);
     DeckRecord deck;
     while (reader.Next(deck)) lstDecks->AddItem(deck.DeckName.Value());
 }
@@ -36,8 +36,8 @@ void frmBrowseDeck::Form_Load() {
 void frmBrowseDeck::cmdSelect_Click() {
     if (lstDecks->ListIndex() < 0) return;
     const int recordNumber = FindDeckByName(lstDecks->Text());
-    if (recordNumber < 0 || !GetRecord(DecksPath, recordNumber, ScratchDeck)) return;
-    if (DeckChosen) DeckChosen(ScratchDeck.DeckName.Value());
+    if (recordNumber < 0 || !GetRecord(TheRun.Paths.DecksPath, recordNumber, TheRun.ScratchDeck)) return;
+    if (DeckChosen) DeckChosen(TheRun.ScratchDeck.DeckName.Value());
     Unload();
 }
 

@@ -35,12 +35,12 @@ void frmDeckCardProperties::Form_Load() {
 
 void frmDeckCardProperties::chkUseReversed_Click() {
     if (Configured()) {
-        chkUseReversed->setChecked(CurrentDeck.IncludesReversed != 0);
+        chkUseReversed->setChecked(TheRun.CurrentDeck.IncludesReversed != 0);
         return;
     }
     MarkModified();
     if (!chkUseReversed->isChecked()) return;
-    for (const CardRecord& card : CurrentDeck.DeckCards) {
+    for (const CardRecord& card : TheRun.CurrentDeck.DeckCards) {
         if (card.CardPicture[1].Value() == DefaultPictureName) {
             MsgBox(tr("Note: Don't forget to supply the reversed versions of the cards.\n"
                       "Unless you do so, you will not be able to use this deck."),
@@ -52,13 +52,13 @@ void frmDeckCardProperties::chkUseReversed_Click() {
 
 void frmDeckCardProperties::chkDisplay_Click() {
     MarkModified();
-    CurrentDeck.DisplayCardTitles = Flag(chkDisplay->isChecked());
+    TheRun.CurrentDeck.DisplayCardTitles = Flag(chkDisplay->isChecked());
 }
 
 void frmDeckCardProperties::chkType_Click(int Index) {
     const auto i = static_cast<std::size_t>(Index);
     if (Configured()) {
-        chkType[i]->setChecked(CurrentDeck.CardTypeUsed[i] != 0);
+        chkType[i]->setChecked(TheRun.CurrentDeck.CardTypeUsed[i] != 0);
         return;
     }
     MarkModified();
@@ -80,11 +80,11 @@ void frmDeckCardProperties::cmdClose_Click() {
         MsgBox(problem, vbInformation);
         return;
     }
-    CurrentDeck.IncludesReversed = Flag(chkUseReversed->isChecked());
-    CurrentDeck.DisplayCardTitles = Flag(chkDisplay->isChecked());
+    TheRun.CurrentDeck.IncludesReversed = Flag(chkUseReversed->isChecked());
+    TheRun.CurrentDeck.DisplayCardTitles = Flag(chkDisplay->isChecked());
     for (std::size_t i = 0; i < 4; ++i) {
-        CurrentDeck.CardTypeName[i] = TrimField(txtCardTypeName[i]->text());
-        CurrentDeck.CardTypeUsed[i] = Flag(chkType[i]->isChecked());
+        TheRun.CurrentDeck.CardTypeName[i] = TrimField(txtCardTypeName[i]->text());
+        TheRun.CurrentDeck.CardTypeUsed[i] = Flag(chkType[i]->isChecked());
     }
     Unload();
 }

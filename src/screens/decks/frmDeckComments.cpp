@@ -15,6 +15,6 @@ frmDeckComments::frmDeckComments() : DeckNotesPanel(true) {
 // counts as a change of the deck.
 void frmDeckComments::txtComments_Change() {
     ClipText(txtComments, 200);
-    CurrentDeck.DeckComments = txtComments->toPlainText();
+    TheRun.CurrentDeck.DeckComments = txtComments->toPlainText();
     if (!Loading && IsLoaded<frmDesignDeck>()) Get<frmDesignDeck>().DesignModified = true;
 }

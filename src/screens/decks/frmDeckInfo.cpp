@@ -22,7 +22,7 @@ frmDeckInfo::frmDeckInfo() : DeckScreen(tr("Deck View"), false) {
 
 // After a New that stored no card DesignMode is still 1: the deck's files
 // are then not copied in, and its cards show the default picture.
-void frmDeckInfo::Form_Load() { OpenDeck(DesignMode == 0, false); }
+void frmDeckInfo::Form_Load() { OpenDeck(TheRun.DesignMode == 0, false); }
 
 void frmDeckInfo::cmdEditCard_Click() {
     const int position = SelectedCardPosition();
@@ -30,8 +30,8 @@ void frmDeckInfo::cmdEditCard_Click() {
         UpdateCardButtons();
         return;
     }
-    CurrentCard = CurrentDeck.DeckCards(position);
-    DesignMode = 0;
+    TheRun.CurrentCard = TheRun.CurrentDeck.DeckCards(position);
+    TheRun.DesignMode = 0;
     UnloadScreen<frmViewCard>();
     Get<frmViewCard>().Show();
 }

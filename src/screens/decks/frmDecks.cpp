@@ -78,8 +78,8 @@ void frmDecks::Form_Load() {
     ResetDeck();
     StoreListDeck();
     {
-        RecordReader<DeckRecord> reader(DecksPath);
-        while (reader.Next(ListDeck)) lstDecks->AddItem(ListDeck.DeckName.Value());
+        RecordReader<DeckRecord> reader(TheRun.Paths.DecksPath);
+        while (reader.Next(TheRun.ListDeck)) lstDecks->AddItem(TheRun.ListDeck.DeckName.Value());
     }
     if (lstDecks->ListCount() > 0) lstDecks->setListIndex(0);
     UpdateButtons();
@@ -110,23 +110,23 @@ void frmDecks::lstDecks_Click() {
         return;
     }
     const int recordNumber = FindDeckByName(lstDecks->Text());
-    if (recordNumber < 0 || !GetRecord(DecksPath, recordNumber, ListDeck)) {
+    if (recordNumber < 0 || !GetRecord(TheRun.Paths.DecksPath, recordNumber, TheRun.ListDeck)) {
         ClearBriefInfo();
         return;
     }
-    lblCardsField->setText(QString::number(ListDeck.CardCount));
-    lblDesignDateField->setText(FormatLongDate(ListDeck.ModifiedOn));
-    lblDesignerNameField->setText(ListDeck.DeckDesigner.DesignerName.Trimmed());
-    lblTitleField->setText(ListDeck.DeckTitle.Trimmed());
+    lblCardsField->setText(QString::number(TheRun.ListDeck.CardCount));
+    lblDesignDateField->setText(FormatLongDate(TheRun.ListDeck.ModifiedOn));
+    lblDesignerNameField->setText(TheRun.ListDeck.DeckDesigner.DesignerName.Trimmed());
+    lblTitleField->setText(TheRun.ListDeck.DeckTitle.Trimmed());
 }
 
 void frmDecks::cboCards_GotFocus() {
     if (lstDecks->ListIndex() < 0) return;
     cboCards->clear();
-    RecordReader<CardRecord> reader(CardsPath);
+    RecordReader<CardRecord> reader(TheRun.Paths.CardsPath);
     CardRecord card;
     while (reader.Next(card))
-        if (card.CardDeckId == ListDeck.DeckId) cboCards->addItem(card.CardTitle.Trimmed());
+        if (card.CardDeckId == TheRun.ListDeck.DeckId) cboCards->addItem(card.CardTitle.Trimmed());
     cboCards->setEditText(tr("Cards List"));
 }
 
@@ -150,7 +150,7 @@ void frmDecks::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) {
 
 void frmDecks::cmdDesign_Click() {
     ClearTemp();
-    DesignMode = 1;
+    TheRun.DesignMode = 1;
     ResetDeck();
     Get<frmDesignDeck>().Show();
     Unload();
@@ -172,12 +172,12 @@ void frmDecks::cmdEdit_Click() {
     if (lstDecks->ListIndex() < 0) return;
     ClearTemp();
     SetScreenPointer(MousePointer::Hourglass);
-    if (ListDeck.DeckLocked && !CheckPassword(ListDeck.DeckPassword.Value())) {
+    if (TheRun.ListDeck.DeckLocked && !CheckPassword(TheRun.ListDeck.DeckPassword.Value())) {
         SetScreenPointer(MousePointer::Arrow);
         return;
     }
     if (!LoadSelectedDeck()) return;
-    DesignMode = 0;
+    TheRun.DesignMode = 0;
     Get<frmDesignDeck>().Show();
     SetScreenPointer(MousePointer::Arrow);
     Unload();

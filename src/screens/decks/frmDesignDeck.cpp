@@ -34,7 +34,7 @@ frmDesignDeck::frmDesignDeck() : DeckScreen(tr("Deck Design"), true) {
 
     connect(txtDeckTitle, &QLineEdit::textChanged, this, Handler([this] { txtDeckTitle_Change(); }));
     // Each of the other boxes stores its own field and marks the deck changed.
-    auto& designer = CurrentDeck.DeckDesigner;
+    auto& designer = TheRun.CurrentDeck.DeckDesigner;
     const std::pair<QLineEdit*, FixedText<40>*> narrow[] = {{txtDeckDesigner, &designer.DesignerName},
                                                             {txtDesignerEmail, &designer.DesignerEmail}};
     for (const auto& [box, field] : narrow)
@@ -42,11 +42,11 @@ frmDesignDeck::frmDesignDeck() : DeckScreen(tr("Deck Design"), true) {
                     StoreDeckField(*field, box->text());
                 }));
     connect(txtDesignerWebPage, &QLineEdit::textChanged, this, Handler([this] {
-                StoreDeckField(CurrentDeck.DeckDesigner.DesignerWebPage, txtDesignerWebPage->text());
+                StoreDeckField(TheRun.CurrentDeck.DeckDesigner.DesignerWebPage, txtDesignerWebPage->text());
             }));
     connect(txtDeckDescription, &QPlainTextEdit::textChanged, this, Handler([this] {
                 ClipText(txtDeckDescription, 500);
-                StoreDeckField(CurrentDeck.DeckDescription, txtDeckDescription->toPlainText());
+                StoreDeckField(TheRun.CurrentDeck.DeckDescription, txtDeckDescription->toPlainText());
             }));
     connect(lstCards, &ListBox::DblClick, this, Handler([this] { cmdEditCard_Click(); }));
     connect(cmdAddCard, &QPushButton::clicked, this, Handler([this] { cmdAddCard_Click(); }));
@@ -63,12 +63,12 @@ frmDesignDeck::frmDesignDeck() : DeckScreen(tr("Deck Design"), true) {
 void frmDesignDeck::Form_Load() {
     Loading = true;
     // A new deck has reversed cards unless its designer turns them off.
-    if (DesignMode == 1) CurrentDeck.IncludesReversed = True16;
-    OpenDeck(DesignMode == 0, true);
+    if (TheRun.DesignMode == 1) TheRun.CurrentDeck.IncludesReversed = True16;
+    OpenDeck(TheRun.DesignMode == 0, true);
     DesignModified = false;
-    DeckCardProperties_Configured = DesignMode == 0;
+    DeckCardProperties_Configured = TheRun.DesignMode == 0;
     Show();
-    if (DesignMode == 1) Get<frmDeckCardProperties>().Show(true);
+    if (TheRun.DesignMode == 1) Get<frmDeckCardProperties>().Show(true);
     Loading = false;
 }
 
@@ -80,8 +80,8 @@ void frmDesignDeck::UpdateCardButtons() {
 
 void frmDesignDeck::txtDeckTitle_Change() {
     const QString text = TrimField(txtDeckTitle->text());
-    if (text != CurrentDeck.DeckTitle.Trimmed()) DesignModified = true;
-    CurrentDeck.DeckTitle = text;
+    if (text != TheRun.CurrentDeck.DeckTitle.Trimmed()) DesignModified = true;
+    TheRun.CurrentDeck.DeckTitle = text;
 }
 
 template <int N>
@@ -111,19 +111,19 @@ void frmDesignDeck::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) 
 }
 
 void frmDesignDeck::cmdAddCard_Click() {
-    if (CurrentDeck.CardCount >= MaxDeckCards) {
+    if (TheRun.CurrentDeck.CardCount >= MaxDeckCards) {
         MsgBox(CardLimitMessage(), vbCritical);
         return;
     }
-    DesignMode = 1;
-    ResetCard(CurrentCard);
+    TheRun.DesignMode = 1;
+    ResetCard(TheRun.CurrentCard);
     Get<frmAddCard>().Show();
     // The upright picture is asked at once, over the card editor.
     Get<frmGetImageFile>().ShowFor(1);
     bool picked = WorkingFiles().ImageSelected;
     if (picked) {
-        if (!CurrentDeck.IncludesReversed) {
-            PointReversedAtDefault(CurrentCard);
+        if (!TheRun.CurrentDeck.IncludesReversed) {
+            PointReversedAtDefault(TheRun.CurrentCard);
         } else {
             Get<frmGetImageFile>().ShowFor(2);
             picked = WorkingFiles().ImageSelected;
@@ -142,8 +142,8 @@ void frmDesignDeck::cmdEditCard_Click() {
     }
     const int position = SelectedCardPosition();
     if (position < 1) return;
-    CurrentCard = CurrentDeck.DeckCards(position);
-    DesignMode = 0;
+    TheRun.CurrentCard = TheRun.CurrentDeck.DeckCards(position);
+    TheRun.DesignMode = 0;
     Hide();
     frmAddCard& editor = Get<frmAddCard>();
     editor.Show();
@@ -151,7 +151,7 @@ void frmDesignDeck::cmdEditCard_Click() {
 }
 
 void frmDesignDeck::DeckSaved(const QString& name) {
-    lblModifiedOnDate->setText(FormatLongDate(CurrentDeck.ModifiedOn));
+    lblModifiedOnDate->setText(FormatLongDate(TheRun.CurrentDeck.ModifiedOn));
     DesignModified = false;
     OldDesignName = name;
 }
@@ -169,7 +169,7 @@ void frmDesignDeck::cmdDeleteCard_Click() {
         return;
     const int position = SelectedCardPosition();
     if (position < 1) return;
-    RemoveDeckCard(CurrentDeck, position);
+    RemoveDeckCard(TheRun.CurrentDeck, position);
     lstCards->RemoveItem(lstCards->ListIndex());
     UpdateCardButtons();
     DesignModified = true;
@@ -178,7 +178,7 @@ void frmDesignDeck::cmdDeleteCard_Click() {
 void frmDesignDeck::cmdSave_Click() { Get<frmSaveDeck>().Show(true); }
 
 void frmDesignDeck::cmdImportPictures_Click() {
-    if (CurrentDeck.CardCount >= MaxDeckCards) {
+    if (TheRun.CurrentDeck.CardCount >= MaxDeckCards) {
         MsgBox(CardLimitMessage(), vbCritical);
         return;
     }

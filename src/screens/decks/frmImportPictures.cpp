@@ -94,8 +94,8 @@ void frmImportPictures::ShowFolder(const QString& folder) {
     folder_ = folder;
     lblFolder->setText(QDir::toNativeSeparators(QDir::cleanPath(folder)));
     for (int i = 0; i < 4; ++i)
-        if (CurrentDeck.CardTypeUsed[static_cast<std::size_t>(i)])
-            cboType->addItem(CurrentDeck.CardTypeName[static_cast<std::size_t>(i)].Trimmed(), i);
+        if (TheRun.CurrentDeck.CardTypeUsed[static_cast<std::size_t>(i)])
+            cboType->addItem(TheRun.CurrentDeck.CardTypeName[static_cast<std::size_t>(i)].Trimmed(), i);
     const FolderPictures found = ListFolderPictures(folder, cboType->count() > 0 ? cboType->itemData(0).toInt() : 0);
     proposed_ = found.Cards;
     for (const ProposedCard& card : proposed_) {
@@ -121,7 +121,7 @@ void frmImportPictures::ShowFolder(const QString& folder) {
         mdlPictures->appendRow(row);
     }
     // A deck without reversed cards shows the default picture on that side.
-    const bool reversedSides = CurrentDeck.IncludesReversed != 0;
+    const bool reversedSides = TheRun.CurrentDeck.IncludesReversed != 0;
     fraReversed->setEnabled(reversedSides);
     const bool anyOwnFile = std::any_of(proposed_.begin(), proposed_.end(),
                                         [](const ProposedCard& card) { return !card.ReversedFile.isEmpty(); });

@@ -41,10 +41,10 @@ frmSaveDeck::frmSaveDeck() {
 void frmSaveDeck::Form_Load() {
     setCaption(tr("Save Deck"));
     CentreInFrame(*this);
-    const QString name = CurrentDeck.DeckName.Trimmed();
-    txtSaveAs->setText(name.isEmpty() ? CurrentDeck.DeckTitle.Trimmed() : name);
+    const QString name = TheRun.CurrentDeck.DeckName.Trimmed();
+    txtSaveAs->setText(name.isEmpty() ? TheRun.CurrentDeck.DeckTitle.Trimmed() : name);
     {
-        RecordReader<DeckRecord> reader(DecksPath);
+        RecordReader<DeckRecord> reader(TheRun.Paths.DecksPath);
         DeckRecord deck;
         while (reader.Next(deck)) lstDeckNames->AddItem(deck.DeckName.Value());
     }
@@ -84,10 +84,10 @@ void frmSaveDeck::cmdSave_Click() {
         if (MsgBox(check.Question, vbYesNo | vbQuestion | vbDefaultButton2) == vbNo) return;
         SetScreenPointer(MousePointer::Hourglass);
     }
-    const DeckSaveResult saved = SaveDeck(CurrentDeck, check.Name, check.Replacing);
+    const DeckSaveResult saved = SaveDeck(TheRun.CurrentDeck, check.Name, check.Replacing);
     for (const QString& problem : saved.Problems) MsgBox(problem);
     if (saved.Failure) throw *saved.Failure;
-    CurrentDeck = saved.Deck;
+    TheRun.CurrentDeck = saved.Deck;
     StoreListDeck();
 
     if (IsLoaded<frmDesignDeck>()) {

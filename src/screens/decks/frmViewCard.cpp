@@ -25,8 +25,8 @@ void frmViewCard::Form_Load() {
 }
 
 void frmViewCard::ShowCardType() {
-    const int type = CurrentCard.CardType;
-    txtCardType->setText(type >= 0 && type < 4 ? CurrentDeck.CardTypeName[static_cast<std::size_t>(type)].Trimmed()
+    const int type = TheRun.CurrentCard.CardType;
+    txtCardType->setText(type >= 0 && type < 4 ? TheRun.CurrentDeck.CardTypeName[static_cast<std::size_t>(type)].Trimmed()
                                                : QString());
 }
 

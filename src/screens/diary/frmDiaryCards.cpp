@@ -29,8 +29,8 @@ QLabel* MakeNamedCaption(QWidget* parent, const QString& name, const QString& ca
 // The card a row of a location's list names: by its number, or by its title
 // for a row that came back without one.
 const CardRecord* CardOfRow(int number, const QString& text) {
-    if (number >= 1 && number <= CurrentDeck.CardCount) return &DeckCard(number);
-    for (int n = 1; n <= CurrentDeck.CardCount; ++n)
+    if (number >= 1 && number <= TheRun.CurrentDeck.CardCount) return &DeckCard(number);
+    for (int n = 1; n <= TheRun.CurrentDeck.CardCount; ++n)
         if (DeckCard(n).CardTitle.Trimmed() == text.trimmed()) return &DeckCard(n);
     return nullptr;
 }
@@ -80,7 +80,7 @@ void frmDiaryCards::Form_Load() {
     CardFrameLeft = imgCard->Left();
     CardFrameWidth = imgCard->Width();
     CardFrameHeight = imgCard->Height();
-    chkReserved->setVisible(CurrentDeck.IncludesReversed != 0);
+    chkReserved->setVisible(TheRun.CurrentDeck.IncludesReversed != 0);
     ShowCardTypes();
     UpdateCards();
     ShowSelectedCard();
@@ -88,7 +88,7 @@ void frmDiaryCards::Form_Load() {
 
 void frmDiaryCards::ShowCardTypes() {
     for (std::size_t i = 0; i < 4; ++i)
-        if (CurrentDeck.CardTypeUsed[i] != 0) lstCardTypes->AddItem(CurrentDeck.CardTypeName[i].Trimmed());
+        if (TheRun.CurrentDeck.CardTypeUsed[i] != 0) lstCardTypes->AddItem(TheRun.CurrentDeck.CardTypeName[i].Trimmed());
     const QSignalBlocker quiet(lstCardTypes);   // the cards are listed next, once
     lstCardTypes->selectAll();
 }
@@ -97,7 +97,7 @@ void frmDiaryCards::lstCardTypes_ItemCheck() { UpdateCards(); }
 
 void frmDiaryCards::UpdateCards() {
     lstCards->Clear();
-    const QList<CardRow>& rows = DiaryLists.Rows(pick_);
+    const QList<CardRow>& rows = TheRun.DiaryLists.Rows(pick_);
     for (int r = 0; r < rows.size(); ++r) {
         if (r > 0) {
             // The card's type is taken as the row of the type list, as it
@@ -111,11 +111,11 @@ void frmDiaryCards::UpdateCards() {
 }
 
 void frmDiaryCards::ShowSelectedCard() {
-    if (!HasCardIn(DiaryLists, pick_)) return;
-    const Integer dealt = Element(CurrentDiary.DealtCard, pick_);
+    if (!HasCardIn(TheRun.DiaryLists, pick_)) return;
+    const Integer dealt = Element(TheRun.CurrentDiary.DealtCard, pick_);
     for (int r = 0; r < lstCards->ListCount(); ++r) {
         if (lstCards->ItemData(r) != dealt) continue;
-        chkReserved->setChecked(Element(CurrentDiary.DealtUpright, pick_) == 0);
+        chkReserved->setChecked(Element(TheRun.CurrentDiary.DealtUpright, pick_) == 0);
         lstCards->setListIndex(r);   // shows the picture through lstCards_Click
         return;
     }
@@ -129,7 +129,7 @@ void frmDiaryCards::UpdatePictures() {
     const int n = lstCards->ItemData(lstCards->ListIndex());
     // The row of no card, and a card that came back without its number,
     // have no picture to show.
-    if (n < 1 || n > CurrentDeck.CardCount) return;
+    if (n < 1 || n > TheRun.CurrentDeck.CardCount) return;
     imgCard->Move(CardFrameLeft, CardFrameTop, CardFrameWidth, CardFrameHeight);
     FitPicture(*imgCard, CardPicturePath(DeckCard(n), !chkReserved->isChecked()), true, false);
 }
@@ -146,8 +146,8 @@ void frmDiaryCards::cmdSelect_Click() {
     }
     const Integer n = static_cast<Integer>(lstCards->ItemData(lstCards->ListIndex()));
     const Integer u = Flag(!chkReserved->isChecked());
-    Integer& dealt = Element(CurrentDiary.DealtCard, pick_);
-    Integer& upright = Element(CurrentDiary.DealtUpright, pick_);
+    Integer& dealt = Element(TheRun.CurrentDiary.DealtCard, pick_);
+    Integer& upright = Element(TheRun.CurrentDiary.DealtUpright, pick_);
     if (n != dealt || (u != 0) != (upright != 0)) {
         Diary().DiaryChanged = true;
         dealt = n;

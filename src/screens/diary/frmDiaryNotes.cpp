@@ -7,9 +7,9 @@ frmDiaryNotes::frmDiaryNotes() : EntryNotesScreen(tr("Diary Summary and Notes"))
     setObjectName(QStringLiteral("frmDiaryNotes"));
 }
 
-QString frmDiaryNotes::Notes() const { return CurrentDiary.DiaryNotes.Trimmed(); }
+QString frmDiaryNotes::Notes() const { return TheRun.CurrentDiary.DiaryNotes.Trimmed(); }
 
-void frmDiaryNotes::SetNotes(const QString& notes) { CurrentDiary.DiaryNotes = notes; }
+void frmDiaryNotes::SetNotes(const QString& notes) { TheRun.CurrentDiary.DiaryNotes = notes; }
 
 void frmDiaryNotes::MarkEntryChanged() {
     if (frmNewDiary* diary = ScreenSlot<frmNewDiary>()) diary->DiaryChanged = true;

@@ -81,29 +81,29 @@ void frmNewDiary::Form_Load() {
 }
 
 void frmNewDiary::Initialize() {
-    LoadSpreadLocations(CurrentSpread.SpreadId, CurrentSpread.LocationCount);
+    LoadSpreadLocations(TheRun.CurrentSpread.SpreadId, TheRun.CurrentSpread.LocationCount);
     ShowSpreadTexts();
     ResetOrientation();
 
-    const bool issue = CurrentDiary.IssueAsked != 0;
+    const bool issue = TheRun.CurrentDiary.IssueAsked != 0;
     lblIssue->setVisible(issue);
     txtIssue->setVisible(issue);
     lblTheIssue->setVisible(issue);
-    if (issue) txtIssue->setText(CurrentDiary.Issue.Trimmed());
+    if (issue) txtIssue->setText(TheRun.CurrentDiary.Issue.Trimmed());
 
-    const QString title = CurrentSpread.SpreadTitle.Trimmed();
+    const QString title = TheRun.CurrentSpread.SpreadTitle.Trimmed();
     if (!title.isEmpty()) setCaption(tr("Diary - %1").arg(title));
     FocusLocation = 1;
     // Every location stands on its row of no card, without marking anything
     // changed: the focus stays on location 1 and the entry's cards as read.
-    FillCardLists(DiaryLists, CurrentDeck, CurrentSpread.LocationCount, CardTypeSelected);
+    FillCardLists(TheRun.DiaryLists, TheRun.CurrentDeck, TheRun.CurrentSpread.LocationCount, TheRun.CardTypeSelected);
 
-    const QColor current = QBColor(CurrentLocationColour);
-    const QColor other = QBColor(OtherLocationColour);
-    for (int i = 1; i <= CurrentSpread.LocationCount; ++i) {
+    const QColor current = QBColor(TheRun.CurrentLocationColour);
+    const QColor other = QBColor(TheRun.OtherLocationColour);
+    for (int i = 1; i <= TheRun.CurrentSpread.LocationCount; ++i) {
         PlaceLocation(i);
         SetBoxColours(chkReversed(i), current, other);
-        cmdCardTitle(i)->setText(SelectedText(DiaryLists, i));
+        cmdCardTitle(i)->setText(SelectedText(TheRun.DiaryLists, i));
         cmdCardTitle(i)->show();
         ClearLocationCard(i);
         lblCardNumber(i)->show();
@@ -114,7 +114,7 @@ void frmNewDiary::Initialize() {
 
 void frmNewDiary::ResetOrientation() {
     for (int i = 1; i <= MaxLocations; ++i) {
-        chkReversed(i)->setChecked(Element(CurrentDiary.DealtUpright, i) == 0);
+        chkReversed(i)->setChecked(Element(TheRun.CurrentDiary.DealtUpright, i) == 0);
         chkReversed(i)->hide();
     }
 }
@@ -132,16 +132,16 @@ void frmNewDiary::GiveFocusToCard(int index) {
 }
 
 void frmNewDiary::cmdContinue_Click() {
-    CurrentDiary.ReadingSpreadId = CurrentSpread.SpreadId;
-    CurrentDiary.ReadingDeckId = CurrentDeck.DeckId;
+    TheRun.CurrentDiary.ReadingSpreadId = TheRun.CurrentSpread.SpreadId;
+    TheRun.CurrentDiary.ReadingDeckId = TheRun.CurrentDeck.DeckId;
     if (IntroductionShown()) {
         txtIssue->setText(txtIssue->text().trimmed());
-        CurrentDiary.Issue = txtIssue->text();
+        TheRun.CurrentDiary.Issue = txtIssue->text();
         lblTheIssue->setText(txtIssue->text());
     }
     const bool Forward = IntroductionShown();
     ShowPage(Forward);
-    lblTheIssue->setText(IssueForSaving(CurrentDiary.Issue.Trimmed()));
+    lblTheIssue->setText(IssueForSaving(TheRun.CurrentDiary.Issue.Trimmed()));
     lblTheIssue->hide();
     for (QPushButton* button : {cmdNotes, cmdInterpret, cmdSave, cmdQuickHelp, cmdPrint}) button->setEnabled(Forward);
     cmdContinue->setText(Forward ? tr("&Back") : tr("C&ontinue"));
@@ -172,12 +172,12 @@ void frmNewDiary::ChooseCard(int Index) {
     Get<frmDiaryCards>().Show(true);
     // The card choice has written the location's card and orientation.
     const int pick = PickLocation;
-    const Integer dealt = Element(CurrentDiary.DealtCard, pick);
-    const bool upright = Element(CurrentDiary.DealtUpright, pick) != 0;
-    if (SelectedCard(DiaryLists, Index) != dealt || chkReversed(Index)->isChecked() == upright) {
-        const int row = RowOfCard(DiaryLists, pick, dealt);
-        if (row != DiaryLists.Selected(pick)) SelectRow(pick, row);
-        cmdCardTitle(pick)->setText(SelectedText(DiaryLists, pick));
+    const Integer dealt = Element(TheRun.CurrentDiary.DealtCard, pick);
+    const bool upright = Element(TheRun.CurrentDiary.DealtUpright, pick) != 0;
+    if (SelectedCard(TheRun.DiaryLists, Index) != dealt || chkReversed(Index)->isChecked() == upright) {
+        const int row = RowOfCard(TheRun.DiaryLists, pick, dealt);
+        if (row != TheRun.DiaryLists.Selected(pick)) SelectRow(pick, row);
+        cmdCardTitle(pick)->setText(SelectedText(TheRun.DiaryLists, pick));
         SetReversed(pick, !upright);
     }
     picLocation(pick)->setFocus();
@@ -186,11 +186,11 @@ void frmNewDiary::ChooseCard(int Index) {
 void frmNewDiary::SelectRow(int index, int row) {
     DiaryChanged = true;
     if (OpeningDiary && !FillingLocation) {
-        DiaryLists.Selected(index) = row;
+        TheRun.DiaryLists.Selected(index) = row;
         return;
     }
-    const int n = ChooseRow(DiaryLists, CurrentDiary, index, row, SelectedCardText, AllowDuplicateCards,
-                            FillingLocation, CurrentDeck, CurrentSpread.LocationCount);
+    const int n = ChooseRow(TheRun.DiaryLists, TheRun.CurrentDiary, index, row, SelectedCardText, TheRun.AllowDuplicateCards,
+                            FillingLocation, TheRun.CurrentDeck, TheRun.CurrentSpread.LocationCount);
     if (FocusLocation != index) GiveFocusToCard(index);
     if (n > 0) {
         ShowCardInLocation(index, n, !chkReversed(index)->isChecked());
@@ -199,7 +199,7 @@ void frmNewDiary::SelectRow(int index, int row) {
         lblCardNumber(index)->show();
         ClearLocationCard(index);
     }
-    SelectedCardText = SelectedText(DiaryLists, index);
+    SelectedCardText = SelectedText(TheRun.DiaryLists, index);
 }
 
 void frmNewDiary::SetReversed(int index, bool reversed) {
@@ -212,15 +212,15 @@ void frmNewDiary::EmptyLocation(int Index) {
     // The list in hand is the focused location's, and the card it gives back
     // is the one that location held.
     if (Index != FocusLocation) GiveFocusToCard(Index);
-    SelectRow(Index, IndexOfNone(DiaryLists, Index));
-    cmdCardTitle(Index)->setText(SelectedText(DiaryLists, Index));
+    SelectRow(Index, IndexOfNone(TheRun.DiaryLists, Index));
+    cmdCardTitle(Index)->setText(SelectedText(TheRun.DiaryLists, Index));
 }
 
 void frmNewDiary::chkReversed_Click(int Index) {
     DiaryChanged = true;
-    Element(CurrentDiary.DealtUpright, Index) = Flag(!chkReversed(Index)->isChecked());
-    if (DiaryLists.Selected(Index) != IndexOfNone(DiaryLists, Index))
-        ShowCardInLocation(Index, Element(CurrentDiary.DealtCard, Index), !chkReversed(Index)->isChecked());
+    Element(TheRun.CurrentDiary.DealtUpright, Index) = Flag(!chkReversed(Index)->isChecked());
+    if (TheRun.DiaryLists.Selected(Index) != IndexOfNone(TheRun.DiaryLists, Index))
+        ShowCardInLocation(Index, Element(TheRun.CurrentDiary.DealtCard, Index), !chkReversed(Index)->isChecked());
     else
         ClearLocationCard(Index);
     cmdCardTitle(Index)->show();
@@ -230,7 +230,7 @@ void frmNewDiary::chkReversed_Click(int Index) {
 void frmNewDiary::MarkLocation(int location, bool marked) {
     if (location < 1 || location > MaxLocations) return;
     EntryScreen::MarkLocation(location, marked);
-    SetBoxColours(chkReversed(location), picLocation(location)->BackColor(), QBColor(OtherLocationColour));
+    SetBoxColours(chkReversed(location), picLocation(location)->BackColor(), QBColor(TheRun.OtherLocationColour));
 }
 
 void frmNewDiary::cmdInterpret_Click() {
@@ -242,12 +242,12 @@ void frmNewDiary::cmdInterpret_Click() {
 
 void frmNewDiary::cmdNotes_Click() { Get<frmDiaryNotes>().Show(); }
 
-void frmNewDiary::cmdPrint_Click() { PrintEntry(DiaryPrintout(CurrentDiary)); }
+void frmNewDiary::cmdPrint_Click() { PrintEntry(DiaryPrintout(TheRun.CurrentDiary)); }
 
 void frmNewDiary::cmdQuickHelp_Click() { Get<frmDiaryHelp>().Show(); }
 
 void frmNewDiary::cmdSave_Click() {
-    GatherDiary(CurrentDiary, CurrentDeck, CurrentSpread, txtIssue->text().trimmed(), FocusLocation);
+    GatherDiary(TheRun.CurrentDiary, TheRun.CurrentDeck, TheRun.CurrentSpread, txtIssue->text().trimmed(), FocusLocation);
     Get<frmSaveDiary>().Show(true);
 }
 
@@ -259,9 +259,9 @@ void frmNewDiary::cmdClose_Click() {
 
 void frmNewDiary::FillFields() {
     Initialize();
-    txtIssue->setText(CurrentDiary.Issue.Trimmed());
-    lblTheIssue->setText(CurrentDiary.Issue.Trimmed());
-    for (int i = 1; i <= CurrentSpread.LocationCount; ++i) {
+    txtIssue->setText(TheRun.CurrentDiary.Issue.Trimmed());
+    lblTheIssue->setText(TheRun.CurrentDiary.Issue.Trimmed());
+    for (int i = 1; i <= TheRun.CurrentSpread.LocationCount; ++i) {
         FillingLocation = true;
         ShowRowOfLocation(i);
         FillingLocation = false;
@@ -269,19 +269,19 @@ void frmNewDiary::FillFields() {
     DiaryChanged = false;
     if (IntroductionShown()) cmdContinue_Click();
     OpeningDiary = false;
-    const int choice = CurrentDiary.DiaryChoice;
-    GiveFocusToCard(choice >= 1 && choice <= CurrentSpread.LocationCount ? choice : 1);
+    const int choice = TheRun.CurrentDiary.DiaryChoice;
+    GiveFocusToCard(choice >= 1 && choice <= TheRun.CurrentSpread.LocationCount ? choice : 1);
 }
 
 void frmNewDiary::ShowRowOfLocation(int i) {
     {
         const QSignalBlocker quiet(chkReversed(i));
-        chkReversed(i)->setChecked(Element(CurrentDiary.DealtUpright, i) == 0);
+        chkReversed(i)->setChecked(Element(TheRun.CurrentDiary.DealtUpright, i) == 0);
     }
     // A card the deck no longer holds leaves the location empty, with its
     // number showing, rather than ending the program.
-    SelectRow(i, RowToRestore(DiaryLists, CurrentDiary, i, CurrentDeck));
-    cmdCardTitle(i)->setText(SelectedText(DiaryLists, i));
+    SelectRow(i, RowToRestore(TheRun.DiaryLists, TheRun.CurrentDiary, i, TheRun.CurrentDeck));
+    cmdCardTitle(i)->setText(SelectedText(TheRun.DiaryLists, i));
     cmdCardTitle(i)->show();
 }
 
@@ -299,7 +299,7 @@ void frmNewDiary::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handl
     if (handled) return;
     // Delete on a location's button empties it, as Delete in its list does.
     if (key == Qt::Key_Delete) {
-        for (int i = 1; i <= CurrentSpread.LocationCount; ++i) {
+        for (int i = 1; i <= TheRun.CurrentSpread.LocationCount; ++i) {
             if (focusWidget() != cmdCardTitle(i)) continue;
             handled = true;
             EmptyLocation(i);

@@ -14,15 +14,15 @@ OpeningChecks frmOpenDiary::Judge(const QString& name) { return Keep(JudgeDiaryO
 
 void frmOpenDiary::AdoptEntry() {
     Get<frmNewDiary>().OpeningDiary = true;
-    CurrentDiary = diary_;
-    CurrentSpread = spread_;
-    ListDeck = deck_;
+    TheRun.CurrentDiary = diary_;
+    TheRun.CurrentSpread = spread_;
+    TheRun.ListDeck = deck_;
 }
 
 void frmOpenDiary::ShowEntry() {
-    UseReversed = CurrentDiary.UseReversed != 0;
-    AllowDuplicateCards = CurrentDiary.AllowDuplicateCards != 0;
-    for (std::size_t t = 0; t < 4; ++t) CardTypeSelected[t] = CurrentDiary.CardTypeSelected[t] != 0;
+    TheRun.UseReversed = TheRun.CurrentDiary.UseReversed != 0;
+    TheRun.AllowDuplicateCards = TheRun.CurrentDiary.AllowDuplicateCards != 0;
+    for (std::size_t t = 0; t < 4; ++t) TheRun.CardTypeSelected[t] = TheRun.CurrentDiary.CardTypeSelected[t] != 0;
     Unload();
     frmNewDiary& diary = Get<frmNewDiary>();
     diary.FillFields();

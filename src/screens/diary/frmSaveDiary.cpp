@@ -10,11 +10,11 @@ frmSaveDiary::frmSaveDiary()
 }
 
 QString frmSaveDiary::ProposedName() const {
-    return FirstNonBlank({CurrentDiary.DiaryName.Trimmed(), CurrentDiary.Issue.Trimmed(), CurrentSpread.SpreadName.Trimmed()});
+    return FirstNonBlank({TheRun.CurrentDiary.DiaryName.Trimmed(), TheRun.CurrentDiary.Issue.Trimmed(), TheRun.CurrentSpread.SpreadName.Trimmed()});
 }
 
 void frmSaveDiary::SaveAs(const QString& name, int replacing) {
-    CurrentDiary = SaveEntry(CurrentDiary, name, replacing, CardTypeSelected).Saved;
+    TheRun.CurrentDiary = SaveEntry(TheRun.CurrentDiary, name, replacing, TheRun.CardTypeSelected).Saved;
 }
 
 void frmSaveDiary::MarkEntrySaved() {

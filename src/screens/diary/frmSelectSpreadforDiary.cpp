@@ -11,13 +11,13 @@ frmSelectSpreadforDiary::frmSelectSpreadforDiary()
 
 void frmSelectSpreadforDiary::StoreEntryOptions(bool issueAsked, const QString& issue, bool useReversed,
                                                 bool allowDuplicates) {
-    CurrentDiary.Issue = issue;
-    CurrentDiary.IssueAsked = Flag(issueAsked);
-    CurrentDiary.UseReversed = Flag(useReversed);
-    CurrentDiary.AllowDuplicateCards = Flag(allowDuplicates);
+    TheRun.CurrentDiary.Issue = issue;
+    TheRun.CurrentDiary.IssueAsked = Flag(issueAsked);
+    TheRun.CurrentDiary.UseReversed = Flag(useReversed);
+    TheRun.CurrentDiary.AllowDuplicateCards = Flag(allowDuplicates);
     // The entry carries its card types from the start: its lists are built
     // from them before any save.
-    for (std::size_t t = 0; t < 4; ++t) CurrentDiary.CardTypeSelected[t] = Flag(CardTypeSelected[t]);
+    for (std::size_t t = 0; t < 4; ++t) TheRun.CurrentDiary.CardTypeSelected[t] = Flag(TheRun.CardTypeSelected[t]);
 }
 
 EntryScreen& frmSelectSpreadforDiary::Entry() { return Get<frmNewDiary>(); }

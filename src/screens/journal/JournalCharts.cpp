@@ -41,8 +41,8 @@ void JournalChart::Draw(QPainter& p, const QRect& all) const {
     const ChartDrawing drawing = Layout(all.size(), *p.device());
     for (const ChartBlock& block : drawing.Blocks) {
         switch (block.Ink) {
-        case ChartInk::First: p.fillRect(block.Box, QBColor(CurrentLocationColour)); break;
-        case ChartInk::Second: p.fillRect(block.Box, QBColor(OtherLocationColour)); break;
+        case ChartInk::First: p.fillRect(block.Box, QBColor(TheRun.CurrentLocationColour)); break;
+        case ChartInk::Second: p.fillRect(block.Box, QBColor(TheRun.OtherLocationColour)); break;
         case ChartInk::Axis: p.fillRect(block.Box, palette().color(QPalette::Mid)); break;
         case ChartInk::Grid: p.fillRect(block.Box, palette().color(QPalette::Midlight)); break;
         }

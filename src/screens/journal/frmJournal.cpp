@@ -330,13 +330,13 @@ void frmJournal::cmdOpen_Click() {
     const QString name = entry.Name;
     bool opened = false;
     if (entry.Kind == EntryKind::Reading) {
-        ResetSpread(CurrentSpread);
-        ResetReading(CurrentReading);
+        ResetSpread(TheRun.CurrentSpread);
+        ResetReading(TheRun.CurrentReading);
         opened = Get<frmOpenReading>().OpenEntry(name);
         if (!opened) UnloadScreen<frmOpenReading>();
     } else {
-        ResetSpread(CurrentSpread);
-        ResetDiary(CurrentDiary);
+        ResetSpread(TheRun.CurrentSpread);
+        ResetDiary(TheRun.CurrentDiary);
         opened = Get<frmOpenDiary>().OpenEntry(name);
         if (!opened) UnloadScreen<frmOpenDiary>();
     }

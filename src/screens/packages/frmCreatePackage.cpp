@@ -112,22 +112,22 @@ frmCreatePackage::frmCreatePackage() {
 void frmCreatePackage::Form_Load() {
     CentreInFrame(*this);
     ProtectedWarningShown = false;
-    MkDirIgnoringErrors(AppPath + QStringLiteral("Temp"));
+    MkDirIgnoringErrors(TheRun.Paths.AppPath + QStringLiteral("Temp"));
     ClearTemp();
     SuggestFilename();
-    for (const DeckRecord& deck : ReadAllRecords<DeckRecord>(DecksPath)) {
+    for (const DeckRecord& deck : ReadAllRecords<DeckRecord>(TheRun.Paths.DecksPath)) {
         AddCheckRow(lstAvailableDecks, deck.DeckName.Value());
         DeckListNames.push_back(deck.DeckName.Value());
         DeckListIds.push_back(deck.DeckId);
     }
-    for (const SpreadRecord& spread : ReadAllRecords<SpreadRecord>(SpreadsPath))
+    for (const SpreadRecord& spread : ReadAllRecords<SpreadRecord>(TheRun.Paths.SpreadsPath))
         AddCheckRow(lstAvailableSpreads, spread.SpreadName.Value());
     cmdCreate->setEnabled(CanCreate());
 }
 
 void frmCreatePackage::SuggestFilename() {
-    drvSelection->setDrive(AppPath);
-    dirSelection->setPath(PackagesDir);
+    drvSelection->setDrive(TheRun.Paths.AppPath);
+    dirSelection->setPath(TheRun.Paths.PackagesDir);
     filSelection->setPath(dirSelection->Path());
     const QString folder = AddTrailingBackslash(dirSelection->Path());
     for (int n = 1; n <= 1000; ++n) {
@@ -166,8 +166,8 @@ void frmCreatePackage::lstAvailableSpreads_ItemCheck(int item) {
 void frmCreatePackage::SelectRequiredDecks(const QString& spreadName) {
     const int at = FindSpreadByName(spreadName);
     if (at < 1) return;
-    GetRecord(SpreadsPath, at, CurrentSpread);
-    const int allowed = CurrentSpread.AllowedDeckCount;
+    GetRecord(TheRun.Paths.SpreadsPath, at, TheRun.CurrentSpread);
+    const int allowed = TheRun.CurrentSpread.AllowedDeckCount;
     auto check = [this](const QString& deckName) {
         for (int row = 0; row < lstAvailableDecks->count(); ++row)
             if (TrimField(lstAvailableDecks->item(row)->text()) == TrimField(deckName)) {
@@ -181,7 +181,7 @@ void frmCreatePackage::SelectRequiredDecks(const QString& spreadName) {
             continue;
         }
         for (int k = 0; k < allowed && k < 10; ++k)
-            if (CurrentSpread.AllowedDeckId[static_cast<std::size_t>(k)] == DeckListIds[r]) {
+            if (TheRun.CurrentSpread.AllowedDeckId[static_cast<std::size_t>(k)] == DeckListIds[r]) {
                 check(DeckListNames[r]);
                 break;
             }
@@ -220,7 +220,7 @@ void frmCreatePackage::cmdAttach_Click() {
 }
 
 void frmCreatePackage::cmdDeAttach_Click() {
-    KillIgnoringErrors(TempDir + AttachmentName);
+    KillIgnoringErrors(TheRun.Paths.TempDir + AttachmentName);
     txtAttachment->clear();
     cmdAttach->setEnabled(true);
     cmdDeAttach->setEnabled(false);
@@ -239,7 +239,7 @@ void frmCreatePackage::drvSelection_Change() {
 void frmCreatePackage::dirSelection_Change() {
     // Temp/ is emptied by every design operation: a package there would be
     // lost. Its subfolders pass.
-    if (dirSelection->Path().trimmed() == AppPath + QStringLiteral("Temp")) {
+    if (dirSelection->Path().trimmed() == TheRun.Paths.AppPath + QStringLiteral("Temp")) {
         MsgBox(tr("This folder and its subfolders are solely for the use of Cartomar. Please select a "
                   "different folder."),
                vbInformation);
@@ -312,7 +312,7 @@ void frmCreatePackage::cmdCreate_Click() {
     }
     const QString path = AddTrailingBackslash(PackageFolder.trimmed()) + PackageFileName.trimmed();
     std::optional<RuntimeError> failure;
-    if (!CreatePackageFile(TempDir, path, &failure)) {
+    if (!CreatePackageFile(TheRun.Paths.TempDir, path, &failure)) {
         CreateFailed = true;
         MsgBox(tr("Unable to create package.  Error%1: %2")
                    .arg(QString::number(failure->Number()), failure->Description()),
@@ -356,7 +356,7 @@ void frmCreatePackage::WarnProtectedDesign() {
 
 void frmCreatePackage::StageAttachment() {
     try {
-        FileCopyUnsynced(txtAttachment->text(), TempDir + QStringLiteral("ATT - ") + AttachmentName.trimmed());
+        FileCopyUnsynced(txtAttachment->text(), TheRun.Paths.TempDir + QStringLiteral("ATT - ") + AttachmentName.trimmed());
         AttachmentStaged = true;
     } catch (const RuntimeError&) {
         AttachmentStaged = false;

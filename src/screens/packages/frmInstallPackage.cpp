@@ -31,7 +31,7 @@ QPushButton* MakeButton(QWidget* parent, const QString& caption, const char* nam
     return b;
 }
 
-QString TempFile(const char* name) { return TempDir + QLatin1String(name); }
+QString TempFile(const char* name) { return TheRun.Paths.TempDir + QLatin1String(name); }
 
 }  // namespace
 
@@ -73,7 +73,7 @@ frmInstallPackage::frmInstallPackage() {
 void frmInstallPackage::Form_Load() {
     CentreInFrame(*this);
     lblStatus->clear();
-    ShowFolder(PackagesDir);
+    ShowFolder(TheRun.Paths.PackagesDir);
 }
 
 void frmInstallPackage::ShowFolder(const QString& folder) {
@@ -159,15 +159,15 @@ void frmInstallPackage::cmdInfo_Click() {
 }
 
 void frmInstallPackage::ExtractFiles() {
-    MkDirIgnoringErrors(TempDir);
+    MkDirIgnoringErrors(TheRun.Paths.TempDir);
     ClearTemp();
     const QString path = AddTrailingBackslash(filSelection->Path()) + filSelection->FileName();
-    ExtractFailed = !ExtractPackageFile(path, TempDir);
+    ExtractFailed = !ExtractPackageFile(path, TheRun.Paths.TempDir);
     if (ExtractFailed) {
         MsgBox(tr("Unable to open package"), vbCritical);
         return;
     }
-    const QStringList attachments = Dir(TempDir + AttachmentPrefix + QStringLiteral("*.*"));
+    const QStringList attachments = Dir(TheRun.Paths.TempDir + AttachmentPrefix + QStringLiteral("*.*"));
     AttachmentFile = attachments.isEmpty() ? QString() : attachments.first().mid(AttachmentPrefix.size());
     HasAttachment = !TrimField(AttachmentFile).isEmpty();
     PackageExtracted = true;
@@ -175,7 +175,7 @@ void frmInstallPackage::ExtractFiles() {
 
 void frmInstallPackage::cmdInstall_Click() {
     SetScreenPointer(MousePointer::Hourglass);
-    DesignExistsChoice = 0;
+    TheRun.DesignExistsChoice = 0;
     DecksInstalled = 0;
     SpreadsInstalled = 0;
     AttachmentSaved = false;
@@ -219,7 +219,7 @@ bool frmInstallPackage::Install() {
     if (outcome == InstallOutcome::Incompatible) {
         SetScreenPointer(MousePointer::Default);
         MsgBox(tr("Unable to install: Incompatible Cartomar Package."));
-        if (AnyFileMatches(TempDir + QStringLiteral("*.*"))) ClearTemp();
+        if (AnyFileMatches(TheRun.Paths.TempDir + QStringLiteral("*.*"))) ClearTemp();
     }
     return true;
 }
@@ -241,11 +241,11 @@ DesignExistsReply frmInstallPackage::DesignExists(int design, const QString& tit
     frmDesignExists& question = Get<frmDesignExists>();
     question.NameInUse = [nameInUse](int, const QString& padded) { return nameInUse(padded); };
     question.Ask(design, title);
-    return {DesignExistsChoice, frmDesignExists::NewDesignName};
+    return {TheRun.DesignExistsChoice, frmDesignExists::NewDesignName};
 }
 
 void frmInstallPackage::ChooseDecks(const std::vector<DeckRecord>& decks) {
-    ChooserManageMode = false;
+    TheRun.ChooserManageMode = false;
     TheRun.DecksOnOffer = &decks;
     try {
         Get<frmDeckChooser>().Show(true);

@@ -44,10 +44,10 @@ ListBox* MakeList(QWidget* parent, const QString& name, int left, int top, int w
 }
 
 QString CardPicturePath(const CardRecord& card, bool upright) {
-    return CardsDir + card.CardPicture[upright ? 0 : 1].Trimmed();
+    return TheRun.Paths.CardsDir + card.CardPicture[upright ? 0 : 1].Trimmed();
 }
 
-const CardRecord& DeckCard(int cardNumber) { return CurrentDeck.DeckCards(cardNumber); }
+const CardRecord& DeckCard(int cardNumber) { return TheRun.CurrentDeck.DeckCards(cardNumber); }
 
 namespace {
 
@@ -173,33 +173,33 @@ void EntryScreen::CaptureCardFrame() {
 }
 
 void EntryScreen::ShowSpreadTexts() {
-    lblSpreadTitle->setText(CurrentSpread.SpreadTitle.Trimmed());
-    lblSpreadDescription->setText(CurrentSpread.SpreadDescription.Trimmed());
+    lblSpreadTitle->setText(TheRun.CurrentSpread.SpreadTitle.Trimmed());
+    lblSpreadDescription->setText(TheRun.CurrentSpread.SpreadDescription.Trimmed());
 }
 
 void EntryScreen::PlaceLocation(int i) {
-    const LocationRecord& location = SpreadLocations(i);
+    const LocationRecord& location = TheRun.SpreadLocations(i);
     ClickLabel* box = picLocation(i);
     box->show();
     box->setEnabled(true);
     PlaceControl(box, location.LocationLeft, location.LocationTop, LocationWidth, LocationHeight);
     lblCardTitle(i)->setText(NumberedLocationTitle(i, location.LocationTitle.Value()));
     lblCardNumber(i)->setText(QString::number(i));
-    box->setBackColor(QBColor(CurrentLocationColour));
-    const QColor other = QBColor(OtherLocationColour);
+    box->setBackColor(QBColor(TheRun.CurrentLocationColour));
+    const QColor other = QBColor(TheRun.OtherLocationColour);
     box->setForeColor(other);
     lblCardTitle(i)->setForeColor(other);
     lblCardNumber(i)->setForeColor(other);
     // The labels stand on the location's colour.
-    lblCardTitle(i)->setBackColor(QBColor(CurrentLocationColour));
-    lblCardNumber(i)->setBackColor(QBColor(CurrentLocationColour));
+    lblCardTitle(i)->setBackColor(QBColor(TheRun.CurrentLocationColour));
+    lblCardNumber(i)->setBackColor(QBColor(TheRun.CurrentLocationColour));
 }
 
 void EntryScreen::ShowBackground() {
-    if (CurrentSpread.BackgroundFile.Value().contains(QLatin1Char('.'))) {
-        imgBackground->setStretch(CurrentSpread.StretchBackground != 0);
+    if (TheRun.CurrentSpread.BackgroundFile.Value().contains(QLatin1Char('.'))) {
+        imgBackground->setStretch(TheRun.CurrentSpread.StretchBackground != 0);
         imgBackground->ClearPicture();
-        const QString path = CardsDir + CurrentSpread.BackgroundFile.Trimmed();
+        const QString path = TheRun.Paths.CardsDir + TheRun.CurrentSpread.BackgroundFile.Trimmed();
         // A background file that has gone or cannot be read leaves the canvas
         // plain: the reading can go on without it.
         try {
@@ -266,7 +266,7 @@ void EntryScreen::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handl
 void EntryScreen::MarkLocation(int location, bool marked) {
     if (location < 1 || location > MaxLocations) return;
     static const QColor MarkedLocationColour(192, 0, 0);   // bright red
-    const QColor colour = marked ? MarkedLocationColour : QBColor(CurrentLocationColour);
+    const QColor colour = marked ? MarkedLocationColour : QBColor(TheRun.CurrentLocationColour);
     // The labels inside stand on the location's colour, so they take it too.
     picLocation(location)->setBackColor(colour);
     for (ClickLabel* label : picLocation(location)->findChildren<ClickLabel*>()) label->setBackColor(colour);

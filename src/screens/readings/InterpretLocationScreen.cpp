@@ -124,9 +124,9 @@ void InterpretLocationScreen::Form_Load() {
     PlaceTopLeft(*this, false);
     MarkLocation(L, true);
 
-    const LocationRecord& location = SpreadLocations(L);
+    const LocationRecord& location = TheRun.SpreadLocations(L);
     const QString title = location.LocationTitle.Trimmed();
-    setCaption(QStringLiteral("%1 - %2 (%3)").arg(CurrentSpread.SpreadName.Trimmed(), title).arg(L));
+    setCaption(QStringLiteral("%1 - %2 (%3)").arg(TheRun.CurrentSpread.SpreadName.Trimmed(), title).arg(L));
     lblTitle->setText(title.isEmpty() ? tr("[UNTITLED LOCATION]") : title);
     lblDescription->setText(location.LocationDescription.Trimmed());
     QString questions = location.LocationQuestion[0].Trimmed() + QLatin1Char('\n');
@@ -159,7 +159,7 @@ void InterpretLocationScreen::optKeywords_Click() {
 }
 
 void InterpretLocationScreen::ArrangeLocationText() {
-    const LocationRecord& location = SpreadLocations(L);
+    const LocationRecord& location = TheRun.SpreadLocations(L);
     bool hasQuestions = false;
     for (const auto& question : location.LocationQuestion) hasQuestions = hasQuestions || !question.IsBlank();
     const bool hasDescription = !location.LocationDescription.IsBlank();
@@ -219,7 +219,7 @@ void InterpretLocationScreen::cmdEnlargePic_Click() {
 void InterpretLocationScreen::PlayCardSound() {
     const QString name = CardNumber() == 0 ? QString() : Card().CardSound[CardUpright() ? 0 : 1].Trimmed();
     if (name.isEmpty()) return;
-    MediaPlayer1->Open(CardsDir + name, true);
+    MediaPlayer1->Open(TheRun.Paths.CardsDir + name, true);
 }
 
 void InterpretLocationScreen::cmdClose_Click() { Unload(); }

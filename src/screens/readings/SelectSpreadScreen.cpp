@@ -85,7 +85,7 @@ void SelectSpreadScreen::Form_Load() {
     CentreInFrame(*this);
     chkAllowDuplicateCards->setChecked(LastAllowDuplicateCards);
     {
-        RecordReader<SpreadRecord> reader(SpreadsPath);
+        RecordReader<SpreadRecord> reader(TheRun.Paths.SpreadsPath);
         SpreadRecord spread;
         QStringList usable;
         while (reader.Next(spread)) usable << spread.SpreadName.Trimmed();
@@ -108,18 +108,18 @@ void SelectSpreadScreen::AddDeck(const QString& name) {
 void SelectSpreadScreen::lstSpreads_Click() {
     if (lstSpreads->ListIndex() < 0) return;
     lstDecks->Clear();
-    GetRecord(SpreadsPath, FindSpreadByName(lstSpreads->Text()), CurrentSpread);
-    const int locations = CurrentSpread.LocationCount;
-    if (CurrentSpread.AllowedDeckCount >= 0) {
-        const int tied = qMin<int>(CurrentSpread.AllowedDeckCount, static_cast<int>(CurrentSpread.AllowedDeckId.size()));
+    GetRecord(TheRun.Paths.SpreadsPath, FindSpreadByName(lstSpreads->Text()), TheRun.CurrentSpread);
+    const int locations = TheRun.CurrentSpread.LocationCount;
+    if (TheRun.CurrentSpread.AllowedDeckCount >= 0) {
+        const int tied = qMin<int>(TheRun.CurrentSpread.AllowedDeckCount, static_cast<int>(TheRun.CurrentSpread.AllowedDeckId.size()));
         for (int i = 0; i < tied; ++i) {
-            const Integer id = CurrentSpread.AllowedDeckId[static_cast<std::size_t>(i)];
+            const Integer id = TheRun.CurrentSpread.AllowedDeckId[static_cast<std::size_t>(i)];
             if (IsDeckUsable(id, locations)) AddDeck(DeckNameById(id).trimmed());
         }
     } else {
         QList<Integer> ids;
         QStringList names;
-        RecordReader<DeckRecord> reader(DecksPath);
+        RecordReader<DeckRecord> reader(TheRun.Paths.DecksPath);
         DeckRecord deck;
         while (reader.Next(deck)) {
             ids << deck.DeckId;
@@ -135,9 +135,9 @@ void SelectSpreadScreen::lstSpreads_Click() {
 void SelectSpreadScreen::lstDecks_Click() {
     if (lstDecks->ListIndex() < 0) return;
     cmdSelect->setEnabled(true);
-    GetRecord(DecksPath, FindDeckByName(lstDecks->Text()), ListDeck);
+    GetRecord(TheRun.Paths.DecksPath, FindDeckByName(lstDecks->Text()), TheRun.ListDeck);
     ShowDeckOptions();
-    const bool reversed = ListDeck.IncludesReversed != 0;
+    const bool reversed = TheRun.ListDeck.IncludesReversed != 0;
     chkUseReversed->setEnabled(reversed);
     if (reversed) chkUseReversed->setChecked(true);
 }
@@ -146,13 +146,13 @@ void SelectSpreadScreen::ShowDeckOptions() {
     if (lstDecks->ListIndex() >= 0) {
         lstCardTypes->Clear();
         for (std::size_t i = 0; i < 4; ++i)
-            if (ListDeck.CardTypeUsed[i] != 0) lstCardTypes->AddItem(ListDeck.CardTypeName[i].Trimmed());
+            if (TheRun.ListDeck.CardTypeUsed[i] != 0) lstCardTypes->AddItem(TheRun.ListDeck.CardTypeName[i].Trimmed());
         lstCardTypes->selectAll();
         if (lstCardTypes->count() > 0) lstCardTypes->setCurrentRow(0, QItemSelectionModel::NoUpdate);
-        chkUseReversed->setChecked(ListDeck.IncludesReversed != 0);
+        chkUseReversed->setChecked(TheRun.ListDeck.IncludesReversed != 0);
     }
     if (lstSpreads->ListIndex() >= 0) {
-        const bool asks = CurrentSpread.AskQuestion != 0;
+        const bool asks = TheRun.CurrentSpread.AskQuestion != 0;
         chkIssue->setChecked(asks);
         lblIssue->setText(IssueText(asks));
     }
@@ -165,12 +165,12 @@ void SelectSpreadScreen::chkIssue_Click() {
         txtIssue->hide();
     } else {
         // The box shows what the spread says; the user cannot change it.
-        chkIssue->setChecked(CurrentSpread.AskQuestion != 0);
+        chkIssue->setChecked(TheRun.CurrentSpread.AskQuestion != 0);
     }
 }
 
 void SelectSpreadScreen::chkUseReversed_Click() {
-    if (!SpreadAndDeckSelected() || ListDeck.IncludesReversed == 0) chkUseReversed->setChecked(false);
+    if (!SpreadAndDeckSelected() || TheRun.ListDeck.IncludesReversed == 0) chkUseReversed->setChecked(false);
 }
 
 void SelectSpreadScreen::chkAllowDuplicateCards_Click() {
@@ -191,23 +191,23 @@ void SelectSpreadScreen::cmdSelect_Click() {
     QList<int> chosenTypes;
     for (int row = 0; row < lstCardTypes->ListCount(); ++row)
         if (lstCardTypes->Selected(row)) chosenTypes << CardTypeIndex(lstCardTypes->List(row));
-    if (!EnoughCardsSelected(CurrentDeck, chosenTypes, CurrentSpread.LocationCount)) {
+    if (!EnoughCardsSelected(TheRun.CurrentDeck, chosenTypes, TheRun.CurrentSpread.LocationCount)) {
         MsgBox(tr("The card types you have selected are not enough to run this spread.\n"
                   "Please check more type(s) or change the deck."),
                vbInformation);
         return;
     }
-    UseReversed = chkUseReversed->isChecked();
-    AllowDuplicateCards = chkAllowDuplicateCards->isChecked();
-    CardTypeSelected.fill(false);
+    TheRun.UseReversed = chkUseReversed->isChecked();
+    TheRun.AllowDuplicateCards = chkAllowDuplicateCards->isChecked();
+    TheRun.CardTypeSelected.fill(false);
     for (int row = 0; row < lstCardTypes->ListCount(); ++row) {
         const int type = CardTypeIndex(lstCardTypes->List(row));
         if (type < 0) RaiseError(errSubscriptOutOfRange);
-        CardTypeSelected[static_cast<std::size_t>(type)] = lstCardTypes->Selected(row);
+        TheRun.CardTypeSelected[static_cast<std::size_t>(type)] = lstCardTypes->Selected(row);
     }
     const bool issueAsked = chkIssue->isChecked();
     const QString issue = issueAsked ? txtIssue->text().trimmed() : QString();
-    StoreEntryOptions(issueAsked, issue, UseReversed, AllowDuplicateCards);
+    StoreEntryOptions(issueAsked, issue, TheRun.UseReversed, TheRun.AllowDuplicateCards);
     LastAllowDuplicateCards = chkAllowDuplicateCards->isChecked();
 
     EntryScreen& entry = Entry();

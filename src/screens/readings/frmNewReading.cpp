@@ -105,41 +105,41 @@ void frmNewReading::Form_Load() {
 }
 
 void frmNewReading::Initialize() {
-    NewDeal(ReadingDeal, CurrentDeck.CardCount);
-    LoadSpreadLocations(CurrentSpread.SpreadId, CurrentSpread.LocationCount);
+    NewDeal(TheRun.ReadingDeal, TheRun.CurrentDeck.CardCount);
+    LoadSpreadLocations(TheRun.CurrentSpread.SpreadId, TheRun.CurrentSpread.LocationCount);
     ShowSpreadTexts();
 
-    const bool issue = CurrentSpread.AskQuestion != 0 || CurrentReading.IssueAsked != 0;
+    const bool issue = TheRun.CurrentSpread.AskQuestion != 0 || TheRun.CurrentReading.IssueAsked != 0;
     lblIssue->setVisible(issue);
     txtIssue->setVisible(issue);
     lblTheIssue->setVisible(issue);
 
-    const QString title = CurrentSpread.SpreadTitle.Trimmed();
+    const QString title = TheRun.CurrentSpread.SpreadTitle.Trimmed();
     if (!title.isEmpty()) setCaption(tr("Reading - %1").arg(title));
 
-    for (int i = 1; i <= CurrentSpread.LocationCount; ++i) {
+    for (int i = 1; i <= TheRun.CurrentSpread.LocationCount; ++i) {
         PlaceLocation(i);
         lblCardName(i)->setForeColor(QBColor(15));
-        lblCardName(i)->setBackColor(QBColor(CurrentLocationColour));
+        lblCardName(i)->setBackColor(QBColor(TheRun.CurrentLocationColour));
         lblCardName(i)->clear();
-        lblCardName(i)->setVisible(CurrentDeck.DisplayCardTitles != 0);
+        lblCardName(i)->setVisible(TheRun.CurrentDeck.DisplayCardTitles != 0);
     }
     ShowBackground();
 }
 
 void frmNewReading::cmdContinue_Click() {
-    if (CurrentDeck.DisplayCardTitles == 0) {
+    if (TheRun.CurrentDeck.DisplayCardTitles == 0) {
         // Without titles a card picture takes the room of the hidden name.
         IMGHeight = static_cast<Integer>(imgCard(1)->Height() + ControlHeight(lblCardName(1)));
     }
 
     if (IntroductionShown() && !TableShown) {
-        if (CurrentSpread.LocationCount < 1) {
+        if (TheRun.CurrentSpread.LocationCount < 1) {
             MsgBox(tr("No locations were created for this spread."), vbInformation);
             cmdContinue->setEnabled(false);
         }
-        CurrentReading.ReadingSpreadId = CurrentSpread.SpreadId;
-        CurrentReading.ReadingDeckId = CurrentDeck.DeckId;
+        TheRun.CurrentReading.ReadingSpreadId = TheRun.CurrentSpread.SpreadId;
+        TheRun.CurrentReading.ReadingDeckId = TheRun.CurrentDeck.DeckId;
         PlaceInFrameRight(*this, false);
         Table().ShowTable();
         TableShown = true;
@@ -171,7 +171,7 @@ void frmNewReading::cmdContinue_Click() {
 }
 
 void frmNewReading::UpdateCaption() {
-    const QString title = CurrentSpread.SpreadTitle.Trimmed();
+    const QString title = TheRun.CurrentSpread.SpreadTitle.Trimmed();
     if (lblTheIssue->text().trimmed().isEmpty()) setCaption(tr("Reading - %1").arg(title));
     else setCaption(tr("Reading - %1: %2").arg(title, lblTheIssue->text()));
 }
@@ -179,12 +179,12 @@ void frmNewReading::UpdateCaption() {
 void frmNewReading::txtIssue_LostFocus() {
     txtIssue->setText(txtIssue->text().trimmed());
     lblTheIssue->setText(txtIssue->text());
-    CurrentReading.Issue = txtIssue->text();
+    TheRun.CurrentReading.Issue = txtIssue->text();
 }
 
 void frmNewReading::cmdDeal_Click() {
-    const int count = CurrentSpread.LocationCount;
-    if (DealAgain(ReadingDeal, CurrentReading, CurrentDeck.CardCount, count, RunDealOptions())) {
+    const int count = TheRun.CurrentSpread.LocationCount;
+    if (DealAgain(TheRun.ReadingDeal, TheRun.CurrentReading, TheRun.CurrentDeck.CardCount, count, RunDealOptions())) {
         cmdNextCard->setEnabled(true);
         cmdAllCards->setEnabled(true);
         cmdContinue->setEnabled(true);
@@ -208,7 +208,7 @@ void frmNewReading::TableUp() {
     cmdAllCards->setEnabled(true);
     cmdNextCard->setEnabled(true);
     cmdDeal->setEnabled(false);
-    if (ShuffleAllowed(ReadingDeal)) cmdFakeShuffle->setEnabled(true);
+    if (ShuffleAllowed(TheRun.ReadingDeal)) cmdFakeShuffle->setEnabled(true);
 }
 
 void frmNewReading::TableGone() {
@@ -221,8 +221,8 @@ void frmNewReading::TableGone() {
 void frmNewReading::EnableShuffle(bool enabled) { cmdFakeShuffle->setEnabled(enabled); }
 
 void frmNewReading::ShowDealtCard(int location) {
-    const int card = ReadingDeal.DealtCard(location);
-    ShowCardInLocation(location, card, ReadingDeal.DealtUpright(location) == True16);
+    const int card = TheRun.ReadingDeal.DealtCard(location);
+    ShowCardInLocation(location, card, TheRun.ReadingDeal.DealtUpright(location) == True16);
     lblCardNumber(location)->hide();
     lblCardName(location)->setText(DeckCard(card).CardTitle.Trimmed());
 }
@@ -239,7 +239,7 @@ void frmNewReading::cmdNextCard_Click() { Table().PickRandomCard(); }
 
 void frmNewReading::cmdAllCards_Click() {
     QPointer<frmNewReading> self(this);
-    const Deal& deal = ReadingDeal;
+    const Deal& deal = TheRun.ReadingDeal;
     do {
         // An empty table is laid afresh: the loaded one anew, or a new one.
         if (deal.DeckCardsLeft == 0) {
@@ -251,7 +251,7 @@ void frmNewReading::cmdAllCards_Click() {
         // The reading may have closed while a shuffle ran between two cards.
         if (!self || ScreenSlot<frmNewReading>() != self.data()) return;
         if (deal.ThisLocationNumber == before) return;
-    } while (deal.ThisLocationNumber <= CurrentSpread.LocationCount);
+    } while (deal.ThisLocationNumber <= TheRun.CurrentSpread.LocationCount);
 }
 
 void frmNewReading::cmdFakeShuffle_Press() { Table().FakeShuffle(); }
@@ -261,7 +261,7 @@ void frmNewReading::cmdFakeShuffle_Release() {
 }
 
 void frmNewReading::cmdInterpret_Click() {
-    const int location = LocationToInterpret(ReadingDeal, CurrentSpread.LocationCount);
+    const int location = LocationToInterpret(TheRun.ReadingDeal, TheRun.CurrentSpread.LocationCount);
     if (location == 0) {
         cmdInterpret->setEnabled(false);
         return;
@@ -285,12 +285,12 @@ void frmNewReading::ShowInterpretation() {
 
 void frmNewReading::cmdNotes_Click() { Get<frmReadingNotes>().Show(); }
 
-void frmNewReading::cmdPrint_Click() { PrintEntry(ReadingPrintout(ReadingDeal, CurrentReading)); }
+void frmNewReading::cmdPrint_Click() { PrintEntry(ReadingPrintout(TheRun.ReadingDeal, TheRun.CurrentReading)); }
 
 void frmNewReading::cmdQuickHelp_Click() { Get<frmQuickHelp>().Show(); }
 
 void frmNewReading::cmdSave_Click() {
-    GatherReading(ReadingDeal, CurrentReading, CurrentDeck, CurrentSpread, lblTheIssue->text());
+    GatherReading(TheRun.ReadingDeal, TheRun.CurrentReading, TheRun.CurrentDeck, TheRun.CurrentSpread, lblTheIssue->text());
     Get<frmSaveReading>().Show(true);
 }
 
@@ -335,7 +335,7 @@ bool frmNewReading::OpenSavedReading() {
     } catch (const RuntimeError& error) {
         // A saved reading that points past its deck cannot be shown: the
         // error is reported and the reading closes, nothing written.
-        ReadingDeal.LoadingReading = false;
+        TheRun.ReadingDeal.LoadingReading = false;
         ReportError(error);
         CloseReading();
         return false;
@@ -344,17 +344,17 @@ bool frmNewReading::OpenSavedReading() {
 
 void frmNewReading::FillFields() {
     Initialize();
-    RestoreDeal(ReadingDeal, CurrentReading, CurrentDeck, CurrentSpread.LocationCount, RunDealOptions());
-    const int dealt = CurrentReading.DealtCount;
+    RestoreDeal(TheRun.ReadingDeal, TheRun.CurrentReading, TheRun.CurrentDeck, TheRun.CurrentSpread.LocationCount, RunDealOptions());
+    const int dealt = TheRun.CurrentReading.DealtCount;
     QueryLocation = static_cast<Integer>(dealt + 1);
 
     PlaceInFrameRight(*this, false);
     Show();
-    txtIssue->setText(CurrentReading.Issue.Trimmed());
+    txtIssue->setText(TheRun.CurrentReading.Issue.Trimmed());
     // The first passage to the spread page shows the table the deal holds.
     cmdContinue_Click();
 
-    const bool open = dealt < CurrentSpread.LocationCount;
+    const bool open = dealt < TheRun.CurrentSpread.LocationCount;
     cmdNextCard->setEnabled(open);
     cmdAllCards->setEnabled(open);
     cmdDeal->setEnabled(!open);
@@ -364,5 +364,5 @@ void frmNewReading::FillFields() {
 
     ReadingChanged = false;
     Show();
-    ReadingDeal.LoadingReading = false;
+    TheRun.ReadingDeal.LoadingReading = false;
 }

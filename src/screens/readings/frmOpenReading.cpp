@@ -13,15 +13,15 @@ frmOpenReading::frmOpenReading()
 OpeningChecks frmOpenReading::Judge(const QString& name) { return Keep(JudgeReadingOpening(name), reading_); }
 
 void frmOpenReading::AdoptEntry() {
-    CurrentReading = reading_;
-    CurrentSpread = spread_;
-    ListDeck = deck_;
+    TheRun.CurrentReading = reading_;
+    TheRun.CurrentSpread = spread_;
+    TheRun.ListDeck = deck_;
 }
 
 void frmOpenReading::ShowEntry() {
-    UseReversed = CurrentReading.UseReversed != 0;
-    AllowDuplicateCards = CurrentReading.AllowDuplicateCards != 0;
-    for (std::size_t t = 0; t < 4; ++t) CardTypeSelected[t] = CurrentReading.CardTypeSelected[t] != 0;
+    TheRun.UseReversed = TheRun.CurrentReading.UseReversed != 0;
+    TheRun.AllowDuplicateCards = TheRun.CurrentReading.AllowDuplicateCards != 0;
+    for (std::size_t t = 0; t < 4; ++t) TheRun.CardTypeSelected[t] = TheRun.CurrentReading.CardTypeSelected[t] != 0;
     Unload();
     frmNewReading& reading = Get<frmNewReading>();
     if (reading.OpenSavedReading()) reading.ReadingChanged = false;

@@ -84,9 +84,9 @@ void frmReadingCards::Form_Load() {
 
     if (reading) reading->TableUp();
 
-    CardBackColor = QBColor(CurrentLocationColour);
+    CardBackColor = QBColor(TheRun.CurrentLocationColour);
     // A saved reading being restored brings its table with it.
-    if (!ReadingDeal.LoadingReading) LayTable(ReadingDeal, CurrentDeck, RunDealOptions(), CurrentReading);
+    if (!TheRun.ReadingDeal.LoadingReading) LayTable(TheRun.ReadingDeal, TheRun.CurrentDeck, RunDealOptions(), TheRun.CurrentReading);
     ShowFaceDown();
     if (reading) reading->TakeFocus();
 }
@@ -94,22 +94,22 @@ void frmReadingCards::Form_Load() {
 void frmReadingCards::ShowFaceDown() {
     for (int i = 1; i <= TableSize; ++i) {
         picCard(i)->setBackColor(CardBackColor);
-        picCard(i)->setVisible(ReadingDeal.FaceDown(i) != 0);
+        picCard(i)->setVisible(TheRun.ReadingDeal.FaceDown(i) != 0);
     }
 }
 
 void frmReadingCards::picCard_Click(int Index) {
     QPointer<frmReadingCards> self(this);
-    Deal& deal = ReadingDeal;
-    const int location = DealFromPosition(deal, Index, AllowDuplicateCards);
+    Deal& deal = TheRun.ReadingDeal;
+    const int location = DealFromPosition(deal, Index, TheRun.AllowDuplicateCards);
     picCard(Index)->setVisible(deal.FaceDown(Index) != 0);
     if (TableWatcher* reading = ReadingScreen()) reading->CardDealt(location);
 
-    const int locationCount = CurrentSpread.LocationCount;
-    if (ReshufflesAfterDraw(deal, locationCount, AllowDuplicateCards)) {
+    const int locationCount = TheRun.CurrentSpread.LocationCount;
+    if (ReshufflesAfterDraw(deal, locationCount, TheRun.AllowDuplicateCards)) {
         // The card stays in the pool: the whole table is shuffled anew, and
         // the cards move until the user stops them or draws from them.
-        ShuffleDeal(deal, CurrentDeck, RunDealOptions(), CurrentReading);
+        ShuffleDeal(deal, TheRun.CurrentDeck, RunDealOptions(), TheRun.CurrentReading);
         FakeShuffle();
         if (Gone(self)) return;
     }
@@ -127,13 +127,13 @@ void frmReadingCards::picCard_Click(int Index) {
 }
 
 void frmReadingCards::PickRandomCard() {
-    const int i = PickRandomPosition(ReadingDeal);
+    const int i = PickRandomPosition(TheRun.ReadingDeal);
     if (i > 0) picCard_Click(i);
 }
 
 void frmReadingCards::FakeShuffle() {
     QPointer<frmReadingCards> self(this);
-    const Deal& deal = ReadingDeal;
+    const Deal& deal = TheRun.ReadingDeal;
     StopShuffleFlag = false;
 
     // The homes of this run are where the cards stand now: a run started on
@@ -182,7 +182,7 @@ void frmReadingCards::FakeShuffle() {
 void frmReadingCards::StopShuffle() { StopShuffleFlag = true; }
 
 void frmReadingCards::EliminateDeckCard(Integer card) {
-    const bool empty = EliminateCard(ReadingDeal, card);
+    const bool empty = EliminateCard(TheRun.ReadingDeal, card);
     ShowFaceDown();
     if (empty) Form_Load();
 }
@@ -193,7 +193,7 @@ void frmReadingCards::MoveForm() {
 
 void frmReadingCards::Form_Unload(bool& cancel) {
     (void)cancel;
-    TableRemoved(ReadingDeal);
+    TableRemoved(TheRun.ReadingDeal);
     TableWatcher* reading = ReadingScreen();
     if (!reading) return;
     reading->TableGone();

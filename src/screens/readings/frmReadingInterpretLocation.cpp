@@ -10,11 +10,11 @@ frmReadingInterpretLocation::frmReadingInterpretLocation() : InterpretLocationSc
 
 int frmReadingInterpretLocation::Location() const { return Get<frmNewReading>().QueryLocation; }
 
-bool frmReadingInterpretLocation::CardLiesThere() const { return CardLiesAt(ReadingDeal, Location()); }
+bool frmReadingInterpretLocation::CardLiesThere() const { return CardLiesAt(TheRun.ReadingDeal, Location()); }
 
-int frmReadingInterpretLocation::CardNumber() const { return ReadingDeal.DealtCard(Location()); }
+int frmReadingInterpretLocation::CardNumber() const { return TheRun.ReadingDeal.DealtCard(Location()); }
 
-bool frmReadingInterpretLocation::CardUpright() const { return ReadingDeal.DealtUpright(Location()) != 0; }
+bool frmReadingInterpretLocation::CardUpright() const { return TheRun.ReadingDeal.DealtUpright(Location()) != 0; }
 
 void frmReadingInterpretLocation::MarkLocation(int location, bool marked) {
     if (frmNewReading* reading = ScreenSlot<frmNewReading>()) reading->MarkLocation(location, marked);

@@ -7,9 +7,9 @@ frmReadingNotes::frmReadingNotes() : EntryNotesScreen(tr("Reading Summary and No
     setObjectName(QStringLiteral("frmReadingNotes"));
 }
 
-QString frmReadingNotes::Notes() const { return CurrentReading.ReadingNotes.Trimmed(); }
+QString frmReadingNotes::Notes() const { return TheRun.CurrentReading.ReadingNotes.Trimmed(); }
 
-void frmReadingNotes::SetNotes(const QString& notes) { CurrentReading.ReadingNotes = notes; }
+void frmReadingNotes::SetNotes(const QString& notes) { TheRun.CurrentReading.ReadingNotes = notes; }
 
 void frmReadingNotes::MarkEntryChanged() {
     if (frmNewReading* reading = ScreenSlot<frmNewReading>()) reading->ReadingChanged = true;

@@ -10,11 +10,11 @@ frmSaveReading::frmSaveReading()
 }
 
 QString frmSaveReading::ProposedName() const {
-    return FirstNonBlank({CurrentReading.ReadingName.Trimmed(), CurrentReading.Issue.Trimmed(), CurrentSpread.SpreadName.Trimmed()});
+    return FirstNonBlank({TheRun.CurrentReading.ReadingName.Trimmed(), TheRun.CurrentReading.Issue.Trimmed(), TheRun.CurrentSpread.SpreadName.Trimmed()});
 }
 
 void frmSaveReading::SaveAs(const QString& name, int replacing) {
-    CurrentReading = SaveEntry(CurrentReading, name, replacing, CardTypeSelected).Saved;
+    TheRun.CurrentReading = SaveEntry(TheRun.CurrentReading, name, replacing, TheRun.CardTypeSelected).Saved;
 }
 
 void frmSaveReading::MarkEntrySaved() {

@@ -10,10 +10,10 @@ frmSelectSpread::frmSelectSpread() : SelectSpreadScreen(tr("Select a Spread for 
 
 void frmSelectSpread::StoreEntryOptions(bool issueAsked, const QString& issue, bool useReversed,
                                         bool allowDuplicates) {
-    CurrentReading.Issue = issue;
-    CurrentReading.IssueAsked = Flag(issueAsked);
-    CurrentReading.UseReversed = Flag(useReversed);
-    CurrentReading.AllowDuplicateCards = Flag(allowDuplicates);
+    TheRun.CurrentReading.Issue = issue;
+    TheRun.CurrentReading.IssueAsked = Flag(issueAsked);
+    TheRun.CurrentReading.UseReversed = Flag(useReversed);
+    TheRun.CurrentReading.AllowDuplicateCards = Flag(allowDuplicates);
 }
 
 EntryScreen& frmSelectSpread::Entry() { return Get<frmNewReading>(); }

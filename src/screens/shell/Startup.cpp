@@ -47,15 +47,15 @@ bool RunStartup(const QString& programDir, bool offerInstall) {
         EndProcess(1);
         return false;
     }
-    CurrentLocationColour = 4;
-    OtherLocationColour = 14;
-    SpreadLocations.Redim(1, 1);
-    DesignExistsChoice = 0;
+    TheRun.CurrentLocationColour = 4;
+    TheRun.OtherLocationColour = 14;
+    TheRun.SpreadLocations.Redim(1, 1);
+    TheRun.DesignExistsChoice = 0;
     InitDatabase();
     ClearTemp();
 
-    if (!FileExists(LocationsPath)) {
-        if (FileExists(DecksPath + QStringLiteral(".bkp"))) {
+    if (!FileExists(TheRun.Paths.LocationsPath)) {
+        if (FileExists(TheRun.Paths.DecksPath + QStringLiteral(".bkp"))) {
             // A conversion was begun here before; doing it again would
             // overwrite the only copies of the old data.
             MsgBox(QCoreApplication::translate("Startup", "Unable to convert to new database format as existing backups exist.  "

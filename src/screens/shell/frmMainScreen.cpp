@@ -92,7 +92,7 @@ QLabel* MakeCaption(QWidget* parent, const QString& text, const QRect& where, in
 
 // The program directory as the user knows it: without the closing '/'.
 QString ProgramDirectoryShown() {
-    QString dir = AppPath;
+    QString dir = TheRun.Paths.AppPath;
     if (dir.size() > 1 && dir.endsWith(QLatin1Char('/'))) dir.chop(1);
     return dir;
 }
@@ -227,29 +227,29 @@ void frmMainScreen::OpenFirstLevelScreen(int Index) {
 void frmMainScreen::OpenSubsystem(int Index) {
     switch (Index) {
     case 1:   // a new reading: frmNewReading, with frmSelectSpread over it
-        ResetSpread(CurrentSpread);
-        ResetReading(CurrentReading);
+        ResetSpread(TheRun.CurrentSpread);
+        ResetReading(TheRun.CurrentReading);
         Hide();
         Get<frmNewReading>().Show();
         Get<frmSelectSpread>().Show(true);
         break;
     case 2:   // a saved reading: frmNewReading, with frmOpenReading over it
-        ResetSpread(CurrentSpread);
-        ResetReading(CurrentReading);
+        ResetSpread(TheRun.CurrentSpread);
+        ResetReading(TheRun.CurrentReading);
         Hide();
         Get<frmNewReading>().Show();
         Get<frmOpenReading>().Show(true);
         break;
     case 3:   // a new diary entry: frmNewDiary, with frmSelectSpreadforDiary over it
-        ResetSpread(CurrentSpread);
-        ResetDiary(CurrentDiary);
+        ResetSpread(TheRun.CurrentSpread);
+        ResetDiary(TheRun.CurrentDiary);
         Hide();
         Get<frmNewDiary>().Show();
         Get<frmSelectSpreadforDiary>().Show(true);
         break;
     case 4:   // a saved diary entry: frmNewDiary, with frmOpenDiary over it
-        ResetSpread(CurrentSpread);
-        ResetDiary(CurrentDiary);
+        ResetSpread(TheRun.CurrentSpread);
+        ResetDiary(TheRun.CurrentDiary);
         Hide();
         Get<frmNewDiary>().Show();
         Get<frmOpenDiary>().Show(true);
@@ -281,7 +281,7 @@ void frmMainScreen::OpenJournal() {
 }
 
 void frmMainScreen::LaunchHelp() {
-    const QString helpFile = AppPath + QStringLiteral("Cartomar.hlp");
+    const QString helpFile = TheRun.Paths.AppPath + QStringLiteral("Cartomar.hlp");
     if (FileExists(helpFile)) {
         ShowHelpFile(helpFile);
         return;

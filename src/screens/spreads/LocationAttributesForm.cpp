@@ -68,8 +68,8 @@ TextBox* LocationAttributesForm::txtQuestion(int Index) const {
 
 void LocationAttributesForm::Form_Load() {
     CentreLowInFrame(*this);
-    setCaption(tr("Location Attriubtes - Location number %1").arg(SelectedLocation));
-    LocationRecord& location = SpreadLocations(SelectedLocation);
+    setCaption(tr("Location Attriubtes - Location number %1").arg(TheRun.SelectedLocation));
+    LocationRecord& location = TheRun.SpreadLocations(TheRun.SelectedLocation);
     TakeField(location.LocationTitle, txtTitle, SetLine);
     TakeField(location.LocationDescription, txtDescription, SetMultiLine);
     for (int i = 1; i <= 3; ++i)

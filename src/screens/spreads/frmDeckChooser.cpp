@@ -72,11 +72,11 @@ frmDeckChooser::frmDeckChooser() {
 
 void frmDeckChooser::Form_Load() {
     CentreInFrame(*this);
-    setCaption(tr("Choose decks to work with spread: %1").arg(CurrentSpread.SpreadName.Trimmed()));
-    RememberedSpreadName = CurrentSpread.SpreadName.Value();
-    decks_.Decks = ChooserManageMode ? nullptr : TheRun.DecksOnOffer;
+    setCaption(tr("Choose decks to work with spread: %1").arg(TheRun.CurrentSpread.SpreadName.Trimmed()));
+    RememberedSpreadName = TheRun.CurrentSpread.SpreadName.Value();
+    decks_.Decks = TheRun.ChooserManageMode ? nullptr : TheRun.DecksOnOffer;
     decks_.ShowDeckLists();
-    if (ChooserManageMode) {
+    if (TheRun.ChooserManageMode) {
         cmdLink->show();
         cmdClose->setText(tr("&Close"));
         chkInstallAll->hide();
@@ -84,18 +84,18 @@ void frmDeckChooser::Form_Load() {
     } else {
         cmdLink->hide();
         chkInstallAll->show();
-        chkInstallAll->setChecked(InstallAllSpreads);
+        chkInstallAll->setChecked(TheRun.InstallAllSpreads);
         cmdClose->setText(tr("&Continue"));
         // What the package said about decks does not count here.
-        CurrentSpread.AllowedDeckCount = 0;
-        CurrentSpread.AllowedDeckId.fill(0);
+        TheRun.CurrentSpread.AllowedDeckCount = 0;
+        TheRun.CurrentSpread.AllowedDeckId.fill(0);
     }
     ChooserDirty = false;
 }
 
 void frmDeckChooser::AddDeckNames() {
-    if (CurrentSpread.AllowedDeckCount < 0) chkAnyDeck->setChecked(true);
-    decks_.AddDeckNames(CurrentSpread);
+    if (TheRun.CurrentSpread.AllowedDeckCount < 0) chkAnyDeck->setChecked(true);
+    decks_.AddDeckNames(TheRun.CurrentSpread);
 }
 
 void frmDeckChooser::UpdateDeckButtons() { decks_.UpdateDeckButtons(); }
@@ -104,20 +104,20 @@ void frmDeckChooser::cmdDeleteDeck_Click() { decks_.cmdDeleteDeck_Click(); }
 
 void frmDeckChooser::chkAnyDeck_Click() {
     ChooserDirty = true;
-    if (chkAnyDeck->isChecked()) CurrentSpread.AllowedDeckCount = -1;
+    if (chkAnyDeck->isChecked()) TheRun.CurrentSpread.AllowedDeckCount = -1;
     decks_.EnableForAnyDeck();
     UpdateDeckButtons();
 }
 
-void frmDeckChooser::chkInstallAll_Click() { InstallAllSpreads = chkInstallAll->isChecked(); }
+void frmDeckChooser::chkInstallAll_Click() { TheRun.InstallAllSpreads = chkInstallAll->isChecked(); }
 
 void frmDeckChooser::cmdLink_Click() {
-    decks_.WriteChoice(CurrentSpread);
-    if (!ChooserManageMode) {
+    decks_.WriteChoice(TheRun.CurrentSpread);
+    if (!TheRun.ChooserManageMode) {
         ChooserDirty = false;
         return;
     }
-    const QString problem = SaveSpreadDecks(CurrentSpread);
+    const QString problem = SaveSpreadDecks(TheRun.CurrentSpread);
     if (!problem.isEmpty()) {
         MsgBox(problem);
         return;
@@ -128,7 +128,7 @@ void frmDeckChooser::cmdLink_Click() {
 void frmDeckChooser::cmdClose_Click() { UnloadThisForm(); }
 
 void frmDeckChooser::UnloadThisForm() {
-    if (!ChooserManageMode) cmdLink_Click();
+    if (!TheRun.ChooserManageMode) cmdLink_Click();
     if (ChooserDirty) {
         const int answer = MsgBox(tr("Save changes to the spread?"), vbYesNoCancel | vbQuestion);
         if (answer == vbCancel) return;
@@ -137,7 +137,7 @@ void frmDeckChooser::UnloadThisForm() {
     if (!chkAnyDeck->isChecked() && lstDecks->ListCount() == 0 &&
         MsgBox(tr("No decks have been selected.  Are you sure you want to continue?"), vbYesNo) == vbNo)
         return;
-    if (ChooserManageMode) {
+    if (TheRun.ChooserManageMode) {
         SetScreenPointer(MousePointer::Hourglass);
         Get<frmSpreads>().Show();
         SetScreenPointer(MousePointer::Default);
@@ -148,7 +148,7 @@ void frmDeckChooser::UnloadThisForm() {
 void frmDeckChooser::Form_Unload(bool&) {
     // Back on the list, the spread worked on is selected again, which reads
     // it afresh from disk.
-    if (ChooserManageMode && IsLoaded<frmSpreads>()) Get<frmSpreads>().SelectSpread(RememberedSpreadName);
+    if (TheRun.ChooserManageMode && IsLoaded<frmSpreads>()) Get<frmSpreads>().SelectSpread(RememberedSpreadName);
 }
 
 void frmDeckChooser::Form_KeyUp(int key, Qt::KeyboardModifiers, bool& handled) {

@@ -150,23 +150,23 @@ frmDesignSpread::frmDesignSpread() {
     connect(txtSpreadTitle(), &TextBox::Change, this, Handler([this] { txtSpreadTitle_Change(); }));
     connect(txtSpreadDescription(), &MultiLineTextBox::Change, this, Handler([this] {
                 SpreadDirty = true;
-                CurrentSpread.SpreadDescription = txtSpreadDescription()->Text();
+                TheRun.CurrentSpread.SpreadDescription = txtSpreadDescription()->Text();
             }));
     connect(txtSpreadDesigner(), &TextBox::Change, this, Handler([this] {
                 SpreadDirty = true;
-                CurrentSpread.SpreadDesigner.DesignerName = txtSpreadDesigner()->Text();
+                TheRun.CurrentSpread.SpreadDesigner.DesignerName = txtSpreadDesigner()->Text();
             }));
     connect(txtDesignerEmail(), &TextBox::Change, this, Handler([this] {
                 SpreadDirty = true;
-                CurrentSpread.SpreadDesigner.DesignerEmail = txtDesignerEmail()->Text();
+                TheRun.CurrentSpread.SpreadDesigner.DesignerEmail = txtDesignerEmail()->Text();
             }));
     connect(txtDesignerWebPage(), &TextBox::Change, this, Handler([this] {
                 SpreadDirty = true;
-                CurrentSpread.SpreadDesigner.DesignerWebPage = txtDesignerWebPage()->Text();
+                TheRun.CurrentSpread.SpreadDesigner.DesignerWebPage = txtDesignerWebPage()->Text();
             }));
     connect(chkQuestion(), &QCheckBox::toggled, this, Handler([this] {
                 SpreadDirty = true;
-                CurrentSpread.AskQuestion = Flag(chkQuestion()->isChecked());
+                TheRun.CurrentSpread.AskQuestion = Flag(chkQuestion()->isChecked());
             }));
 
     // The canvas. The number and title labels pass the mouse to their
@@ -197,9 +197,9 @@ frmDesignSpread::frmDesignSpread() {
 void frmDesignSpread::ShowLocationTitle(int location, const QString& title) { lblCardTitle(location)->setText(title); }
 
 void frmDesignSpread::SpreadSaved() {
-    lblModifiedOnDate()->setText(FormatLongDate(CurrentSpread.ModifiedOn));
+    lblModifiedOnDate()->setText(FormatLongDate(TheRun.CurrentSpread.ModifiedOn));
     SpreadDirty = false;
-    RememberedSpreadName = CurrentSpread.SpreadName.Value();
+    RememberedSpreadName = TheRun.CurrentSpread.SpreadName.Value();
 }
 
 TextBox* frmDesignSpread::txtSpreadTitle() const { return picDesignInfo->txtSpreadTitle; }
@@ -226,11 +226,11 @@ void frmDesignSpread::Form_Load() {
     GridStepY = GridStep(picDesignLocations->Width(), 39);
     GridStepX = GridStep(picDesignLocations->Height(), 29);
     picDesignLocations->imgBackground->Move(0, 0, picDesignLocations->Width(), picDesignLocations->Height());
-    MkDirIgnoringErrors(TempDir);
+    MkDirIgnoringErrors(TheRun.Paths.TempDir);
     ClearTemp();
     RememberedSpreadName = IsLoaded<frmSpreads>() ? Get<frmSpreads>().ChosenSpreadName() : QString();
     CentreInFrame(*this);
-    if (DesignMode == 1) CurrentSpread.SpreadId = NextSpreadId();
+    if (TheRun.DesignMode == 1) TheRun.CurrentSpread.SpreadId = NextSpreadId();
     SnapOn = false;
     ShowPage(SpreadPages::ShowDetails);
     FillFields();
@@ -240,26 +240,26 @@ void frmDesignSpread::Form_Load() {
 }
 
 void frmDesignSpread::FillFields() {
-    const QString name = CurrentSpread.SpreadName.Trimmed();
+    const QString name = TheRun.CurrentSpread.SpreadName.Trimmed();
     setCaption(name.isEmpty() ? tr("Spread Design") : tr("Spread Design - %1").arg(name));
-    picDesignInfo->Fill(CurrentSpread);
-    if (CurrentSpread.AllowedDeckCount < 0) chkAnyDeck->setChecked(true);
+    picDesignInfo->Fill(TheRun.CurrentSpread);
+    if (TheRun.CurrentSpread.AllowedDeckCount < 0) chkAnyDeck->setChecked(true);
     UpdateDeckButtons();
     ShowDeckLists();
     AddDeckNames();
 
-    picDesignLocations->ShowLocations(SpreadLocations, CurrentSpread.LocationCount);
-    SelectedLocation = CurrentSpread.LocationCount;
+    picDesignLocations->ShowLocations(TheRun.SpreadLocations, TheRun.CurrentSpread.LocationCount);
+    TheRun.SelectedLocation = TheRun.CurrentSpread.LocationCount;
 
-    picDesignLocations->imgBackground->setStretch(CurrentSpread.StretchBackground != 0);
+    picDesignLocations->imgBackground->setStretch(TheRun.CurrentSpread.StretchBackground != 0);
     // The designer works on a copy in Temp/; a picture that has gone from
     // Cards/ leaves the spread without one, silently. The spread still opens
     // unchanged: nothing the user did needs saving, and the blank name
     // reaches the disk with the next save.
-    const WorkingBackground working = OpenWorkingBackground(CurrentSpread);
-    CurrentSpread = working.Spread;
+    const WorkingBackground working = OpenWorkingBackground(TheRun.CurrentSpread);
+    TheRun.CurrentSpread = working.Spread;
     if (working.Path.isEmpty()) ClearBackground();
-    else ShowBackground(working.Path, CurrentSpread.StretchBackground != 0);
+    else ShowBackground(working.Path, TheRun.CurrentSpread.StretchBackground != 0);
 }
 
 void frmDesignSpread::ShowBackground(const QString& path, bool stretch) {
@@ -292,9 +292,9 @@ void frmDesignSpread::cmdDecks_Click() { ShowPage(SpreadPages::ShowDecks); }
 // ---- Details -------------------------------------------------------------------------------
 
 void frmDesignSpread::txtSpreadTitle_Change() {
-    const auto before = CurrentSpread.SpreadTitle;
-    CurrentSpread.SpreadTitle = txtSpreadTitle()->Text();
-    if (!(CurrentSpread.SpreadTitle == before)) SpreadDirty = true;
+    const auto before = TheRun.CurrentSpread.SpreadTitle;
+    TheRun.CurrentSpread.SpreadTitle = txtSpreadTitle()->Text();
+    if (!(TheRun.CurrentSpread.SpreadTitle == before)) SpreadDirty = true;
 }
 
 // ---- Locations -----------------------------------------------------------------------------
@@ -307,20 +307,20 @@ void frmDesignSpread::SetFocusTo(QWidget* control, int Index) {
 }
 
 void frmDesignSpread::cmdAddCard_Click() {
-    if (CurrentSpread.LocationCount >= MaxLocations) {
+    if (TheRun.CurrentSpread.LocationCount >= MaxLocations) {
         MsgBox(tr("The number of locations in a spread cannot exceed %1.").arg(MaxLocations), vbCritical);
         return;
     }
     // The array is made anew one larger: the new entry is every byte zero,
     // text fields included, as a fresh allocation leaves it.
-    const int count = CurrentSpread.LocationCount;
+    const int count = TheRun.CurrentSpread.LocationCount;
     BoundedArray<LocationRecord> kept(1, count);
-    for (int i = 1; i <= count; ++i) kept(i) = SpreadLocations(i);
+    for (int i = 1; i <= count; ++i) kept(i) = TheRun.SpreadLocations(i);
     const int n = count + 1;
-    CurrentSpread.LocationCount = static_cast<Integer>(n);
-    SpreadLocations.Redim(1, n);
-    for (LocationRecord& location : SpreadLocations) location = ZeroRecord<LocationRecord>();
-    for (int i = 1; i <= count; ++i) SpreadLocations(i) = kept(i);
+    TheRun.CurrentSpread.LocationCount = static_cast<Integer>(n);
+    TheRun.SpreadLocations.Redim(1, n);
+    for (LocationRecord& location : TheRun.SpreadLocations) location = ZeroRecord<LocationRecord>();
+    for (int i = 1; i <= count; ++i) TheRun.SpreadLocations(i) = kept(i);
 
     SpreadCanvas* canvas = picDesignLocations;
     canvas->picLocation(n)->Move(
@@ -333,35 +333,35 @@ void frmDesignSpread::cmdAddCard_Click() {
 }
 
 void frmDesignSpread::cmdRemoveCard_Click() {
-    const int count = CurrentSpread.LocationCount;
+    const int count = TheRun.CurrentSpread.LocationCount;
     if (count < 1) {
         MsgBox(tr("There are no locations to be removed."), vbExclamation);
         return;
     }
-    if (MsgBox(tr("Are you sure you want to completely remove location number %1 ?").arg(SelectedLocation),
+    if (MsgBox(tr("Are you sure you want to completely remove location number %1 ?").arg(TheRun.SelectedLocation),
                vbYesNo | vbQuestion) == vbNo)
         return;
     // Every higher location goes down one number, keeping its place and its
     // attributes; the numbers on the rectangles stay with their index.
-    for (int i = SelectedLocation; i <= count - 1; ++i) {
+    for (int i = TheRun.SelectedLocation; i <= count - 1; ++i) {
         picLocation(i)->Move(picLocation(i + 1)->Left(), picLocation(i + 1)->Top());
         lblCardTitle(i)->setText(lblCardTitle(i + 1)->text());
-        SpreadLocations(i) = SpreadLocations(i + 1);
+        TheRun.SpreadLocations(i) = TheRun.SpreadLocations(i + 1);
     }
     picDesignLocations->SetLocationActive(count, false);
-    ResetLocation(SpreadLocations(count));
-    picLocation(count)->Move(SpreadLocations(count).LocationLeft, SpreadLocations(count).LocationTop);
+    ResetLocation(TheRun.SpreadLocations(count));
+    picLocation(count)->Move(TheRun.SpreadLocations(count).LocationLeft, TheRun.SpreadLocations(count).LocationTop);
     lblCardTitle(count)->clear();
 
-    CurrentSpread.LocationCount = static_cast<Integer>(count - 1);
-    if (CurrentSpread.LocationCount > 0) SetFocusTo(picLocation(CurrentSpread.LocationCount), CurrentSpread.LocationCount);
+    TheRun.CurrentSpread.LocationCount = static_cast<Integer>(count - 1);
+    if (TheRun.CurrentSpread.LocationCount > 0) SetFocusTo(picLocation(TheRun.CurrentSpread.LocationCount), TheRun.CurrentSpread.LocationCount);
     SpreadDirty = true;
 }
 
 void frmDesignSpread::picLocation_GotFocus(int Index) {
-    if (SelectedLocation != 0) picLocation(SelectedLocation)->setBackColor(LocationGrey());
+    if (TheRun.SelectedLocation != 0) picLocation(TheRun.SelectedLocation)->setBackColor(LocationGrey());
     picLocation(Index)->setBackColor(LocationNavy());
-    SelectedLocation = Index;
+    TheRun.SelectedLocation = Index;
 }
 
 void frmDesignSpread::picLocation_MouseDown(int, int, int, double X, double Y) {
@@ -438,20 +438,20 @@ void frmDesignSpread::cmdSnap_Click() {
     }
     SnapOn = true;
     cmdSnap->setText(tr("Don't S&nap"));
-    for (int i = 1; i <= CurrentSpread.LocationCount; ++i) SnapLocation(i);
+    for (int i = 1; i <= TheRun.CurrentSpread.LocationCount; ++i) SnapLocation(i);
 }
 
 // ---- Decks -----------------------------------------------------------------------------------
 
 void frmDesignSpread::ShowDeckLists() { decks_.ShowDeckLists(); }
-void frmDesignSpread::AddDeckNames() { decks_.AddDeckNames(CurrentSpread); }
+void frmDesignSpread::AddDeckNames() { decks_.AddDeckNames(TheRun.CurrentSpread); }
 void frmDesignSpread::UpdateDeckButtons() { decks_.UpdateDeckButtons(); }
 void frmDesignSpread::cmdAddDeck_Click() { decks_.cmdAddDeck_Click(); }
 void frmDesignSpread::cmdDeleteDeck_Click() { decks_.cmdDeleteDeck_Click(); }
 
 void frmDesignSpread::chkAnyDeck_Click() {
     SpreadDirty = true;
-    if (chkAnyDeck->isChecked()) CurrentSpread.AllowedDeckCount = -1;
+    if (chkAnyDeck->isChecked()) TheRun.CurrentSpread.AllowedDeckCount = -1;
     decks_.EnableForAnyDeck();
     UpdateDeckButtons();
 }
@@ -494,11 +494,11 @@ void frmDesignSpread::cmdComments_Click() { Get<frmSpreadComments>().Show(); }
 void frmDesignSpread::cmdPicture_Click() { Get<frmGetSpreadBackground>().Show(true); }
 
 void frmDesignSpread::cmdSave_Click() {
-    for (int i = 1; i <= CurrentSpread.LocationCount; ++i) {
-        SpreadLocations(i).LocationTop = picLocation(i)->Top();
-        SpreadLocations(i).LocationLeft = picLocation(i)->Left();
+    for (int i = 1; i <= TheRun.CurrentSpread.LocationCount; ++i) {
+        TheRun.SpreadLocations(i).LocationTop = picLocation(i)->Top();
+        TheRun.SpreadLocations(i).LocationLeft = picLocation(i)->Left();
     }
-    decks_.WriteChoice(CurrentSpread);
+    decks_.WriteChoice(TheRun.CurrentSpread);
     Get<frmSaveSpread>().Show(true);
 }
 

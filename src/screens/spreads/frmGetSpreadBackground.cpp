@@ -65,19 +65,19 @@ void frmGetSpreadBackground::cmdBrowse_Click() {
 
 void frmGetSpreadBackground::cmdOK_Click() {
     const QString typed = txtFilename->Text();
-    const QString question = WorkingBackgroundQuestion(CurrentSpread, typed);
+    const QString question = WorkingBackgroundQuestion(TheRun.CurrentSpread, typed);
     if (!question.isEmpty() && MsgBox(question, vbYesNo | vbQuestion) == vbNo) return;
-    const WorkingBackground chosen = ChooseWorkingBackground(CurrentSpread, typed, chkStretchPicture->isChecked());
+    const WorkingBackground chosen = ChooseWorkingBackground(TheRun.CurrentSpread, typed, chkStretchPicture->isChecked());
     if (!chosen.Problem.isEmpty()) {
         MsgBox(chosen.Problem, vbCritical);
         return;
     }
     if (!chosen.Picture.isNull()) Image1->setPicture(chosen.Picture);
-    CurrentSpread = chosen.Spread;
+    TheRun.CurrentSpread = chosen.Spread;
     if (IsLoaded<frmDesignSpread>()) {
         frmDesignSpread& designer = Get<frmDesignSpread>();
         if (chosen.Path.isEmpty()) designer.ClearBackground();
-        else designer.ShowBackground(chosen.Path, CurrentSpread.StretchBackground != 0);
+        else designer.ShowBackground(chosen.Path, TheRun.CurrentSpread.StretchBackground != 0);
         designer.SpreadDirty = true;
     }
     Unload();

@@ -22,21 +22,21 @@ frmLocationAttributes::frmLocationAttributes() : LocationAttributesForm(false, 6
 
 void frmLocationAttributes::txtTitle_Change() {
     MarkDesignChanged();
-    SpreadLocations(SelectedLocation).LocationTitle = txtTitle->Text();
-    if (IsLoaded<frmDesignSpread>()) Get<frmDesignSpread>().ShowLocationTitle(SelectedLocation, txtTitle->Text());
+    TheRun.SpreadLocations(TheRun.SelectedLocation).LocationTitle = txtTitle->Text();
+    if (IsLoaded<frmDesignSpread>()) Get<frmDesignSpread>().ShowLocationTitle(TheRun.SelectedLocation, txtTitle->Text());
 }
 
 void frmLocationAttributes::txtDescription_Change() {
     MarkDesignChanged();
-    SpreadLocations(SelectedLocation).LocationDescription = txtDescription->Text();
+    TheRun.SpreadLocations(TheRun.SelectedLocation).LocationDescription = txtDescription->Text();
 }
 
 void frmLocationAttributes::txtQuestion_Change(int Index) {
     MarkDesignChanged();
-    SpreadLocations(SelectedLocation).LocationQuestion[static_cast<std::size_t>(Index - 1)] =
+    TheRun.SpreadLocations(TheRun.SelectedLocation).LocationQuestion[static_cast<std::size_t>(Index - 1)] =
         txtQuestion(Index)->Text();
 }
 
 void frmLocationAttributes::FocusAttributesButtonBeneath() const {
-    if (IsLoaded<frmDesignSpread>()) Get<frmDesignSpread>().FocusAttributesButton(SelectedLocation);
+    if (IsLoaded<frmDesignSpread>()) Get<frmDesignSpread>().FocusAttributesButton(TheRun.SelectedLocation);
 }

@@ -46,10 +46,10 @@ frmSaveSpread::frmSaveSpread() {
 
 void frmSaveSpread::Form_Load() {
     CentreInFrame(*this);
-    txtSaveAs->setText(CurrentSpread.SpreadName.Trimmed());
+    txtSaveAs->setText(TheRun.CurrentSpread.SpreadName.Trimmed());
     // Read into a scratch record, so that the spread in hand stays intact.
-    RecordReader<SpreadRecord> reader(SpreadsPath);
-    while (reader.Next(ScratchSpread)) lstSpreadNames->AddItem(ScratchSpread.SpreadName.Trimmed());
+    RecordReader<SpreadRecord> reader(TheRun.Paths.SpreadsPath);
+    while (reader.Next(TheRun.ScratchSpread)) lstSpreadNames->AddItem(TheRun.ScratchSpread.SpreadName.Trimmed());
     cmdSave->setEnabled(false);
 }
 
@@ -71,9 +71,9 @@ void frmSaveSpread::cmdSave_Click() {
         return;
     }
     if (!check.Question.isEmpty() && MsgBox(check.Question, vbYesNo | vbQuestion | vbDefaultButton2) == vbNo) return;
-    const SpreadDesign saved = SaveSpread({CurrentSpread, SpreadLocations}, check.Name, check.Replacing);
-    CurrentSpread = saved.Spread;
-    SpreadLocations = saved.Locations;
+    const SpreadDesign saved = SaveSpread({TheRun.CurrentSpread, TheRun.SpreadLocations}, check.Name, check.Replacing);
+    TheRun.CurrentSpread = saved.Spread;
+    TheRun.SpreadLocations = saved.Locations;
     if (IsLoaded<frmDesignSpread>()) Get<frmDesignSpread>().SpreadSaved();
     Unload();
 }

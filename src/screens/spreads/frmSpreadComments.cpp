@@ -25,12 +25,12 @@ frmSpreadComments::frmSpreadComments() {
 
 void frmSpreadComments::Form_Load() {
     PlaceBesideFrame(*this, false);
-    txtComments->setText(CurrentSpread.SpreadComments.Trimmed());
+    txtComments->setText(TheRun.CurrentSpread.SpreadComments.Trimmed());
 }
 
 void frmSpreadComments::txtComments_Change() {
     if (IsLoaded<frmDesignSpread>()) Get<frmDesignSpread>().SpreadDirty = true;
-    CurrentSpread.SpreadComments = txtComments->Text();
+    TheRun.CurrentSpread.SpreadComments = txtComments->Text();
 }
 
 void frmSpreadComments::cmdClose_Click() { Unload(); }

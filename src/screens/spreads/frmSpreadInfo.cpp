@@ -93,31 +93,31 @@ void frmSpreadInfo::Form_Load() {
 }
 
 void frmSpreadInfo::FillFields() {
-    const QString name = CurrentSpread.SpreadName.Trimmed();
+    const QString name = TheRun.CurrentSpread.SpreadName.Trimmed();
     setCaption(name.isEmpty() ? tr("Spread View") : tr("Spread View - %1").arg(name));
-    picDesignInfo->Fill(CurrentSpread);
-    if (CurrentSpread.AllowedDeckCount >= 0) {
+    picDesignInfo->Fill(TheRun.CurrentSpread);
+    if (TheRun.CurrentSpread.AllowedDeckCount >= 0) {
         AddDeckNames();
     } else {
         for (int i = 0; i < 3; ++i) lstDecks->AddItem(QString());
         lstDecks->AddItem(tr("                          [ ALL DECKS ] "));
     }
-    picDesignLocations->ShowLocations(SpreadLocations, CurrentSpread.LocationCount);
+    picDesignLocations->ShowLocations(TheRun.SpreadLocations, TheRun.CurrentSpread.LocationCount);
 
-    const QString background = CurrentSpread.BackgroundFile.Value();
+    const QString background = TheRun.CurrentSpread.BackgroundFile.Value();
     if (background.contains(QLatin1Char('.'))) {
         // Straight from Cards/: a picture that has gone fails with the
         // toolkit's own report.
-        picDesignLocations->SetBackground(LoadPicture(CardsDir + background).Image,
-                                          CurrentSpread.StretchBackground != 0);
+        picDesignLocations->SetBackground(LoadPicture(TheRun.Paths.CardsDir + background).Image,
+                                          TheRun.CurrentSpread.StretchBackground != 0);
     } else {
-        picDesignLocations->SetBackground(QImage(), CurrentSpread.StretchBackground != 0);
+        picDesignLocations->SetBackground(QImage(), TheRun.CurrentSpread.StretchBackground != 0);
     }
 }
 
 void frmSpreadInfo::AddDeckNames() {
-    for (int i = 1; i <= CurrentSpread.AllowedDeckCount && i <= 10; ++i) {
-        const QString deck = DeckNameById(CurrentSpread.AllowedDeckId[static_cast<std::size_t>(i - 1)]);
+    for (int i = 1; i <= TheRun.CurrentSpread.AllowedDeckCount && i <= 10; ++i) {
+        const QString deck = DeckNameById(TheRun.CurrentSpread.AllowedDeckId[static_cast<std::size_t>(i - 1)]);
         lstDecks->AddItem(deck.isEmpty() ? tr("     [ MISSING DECK ] ") : deck);
     }
     if (lstDecks->ListCount() > 0) lstDecks->setListIndex(0);
@@ -142,12 +142,12 @@ void frmSpreadInfo::cmdGrid_Click() {
 }
 
 void frmSpreadInfo::chkQuestion_Click() {
-    const bool stored = CurrentSpread.AskQuestion != 0;
+    const bool stored = TheRun.CurrentSpread.AskQuestion != 0;
     if (chkQuestion()->isChecked() != stored) chkQuestion()->setChecked(stored);
 }
 
 void frmSpreadInfo::cmdCardAttributes_Click(int Index) {
-    SelectedLocation = Index;
+    TheRun.SelectedLocation = Index;
     Get<frmSpreadInfo_LocationAttributes>().Show();
 }
 

@@ -10,5 +10,5 @@ frmSpreadInfo_LocationAttributes::frmSpreadInfo_LocationAttributes() : LocationA
 }
 
 void frmSpreadInfo_LocationAttributes::FocusAttributesButtonBeneath() const {
-    if (IsLoaded<frmSpreadInfo>()) Get<frmSpreadInfo>().FocusAttributesButton(SelectedLocation);
+    if (IsLoaded<frmSpreadInfo>()) Get<frmSpreadInfo>().FocusAttributesButton(TheRun.SelectedLocation);
 }

@@ -83,10 +83,10 @@ frmSpreads::frmSpreads() {
 void frmSpreads::Form_Load() {
     SetScreenPointer(MousePointer::Hourglass);
     CentreInFrame(*this);
-    ResetSpread(CurrentSpread);
+    ResetSpread(TheRun.CurrentSpread);
     BriefInfo();
-    RecordReader<SpreadRecord> reader(SpreadsPath);
-    while (reader.Next(CurrentSpread)) lstSpreads->AddItem(CurrentSpread.SpreadName.Value());
+    RecordReader<SpreadRecord> reader(TheRun.Paths.SpreadsPath);
+    while (reader.Next(TheRun.CurrentSpread)) lstSpreads->AddItem(TheRun.CurrentSpread.SpreadName.Value());
     if (lstSpreads->ListCount() > 0) lstSpreads->setListIndex(0);
     SetScreenPointer(MousePointer::Default);
 }
@@ -119,16 +119,16 @@ void frmSpreads::BriefInfo() {
     }
     // A name that vanished from the file since the list was read fails here
     // with the store's own error.
-    if (!GetRecord(SpreadsPath, FindSpreadByName(lstSpreads->Text()), CurrentSpread))
+    if (!GetRecord(TheRun.Paths.SpreadsPath, FindSpreadByName(lstSpreads->Text()), TheRun.CurrentSpread))
         RaiseError(errInputPastEndOfFile);
-    LoadSpreadLocations(CurrentSpread.SpreadId, CurrentSpread.LocationCount);
-    lblQueryField->setText(CurrentSpread.AskQuestion ? tr("Y") : tr("N"));
-    lblCardsField->setText(QString::number(CurrentSpread.LocationCount));
-    lblDesignDateField->setText(FormatLongDate(CurrentSpread.ModifiedOn));
-    lblDesignerNameField->setText(CurrentSpread.SpreadDesigner.DesignerName.Value());
-    lblDecksField->setText(CurrentSpread.AllowedDeckCount < 0 ? tr("All")
-                                                              : QString::number(CurrentSpread.AllowedDeckCount));
-    lblTitleField->setText(CurrentSpread.SpreadTitle.Value());
+    LoadSpreadLocations(TheRun.CurrentSpread.SpreadId, TheRun.CurrentSpread.LocationCount);
+    lblQueryField->setText(TheRun.CurrentSpread.AskQuestion ? tr("Y") : tr("N"));
+    lblCardsField->setText(QString::number(TheRun.CurrentSpread.LocationCount));
+    lblDesignDateField->setText(FormatLongDate(TheRun.CurrentSpread.ModifiedOn));
+    lblDesignerNameField->setText(TheRun.CurrentSpread.SpreadDesigner.DesignerName.Value());
+    lblDecksField->setText(TheRun.CurrentSpread.AllowedDeckCount < 0 ? tr("All")
+                                                              : QString::number(TheRun.CurrentSpread.AllowedDeckCount));
+    lblTitleField->setText(TheRun.CurrentSpread.SpreadTitle.Value());
 }
 
 void frmSpreads::SpreadMenuButtons() {
@@ -144,15 +144,15 @@ void frmSpreads::lstSpreads_Click() {
 }
 
 void frmSpreads::cmdDesign_Click() {
-    DesignMode = 1;
-    ResetSpread(CurrentSpread);
+    TheRun.DesignMode = 1;
+    ResetSpread(TheRun.CurrentSpread);
     Get<frmDesignSpread>().Show();
     Unload();
 }
 
 void frmSpreads::cmdEdit_Click() {
-    if (CurrentSpread.SpreadLocked && !CheckPassword(CurrentSpread.SpreadPassword.Value())) return;
-    DesignMode = 0;
+    if (TheRun.CurrentSpread.SpreadLocked && !CheckPassword(TheRun.CurrentSpread.SpreadPassword.Value())) return;
+    TheRun.DesignMode = 0;
     Get<frmDesignSpread>().Show();
     Unload();
 }
@@ -167,7 +167,7 @@ void frmSpreads::cmdManager_Click() {
         SpreadMenuButtons();
         return;
     }
-    ChooserManageMode = true;
+    TheRun.ChooserManageMode = true;
     Get<frmDeckChooser>().Show();
     Unload();
 }
@@ -193,7 +193,7 @@ void frmSpreads::cmdDelete_Click() {
     lstSpreads->setListIndex(noted - 1);
     if (lstSpreads->ListIndex() < 0 && lstSpreads->ListCount() > 0) lstSpreads->setListIndex(0);
     if (lstSpreads->ListIndex() < 0) {
-        ResetSpread(CurrentSpread);
+        ResetSpread(TheRun.CurrentSpread);
         BriefInfo();
     }
     SpreadMenuButtons();

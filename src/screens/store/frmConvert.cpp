@@ -73,7 +73,7 @@ void frmConvert::cmdConvert_Click() {
         try {
             ConvertDatabase();
         } catch (...) {
-            KillIgnoringErrors(TempDir + QStringLiteral("Temp.*"));
+            KillIgnoringErrors(TheRun.Paths.TempDir + QStringLiteral("Temp.*"));
             throw;
         }
     }

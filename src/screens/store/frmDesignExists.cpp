@@ -89,7 +89,7 @@ void frmDesignExists::Ask(int design, const QString& title) {
 }
 
 void frmDesignExists::Choose(int answer) {
-    DesignExistsChoice = answer;
+    TheRun.DesignExistsChoice = answer;
     Unload();
 }
 

@@ -16,7 +16,7 @@ namespace {
 // A broken picture file never stops a screen: the default card picture
 // stands in for it.
 Picture LoadPictureOrDefault(const QString& path) {
-    const QString source = FileExists(path) ? path : DefaultPicturePath;
+    const QString source = FileExists(path) ? path : TheRun.Paths.DefaultPicturePath;
     try {
         return LoadPicture(source);
     } catch (const RuntimeError&) {
@@ -24,7 +24,7 @@ Picture LoadPictureOrDefault(const QString& path) {
                               "Please save all your work, exit Cartomar, and then run it again"),
                vbCritical);
     }
-    return LoadPicture(DefaultPicturePath);
+    return LoadPicture(TheRun.Paths.DefaultPicturePath);
 }
 
 }  // namespace
