@@ -2,13 +2,13 @@
 // What every benchmark measures with: the median of timed runs, the
 // machine's own baselines (a sequential read, a plain copy) and the rows
 // that set a figure beside its goal.
+#include <fcntl.h>
+#include <unistd.h>
 #include <QElapsedTimer>
 #include <QString>
 #include <algorithm>
 #include <cstdio>
-#include <fcntl.h>
 #include <functional>
-#include <unistd.h>
 #include <vector>
 
 #include "core/platform/BinaryFile.h"

@@ -6,6 +6,8 @@
 //   QT_QPA_PLATFORM=offscreen build/bench/bench_journal [runs]
 //
 // The data is made in a temporary program folder and removed afterwards.
+#include <fcntl.h>
+#include <unistd.h>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
@@ -14,9 +16,7 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
-#include <fcntl.h>
 #include <functional>
-#include <unistd.h>
 #include <vector>
 
 #include "BenchSupport.h"
@@ -33,7 +33,6 @@
 using namespace Bench;
 
 namespace {
-
 
 void RowAbsolute(const char* operation, double value, double goal) {
     std::printf("%-60s %9.2f ms | goal under %.0f ms %s\n", operation, value, goal, value <= goal ? "met" : "MISSED");
@@ -86,8 +85,8 @@ void MakeDesigns() {
 template <class R, class N, class T>
 void MakeEntries(const QString& path, N R::*name, T R::*notes, const QString& prefix) {
     Writer<R> file(path);
-    const QString note = QStringLiteral("The cards spoke of a move and of work; talk it over with the family. ")
-                             .repeated(4);
+    const QString note =
+        QStringLiteral("The cards spoke of a move and of work; talk it over with the family. ").repeated(4);
     for (int e = 1; e <= 5000; ++e) {
         R r = ZeroRecord<R>();
         r.*name = prefix + QString::number(e);
@@ -121,7 +120,8 @@ int main(int argc, char** argv) {
     FormPaths(dir.path());
     InitDatabase();
     MakeDesigns();
-    MakeEntries(TheRun.Paths.ReadingsPath, &ReadingRecord::ReadingName, &ReadingRecord::ReadingNotes, QStringLiteral("Reading "));
+    MakeEntries(TheRun.Paths.ReadingsPath, &ReadingRecord::ReadingName, &ReadingRecord::ReadingNotes,
+                QStringLiteral("Reading "));
     MakeEntries(TheRun.Paths.DiaryPath, &DiaryRecord::DiaryName, &DiaryRecord::DiaryNotes, QStringLiteral("Diary "));
 
     const double read = Time([] {
@@ -152,7 +152,8 @@ int main(int argc, char** argv) {
     Row("search for a word in no entry, 10,000 entries", missing, "read of both files", read, 2.0);
     std::vector<int> selected;
     std::printf("%-60s %9.2f ms\n", "  of which the search", Time([&] { selected = SearchJournal(journal, query); }));
-    std::printf("%-60s %9.2f ms\n", "  of which the counts", Time([&] { TallyJournal(journal, selected, catalogue, query); }));
+    std::printf("%-60s %9.2f ms\n", "  of which the counts",
+                Time([&] { TallyJournal(journal, selected, catalogue, query); }));
     std::printf("%-60s %9.2f ms (part of the first paint)\n", "both files read into the journal when the screen opens",
                 load);
     const double catalogueMs = Time([] { LoadJournalCatalogue(); });

@@ -10,11 +10,13 @@
 //   QT_QPA_PLATFORM=offscreen build/bench/bench_picture_import [runs]
 //
 // The data is made in a temporary program folder and removed afterwards.
+#include <fcntl.h>
+#include <unistd.h>
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QEventLoop>
+#include <QFile>
 #include <QImage>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -22,9 +24,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
-#include <fcntl.h>
 #include <functional>
-#include <unistd.h>
 #include <vector>
 
 #include "BenchSupport.h"
@@ -57,7 +57,8 @@ void MakeFolder(const QString& folder, const char* format, const char* extension
     const QString first = folder + QStringLiteral("/01 card.") + QLatin1String(extension);
     Noise().save(first, format, 95);
     for (int i = 2; i <= Pictures; ++i)
-        QFile::copy(first, folder + QStringLiteral("/%1 card.").arg(i, 2, 10, QLatin1Char('0')) + QLatin1String(extension));
+        QFile::copy(first,
+                    folder + QStringLiteral("/%1 card.").arg(i, 2, 10, QLatin1Char('0')) + QLatin1String(extension));
 }
 
 void EmptyDeck() {
@@ -134,8 +135,9 @@ int main(int argc, char** argv) {
     small.save(many + QStringLiteral("/0001 card.jpg"), "JPEG");
     for (int i = 1; i <= 1000; ++i)
         for (const char* suffix : {"", "_r"})
-            QFile::copy(many + QStringLiteral("/0001 card.jpg"),
-                        many + QStringLiteral("/%1 card%2.jpg").arg(i, 4, 10, QLatin1Char('0')).arg(QLatin1String(suffix)));
+            QFile::copy(
+                many + QStringLiteral("/0001 card.jpg"),
+                many + QStringLiteral("/%1 card%2.jpg").arg(i, 4, 10, QLatin1Char('0')).arg(QLatin1String(suffix)));
     const double heads = Time([&] {
         char head[64];
         for (const QString& name : QDir(many).entryList(QDir::Files)) {

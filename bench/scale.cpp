@@ -10,6 +10,9 @@
 // Sections: memory, startup, cards, ids, locations, lists, shuffle, packages, printing.
 //
 // The data is made in a temporary program folder and removed afterwards.
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <unistd.h>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QImage>
@@ -21,11 +24,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <deque>
-#include <fcntl.h>
 #include <functional>
 #include <memory>
-#include <sys/resource.h>
-#include <unistd.h>
 #include <vector>
 
 #include "BenchSupport.h"
@@ -59,7 +59,7 @@ using namespace Bench;
 
 namespace {
 
-QString Only;   // run only the sections whose name holds this
+QString Only;  // run only the sections whose name holds this
 
 bool Want(const char* section) { return Only.isEmpty() || QString::fromLatin1(section).contains(Only); }
 
@@ -159,7 +159,6 @@ void MakeReadings(int readings) {
     file.Done();
 }
 
-
 // Acts on modal screens as they come up, in order, the way a user answers
 // them; polls every 2 ms.
 class ModalAnswers {
@@ -211,7 +210,6 @@ qint64 MakePictureDeck() {
     PutRecord(TheRun.Paths.DecksPath, 1, deck);
     return bytes;
 }
-
 
 void Fresh(QTemporaryDir& dir) {
     ResetRun();
@@ -271,12 +269,10 @@ int main(int argc, char** argv) {
     if (Want("cards")) {
         QTemporaryDir dir;
         Fresh(dir);
-        MakeDecks(320, 100);   // 32,000 cards, about 163 MB
+        MakeDecks(320, 100);  // 32,000 cards, about 163 MB
         const double readCards = Time([] { ReadOnce(TheRun.Paths.CardsPath); });
         GetRecord(TheRun.Paths.DecksPath, CountDecks(), TheRun.ListDeck);
-        const double load = Time([] {
-            LoadDeckCards();
-        });
+        const double load = Time([] { LoadDeckCards(); });
         Row("LoadDeck, last deck of 32,000 cards", load, "read of Cards.crd", readCards, 1.5);
 
         const QString copyPath = dir.filePath(QStringLiteral("copy.bin"));
@@ -285,7 +281,8 @@ int main(int argc, char** argv) {
         const double copyCards = Time([&] { CopyOnce(TheRun.Paths.CardsPath, copyPath); });
         DeckRecord middle;
         GetRecord(TheRun.Paths.DecksPath, 160, middle);
-        const double del = Time([&] { DeleteDeckCards(middle.DeckId); }, [&] { CopyOnce(keep, TheRun.Paths.CardsPath); });
+        const double del =
+            Time([&] { DeleteDeckCards(middle.DeckId); }, [&] { CopyOnce(keep, TheRun.Paths.CardsPath); });
         Row("DeleteDeckCards on 32,000 cards", del, "copy of Cards.crd", copyCards, 2.0);
         // A deck save writes its cards in one replacement of the whole file,
         // prepared beside it and put in place by the save's plan, after a read
@@ -298,11 +295,12 @@ int main(int argc, char** argv) {
         FileCopy(TheRun.Paths.DefaultPicturePath, TheRun.Paths.TempDir + DefaultPictureName);
         const QString keepDecks = dir.filePath(QStringLiteral("Decks.keep"));
         CopyOnce(TheRun.Paths.DecksPath, keepDecks);
-        const double save = Time([&] { SaveDeck(hundred, QStringLiteral("Saved"), -1); }, [&] {
-            CopyOnce(keep, TheRun.Paths.CardsPath);
-            CopyOnce(keepDecks, TheRun.Paths.DecksPath);
-            KillIgnoringErrors(TheRun.Paths.CardsDir + QStringLiteral("CU*"));
-        });
+        const double save = Time([&] { SaveDeck(hundred, QStringLiteral("Saved"), -1); },
+                                 [&] {
+                                     CopyOnce(keep, TheRun.Paths.CardsPath);
+                                     CopyOnce(keepDecks, TheRun.Paths.DecksPath);
+                                     KillIgnoringErrors(TheRun.Paths.CardsDir + QStringLiteral("CU*"));
+                                 });
         Row("100 cards saved after 32,000 cards (deck save)", save, "copy of Cards.crd", copyCards, 2.0);
         Kill(keep);
         Kill(keepDecks);
@@ -329,10 +327,11 @@ int main(int argc, char** argv) {
     if (Want("locations")) {
         QTemporaryDir dir;
         Fresh(dir);
-        MakeSpreads(1000, 32, true);   // 32,000 locations
+        MakeSpreads(1000, 32, true);  // 32,000 locations
         const QString keep = dir.filePath(QStringLiteral("Location.keep"));
         CopyOnce(TheRun.Paths.LocationsPath, keep);
-        const double copyLocations = Time([&] { CopyOnce(TheRun.Paths.LocationsPath, dir.filePath(QStringLiteral("copy.bin"))); });
+        const double copyLocations =
+            Time([&] { CopyOnce(TheRun.Paths.LocationsPath, dir.filePath(QStringLiteral("copy.bin"))); });
         SpreadRecord middle;
         GetRecord(TheRun.Paths.SpreadsPath, 500, middle);
         LoadSpreadLocations(middle.SpreadId, 32);
@@ -397,9 +396,7 @@ int main(int argc, char** argv) {
         qint64 longestWait = 0;
         QTimer tick;
         tick.setInterval(10);
-        QObject::connect(&tick, &QTimer::timeout, [&] {
-            longestWait = std::max(longestWait, sinceTick.restart());
-        });
+        QObject::connect(&tick, &QTimer::timeout, [&] { longestWait = std::max(longestWait, sinceTick.restart()); });
         QTimer::singleShot(3000, [&] { table.StopShuffle(); });
         QElapsedTimer clock;
         clock.start();
@@ -427,7 +424,8 @@ int main(int argc, char** argv) {
         const QString sameBytes = from.filePath(QStringLiteral("same.bin"));
         {
             QByteArray all;
-            for (const QString& name : Dir(TheRun.Paths.CardsDir + QStringLiteral("C?0*.bmp"))) all += ReadWholeFile(TheRun.Paths.CardsDir + name);
+            for (const QString& name : Dir(TheRun.Paths.CardsDir + QStringLiteral("C?0*.bmp")))
+                all += ReadWholeFile(TheRun.Paths.CardsDir + name);
             WriteWholeFile(sameBytes, all);
         }
         const double copyMs = Time([&] { CopyOnce(sameBytes, from.filePath(QStringLiteral("copy.bin"))); });

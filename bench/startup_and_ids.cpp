@@ -76,16 +76,17 @@ int main(int argc, char** argv) {
         r.DeckId = id;
         r.DeckName = QStringLiteral("Deck %1").arg(id);
     });
-    const Integer freeSpread = WriteDesigns<SpreadRecord>(TheRun.Paths.SpreadsPath, designs, [](SpreadRecord& r, Integer id) {
-        r.SpreadId = id;
-        r.SpreadName = QStringLiteral("Spread %1").arg(id);
-    });
+    const Integer freeSpread =
+        WriteDesigns<SpreadRecord>(TheRun.Paths.SpreadsPath, designs, [](SpreadRecord& r, Integer id) {
+            r.SpreadId = id;
+            r.SpreadName = QStringLiteral("Spread %1").arg(id);
+        });
     Integer foundDeck = 0, foundSpread = 0;
     const double deckMs = MillisecondsPerCall([&] { foundDeck = NextDeckId(); }, 20);
     const double spreadMs = MillisecondsPerCall([&] { foundSpread = NextSpreadId(); }, 20);
     std::printf("NextDeckId on %d decks: %.2f ms a call (found %d, expected %d)\n", designs, deckMs, foundDeck,
                 freeDeck);
-    std::printf("NextSpreadId on %d spreads: %.2f ms a call (found %d, expected %d)\n", designs, spreadMs,
-                foundSpread, freeSpread);
+    std::printf("NextSpreadId on %d spreads: %.2f ms a call (found %d, expected %d)\n", designs, spreadMs, foundSpread,
+                freeSpread);
     return (foundDeck == freeDeck && foundSpread == freeSpread && started) ? 0 : 1;
 }

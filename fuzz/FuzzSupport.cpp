@@ -36,7 +36,7 @@ void Append(QByteArray& file, const R& r) {
     file += EncodeRecord(r);
 }
 
-constexpr double ASavedDay = 45123.75;   // an afternoon in 2023
+constexpr double ASavedDay = 45123.75;  // an afternoon in 2023
 
 QByteArray BuildDecks() {
     QByteArray file;
@@ -236,7 +236,8 @@ void Initialize(int* argc, char*** argv) {
     WriteFaults::SetSyncs(false);
     Expect(Root().isValid(), "no temporary folder");
     FormPaths(ProgramDir());
-    for (const QString& dir : {TheRun.Paths.TempDir, TheRun.Paths.CardsDir, TheRun.Paths.AttachmentsDir}) QDir().mkpath(dir);
+    for (const QString& dir : {TheRun.Paths.TempDir, TheRun.Paths.CardsDir, TheRun.Paths.AttachmentsDir})
+        QDir().mkpath(dir);
     WriteWholeFile(KeeperPath(), KeeperBytes);
 }
 
@@ -246,41 +247,41 @@ QByteArray Bytes(const std::uint8_t* data, std::size_t size) {
 
 QString PathOf(FuzzedFile file) {
     switch (file) {
-        case FuzzedFile::Decks: return TheRun.Paths.DecksPath;
-        case FuzzedFile::Cards: return TheRun.Paths.CardsPath;
-        case FuzzedFile::Spreads: return TheRun.Paths.SpreadsPath;
-        case FuzzedFile::Locations: return TheRun.Paths.LocationsPath;
-        case FuzzedFile::Readings: return TheRun.Paths.ReadingsPath;
-        case FuzzedFile::Diary: return TheRun.Paths.DiaryPath;
+    case FuzzedFile::Decks: return TheRun.Paths.DecksPath;
+    case FuzzedFile::Cards: return TheRun.Paths.CardsPath;
+    case FuzzedFile::Spreads: return TheRun.Paths.SpreadsPath;
+    case FuzzedFile::Locations: return TheRun.Paths.LocationsPath;
+    case FuzzedFile::Readings: return TheRun.Paths.ReadingsPath;
+    case FuzzedFile::Diary: return TheRun.Paths.DiaryPath;
     }
     Fail("no such record file");
 }
 
 QByteArray BaselineFile(FuzzedFile file) {
     switch (file) {
-        case FuzzedFile::Decks: return BuildDecks();
-        case FuzzedFile::Cards: return BuildCards();
-        case FuzzedFile::Spreads: return BuildSpreads();
-        case FuzzedFile::Locations: return BuildLocations();
-        case FuzzedFile::Readings: return BuildReadings();
-        case FuzzedFile::Diary: return BuildDiary();
+    case FuzzedFile::Decks: return BuildDecks();
+    case FuzzedFile::Cards: return BuildCards();
+    case FuzzedFile::Spreads: return BuildSpreads();
+    case FuzzedFile::Locations: return BuildLocations();
+    case FuzzedFile::Readings: return BuildReadings();
+    case FuzzedFile::Diary: return BuildDiary();
     }
     Fail("no such record file");
 }
 
 QByteArray OldBaselineFile(OldFile file) {
     switch (file) {
-        case OldFile::Decks: return BuildOldDecks();
-        case OldFile::Cards: return BuildOldCards();
-        case OldFile::Spreads: return BuildOldSpreads();
+    case OldFile::Decks: return BuildOldDecks();
+    case OldFile::Cards: return BuildOldCards();
+    case OldFile::Spreads: return BuildOldSpreads();
     }
     Fail("no such old file");
 }
 
 void LayDatabase(FuzzedFile fuzzed, const QByteArray& input) {
-    static const QList<QByteArray> files = {BuildDecks(), BuildCards(), BuildSpreads(),
+    static const QList<QByteArray> files = {BuildDecks(),     BuildCards(),    BuildSpreads(),
                                             BuildLocations(), BuildReadings(), BuildDiary()};
-    const FuzzedFile kinds[] = {FuzzedFile::Decks, FuzzedFile::Cards, FuzzedFile::Spreads,
+    const FuzzedFile kinds[] = {FuzzedFile::Decks,     FuzzedFile::Cards,    FuzzedFile::Spreads,
                                 FuzzedFile::Locations, FuzzedFile::Readings, FuzzedFile::Diary};
     for (int i = 0; i < 6; ++i) RecordFilesInMemory::Hold(PathOf(kinds[i]), kinds[i] == fuzzed ? input : files[i]);
     // A delete pass may have taken a picture with its card: put back what is

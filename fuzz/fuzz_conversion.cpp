@@ -36,7 +36,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     WriteWholeFile(TheRun.Paths.ReadingsPath, QByteArray());
     WriteWholeFile(TheRun.Paths.DiaryPath, QByteArray());
     QFile::remove(TheRun.Paths.LocationsPath);
-    for (const QString& path : {TheRun.Paths.DecksPath, TheRun.Paths.SpreadsPath, TheRun.Paths.CardsPath, TheRun.Paths.ReadingsPath, TheRun.Paths.DiaryPath})
+    for (const QString& path : {TheRun.Paths.DecksPath, TheRun.Paths.SpreadsPath, TheRun.Paths.CardsPath,
+                                TheRun.Paths.ReadingsPath, TheRun.Paths.DiaryPath})
         QFile::remove(path + QStringLiteral(".bkp"));
     ClearTemp();
 
@@ -49,8 +50,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     for (int i = 0; i < 3; ++i)
         Expect(ReadWholeFile(paths[i] + QStringLiteral(".bkp")) == old[i], "a backup differs from its old file");
-    Expect(CountRecords<DeckRecord>(TheRun.Paths.DecksPath) == old[0].size() / OldDeckRecord::Length, "decks lost or gained");
-    Expect(CountRecords<CardRecord>(TheRun.Paths.CardsPath) == old[1].size() / OldCardRecord::Length, "cards lost or gained");
+    Expect(CountRecords<DeckRecord>(TheRun.Paths.DecksPath) == old[0].size() / OldDeckRecord::Length,
+           "decks lost or gained");
+    Expect(CountRecords<CardRecord>(TheRun.Paths.CardsPath) == old[1].size() / OldCardRecord::Length,
+           "cards lost or gained");
     const int oldSpreads = static_cast<int>(old[2].size() / OldSpreadRecord::Length);
     Expect(CountRecords<SpreadRecord>(TheRun.Paths.SpreadsPath) == oldSpreads, "spreads lost or gained");
     int locations = 0;
@@ -58,7 +61,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Expect(spread.LocationCount >= 0 && spread.LocationCount <= 15, "a spread holds impossible locations");
         locations += spread.LocationCount;
     }
-    Expect(CountRecords<LocationRecord>(TheRun.Paths.LocationsPath) == locations, "locations do not match their spreads");
+    Expect(CountRecords<LocationRecord>(TheRun.Paths.LocationsPath) == locations,
+           "locations do not match their spreads");
     Fuzz::CheckNothingOutsideTouched();
     return 0;
 }

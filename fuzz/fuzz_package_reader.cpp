@@ -32,7 +32,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ExtractPackageFile(package, TheRun.Paths.TempDir);
 
     Expect(Entries(TheRun.Paths.AppPath, QDir::AllEntries) == before, "a member landed beside Temp/");
-    Expect(Entries(TheRun.Paths.PackagesDir, QDir::Files) == QStringList{QStringLiteral("p.pck")}, "a member landed in Packages/");
+    Expect(Entries(TheRun.Paths.PackagesDir, QDir::Files) == QStringList{QStringLiteral("p.pck")},
+           "a member landed in Packages/");
     Expect(Entries(TheRun.Paths.TempDir, QDir::Dirs).isEmpty(), "a member made a folder");
     Fuzz::CheckNothingOutsideTouched();
     return 0;

@@ -191,11 +191,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     LookUpEntries(diaries, &DiaryRecord::DiaryName, FindDiaryByName, DeleteDiary);
     // The delete passes of designs, with what goes with them.
     if (!spreads.empty()) Handled([] { DeleteSpread(1); });
-    if (!decks.empty()) Handled([&] {
-        const int number = FindDeckByName(decks.front().DeckName.Value());
-        DeleteDeck(number);
-        Expect(CountDecks() == static_cast<int>(decks.size()) - 1, "DeleteDeck took other decks");
-    });
+    if (!decks.empty())
+        Handled([&] {
+            const int number = FindDeckByName(decks.front().DeckName.Value());
+            DeleteDeck(number);
+            Expect(CountDecks() == static_cast<int>(decks.size()) - 1, "DeleteDeck took other decks");
+        });
     Fuzz::CheckNothingOutsideTouched();
     return 0;
 }

@@ -37,12 +37,10 @@ void SeedRecordFile(const QString& target, const QByteArray& file, int recordLen
 void SeedRecordFiles() {
     SeedRecordFile(QStringLiteral("records_decks"), Fuzz::BaselineFile(FuzzedFile::Decks), DeckRecord::Length);
     SeedRecordFile(QStringLiteral("records_cards"), Fuzz::BaselineFile(FuzzedFile::Cards), CardRecord::Length);
-    SeedRecordFile(QStringLiteral("records_spreads"), Fuzz::BaselineFile(FuzzedFile::Spreads),
-                   SpreadRecord::Length);
+    SeedRecordFile(QStringLiteral("records_spreads"), Fuzz::BaselineFile(FuzzedFile::Spreads), SpreadRecord::Length);
     SeedRecordFile(QStringLiteral("records_locations"), Fuzz::BaselineFile(FuzzedFile::Locations),
                    LocationRecord::Length);
-    SeedRecordFile(QStringLiteral("records_readings"), Fuzz::BaselineFile(FuzzedFile::Readings),
-                   ReadingRecord::Length);
+    SeedRecordFile(QStringLiteral("records_readings"), Fuzz::BaselineFile(FuzzedFile::Readings), ReadingRecord::Length);
     SeedRecordFile(QStringLiteral("records_diary"), Fuzz::BaselineFile(FuzzedFile::Diary), DiaryRecord::Length);
 }
 
@@ -93,12 +91,12 @@ void SeedPictures() {
          Encoded(image.convertToFormat(QImage::Format_Indexed8), "bmp"));
     // The toolkit reads GIF but cannot write it: a 2 x 2 picture of two
     // colours, byte by byte.
-    static const unsigned char gif[] = {
-        'G', 'I', 'F', '8', '9', 'a', 2, 0, 2, 0, 0x80, 0, 0,            // screen, 2-entry table
-        0x00, 0x00, 0x80, 0xFF, 0xC8, 0x00,                              // dark blue, gold
-        0x2C, 0, 0, 0, 0, 2, 0, 2, 0, 0,                                 // image descriptor
-        0x02, 0x02, 0x44, 0x01, 0x00,                                    // LZW data
-        0x3B};
+    static const unsigned char gif[] = {'G',  'I',  'F',  '8',  '9',  'a',  2, 0, 2, 0,
+                                        0x80, 0,    0,                                   // screen, 2-entry table
+                                        0x00, 0x00, 0x80, 0xFF, 0xC8, 0x00,              // dark blue, gold
+                                        0x2C, 0,    0,    0,    0,    2,    0, 2, 0, 0,  // image descriptor
+                                        0x02, 0x02, 0x44, 0x01, 0x00,                    // LZW data
+                                        0x3B};
     Seed(QStringLiteral("picture"), QStringLiteral("card.gif"),
          QByteArray(reinterpret_cast<const char*>(gif), sizeof gif));
 }

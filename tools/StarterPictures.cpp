@@ -15,9 +15,9 @@
 namespace {
 
 struct SuitColours {
-    QColor Ink;      // frame, number and emblem outline
-    QColor Fill;     // the emblem
-    QColor Ground;   // the face behind everything
+    QColor Ink;     // frame, number and emblem outline
+    QColor Fill;    // the emblem
+    QColor Ground;  // the face behind everything
 };
 
 SuitColours ColoursOf(const QString& suit) {
@@ -137,9 +137,9 @@ void DrawCorners(QPainter& p, const StarterCard& card, const SuitColours& colour
     // Court cards show their initial in the corners, the others their number.
     static const QStringList courts{QStringLiteral("Page"), QStringLiteral("Knight"), QStringLiteral("Queen"),
                                     QStringLiteral("King")};
-    const QString corner = !courts.contains(card.Number) ? card.Number
+    const QString corner = !courts.contains(card.Number)            ? card.Number
                            : card.Number == QLatin1String("Knight") ? QStringLiteral("Kn")
-                                                                   : card.Number.left(1);
+                                                                    : card.Number.left(1);
     p.setFont(FaceFont(13, true));
     p.setPen(colours.Ink);
     const QRectF box(19, 17, 60, 18);
@@ -198,9 +198,7 @@ QImage DrawCardFace(const StarterCard& card) {
     return face;
 }
 
-QImage ReversedFace(const QImage& upright) {
-    return upright.mirrored(true, true);
-}
+QImage ReversedFace(const QImage& upright) { return upright.mirrored(true, true); }
 
 QByteArray FaceFileBytes(const QImage& face) {
     QByteArray bytes;

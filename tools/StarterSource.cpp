@@ -137,12 +137,12 @@ void ReadSpreads(const QString& path, std::vector<StarterSpread>& spreads, QStri
 
 // A text for a field of `width` bytes: present unless it may be blank, within
 // the width once in the code page, and made only of characters it holds.
-void CheckText(const QString& what, const QString& text, int width, QStringList& problems,
-               bool mayBeBlank = false) {
+void CheckText(const QString& what, const QString& text, int width, QStringList& problems, bool mayBeBlank = false) {
     if (!mayBeBlank && text.trimmed().isEmpty()) problems << what + QStringLiteral(" is empty");
     if (!AnsiRepresentable(text)) problems << what + QStringLiteral(" holds characters outside Windows-1252");
     else if (ToAnsi(text).size() > width)
-        problems << QStringLiteral("%1 is %2 bytes long, its field holds %3").arg(what).arg(ToAnsi(text).size()).arg(width);
+        problems
+            << QStringLiteral("%1 is %2 bytes long, its field holds %3").arg(what).arg(ToAnsi(text).size()).arg(width);
 }
 
 void CheckDeck(const StarterDeck& deck, QStringList& problems) {
@@ -174,8 +174,8 @@ void CheckDeck(const StarterDeck& deck, QStringList& problems) {
 }
 
 bool Overlap(const StarterLocation& a, const StarterLocation& b) {
-    return a.Left < b.Left + LocationWidth && b.Left < a.Left + LocationWidth &&
-           a.Top < b.Top + LocationHeight && b.Top < a.Top + LocationHeight;
+    return a.Left < b.Left + LocationWidth && b.Left < a.Left + LocationWidth && a.Top < b.Top + LocationHeight &&
+           b.Top < a.Top + LocationHeight;
 }
 
 void CheckSpread(const StarterSpread& spread, QStringList& problems) {

@@ -9,9 +9,9 @@
 
 struct StarterCard {
     QString Title;
-    QString Type;     // one of the deck's card type names
-    QString Suit;     // Major, Wands, Cups, Swords or Pentacles
-    QString Number;   // what the picture shows: 0, XIV, Ace, 7, Queen...
+    QString Type;    // one of the deck's card type names
+    QString Suit;    // Major, Wands, Cups, Swords or Pentacles
+    QString Number;  // what the picture shows: 0, XIV, Ace, 7, Queen...
     QString Upright, Reversed;
     QString UprightKeywords, ReversedKeywords;
 };
@@ -19,7 +19,7 @@ struct StarterCard {
 struct StarterDeck {
     QString Name, Title, Description, Notes;
     QString Designer, Email, WebPage;
-    QStringList CardTypes;   // up to four, in the order of the deck's types
+    QStringList CardTypes;  // up to four, in the order of the deck's types
     bool IncludesReversed = true;
     bool DisplayCardTitles = true;
     std::vector<StarterCard> Cards;
@@ -27,8 +27,8 @@ struct StarterDeck {
 
 struct StarterLocation {
     QString Title, Description;
-    QStringList Questions;   // up to three
-    int Left = -1, Top = -1; // twips on the spread canvas
+    QStringList Questions;    // up to three
+    int Left = -1, Top = -1;  // twips on the spread canvas
 };
 
 struct StarterSpread {

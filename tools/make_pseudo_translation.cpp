@@ -21,8 +21,7 @@ namespace {
 const QHash<QChar, QChar>& Accents() {
     static const QHash<QChar, QChar> map = [] {
         const QString plain = QStringLiteral("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ");
-        const QString accented =
-            QStringLiteral("áƀçđéƒĝĥíĵķĺɱñóƥʠŕšţúṽŵẋýžÁƁÇĐÉƑĜĤÍĴĶĹṀÑÓƤɊŔŠŢÚṼŴẊÝŽ");
+        const QString accented = QStringLiteral("áƀçđéƒĝĥíĵķĺɱñóƥʠŕšţúṽŵẋýžÁƁÇĐÉƑĜĤÍĴĶĹṀÑÓƤɊŔŠŢÚṼŴẊÝŽ");
         QHash<QChar, QChar> m;
         for (qsizetype i = 0; i < plain.size(); ++i) m.insert(plain[i], accented[i]);
         return m;
@@ -51,18 +50,19 @@ qsizetype KeptAt(const QString& s, qsizetype i) {
         const qsizetype semi = s.indexOf(QLatin1Char(';'), i);
         if (semi > i + 1 && semi - i <= 8) {
             bool word = true;
-            for (qsizetype k = i + 1; k < semi; ++k) word = word && (s[k].isLetterOrNumber() || s[k] == QLatin1Char('#'));
+            for (qsizetype k = i + 1; k < semi; ++k)
+                word = word && (s[k].isLetterOrNumber() || s[k] == QLatin1Char('#'));
             if (word) return semi - i + 1;
         }
         return 2;
     }
     if (c == QLatin1Char('<')) {
         const qsizetype close = s.indexOf(QLatin1Char('>'), i);
-        if (close > i + 1 && (s[i + 1].isLetter() || s[i + 1] == QLatin1Char('/')))
-            return close - i + 1;
+        if (close > i + 1 && (s[i + 1].isLetter() || s[i + 1] == QLatin1Char('/'))) return close - i + 1;
     }
     if (c == QLatin1Char('*'))
-        return rest(i + 1, [](QChar x) { return x.isLetterOrNumber() || x == QLatin1Char('.') || x == QLatin1Char('*'); });
+        return rest(i + 1,
+                    [](QChar x) { return x.isLetterOrNumber() || x == QLatin1Char('.') || x == QLatin1Char('*'); });
     return 0;
 }
 
@@ -93,7 +93,8 @@ QString Pseudo(const QString& source) {
 }
 
 void CopyAttributes(QXmlStreamWriter& w, const QXmlStreamAttributes& attributes) {
-    for (const QXmlStreamAttribute& a : attributes) w.writeAttribute(a.qualifiedName().toString(), a.value().toString());
+    for (const QXmlStreamAttribute& a : attributes)
+        w.writeAttribute(a.qualifiedName().toString(), a.value().toString());
 }
 
 }  // namespace

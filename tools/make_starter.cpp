@@ -40,9 +40,7 @@ const QDate StarterDate(2025, 3, 1);
 // sees it once the work folder is the current one.
 const QString ProgramFolderName = QStringLiteral("Cartomar");
 
-void Fail(const QString& message) {
-    std::fprintf(stderr, "make_starter: %s\n", qPrintable(message));
-}
+void Fail(const QString& message) { std::fprintf(stderr, "make_starter: %s\n", qPrintable(message)); }
 
 // A fresh program folder with the record files and folders of a first
 // start, Location.loc included (an installed program ships it empty).
@@ -80,7 +78,8 @@ CardRecord SaveCard(const StarterCard& card, const StarterDeck& deck, Integer de
     WriteWholeFile(TheRun.Paths.CardsDir + uprightName, FaceFileBytes(upright));
     record.CardPicture[0] = uprightName;
     if (deck.IncludesReversed) {
-        const QString reversedName = CardPictureStem(1, FreeCardNumber(1, {TheRun.Paths.CardsDir})) + QStringLiteral(".jpg");
+        const QString reversedName =
+            CardPictureStem(1, FreeCardNumber(1, {TheRun.Paths.CardsDir})) + QStringLiteral(".jpg");
         WriteWholeFile(TheRun.Paths.CardsDir + reversedName, FaceFileBytes(ReversedFace(upright)));
         record.CardPicture[1] = reversedName;
     }
@@ -107,7 +106,8 @@ Integer SaveDeck(const StarterDeck& deck) {
         record.CardTypeUsed[i] = Flag(i < deck.CardTypes.size());
     }
     // The cards first, in one run, then the deck that counts them.
-    for (const StarterCard& card : deck.Cards) AppendRecord(TheRun.Paths.CardsPath, SaveCard(card, deck, record.DeckId));
+    for (const StarterCard& card : deck.Cards)
+        AppendRecord(TheRun.Paths.CardsPath, SaveCard(card, deck, record.DeckId));
     AppendRecord(TheRun.Paths.DecksPath, record);
     return record.DeckId;
 }
@@ -136,7 +136,8 @@ void SaveSpread(const StarterSpread& spread, const StarterDeck& deck, Integer de
         ResetLocation(location);
         location.LocationTitle = source.Title;
         location.LocationDescription = source.Description;
-        for (int q = 0; q < 3; ++q) location.LocationQuestion[q] = q < source.Questions.size() ? source.Questions[q] : QString();
+        for (int q = 0; q < 3; ++q)
+            location.LocationQuestion[q] = q < source.Questions.size() ? source.Questions[q] : QString();
         location.LocationLeft = static_cast<Integer>(source.Left);
         location.LocationTop = static_cast<Integer>(source.Top);
     }

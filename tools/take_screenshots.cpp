@@ -82,8 +82,8 @@ int gFailures = 0;
 
 struct SampleCard {
     const char* Title;
-    const char* Upright;    // keywords of the upright side
-    const char* Reversed;   // keywords of the reversed side
+    const char* Upright;   // keywords of the upright side
+    const char* Reversed;  // keywords of the reversed side
 };
 
 const SampleCard MajorArcana[] = {
@@ -118,9 +118,8 @@ const SampleCard MinorArcana[] = {
     {"Ace of Pentacles", "a new opportunity, prosperity", "a chance missed, poor planning"},
 };
 
-const char* const Numerals[] = {"0",    "I",   "II", "III",  "IV", "V",     "VI",    "VII",
-                                "VIII", "IX",  "X",  "XI",   "XII", "XIII", "XIV",   "XV",
-                                "XVI",  "XVII", "XVIII", "XIX", "XX", "XXI"};
+const char* const Numerals[] = {"0",  "I",   "II",   "III", "IV", "V",   "VI",   "VII",   "VIII", "IX", "X",
+                                "XI", "XII", "XIII", "XIV", "XV", "XVI", "XVII", "XVIII", "XIX",  "XX", "XXI"};
 
 // The face of a sample card: a coloured field in a golden border, the
 // numeral above, a sign in the middle and the title below.
@@ -156,11 +155,11 @@ QImage CardFace(const QString& title, const QString& numeral, int index, int hue
     else if (title.contains(QStringLiteral("Sun"))) sign = 1;
     else if (title.contains(QStringLiteral("Moon"))) sign = 2;
     switch (sign) {
-    case 0:   // a star
+    case 0:  // a star
         p.setBrush(gold);
         p.drawPolygon(Star(centre, 52, 22, 8));
         break;
-    case 1: {   // a sun
+    case 1: {  // a sun
         p.setBrush(QColor(250, 210, 90));
         p.drawEllipse(centre, 30, 30);
         p.setPen(QPen(QColor(250, 210, 90), 4));
@@ -171,7 +170,7 @@ QImage CardFace(const QString& title, const QString& numeral, int index, int hue
         }
         break;
     }
-    case 2: {   // a crescent moon
+    case 2: {  // a crescent moon
         QPainterPath moon;
         moon.addEllipse(centre, 44, 44);
         QPainterPath bite;
@@ -180,7 +179,7 @@ QImage CardFace(const QString& title, const QString& numeral, int index, int hue
         p.drawPath(moon.subtracted(bite));
         break;
     }
-    default:   // an eye of rings
+    default:  // an eye of rings
         for (int r = 50; r > 0; r -= 12) {
             p.setBrush(r % 24 == 2 ? gold : QColor::fromHsv((hue + 180) % 360, 90, 230));
             p.drawEllipse(centre, r, r * 0.7);
@@ -239,8 +238,8 @@ Integer MakeSampleDeck(const QString& name, const QString& title, int hueBase, b
         card.CardDescription[1] = Sentence(cardTitle, cards[i].Reversed, false);
         card.CardKeywords[0] = QString::fromUtf8(cards[i].Upright);
         card.CardKeywords[1] = QString::fromUtf8(cards[i].Reversed);
-        const QImage face = CardFace(cardTitle, major ? QString::fromLatin1(Numerals[i]) : QStringLiteral("Ace"),
-                                     i, hueBase);
+        const QImage face =
+            CardFace(cardTitle, major ? QString::fromLatin1(Numerals[i]) : QStringLiteral("Ace"), i, hueBase);
         upright = FreeCardNumber(0, {TheRun.Paths.CardsDir}, upright + 1);
         card.CardPicture[0] = CardUprightName(upright) + QStringLiteral(".bmp");
         SavePictureAsBmp(face, TheRun.Paths.CardsDir + card.CardPicture[0].Trimmed());
@@ -263,7 +262,7 @@ struct SampleLocation {
     const char* Title;
     const char* Description;
     const char* Question;
-    int Left, Top;   // twips on the spread page
+    int Left, Top;  // twips on the spread page
 };
 
 void MakeSampleSpread(const QString& name, const QString& description, bool askIssue,
@@ -303,17 +302,19 @@ void MakeSampleSpread(const QString& name, const QString& description, bool askI
 }
 
 void MakeSampleDesigns() {
-    const Integer moonlit = MakeSampleDeck(QStringLiteral("Moonlit Tarot"), QStringLiteral("The Moonlit Tarot"), 230,
-                                           true, true);
-    const Integer pocket = MakeSampleDeck(QStringLiteral("Pocket Major Arcana"), QStringLiteral("Pocket Major Arcana"),
-                                          20, false, false);
+    const Integer moonlit =
+        MakeSampleDeck(QStringLiteral("Moonlit Tarot"), QStringLiteral("The Moonlit Tarot"), 230, true, true);
+    const Integer pocket =
+        MakeSampleDeck(QStringLiteral("Pocket Major Arcana"), QStringLiteral("Pocket Major Arcana"), 20, false, false);
     MakeSampleSpread(
         QStringLiteral("The Crossroads"),
         QStringLiteral("A spread for a moment of choice. The centre shows where you stand, the cross around it "
                        "what weighs on the choice, and the last card the advice for the way ahead."),
         true,
-        {{"The Present", "Where you stand now, as the question finds you.", "What do you feel when you look at this card?", 3960, 2460},
-         {"The Root", "What lies beneath the question: its cause or its old story.", "Where did this begin?", 3960, 4560},
+        {{"The Present", "Where you stand now, as the question finds you.",
+          "What do you feel when you look at this card?", 3960, 2460},
+         {"The Root", "What lies beneath the question: its cause or its old story.", "Where did this begin?", 3960,
+          4560},
          {"The Past", "What is passing away and may be let go.", "What are you ready to leave behind?", 1320, 2460},
          {"The Crown", "The best that can come of the situation.", "What would you like to happen?", 3960, 360},
          {"The Near Future", "What comes next, whatever you choose.", "What can you prepare for?", 6600, 2460},
@@ -387,8 +388,7 @@ void Shot(const QString& name) {
     }
     const QRect crop = screens.isEmpty() ? frame.rect() : screens.adjusted(-8, -8, 8, 8) & frame.rect();
     QImage image = whole.copy(crop).convertToFormat(QImage::Format_RGB888);
-    if (image.width() > WidestPicture)
-        image = image.scaledToWidth(WidestPicture, Qt::SmoothTransformation);
+    if (image.width() > WidestPicture) image = image.scaledToWidth(WidestPicture, Qt::SmoothTransformation);
     const QString path = gOutDir + QLatin1Char('/') + name + gLanguageSuffix + QStringLiteral(".png");
     if (image.isNull() || !image.save(path, "PNG", 9)) {
         std::fprintf(stderr, "could not save %s\n", qPrintable(path));
@@ -482,8 +482,8 @@ void Diary() {
         bool Reversed;
         bool Photograph;
     };
-    for (const Pick& pick : {Pick{1, "The Hermit", false, false}, Pick{2, "The Tower", true, false},
-                             Pick{3, "The Star", false, true}}) {
+    for (const Pick& pick :
+         {Pick{1, "The Hermit", false, false}, Pick{2, "The Tower", true, false}, Pick{3, "The Star", false, true}}) {
         WhenShown<frmDiaryCards>([pick](frmDiaryCards& cards) {
             int row = -1;
             for (int r = 0; r < cards.lstCards->count(); ++r)
@@ -497,7 +497,7 @@ void Diary() {
         diary.cmdCardTitle(pick.Location)->click();
     }
     Shot(QStringLiteral("diary-entry"));
-    MsgBoxScript::Answer(vbNo);   // "Save changes ...?"
+    MsgBoxScript::Answer(vbNo);  // "Save changes ...?"
     diary.cmdClose_Click();
     Settle();
 }
@@ -586,7 +586,7 @@ void Decks() {
         Settle(600);
         screen.tblPictures->selectRow(3);
         Shot(QStringLiteral("deck-import"));
-        import.cmdCancel_Click();
+        screen.cmdCancel_Click();
     });
     design.cmdImportPictures_Click();
     Settle();
@@ -619,7 +619,7 @@ void Spreads() {
     design.cmdCardAttributes(1)->click();
     Shot(QStringLiteral("location-attributes"));
     if (IsLoaded<frmLocationAttributes>()) Get<frmLocationAttributes>().Unload();
-    if (design.SpreadDirty) MsgBoxScript::Answer(vbNo);   // "Save changes to the spread?"
+    if (design.SpreadDirty) MsgBoxScript::Answer(vbNo);  // "Save changes to the spread?"
     design.cmdBack_Click();
     Settle();
 
@@ -694,9 +694,8 @@ int main(int argc, char** argv) {
     }
     CartomarApplication app(argc, argv, {language});
     if (argc < 3) {
-        std::fprintf(stderr,
-                     "usage: take_screenshots <empty program folder> <folder for the pictures> [help folder] "
-                     "[--language=xx]\n");
+        std::fprintf(stderr, "usage: take_screenshots <empty program folder> <folder for the pictures> [help folder] "
+                             "[--language=xx]\n");
         return 2;
     }
     const QString programDir = QDir(QString::fromLocal8Bit(argv[1])).absolutePath();

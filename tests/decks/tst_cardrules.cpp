@@ -136,7 +136,7 @@ private slots:
             p.txtCardTypeName[0]->setText(QStringLiteral("Major"));
             p.txtCardTypeName[1]->setText(QStringLiteral("Major "));
             p.txtCardTypeName[2]->setText(QStringLiteral(""));
-            p.chkType[3]->click();   // a type without a name can't be used
+            p.chkType[3]->click();  // a type without a name can't be used
             QVERIFY(!p.chkType[3]->isChecked());
             p.cmdClose_Click();
             QCOMPARE(LastPrompt(), CardTypeNamesProblem({"Major", "Major ", "", ""}));
@@ -228,9 +228,9 @@ private slots:
                 if (pass == 0) BadInput::TourTextBoxes(s);
                 BadInput::PasteForeign(s.txtSaveAs);
                 QCOMPARE(s.txtSaveAs->text(), BadInput::ForeignAsStored);
-                if (pass == 1) MsgBoxScript::Answer(vbNo);   // the same name again: the overwrite question
+                if (pass == 1) MsgBoxScript::Answer(vbNo);  // the same name again: the overwrite question
                 s.cmdSave_Click();
-                if (pass == 1) {   // No keeps the save screen open
+                if (pass == 1) {  // No keeps the save screen open
                     QVERIFY(IsLoaded<frmSaveDeck>());
                     s.cmdCancel_Click();
                 }
@@ -252,8 +252,8 @@ private slots:
     void aFileThatVanishedAfterListingIsNotTaken() {
         const QString before = WorkingFiles().Picture[0];
         const QString soundBefore = WorkingFiles().Sound[0];
-        for (FileChooser* chooser : {static_cast<FileChooser*>(&Get<frmGetImageFile>()),
-                                     static_cast<FileChooser*>(&Get<frmGetSoundFile>())}) {
+        for (FileChooser* chooser :
+             {static_cast<FileChooser*>(&Get<frmGetImageFile>()), static_cast<FileChooser*>(&Get<frmGetSoundFile>())}) {
             const bool picture = chooser == ScreenSlot<frmGetImageFile>();
             const QString name = picture ? QStringLiteral("gone.bmp") : QStringLiteral("gone.wav");
             if (picture) Fixtures::WritePicture(src_ + QLatin1Char('/') + name);

@@ -21,14 +21,14 @@
 #include "screens/widgets/ImageBox.h"
 #include "support/ScreenTest.h"
 
-
 namespace {
 
 const QColor FoolUp(200, 0, 0), FoolRev(0, 0, 200), MageRev(0, 160, 0), CupsRev(120, 0, 120), NewMage(250, 250, 0);
 
 // A 1 x 1 red GIF, as Qt writes no GIF.
 QByteArray RedGif() {
-    return QByteArray::fromHex("4749463839610100010080000" "0ff000000000021f9040100000000"
+    return QByteArray::fromHex("4749463839610100010080000"
+                               "0ff000000000021f9040100000000"
                                "2c00000000010001000002024401003b");
 }
 
@@ -65,7 +65,7 @@ class TestDeckDesign : public QObject {
     static void FillCard(frmAddCard& editor, const QString& title, const QString& type, const QString& up) {
         const QString rev = up + QStringLiteral(" reversed");
         editor.txtCardTitle->setText(title);
-        ArrowToLine(editor.lstCardType, type);   // the type chosen by the keys is stored
+        ArrowToLine(editor.lstCardType, type);  // the type chosen by the keys is stored
         editor.txtDescription->setPlainText(up + QStringLiteral(" meaning"));
         editor.txtKeywords->setPlainText(up + QStringLiteral(" words"));
         editor.optReversed->click();
@@ -127,7 +127,8 @@ private slots:
         frmAddCard* editor = nullptr;
         {
             ModalScript pictures;
-            for (const char* name : {"fool_up.bmp", "fool_rev.bmp", "mage_up.jpg", "mage_rev.bmp", "cups_up.gif", "cups_rev.bmp"})
+            for (const char* name :
+                 {"fool_up.bmp", "fool_rev.bmp", "mage_up.jpg", "mage_rev.bmp", "cups_up.gif", "cups_rev.bmp"})
                 pictures.On(Pick<frmGetImageFile>(src_, QString::fromLatin1(name)));
             ModalScript sounds;
             sounds.On(Pick<frmGetSoundFile>(src_, QStringLiteral("bell.wav")));
@@ -170,7 +171,7 @@ private slots:
         QVERIFY(editor->MediaPlayer1->FileName().endsWith(QLatin1String("MCU00004.wav")));
         QCOMPARE(editor->imgCard->Image().pixelColor(0, 0), FoolUp);
         editor->optReversed->click();
-        QVERIFY(!editor->DesignModified);   // looking at the other side changes nothing
+        QVERIFY(!editor->DesignModified);  // looking at the other side changes nothing
         QCOMPARE(editor->txtDescription->toPlainText(), QStringLiteral("fool reversed meaning"));
         QCOMPARE(editor->imgCard->Image().pixelColor(0, 0), FoolRev);
         editor->txtKeywords->setPlainText(QStringLiteral("fool reversed, edited"));
@@ -231,7 +232,7 @@ private slots:
         info.cmdEditCard_Click();
         view = &Get<frmViewCard>();
         QCOMPARE(view->txtCardType->text(), QStringLiteral("Court"));
-        QCOMPARE(view->imgCard->Image().pixelColor(0, 0), QColor(Qt::white));   // the default picture
+        QCOMPARE(view->imgCard->Image().pixelColor(0, 0), QColor(Qt::white));  // the default picture
         view->cmdBack_Click();
         info.cmdBack_Click();
 

@@ -25,10 +25,10 @@ namespace {
 // What a folder may hold before a deck is saved in it.
 enum LeftOver {
     Nothing,
-    Overwritten,     // an installation that overwrote a deck left its 78 cards under the old id
-    KilledDelete,    // a delete killed between its two writes left a deck's cards
-    SharedFile,      // the same, one of them naming a file that another deck's card names
-    SharedId,        // two deck records carry one id
+    Overwritten,   // an installation that overwrote a deck left its 78 cards under the old id
+    KilledDelete,  // a delete killed between its two writes left a deck's cards
+    SharedFile,    // the same, one of them naming a file that another deck's card names
+    SharedId,      // two deck records carry one id
 };
 
 // Takes record n out of Decks.dck and nothing else, as a killed delete or an
@@ -50,7 +50,8 @@ void LeaveOver(LeftOver state) {
         if (state == SharedFile) {
             CardRecord shared;
             GetRecord(TheRun.Paths.CardsPath, 1, shared);
-            ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 3, [&](CardRecord& c) { c.CardPicture[0] = shared.CardPicture[0]; });
+            ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 3,
+                                     [&](CardRecord& c) { c.CardPicture[0] = shared.CardPicture[0]; });
         }
         DropDeckRecord(2);
     } else if (state == SharedId) {
@@ -66,14 +67,17 @@ QStringList Held(const BoundedArray<CardRecord>& cards, const QString& folder) {
     for (const CardRecord& card : cards) {
         held << card.CardTitle.Trimmed();
         for (const auto& picture : card.CardPicture)
-            held.last() += QLatin1Char('|') + QString::fromLatin1(ReadWholeFile(
-                FileExists(folder + picture.Value()) ? folder + picture.Value() : TheRun.Paths.DefaultPicturePath).toHex());
+            held.last() += QLatin1Char('|') + QString::fromLatin1(ReadWholeFile(FileExists(folder + picture.Value())
+                                                                                    ? folder + picture.Value()
+                                                                                    : TheRun.Paths.DefaultPicturePath)
+                                                                      .toHex());
     }
     return held;
 }
 
 QStringList Loaded(const QString& name) {
-    if (!GetRecord(TheRun.Paths.DecksPath, FindDeckByName(name), TheRun.ListDeck) || !LoadDeckCards()) return {QStringLiteral("(no deck)")};
+    if (!GetRecord(TheRun.Paths.DecksPath, FindDeckByName(name), TheRun.ListDeck) || !LoadDeckCards())
+        return {QStringLiteral("(no deck)")};
     return Held(TheRun.CurrentDeck.DeckCards, TheRun.Paths.CardsDir);
 }
 
@@ -135,7 +139,7 @@ private slots:
         });
         decks.cmdEdit_Click();
         QVERIFY(wrong.Done());
-        QVERIFY(!IsLoaded<frmDesignDeck>());   // the wrong password is refused
+        QVERIFY(!IsLoaded<frmDesignDeck>());  // the wrong password is refused
 
         // Viewing asks nothing.
         decks.cmdInfo_Click();
@@ -209,7 +213,8 @@ private slots:
         four.DeckId = 4;
         AppendRecord(TheRun.Paths.DecksPath, four);
         Fixtures::MakeSpread(QStringLiteral("Tied"), 1, allowed);
-        if (anyDeck) ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1, [](SpreadRecord& s) { s.AllowedDeckCount = -1; });
+        if (anyDeck)
+            ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1, [](SpreadRecord& s) { s.AllowedDeckCount = -1; });
         const QByteArray before = ReadWholeFile(TheRun.Paths.SpreadsPath);
         const DeckDeleteCheck check = CheckDeckDelete(QStringLiteral("Four"));
         QCOMPARE(check.Questions.size(), 2);
@@ -268,7 +273,8 @@ private slots:
             card.CardTitle = QStringLiteral("Mine %1").arg(i);
             for (int side = 0; side < (defaultReversed ? 1 : 2); ++side) {
                 card.CardPicture[std::size_t(side)] = CardPictureStem(side, i) + QStringLiteral(".bmp");
-                Fixtures::WritePicture(TheRun.Paths.TempDir + card.CardPicture[std::size_t(side)].Value(), Fixtures::CardColour(i, side == 0));
+                Fixtures::WritePicture(TheRun.Paths.TempDir + card.CardPicture[std::size_t(side)].Value(),
+                                       Fixtures::CardColour(i, side == 0));
             }
             AppendDeckCard(card);
         }
@@ -281,12 +287,14 @@ private slots:
         for (int save = 1; save <= 2; ++save) {
             const DeckSaveResult saved = SaveDeck(deck, name, FindDeckByName(name));
             QVERIFY(!saved.Failure);
-            QCOMPARE(saved.Problems, save == 1 && gone ? QStringList(2, QStringLiteral("Error number 53.  File not found"))
-                                                       : QStringList());
+            QCOMPARE(saved.Problems, save == 1 && gone
+                                         ? QStringList(2, QStringLiteral("Error number 53.  File not found"))
+                                         : QStringList());
             deck = saved.Deck;
             QCOMPARE(Loaded(name), mine);
             int underItsId = 0;
-            for (const CardRecord& card : ReadAllRecords<CardRecord>(TheRun.Paths.CardsPath)) underItsId += card.CardDeckId == deck.DeckId;
+            for (const CardRecord& card : ReadAllRecords<CardRecord>(TheRun.Paths.CardsPath))
+                underItsId += card.CardDeckId == deck.DeckId;
             QCOMPARE(underItsId, 5);
             for (const auto& [other, cards] : others) QCOMPARE(Loaded(other), cards);
             QVERIFY(FileExists(TheRun.Paths.DefaultPicturePath));

@@ -61,23 +61,32 @@ class TestPictureImport : public QObject {
     Q_OBJECT
     QTemporaryDir program_;
     QTemporaryDir folder_;
-    QTemporaryDir clean_;   // five good pictures of every kind, and one more
+    QTemporaryDir clean_;  // five good pictures of every kind, and one more
 
 private slots:
     void initTestCase() {
         MsgBoxScript::Enable();
         CommonDialogScript::Enable();
         const QString c = clean_.path() + QLatin1Char('/'), f = folder_.path() + QLatin1Char('/');
-        for (const auto& [name, format] :
-             {std::pair{"1 sun.bmp", "BMP"}, {"2 moon.jpg", "JPEG"}, {"2 moon-reversed.bmp", "BMP"},
-              {"3 star.png", "PNG"}, {"3 star_r.png", "PNG"}, {"4 tower.webp", "WEBP"}, {"5 world.tiff", "TIFF"},
-              {"6 left out.jpg", "JPEG"}})
+        for (const auto& [name, format] : {std::pair{"1 sun.bmp", "BMP"},
+                                           {"2 moon.jpg", "JPEG"},
+                                           {"2 moon-reversed.bmp", "BMP"},
+                                           {"3 star.png", "PNG"},
+                                           {"3 star_r.png", "PNG"},
+                                           {"4 tower.webp", "WEBP"},
+                                           {"5 world.tiff", "TIFF"},
+                                           {"6 left out.jpg", "JPEG"}})
             WriteMarked(c + QLatin1String(name), format);
-        for (const auto& [name, format] :
-             {std::pair{"1_the-fool.png", "PNG"}, {"1_the-fool-reversed.jpg", "JPEG"}, {"2 the magician.jpg", "JPEG"},
-              {"2 the magician_r.bmp", "BMP"}, {"3 the empress.png", "PNG"}, {"4 the emperor.webp", "WEBP"},
-              {"5 the hierophant.tif", "TIFF"}, {"10 wheel_of-fortune.jpg", "JPEG"},
-              {"10 Wheel_of-Fortune REVERSED.jpg", "JPEG"}, {"11 justice.bmp", "BMP"}})
+        for (const auto& [name, format] : {std::pair{"1_the-fool.png", "PNG"},
+                                           {"1_the-fool-reversed.jpg", "JPEG"},
+                                           {"2 the magician.jpg", "JPEG"},
+                                           {"2 the magician_r.bmp", "BMP"},
+                                           {"3 the empress.png", "PNG"},
+                                           {"4 the emperor.webp", "WEBP"},
+                                           {"5 the hierophant.tif", "TIFF"},
+                                           {"10 wheel_of-fortune.jpg", "JPEG"},
+                                           {"10 Wheel_of-Fortune REVERSED.jpg", "JPEG"},
+                                           {"11 justice.bmp", "BMP"}})
             WriteMarked(f + QLatin1String(name), format);
         // The empress's header reads as a picture; its body is cut off.
         const QByteArray cut = ReadWholeFile(f + QStringLiteral("3 the empress.png")).left(40);
@@ -90,12 +99,18 @@ private slots:
     void titles_data() {
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("title");
-        QTest::newRow("leading number only orders") << "01_the-fool.jpg" << "The Fool";
-        QTest::newRow("a name that is only a number") << "07.jpg" << "07";
-        QTest::newRow("separators and capitals") << "ace-of__cups.v2.jpeg" << "Ace Of Cups V2";
-        QTest::newRow("capitals inside words kept") << "page of WANDS.bmp" << "Page Of WANDS";
-        QTest::newRow("a number inside kept") << "the 2nd tower.gif" << "The 2nd Tower";
-        QTest::newRow("cut to the field") << QString(60, QLatin1Char('a')) + ".jpg" << "A" + QString(49, QLatin1Char('a'));
+        QTest::newRow("leading number only orders") << "01_the-fool.jpg"
+                                                    << "The Fool";
+        QTest::newRow("a name that is only a number") << "07.jpg"
+                                                      << "07";
+        QTest::newRow("separators and capitals") << "ace-of__cups.v2.jpeg"
+                                                 << "Ace Of Cups V2";
+        QTest::newRow("capitals inside words kept") << "page of WANDS.bmp"
+                                                    << "Page Of WANDS";
+        QTest::newRow("a number inside kept") << "the 2nd tower.gif"
+                                              << "The 2nd Tower";
+        QTest::newRow("cut to the field") << QString(60, QLatin1Char('a')) + ".jpg"
+                                          << "A" + QString(49, QLatin1Char('a'));
         QTest::newRow("as the record holds it") << QStringLiteral("луна_sol.jpg") << "???? Sol";
     }
     void titles() {
@@ -110,15 +125,15 @@ private slots:
         QTest::addColumn<int>("cardsBefore");
         QTest::addColumn<int>("leftOut");
         QTest::addColumn<bool>("cancel");
-        QTest::addColumn<QStringList>("cards");   // title|type|upright|reversed
+        QTest::addColumn<QStringList>("cards");  // title|type|upright|reversed
         QTest::addColumn<QStringList>("pastLimit");
         QTest::addColumn<QStringList>("unreadable");
         const int none = int(ReversedSide::None), turned = int(ReversedSide::Turned), own = int(ReversedSide::OwnFile);
         const QStringList empress{QStringLiteral("3 the empress.png")};
         // The cards of the folder in order, with their reversed sides.
         const auto cards = [](const QStringList& reversed) {
-            const QStringList upright{"The Fool|0|CU00001.jpg",      "The Magician|1|CU00002.jpg",
-                                      "The Emperor|0|CU00003.jpg",   "The Hierophant|0|CU00004.jpg",
+            const QStringList upright{"The Fool|0|CU00001.jpg",         "The Magician|1|CU00002.jpg",
+                                      "The Emperor|0|CU00003.jpg",      "The Hierophant|0|CU00004.jpg",
                                       "Wheel Of Fortune|0|CU00005.jpg", "Justice|0|CU00006.bmp"};
             QStringList cards;
             for (int i = 0; i < reversed.size(); ++i) cards << upright[i] + QLatin1Char('|') + reversed[i];
@@ -140,10 +155,10 @@ private slots:
             << empress;
         QTest::newRow("deck without reversed cards")
             << own << false << 0 << -1 << false << cards(QStringList(6, "C000000.bmp")) << QStringList{} << empress;
-        QTest::newRow("two places left")
-            << own << true << 98 << -1 << false << cards(ownFiles.mid(0, 2))
-            << QStringList{"The Empress", "The Emperor", "The Hierophant", "Wheel Of Fortune", "Justice"}
-            << QStringList{};
+        QTest::newRow("two places left") << own << true << 98 << -1 << false << cards(ownFiles.mid(0, 2))
+                                         << QStringList{"The Empress", "The Emperor", "The Hierophant",
+                                                        "Wheel Of Fortune", "Justice"}
+                                         << QStringList{};
         QTest::newRow("cancelled") << turned << true << 0 << -1 << true << QStringList{} << QStringList{}
                                    << QStringList{};
     }
@@ -182,7 +197,8 @@ private slots:
             files << up;
             if (card.CardPicture[1].Value() != DefaultPictureName) files << rev;
             if (ReversedSide(reversed) == ReversedSide::Turned)
-                QVERIFY2(RedAt(TheRun.Paths.TempDir + up, 2, 2) && RedAt(TheRun.Paths.TempDir + rev, 13, 13) && !RedAt(TheRun.Paths.TempDir + rev, 2, 2),
+                QVERIFY2(RedAt(TheRun.Paths.TempDir + up, 2, 2) && RedAt(TheRun.Paths.TempDir + rev, 13, 13) &&
+                             !RedAt(TheRun.Paths.TempDir + rev, 2, 2),
                          qPrintable(rev));
             if (ReversedSide(reversed) == ReversedSide::None && deckReversed)
                 QCOMPARE(ReadWholeFile(TheRun.Paths.TempDir + rev), ReadWholeFile(TheRun.Paths.DefaultPicturePath));
@@ -278,7 +294,8 @@ private slots:
         QCOMPARE(TheRun.CurrentDeck.DeckCards(4).CardTitle.Trimmed(), QStringLiteral("Moon Rising"));
         QVERIFY(LineOf(Get<frmDesignDeck>().lstCards, QStringLiteral("Moon Rising")) >= 0);
         for (const CardRecord& card : TheRun.CurrentDeck.DeckCards) {
-            for (const auto& picture : card.CardPicture) QVERIFY2(FileExists(TheRun.Paths.CardsDir + picture.Value()), qPrintable(picture.Value()));
+            for (const auto& picture : card.CardPicture)
+                QVERIFY2(FileExists(TheRun.Paths.CardsDir + picture.Value()), qPrintable(picture.Value()));
             QCOMPARE(card.CardPicture[1].Value() == DefaultPictureName, !deckReversed);
         }
     }

@@ -79,7 +79,8 @@ private slots:
             int row = IndexOfNone(TheRun.DiaryLists, at);
             for (int r = 0; card > 0 && r < TheRun.DiaryLists.Rows(at).size(); ++r)
                 if (TheRun.DiaryLists.Rows(at)[r].Text == CardText(card)) row = r;
-            QCOMPARE(ChooseRow(TheRun.DiaryLists, diary, at, row, SelectedText(TheRun.DiaryLists, at), duplicates, false, deck, 4),
+            QCOMPARE(ChooseRow(TheRun.DiaryLists, diary, at, row, SelectedText(TheRun.DiaryLists, at), duplicates,
+                               false, deck, 4),
                      card);
         }
         QStringList dealt;

@@ -158,11 +158,11 @@ inline void OfferDecks() {
 // The picture import over the deck designer, the sample's card pictures
 // proposed, which runs modally.
 inline void ImportPictures(const Look& look) {
-    OnDecks(&frmDecks::cmdEdit_Click)();
+    OnDecks (&frmDecks::cmdEdit_Click)();
     ModalScript script;
-    script.On<frmImportPictures>([look](frmImportPictures& import) {
-        look(import);
-        import.cmdCancel->click();
+    script.On<frmImportPictures>([look](frmImportPictures& screen) {
+        look(screen);
+        screen.cmdCancel->click();
     });
     Get<frmImportPictures>().ShowFolder(TheRun.Paths.CardsDir);
 }
@@ -235,8 +235,7 @@ inline QList<Screen> Every() {
         {"frmNewDiary", After<frmNewDiary>(NewDiary)},
         {"frmDiaryCards", DiaryCards},
         {"frmNewDiary keeping", After<frmNewDiary>(Keeping)},
-        {"frmDiaryInterpretLocation",
-         After<frmDiaryInterpretLocation>([] {
+        {"frmDiaryInterpretLocation", After<frmDiaryInterpretLocation>([] {
              Keeping();
              Get<frmNewDiary>().cmdInterpret->click();
          })},

@@ -74,16 +74,16 @@ QStringList UntranslatedTexts(QWidget& screen) {
 // table; false for a screen left alone.
 bool Provoke(const QString& screen) {
     if (screen == QLatin1String("frmSelectSpread")) {
-        Get<frmSelectSpread>().lstCardTypes->clearSelection();   // too few card types
+        Get<frmSelectSpread>().lstCardTypes->clearSelection();  // too few card types
         Get<frmSelectSpread>().cmdSelect_Click();
     } else if (screen == QLatin1String("frmSaveReading")) {
-        Get<frmSaveReading>().txtSaveAs->clear();   // no name
+        Get<frmSaveReading>().txtSaveAs->clear();  // no name
         Get<frmSaveReading>().cmdSave_Click();
     } else if (screen == QLatin1String("frmOpenReading")) {
-        MsgBoxScript::Answer(vbNo);   // the delete question
+        MsgBoxScript::Answer(vbNo);  // the delete question
         Get<frmOpenReading>().cmdDelete_Click();
     } else if (screen == QLatin1String("frmDiaryCards")) {
-        Get<frmDiaryCards>().cmdSelect_Click();   // no card chosen
+        Get<frmDiaryCards>().cmdSelect_Click();  // no card chosen
     } else {
         return false;
     }

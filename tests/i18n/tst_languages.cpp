@@ -123,8 +123,10 @@ private slots:
         QTest::addColumn<QString>("context");
         QTest::addColumn<QString>("source");
         QTest::addColumn<QStringList>("kept");
-        QTest::newRow("arguments and breaks") << "ErrorReport" << "Run-time error '%1':\n\n%2" << QStringList{"'%1':\n\n%2"};
-        QTest::newRow("accelerator") << "frmConvert" << "Con&vert" << QStringList{"&v"};
+        QTest::newRow("arguments and breaks") << "ErrorReport"
+                                              << "Run-time error '%1':\n\n%2" << QStringList{"'%1':\n\n%2"};
+        QTest::newRow("accelerator") << "frmConvert"
+                                     << "Con&vert" << QStringList{"&v"};
         QTest::newRow("double space, argument at the end")
             << "Startup"
             << "Unable to convert to new database format as existing backups exist.  Please reinstall in a new "

@@ -111,8 +111,10 @@ private slots:
 
         Save(TheRun.Paths.DiaryPath, Fixtures::NamedDiary(QStringLiteral("Garden")), tarot_, cross_, {2024, 1, 20},
              {{2, 5, true}, {3, 1, true}});
-        Save(TheRun.Paths.DiaryPath, Fixtures::NamedDiary(QStringLiteral("Old deck")), other_, line_, {2024, 2, 5}, {{1, 3, true}});
-        Save(TheRun.Paths.DiaryPath, Fixtures::NamedDiary(QStringLiteral("Gone deck")), gone_, line_, {2024, 2, 6}, {{1, 4, false}});
+        Save(TheRun.Paths.DiaryPath, Fixtures::NamedDiary(QStringLiteral("Old deck")), other_, line_, {2024, 2, 5},
+             {{1, 3, true}});
+        Save(TheRun.Paths.DiaryPath, Fixtures::NamedDiary(QStringLiteral("Gone deck")), gone_, line_, {2024, 2, 6},
+             {{1, 4, false}});
         Save(TheRun.Paths.DiaryPath, Fixtures::NamedDiary(QStringLiteral("Damaged")), tarot_, line_, {2024, 2, 7},
              {{1, 45, true}, {2, 2, false}});
     }

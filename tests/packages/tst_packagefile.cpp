@@ -47,7 +47,7 @@ QStringList TempNames() { return Dir(TheRun.Paths.TempDir + QStringLiteral("*.*"
 
 class TestPackageFile : public QObject {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> outer_;   // holds the program directory and what lies beside it
+    std::unique_ptr<QTemporaryDir> outer_;  // holds the program directory and what lies beside it
     QString program_;
 
     QString WritePackage(const QByteArray& bytes) {
@@ -120,7 +120,7 @@ private slots:
         // A member cut short is dropped with what follows (see the hostile
         // sizes below); one whole after another is kept.
         const QByteArray first = Member("C:\\Cartomar\\Temp\\a.txt", "first");
-        const QByteArray second = Member("b.txt", "second member");   // no backslash: the whole name
+        const QByteArray second = Member("b.txt", "second member");  // no backslash: the whole name
         QVERIFY(ExtractPackageFile(WritePackage(first + second), TheRun.Paths.TempDir));
         QCOMPARE(ReadWholeFile(TheRun.Paths.TempDir + QStringLiteral("b.txt")), QByteArray("second member"));
 
@@ -146,14 +146,15 @@ private slots:
                          Member("/etc/evil3.txt", "3") + Member("C:\\Windows\\evil4.txt", "4") +
                          Member("a\\b/..\\../evil5.txt  ", "5")),
             TheRun.Paths.TempDir));
-        QCOMPARE(TempNames(), (QStringList{QStringLiteral("evil1.txt"), QStringLiteral("evil2.txt"),
-                                           QStringLiteral("evil3.txt"), QStringLiteral("evil4.txt"),
-                                           QStringLiteral("evil5.txt"), QStringLiteral("ok.txt")}));
+        QCOMPARE(TempNames(),
+                 (QStringList{QStringLiteral("evil1.txt"), QStringLiteral("evil2.txt"), QStringLiteral("evil3.txt"),
+                              QStringLiteral("evil4.txt"), QStringLiteral("evil5.txt"), QStringLiteral("ok.txt")}));
 
         // Names that are no file name end the unpacking as a failure.
         for (const QByteArray& name : {QByteArray(), QByteArray("."), QByteArray(".."), QByteArray("x\\.."),
                                        QByteArray("x/.. "), QByteArray("x/"), QByteArray("bad\0name", 8)})
-            QVERIFY2(!ExtractPackageFile(WritePackage(good + Member(name, "payload")), TheRun.Paths.TempDir), name.constData());
+            QVERIFY2(!ExtractPackageFile(WritePackage(good + Member(name, "payload")), TheRun.Paths.TempDir),
+                     name.constData());
 
         // Sizes and lengths past the end, or below 0, end the reading quietly
         // with what came before, as a member cut short in its data, its name

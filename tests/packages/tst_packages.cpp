@@ -81,7 +81,8 @@ void StagePackage(const QString& from, const QString& to) {
     FreshRun(to);
     Fixtures::MakeDeck(QStringLiteral("Mine"), 1, false);
     Fixtures::MakeSpread(QStringLiteral("Mine"), 1);
-    for (const QString& name : Dir(staged + QStringLiteral("*.*"))) FileCopy(staged + name, TheRun.Paths.TempDir + name);
+    for (const QString& name : Dir(staged + QStringLiteral("*.*")))
+        FileCopy(staged + name, TheRun.Paths.TempDir + name);
 }
 
 // Designs written into the program folder in one of the states the designers
@@ -204,7 +205,8 @@ QStringList Unnamed() {
 // names in Cards/.
 QByteArray Stored() {
     QByteArray all;
-    for (const QString* path : {&TheRun.Paths.DecksPath, &TheRun.Paths.CardsPath, &TheRun.Paths.SpreadsPath, &TheRun.Paths.LocationsPath})
+    for (const QString* path :
+         {&TheRun.Paths.DecksPath, &TheRun.Paths.CardsPath, &TheRun.Paths.SpreadsPath, &TheRun.Paths.LocationsPath})
         all += ReadWholeFile(*path) + '|';
     return all + Dir(TheRun.Paths.CardsDir + QStringLiteral("*.*")).join(QLatin1Char('|')).toLatin1();
 }
@@ -262,7 +264,8 @@ private slots:
         QVERIFY(summaryScript.Done());
         Settle();
         QVERIFY(!IsLoaded<frmCreatePackage>() && Get<frmMainScreen>().Visible());
-        QCOMPARE(All<DeckRecord>(TheRun.Paths.DecksPath)[0].DeckLocked, Integer(0));  // the live designs keep no password
+        QCOMPARE(All<DeckRecord>(TheRun.Paths.DecksPath)[0].DeckLocked,
+                 Integer(0));  // the live designs keep no password
         const QString package = TheRun.Paths.PackagesDir + QStringLiteral("Cartomar Package - 1.pck");
 
         // Directory B: a deck and a spread of the same names already.
@@ -299,7 +302,8 @@ private slots:
         QVERIFY(!IsLoaded<frmInstallPackage>() && Get<frmMainScreen>().Visible());
         QVERIFY(Dir(TheRun.Paths.TempDir + QStringLiteral("*.*")).isEmpty());
         // The attachment is saved with its extension added once more.
-        QCOMPARE(ReadWholeFile(TheRun.Paths.AttachmentsDir + QStringLiteral("notes.txt.txt")), QByteArray("Read me first."));
+        QCOMPARE(ReadWholeFile(TheRun.Paths.AttachmentsDir + QStringLiteral("notes.txt.txt")),
+                 QByteArray("Read me first."));
 
         // B's own deck stays as it was; the renamed deck and the spread that
         // took the place of B's carry the package's password, and are
@@ -335,7 +339,8 @@ private slots:
         });
         QTest::newRow("attachments, two of them gone") << DesignState([] {
             const Packed packed = TarotAndCross();
-            for (const char* name : {"deck.txt", "place.txt"}) WriteWholeFile(TheRun.Paths.CardsDir + QLatin1String(name), name);
+            for (const char* name : {"deck.txt", "place.txt"})
+                WriteWholeFile(TheRun.Paths.CardsDir + QLatin1String(name), name);
             ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 1,
                                      [](DeckRecord& d) { d.DeckAttachment = QStringLiteral("deck.txt"); });
             ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1,
@@ -426,7 +431,8 @@ private slots:
                 s.AllowedDeckId[0] = tarot;
                 s.AllowedDeckCount = 1;
             });
-            for (const QString& name : Dir(unpacked + QStringLiteral("*.*"))) FileCopy(unpacked + name, TheRun.Paths.TempDir + name);
+            for (const QString& name : Dir(unpacked + QStringLiteral("*.*")))
+                FileCopy(unpacked + name, TheRun.Paths.TempDir + name);
             QCOMPARE(PackageInstallation(answers, QString()).Install(), InstallOutcome::Installed);
             std::set<Integer> ids;
             for (const DeckRecord& deck : All<DeckRecord>(TheRun.Paths.DecksPath)) {
@@ -533,7 +539,8 @@ private slots:
         ChangeRecord<CardRecord>(TheRun.Paths.TempDir + QStringLiteral("Temp.crd"), 2,
                                  [](CardRecord& c) { c.CardPicture[0] = QStringLiteral("CU00001.bmp"); });
         WriteWholeFile(TheRun.Paths.CardsDir + QStringLiteral("CU00002jpeg"), "photo.jpeg");
-        WriteWholeFile(TheRun.Paths.CardsDir + QStringLiteral("cr00003.bmp"), "a reversed picture whose upright one went");
+        WriteWholeFile(TheRun.Paths.CardsDir + QStringLiteral("cr00003.bmp"),
+                       "a reversed picture whose upright one went");
         InstallAnswers answers;
         answers.Chosen = {QStringLiteral("Tarot")};
         QCOMPARE(PackageInstallation(answers, QString()).Install(), InstallOutcome::Installed);

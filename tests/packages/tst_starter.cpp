@@ -157,7 +157,8 @@ private slots:
         QCOMPARE(QList<int>({int(decks.size()), deck.CardCount, int(cards.size())}), QList<int>({1, 78, 78}));
         for (const CardRecord& card : {cards.front(), cards.back()})
             for (const auto& picture : card.CardPicture)
-                QCOMPARE(LoadPicture(TheRun.Paths.CardsDir + picture.Trimmed()).Image.size(), QSize(FaceWidth, FaceHeight));
+                QCOMPARE(LoadPicture(TheRun.Paths.CardsDir + picture.Trimmed()).Image.size(),
+                         QSize(FaceWidth, FaceHeight));
         for (const SpreadRecord& spread : ReadAllRecords<SpreadRecord>(TheRun.Paths.SpreadsPath)) {
             QCOMPARE(spread.AllowedDeckCount, Integer(1));
             QCOMPARE(spread.AllowedDeckId[0], deck.DeckId);

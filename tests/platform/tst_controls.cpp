@@ -35,7 +35,7 @@ private slots:
         ListBox list;
         list.setSorted(true);
         for (const char* name : {"b", "C", "a"}) list.AddItem(QLatin1String(name));
-        QCOMPARE(list.List(2), QStringLiteral("C"));   // sorted, capitals among small letters
+        QCOMPARE(list.List(2), QStringLiteral("C"));  // sorted, capitals among small letters
         list.show();
         list.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&list));
@@ -45,7 +45,8 @@ private slots:
         const int row = words.value(1).toInt();
         const QPoint at = row >= 0 ? list.visualItemRect(list.item(row)).center() : QPoint();
         if (words[0] == QLatin1String("mouse")) QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at);
-        if (words[0] == QLatin1String("ctrl")) QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, at);
+        if (words[0] == QLatin1String("ctrl"))
+            QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, at);
         if (words[0] == QLatin1String("double")) QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at);
         if (words[0] == QLatin1String("down")) QTest::keyClick(&list, Qt::Key_Down);
         if (words[0] == QLatin1String("up")) QTest::keyClick(&list, Qt::Key_Up);

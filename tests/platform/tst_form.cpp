@@ -81,13 +81,18 @@ std::function<void()> MainButton(int index) {
 }
 
 const FailingLoad kFailingLoads[] = {
-    {[] { ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1, [](SpreadRecord& s) { s.BackgroundFile = "S000001.bmp"; }); },
+    {[] {
+         ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1,
+                                    [](SpreadRecord& s) { s.BackgroundFile = "S000001.bmp"; });
+     },
      [] {
          Get<frmSpreads>().SelectSpread(QStringLiteral("First"));
          Get<frmSpreads>().cmdInfo->click();
      },
      IsLoaded<frmSpreadInfo>},
-    {[] { ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 1, [](CardRecord& c) { c.CardSound[0] = "MCU00001.wav"; }); },
+    {[] {
+         ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 1, [](CardRecord& c) { c.CardSound[0] = "MCU00001.wav"; });
+     },
      [] {
          Get<frmDecks>().lstDecks->setListIndex(0);
          Get<frmDecks>().cmdInfo->click();
@@ -95,7 +100,8 @@ const FailingLoad kFailingLoads[] = {
      IsLoaded<frmDeckInfo>},
     {[] { Unreadable(TheRun.Paths.ReadingsPath); }, MainButton(2),
      [] { return IsLoaded<frmOpenReading>() || IsLoaded<frmNewReading>(); }},
-    {[] { Unreadable(TheRun.Paths.DiaryPath); }, MainButton(4), [] { return IsLoaded<frmOpenDiary>() || IsLoaded<frmNewDiary>(); }},
+    {[] { Unreadable(TheRun.Paths.DiaryPath); }, MainButton(4),
+     [] { return IsLoaded<frmOpenDiary>() || IsLoaded<frmNewDiary>(); }},
     {[] { Unreadable(TheRun.Paths.DecksPath); }, MainButton(8), IsLoaded<frmCreatePackage>},
 };
 }  // namespace
@@ -123,7 +129,7 @@ private slots:
         QVERIFY(!IsLoaded<frmSample>());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         Get<frmSample>();
-        QCOMPARE(gLoads, 2);           // a later use starts afresh
+        QCOMPARE(gLoads, 2);  // a later use starts afresh
         UnloadScreen<frmSample>();
     }
 
@@ -168,8 +174,8 @@ private slots:
         QCOMPARE(Prompts().size(), 1);
         QVERIFY(Prompts().first().startsWith(QStringLiteral("Run-time error '")));
         QVERIFY(!failing.left());
-        QVERIFY(!QApplication::overrideCursor());   // the hourglass went with the operation
-        if (IsLoaded<frmMainScreen>()) QVERIFY(Get<frmMainScreen>().Visible());   // back where it was
+        QVERIFY(!QApplication::overrideCursor());  // the hourglass went with the operation
+        if (IsLoaded<frmMainScreen>()) QVERIFY(Get<frmMainScreen>().Visible());  // back where it was
         for (auto unload : {UnloadScreen<frmSpreadInfo>, UnloadScreen<frmSpreads>, UnloadScreen<frmDecks>,
                             UnloadScreen<frmMainScreen>})
             unload();
@@ -182,7 +188,7 @@ private slots:
         QTest::keyClick(f.txtName, Qt::Key_A);
         QTest::keyClick(f.txtName, Qt::Key_Escape);
         QCOMPARE(f.keysDown, QList<int>({Qt::Key_A, Qt::Key_Escape}));
-        QCOMPARE(f.txtName->text(), QStringLiteral("a"));   // not handled: the box got it
+        QCOMPARE(f.txtName->text(), QStringLiteral("a"));  // not handled: the box got it
         f.Unload();
     }
 
@@ -197,7 +203,7 @@ private slots:
         f.Show();
         QVERIFY(f.activations >= 1);
         Get<frmOther>().Show();
-        QCOMPARE(f.deactivations, 1);     // another screen took the focus
+        QCOMPARE(f.deactivations, 1);  // another screen took the focus
         UnloadScreen<frmOther>();
         UnloadScreen<frmSample>();
         SetFrameArea(nullptr);

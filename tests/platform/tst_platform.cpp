@@ -50,7 +50,7 @@ private slots:
                  QStringLiteral("12:30:0 AM"));
 
         SetClockForTests(QDateTime(QDate(2026, 11, 23), QTime(18, 0)));
-        QCOMPARE(OleToday(), ToOleDate(QDate(2026, 11, 23)));   // a whole day, no time
+        QCOMPARE(OleToday(), ToOleDate(QDate(2026, 11, 23)));  // a whole day, no time
         SetClockForTests(QDateTime());
         // A garbage date in a record never crashes a screen.
         QVERIFY(!FormatDdMmmYyyy(std::numeric_limits<double>::quiet_NaN()).isEmpty());
@@ -79,16 +79,17 @@ private slots:
         touch(QStringLiteral("noext"));
         QCOMPARE(Dir(path(QStringLiteral("CU*.jpg"))), QStringList({"CU00001.jpg", "CU00002.JPG"}));
         QCOMPARE(Dir(path(QStringLiteral("C?00001.*"))), QStringList({"CR00001.gif", "CU00001.jpg"}));
-        QCOMPARE(Dir(path(QStringLiteral("*.*"))).size(), 4);   // "*.*" means every name
+        QCOMPARE(Dir(path(QStringLiteral("*.*"))).size(), 4);  // "*.*" means every name
         QVERIFY(Dir(path(QStringLiteral("nothere/*.*"))).isEmpty());
 
         // Record fields carry names with trailing spaces; the file is found.
         QVERIFY(FileExists(path(QStringLiteral("CU00001.jpg  "))));
-        QVERIFY(!FileExists(dir_.path()));   // a folder is not a file
+        QVERIFY(!FileExists(dir_.path()));  // a folder is not a file
 
         Name(path(QStringLiteral("noext")), path(QStringLiteral("renamed")));
         QVERIFY(FileExists(path(QStringLiteral("renamed"))));
-        QVERIFY_THROWS_EXCEPTION(RuntimeError, Name(path(QStringLiteral("renamed")), path(QStringLiteral("CU00001.jpg"))));
+        QVERIFY_THROWS_EXCEPTION(RuntimeError,
+                                 Name(path(QStringLiteral("renamed")), path(QStringLiteral("CU00001.jpg"))));
         QVERIFY_THROWS_EXCEPTION(RuntimeError, FileCopy(path(QStringLiteral("gone")), path(QStringLiteral("x"))));
 
         FileCopy(path(QStringLiteral("CR00001.gif")), path(QStringLiteral("copy.gif")));
@@ -96,14 +97,14 @@ private slots:
 
         KillIgnoringErrors(path(QStringLiteral("CU*.*")));
         QVERIFY(Dir(path(QStringLiteral("CU*"))).isEmpty());
-        KillIgnoringErrors(path(QStringLiteral("missing/*.*")));   // never fails
+        KillIgnoringErrors(path(QStringLiteral("missing/*.*")));  // never fails
         try {
             Kill(path(QStringLiteral("CU*.*")));
             QFAIL("Kill of nothing must raise");
         } catch (const RuntimeError& e) {
             QCOMPARE(e.Number(), int(errFileNotFound));
         }
-        MkDirIgnoringErrors(path(QStringLiteral("a/b")));   // one level only, quietly
+        MkDirIgnoringErrors(path(QStringLiteral("a/b")));  // one level only, quietly
         QVERIFY(!DirExists(path(QStringLiteral("a"))));
         MkDirIgnoringErrors(path(QStringLiteral("a")));
         QVERIFY(DirExists(path(QStringLiteral("a"))));
@@ -144,7 +145,7 @@ private slots:
         const bool ok = Guarded([&] {
             BoundedArray<int> cards(1, 3);
             cards(3) = 1;
-            cards(4) = 2;   // past the end: the toolkit's subscript error
+            cards(4) = 2;  // past the end: the toolkit's subscript error
             after = true;
         });
         QVERIFY(!ok);
@@ -164,7 +165,7 @@ private slots:
             "47494638396101000100800000000000ffffff21f90401000000002c00000000010001000002024401003b");
         touch(QStringLiteral("p.gif"), gif);
         const Picture bmp = LoadPicture(path(QStringLiteral("p.bmp")));
-        QCOMPARE(bmp.Width, 300);   // twips, 15 to the pixel
+        QCOMPARE(bmp.Width, 300);  // twips, 15 to the pixel
         QCOMPARE(bmp.Height, 150);
         QCOMPARE(LoadPicture(path(QStringLiteral("p.jpg"))).Width, 300);
         QCOMPARE(LoadPicture(path(QStringLiteral("p.gif"))).Height, 15);

@@ -65,7 +65,7 @@ private slots:
         QCOMPARE(printer->Calls.size(), 3);
 
         for (int slot = 1; slot <= 4; ++slot) QCOMPARE(L().SlotY(slot), 1000 + (slot - 1) * 3500);
-        Job().PageNumber = 1;   // below the first page's longer header
+        Job().PageNumber = 1;  // below the first page's longer header
         QCOMPARE(QList<int>({L().SlotY(1), L().SlotY(2)}), QList<int>({1000, 2700}));
 
         // The first-page form of the header names spread, deck and time.
@@ -97,7 +97,8 @@ private slots:
         QCOMPARE(int(Job().Fault), int(PrintFault::PrinterNotReady));
         // Without a job nothing reaches the printer.
         printer->Calls.clear();
-        QVERIFY(!L().PrintBlock(QImage(), QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("d")));
+        QVERIFY(!L().PrintBlock(QImage(), QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"),
+                                QStringLiteral("d")));
         QVERIFY(!L().PrintSummary(QStringLiteral("x")));
         QVERIFY(!L().NewPrintPage());
         QVERIFY(printer->Calls.isEmpty());
@@ -160,10 +161,10 @@ private slots:
     void blocksStandInSlotsAndPushOnWhenLong() {
         auto printer = UsePrinter();
         QVERIFY(L().StartPrint(5, QStringLiteral("t"), QString(), QString()));
-        const QImage tall(100, 200, QImage::Format_RGB32);   // 1500 by 3000 twips
+        const QImage tall(100, 200, QImage::Format_RGB32);  // 1500 by 3000 twips
         int from = printer->Calls.size();
-        QVERIFY(L().PrintBlock(tall, QStringLiteral(" Past "), QStringLiteral("What was"), QStringLiteral("Fool(Upright)"),
-                           QStringLiteral(" A beginning ")));
+        QVERIFY(L().PrintBlock(tall, QStringLiteral(" Past "), QStringLiteral("What was"),
+                               QStringLiteral("Fool(Upright)"), QStringLiteral(" A beginning ")));
         const PrinterCall picture = printer->Calls[from];
         // The first block of a job stands 500 below the header's slot.
         QCOMPARE(QList<int>({picture.X, picture.Y, picture.W, picture.H}), QList<int>({1000, 1500, 1500, 3000}));
@@ -200,8 +201,8 @@ private slots:
         auto printer = UsePrinter();
         QVERIFY(L().StartPrint(1, QStringLiteral("t"), QString(), QString()));
         struct Case {
-            int w, h;        // pixels
-            int W, H;        // twips drawn
+            int w, h;  // pixels
+            int W, H;  // twips drawn
         };
         // Wider and taller than the box; wider only; taller only; smaller.
         for (const Case& c : {Case{400, 300, 3000, 2250}, Case{300, 400, 2250, 3000}, Case{400, 100, 3000, 750},

@@ -146,7 +146,8 @@ class TestPrintEntry : public QObject, ScreenRun {
                 painter.drawRect(4, 4, 111, 171);
                 painter.drawText(picture.rect(), Qt::AlignCenter, QString::number(n));
                 painter.end();
-                SavePictureAsBmp(picture, TheRun.Paths.CardsDir + card.CardPicture[static_cast<std::size_t>(side)].Trimmed());
+                SavePictureAsBmp(picture,
+                                 TheRun.Paths.CardsDir + card.CardPicture[static_cast<std::size_t>(side)].Trimmed());
             }
         }
         ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 1, [](CardRecord& c) {
@@ -197,7 +198,8 @@ private slots:
 
     void readingPrintsTheSpreadPageThenSummaryAndBlocks() {
         QFETCH(bool, titles);
-        ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 1, [titles](DeckRecord& d) { d.DisplayCardTitles = Flag(titles); });
+        ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 1,
+                                 [titles](DeckRecord& d) { d.DisplayCardTitles = Flag(titles); });
         frmNewReading& reading = Reading();
         TheRun.CurrentReading.ReadingNotes = QStringLiteral("Line one\nLine two");
         auto printer = RecorderChosen();
@@ -224,7 +226,7 @@ private slots:
             cards << QStringLiteral("Card: Card %1%2")
                          .arg(TheRun.ReadingDeal.DealtCard(i))
                          .arg(TheRun.ReadingDeal.DealtUpright(i) != 0 ? QStringLiteral("(Upright)")
-                                                               : QStringLiteral("(Reversed)"));
+                                                                      : QStringLiteral("(Reversed)"));
         }
         QCOMPARE(Starting(texts, QStringLiteral("Location: ")), locations);
         QCOMPARE(Starting(texts, QStringLiteral("Card: ")), cards);
@@ -232,7 +234,8 @@ private slots:
         QVERIFY(texts.contains(QStringLiteral("What position 3 stands for  Who?  Why?")));
         // Each card's text is its side's.
         const Integer first = TheRun.ReadingDeal.DealtCard(1);
-        const QString meaning = DeckCard(first).CardDescription[TheRun.ReadingDeal.DealtUpright(1) != 0 ? 0 : 1].Trimmed();
+        const QString meaning =
+            DeckCard(first).CardDescription[TheRun.ReadingDeal.DealtUpright(1) != 0 ? 0 : 1].Trimmed();
         QCOMPARE(texts[texts.indexOf(cards[0]) + 1], meaning.section(QLatin1Char('\n'), 0, 0));
     }
 
@@ -306,7 +309,8 @@ private slots:
         QFile::remove(readingPdf);
 
         frmNewReading& reading = Reading();
-        TheRun.CurrentReading.ReadingNotes = QStringLiteral("The weather turns by the end of the week.\nTake an umbrella.");
+        TheRun.CurrentReading.ReadingNotes =
+            QStringLiteral("The weather turns by the end of the week.\nTake an umbrella.");
         PrinterDialogScript::PrintToPdf(readingPdf);
         reading.cmdPrint->click();
         QVERIFY(MsgBoxScript::History().isEmpty());

@@ -104,7 +104,8 @@ private slots:
         QVERIFY(GetRecord(TheRun.Paths.ReadingsPath, 1, saved));
         QCOMPARE(saved.ReadingNotes.Trimmed(), QStringLiteral("Rain later."));
         QCOMPARE(QList<Integer>({saved.SaveCount, saved.DealtCount}), QList<Integer>({2, Locations}));
-        for (int i = 1; i <= Locations; ++i) QCOMPARE(saved.DealtCard[std::size_t(i - 1)], TheRun.ReadingDeal.DealtCard(i));
+        for (int i = 1; i <= Locations; ++i)
+            QCOMPARE(saved.DealtCard[std::size_t(i - 1)], TheRun.ReadingDeal.DealtCard(i));
 
         // Reopened complete: no table, Deal offered.
         OpenPastReading(0);

@@ -329,7 +329,8 @@ private slots:
         select.lstCardTypes->item(0)->setSelected(true);
         select.chkAllowDuplicateCards->setChecked(true);
         select.cmdSelect_Click();
-        QVERIFY(TheRun.AllowDuplicateCards && TheRun.UseReversed && TheRun.CurrentReading.AllowDuplicateCards == True16);
+        QVERIFY(TheRun.AllowDuplicateCards && TheRun.UseReversed &&
+                TheRun.CurrentReading.AllowDuplicateCards == True16);
         QVERIFY(Get<frmSelectSpread>().chkAllowDuplicateCards->isChecked());
         SelectSpreadScreen::LastAllowDuplicateCards = false;
         UnloadScreen<frmSelectSpread>();

@@ -68,7 +68,8 @@ class TestShuffle : public QObject, ScreenRun {
         Fixtures::MakeDeck(QStringLiteral("Deck"), cards, true);
         Fixtures::MakeSpread(QStringLiteral("Line"), qMin(cards, 12), {}, true);
         for (int n = 1; n <= cards; ++n)
-            ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, n, [n](CardRecord& c) { c.CardType = static_cast<Integer>(n % 2); });
+            ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, n,
+                                     [n](CardRecord& c) { c.CardType = static_cast<Integer>(n % 2); });
         SetRandomizeSeedForTests(seed);
         return NewReading([&](frmSelectSpread& select) {
             select.chkUseReversed->setChecked(useReversed);

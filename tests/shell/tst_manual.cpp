@@ -29,8 +29,7 @@ QStringList ImagesOf(const QTextDocument& document) {
     QStringList names;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
         for (auto it = block.begin(); !it.atEnd(); ++it)
-            if (it.fragment().charFormat().isImageFormat())
-                names << it.fragment().charFormat().toImageFormat().name();
+            if (it.fragment().charFormat().isImageFormat()) names << it.fragment().charFormat().toImageFormat().name();
     return names;
 }
 
@@ -53,7 +52,8 @@ private slots:
         SetEndProcessHook([](int) {});
         // Laid out as the build lays the program folder.
         const QDir help(SourceHelpFolder());
-        QVERIFY(QFile::copy(help.filePath(QStringLiteral("Cartomar.hlp")), dir_.filePath(QStringLiteral("Cartomar.hlp"))));
+        QVERIFY(
+            QFile::copy(help.filePath(QStringLiteral("Cartomar.hlp")), dir_.filePath(QStringLiteral("Cartomar.hlp"))));
         QVERIFY(QDir(dir_.path()).mkpath(QStringLiteral("Help/images")));
         const QStringList pictures = QDir(help.filePath(QStringLiteral("images"))).entryList({QStringLiteral("*.png")});
         QVERIFY(!pictures.isEmpty());
@@ -85,7 +85,7 @@ private slots:
             QVERIFY2(image.width() < viewer.txtHelp->viewport()->width(), qPrintable(name));
         }
         QVERIFY(images.contains(QStringLiteral("Help/images/main-screen.png")));
-        QTest::keyClick(viewer.txtHelp, Qt::Key_Escape);   // Esc closes the viewer
+        QTest::keyClick(viewer.txtHelp, Qt::Key_Escape);  // Esc closes the viewer
         QVERIFY(!IsLoaded<frmHelpViewer>());
         QVERIFY(Get<frmMainScreen>().Visible());
     }

@@ -94,8 +94,8 @@ private slots:
 
     void fitCases() {
         struct Fit {
-            int height, width;      // the picture's
-            BoxGeometry box;        // {Top, Left, Width, Height}
+            int height, width;  // the picture's
+            BoxGeometry box;    // {Top, Left, Width, Height}
             bool centre, keepTop;
             int result;
             BoxGeometry fitted;
@@ -151,8 +151,9 @@ private slots:
         WriteWholeFile(TheRun.Paths.CardsDir + QStringLiteral("CU00002.bmp"), "this is not a bitmap");
         box.Move(0, 0, 1500, 1500);
         FitPicture(box, TheRun.Paths.CardsDir + QStringLiteral("CU00002.bmp"), false, false);
-        QCOMPARE(Prompts(), QStringList{QStringLiteral("Error while loading the picture. A default picture is selected instead.\n"
-                                "Please save all your work, exit Cartomar, and then run it again")});
+        QCOMPARE(Prompts(),
+                 QStringList{QStringLiteral("Error while loading the picture. A default picture is selected instead.\n"
+                                            "Please save all your work, exit Cartomar, and then run it again")});
         QCOMPARE(box.Image(), defaultPicture);
     }
 };

@@ -98,8 +98,11 @@ private slots:
 
         QCOMPARE(FindProgramDirectory(places_), own);
         // The help follows the installation; the user's own files stay.
-        for (const auto& [file, bytes] : {std::pair{"Cartomar.hlp", "<html>help 2</html>"}, {"Help/images/main.png", "png 2"},
-                                          {"Help/images/mine.png", "mine"}, {"Location.loc", "locations"}, {"Decks.dck", "deck"}})
+        for (const auto& [file, bytes] : {std::pair{"Cartomar.hlp", "<html>help 2</html>"},
+                                          {"Help/images/main.png", "png 2"},
+                                          {"Help/images/mine.png", "mine"},
+                                          {"Location.loc", "locations"},
+                                          {"Decks.dck", "deck"}})
             QCOMPARE(ReadFile(own + QLatin1String(file)), QByteArray(bytes));
         QVERIFY(!Exists(own + QStringLiteral("Packages/Cartomar Starter.pck")));
         QVERIFY(!Exists(own + QStringLiteral("Packages/More.pck")));

@@ -2,11 +2,11 @@
 // start make, Temp/ emptied, the default picture rewritten, the
 // old-database test with its two outcomes, the offer to install designs, and
 // the ways the process ends.
+#include <sys/wait.h>
+#include <unistd.h>
 #include <QDir>
 #include <QFile>
 #include <csignal>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include "core/platform/Picture.h"
 #include "core/platform/ProgramLock.h"
@@ -41,7 +41,7 @@ private slots:
 
     void cleanup() {
         QCOMPARE(MsgBoxScript::Unanswered(), 0);
-        ReleaseProgramLock();   // before the folder goes
+        ReleaseProgramLock();  // before the folder goes
         UnloadScreen<frmMainScreen>();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
@@ -56,7 +56,8 @@ private slots:
             QVERIFY2(QFileInfo(root + QLatin1String(name)).isFile(), name);
             QCOMPARE(QFileInfo(root + QLatin1String(name)).size(), 0);
         }
-        for (const char* name : {"Cards", "Packages", "Temp"}) QVERIFY2(QFileInfo(root + QLatin1String(name)).isDir(), name);
+        for (const char* name : {"Cards", "Packages", "Temp"})
+            QVERIFY2(QFileInfo(root + QLatin1String(name)).isDir(), name);
         for (const char* name : {"Packages/Attachments", "Location.loc", "Settings.dat"})
             QVERIFY2(!QFileInfo::exists(root + QLatin1String(name)), name);
         QCOMPARE(gConversions, 1);
@@ -161,7 +162,7 @@ private slots:
         QVERIFY(!RunStartup(dir.path()));
         QCOMPARE(gEnds, QList<int>{1});
         QCOMPARE(Prompts(), QStringList{QStringLiteral("Cartomar is already running from the folder '") + dir.path() +
-                     QStringLiteral("'. Only one copy can work on the same designs at a time.")});
+                                        QStringLiteral("'. Only one copy can work on the same designs at a time.")});
         QVERIFY(QFileInfo::exists(root + QStringLiteral("Temp/working.bmp")));
         QVERIFY(!QFileInfo::exists(root + QStringLiteral("Decks.dck")));
 
@@ -169,7 +170,7 @@ private slots:
         ::waitpid(first, nullptr, 0);
         ::close(ready[0]);
         ::close(ready[1]);
-        MsgBoxScript::Answer(vbNo);   // no designs: the offer to install some
+        MsgBoxScript::Answer(vbNo);  // no designs: the offer to install some
         QVERIFY(RunStartup(dir.path()));
         QVERIFY(!QFileInfo::exists(root + QStringLiteral("Temp/working.bmp")));
     }

@@ -57,9 +57,9 @@ private slots:
         };
         // Down to the line at or before; below the first line (even 0)
         // counts as set, on a line does not, past the last stays.
-        for (const Case& c : {Case{0, 0, true}, Case{242, 0, true}, Case{243, 243, false}, Case{300, 243, true},
-                              Case{486, 486, false}, Case{4920, 4860, true}, Case{8019, 8019, false},
-                              Case{9000, 9000, false}}) {
+        for (const Case& c :
+             {Case{0, 0, true}, Case{242, 0, true}, Case{243, 243, false}, Case{300, 243, true}, Case{486, 486, false},
+              Case{4920, 4860, true}, Case{8019, 8019, false}, Case{9000, 9000, false}}) {
             Integer position = static_cast<Integer>(c.from);
             QCOMPARE(SnapDown(position, 243, 33), c.set);
             QCOMPARE(int(position), c.to);
@@ -93,7 +93,7 @@ private slots:
         // The only location goes: nothing gets the focus, the selection
         // keeps its number, and Remove then has nothing to remove.
         MsgBoxScript::Answer(vbYes);
-        QTest::keyClick(d_->picLocation(1), Qt::Key_Delete);   // key up removes
+        QTest::keyClick(d_->picLocation(1), Qt::Key_Delete);  // key up removes
         QCOMPARE(TheRun.CurrentSpread.LocationCount, Integer(0));
         QCOMPARE(TheRun.SelectedLocation, 1);
         QCOMPARE(TheRun.SpreadLocations(1).LocationLeft, Integer(6480));
@@ -107,7 +107,7 @@ private slots:
     // keeps its bytes and leaves the spread clean, while one with text marks
     // the spread, as the design has it.
     void openingACompanionChangesOnlyWhatItFills_data() {
-        QTest::addColumn<bool>("notes");   // else the attributes of a new location
+        QTest::addColumn<bool>("notes");  // else the attributes of a new location
         QTest::addColumn<QString>("text");
         QTest::newRow("empty notes") << true << "";
         QTest::newRow("notes with text") << true << "Slowly";
@@ -127,7 +127,8 @@ private slots:
         UnloadScreen<frmSpreadComments>();
         UnloadScreen<frmLocationAttributes>();
         QCOMPARE(d_->SpreadDirty, !text.isEmpty());
-        if (text.isEmpty()) QCOMPARE(EncodeRecord(TheRun.CurrentSpread) + EncodeRecord(TheRun.SpreadLocations(1)), before);
+        if (text.isEmpty())
+            QCOMPARE(EncodeRecord(TheRun.CurrentSpread) + EncodeRecord(TheRun.SpreadLocations(1)), before);
     }
 
     void keysMoveOnlyWithShiftAlone() {
@@ -137,7 +138,7 @@ private slots:
         Nudge(d, Qt::Key_Left, Qt::ShiftModifier);
         Nudge(d, Qt::Key_Up, Qt::ShiftModifier);
         QCOMPARE(QPoint(d.picLocation(1)->Left(), d.picLocation(1)->Top()), QPoint(0, 0));
-        QVERIFY(!d.SpreadDirty);   // a nudge does not mark the design
+        QVERIFY(!d.SpreadDirty);  // a nudge does not mark the design
         for (const Qt::KeyboardModifiers others : {Qt::AltModifier, Qt::ControlModifier, Qt::NoModifier})
             Nudge(d, Qt::Key_Right, others == Qt::NoModifier ? others : others | Qt::ShiftModifier);
         QCOMPARE(d.picLocation(1)->Left(), Integer(0));

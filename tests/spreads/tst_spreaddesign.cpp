@@ -98,8 +98,8 @@ private slots:
         for (int i = 4; i <= 6; ++i) d.cmdAddCard_Click();
 
         // Attributes: the title shows on the rectangle as it is typed.
-        const QStringList titles = {QStringLiteral("Past"), QStringLiteral("Present"), QStringLiteral("Gone"),
-                                    QStringLiteral("Future"), QStringLiteral("Hope"), QStringLiteral("Outcome")};
+        const QStringList titles = {QStringLiteral("Past"),   QStringLiteral("Present"), QStringLiteral("Gone"),
+                                    QStringLiteral("Future"), QStringLiteral("Hope"),    QStringLiteral("Outcome")};
         for (int i = 1; i <= 6; ++i) {
             d.cmdCardAttributes_Click(i);
             frmLocationAttributes& attributes = Get<frmLocationAttributes>();

@@ -81,8 +81,8 @@ private slots:
             s.ModifiedOn = ToOleDate(QDate(2024, 3, 5));
         });
         frmSpreads& list = ListOn(QStringLiteral("Beta"));
-        QCOMPARE(TrimField(list.lstSpreads->List(2)), QStringLiteral("celtic"));   // sorted, ignoring case
-        QCOMPARE(list.lstSpreads->List(0).size(), 50);   // as stored, with its blanks
+        QCOMPARE(TrimField(list.lstSpreads->List(2)), QStringLiteral("celtic"));  // sorted, ignoring case
+        QCOMPARE(list.lstSpreads->List(0).size(), 50);                            // as stored, with its blanks
         QCOMPARE(list.GetIndexOf(QStringLiteral(" Beta ")), 1);
         QCOMPARE(list.GetIndexOf(QStringLiteral("Gone")), 0);
         QCOMPARE((QStringList{list.lblQueryField->text(), list.lblCardsField->text(), list.lblDecksField->text(),
@@ -95,7 +95,8 @@ private slots:
         // No keeps it; Yes deletes it and the next one moves up.
         MsgBoxScript::Answer(vbNo);
         list.cmdDelete_Click();
-        QCOMPARE(MsgBoxScript::History().last().prompt, QStringLiteral("Are you sure you want to delete spread 'Alpha' ?"));
+        QCOMPARE(MsgBoxScript::History().last().prompt,
+                 QStringLiteral("Are you sure you want to delete spread 'Alpha' ?"));
         QCOMPARE(CountSpreads(), 3);
         MsgBoxScript::Answer(vbYes);
         list.cmdDelete_Click();
@@ -134,7 +135,7 @@ private slots:
         QCOMPARE(viewer.picDesignInfo->txtComments->Text(), QStringLiteral("Read slowly"));
         viewer.cmdSpread_Click();
         viewer.cmdGrid_Click();
-        QCOMPARE(viewer.GridStepY, Integer(247));   // its canvas is wider than the designer's
+        QCOMPARE(viewer.GridStepY, Integer(247));  // its canvas is wider than the designer's
         // Only the Attributes button answers.
         SendMouse(viewer.picLocation(2), QEvent::MouseButtonPress, QPoint(5, 5), Qt::LeftButton, Qt::LeftButton);
         SendMouse(viewer.picLocation(2), QEvent::MouseMove, QPoint(90, 90), Qt::NoButton, Qt::LeftButton);
@@ -157,11 +158,11 @@ private slots:
         frmSpreads& list = ListOn(QStringLiteral("Five Decks"));
         list.cmdManager_Click();
         frmDeckChooser& chooser = Get<frmDeckChooser>();
-        QCOMPARE(chooser.lstDecks->ListCount(), 4);   // the deleted deck is passed over
+        QCOMPARE(chooser.lstDecks->ListCount(), 4);  // the deleted deck is passed over
 
         chooser.lstDecks->setListIndex(3);
         chooser.cmdDeleteDeck_Click();
-        QCOMPARE(chooser.lstDecks->ListIndex(), 2);   // the noted position, one up
+        QCOMPARE(chooser.lstDecks->ListIndex(), 2);  // the noted position, one up
         chooser.cmdLink_Click();
         QVERIFY(!chooser.ChooserDirty);
         SpreadRecord after = SpreadNamed(QStringLiteral("Five Decks"));
@@ -185,7 +186,8 @@ private slots:
     }
 
     void theChooserKeepsToTenDecksAndAsksAboutNone() {
-        for (int i = 7; i <= 12; ++i) Fixtures::MakeDeck(QStringLiteral("Deck %1").arg(i, 2, 10, QLatin1Char('0')), 8, false);
+        for (int i = 7; i <= 12; ++i)
+            Fixtures::MakeDeck(QStringLiteral("Deck %1").arg(i, 2, 10, QLatin1Char('0')), 8, false);
         Fixtures::MakeSpread(QStringLiteral("Bare"), 1);
         ListOn(QStringLiteral("Bare")).cmdManager_Click();
         frmDeckChooser& chooser = Get<frmDeckChooser>();

@@ -15,22 +15,27 @@
 namespace {
 
 // An old field (offset, width) and where it goes in the new record.
-struct Carried { int from, width, to, newWidth; };
+struct Carried {
+    int from, width, to, newWidth;
+};
 // A field of the new record that has no old counterpart.
-struct Fresh { int at; QByteArray bytes; };
+struct Fresh {
+    int at;
+    QByteArray bytes;
+};
 
-const QList<Carried> DeckFields = {
-    {0, 2, 0, 2}, {2, 30, 2, 50}, {32, 30, 66, 50}, {62, 130, 116, 130}, {192, 8, 246, 8},
-    {200, 500, 254, 500}, {700, 200, 754, 200}, {900, 2, 954, 2}, {902, 25, 956, 25}, {927, 2, 981, 2},
-    {929, 2, 983, 2}, {931, 2, 985, 2}, {933, 80, 987, 80}, {1013, 8, 1067, 8}};
-const QList<Carried> CardFields = {
-    {0, 2, 0, 2}, {2, 30, 2, 50}, {32, 500, 52, 1500}, {532, 500, 1552, 1500},
-    {1032, 500, 3052, 1000}, {1532, 500, 4052, 1000}, {2032, 24, 5052, 24}, {2056, 2, 5100, 2}};
+const QList<Carried> DeckFields = {{0, 2, 0, 2},       {2, 30, 2, 50},       {32, 30, 66, 50},     {62, 130, 116, 130},
+                                   {192, 8, 246, 8},   {200, 500, 254, 500}, {700, 200, 754, 200}, {900, 2, 954, 2},
+                                   {902, 25, 956, 25}, {927, 2, 981, 2},     {929, 2, 983, 2},     {931, 2, 985, 2},
+                                   {933, 80, 987, 80}, {1013, 8, 1067, 8}};
+const QList<Carried> CardFields = {{0, 2, 0, 2},           {2, 30, 2, 50},          {32, 500, 52, 1500},
+                                   {532, 500, 1552, 1500}, {1032, 500, 3052, 1000}, {1532, 500, 4052, 1000},
+                                   {2032, 24, 5052, 24},   {2056, 2, 5100, 2}};
 const QList<Carried> SpreadFields = {
-    {0, 30, 0, 50}, {30, 30, 50, 50}, {60, 2, 100, 2}, {62, 20, 102, 20}, {82, 2, 122, 2},
-    {84, 130, 124, 130}, {214, 8, 254, 8}, {222, 1500, 262, 1500}, {1722, 2, 1762, 2},
-    {1724, 25, 1764, 25}, {1749, 500, 1789, 650}, {2249, 2, 2439, 2}, {2311, 2, 2501, 2},
-    {15948, 2, 2503, 2}, {15950, 2, 2505, 2}, {15952, 11, 2507, 11}};
+    {0, 30, 0, 50},     {30, 30, 50, 50},     {60, 2, 100, 2},        {62, 20, 102, 20},
+    {82, 2, 122, 2},    {84, 130, 124, 130},  {214, 8, 254, 8},       {222, 1500, 262, 1500},
+    {1722, 2, 1762, 2}, {1724, 25, 1764, 25}, {1749, 500, 1789, 650}, {2249, 2, 2439, 2},
+    {2311, 2, 2501, 2}, {15948, 2, 2503, 2},  {15950, 2, 2505, 2},    {15952, 11, 2507, 11}};
 // Offsets within one 909-byte old location.
 const QList<Carried> LocationFields = {
     {0, 30, 0, 50}, {30, 500, 54, 650}, {530, 375, 704, 375}, {905, 2, 1079, 2}, {907, 2, 1081, 2}};
@@ -105,7 +110,10 @@ OldDatabase WriteOldDatabase() {
     return db;
 }
 
-QStringList RecordFiles() { return {TheRun.Paths.DecksPath, TheRun.Paths.SpreadsPath, TheRun.Paths.CardsPath, TheRun.Paths.ReadingsPath, TheRun.Paths.DiaryPath}; }
+QStringList RecordFiles() {
+    return {TheRun.Paths.DecksPath, TheRun.Paths.SpreadsPath, TheRun.Paths.CardsPath, TheRun.Paths.ReadingsPath,
+            TheRun.Paths.DiaryPath};
+}
 
 }  // namespace
 

@@ -141,14 +141,22 @@ private slots:
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("stem");
         QTest::addColumn<bool>("taken");
-        QTest::newRow("with an extension") << "CU00001.jpg" << "CU00001" << true;
-        QTest::newRow("without one") << "S000003" << "S000003" << true;
-        QTest::newRow("four letters that lost their dot") << "CU00001jpeg" << "CU00001" << true;
-        QTest::newRow("in other letters") << "cu00001.BMP" << "CU00001" << true;
-        QTest::newRow("after two dots") << "S000001.tar.gz" << "S000001" << true;
-        QTest::newRow("a longer number") << "CU000012.jpg" << "CU00001" << false;
-        QTest::newRow("the stem's sound") << "CU00001M.WAV" << "CU00001" << false;
-        QTest::newRow("the sound's own stem") << "CU00001M.WAV" << "CU00001M" << true;
+        QTest::newRow("with an extension") << "CU00001.jpg"
+                                           << "CU00001" << true;
+        QTest::newRow("without one") << "S000003"
+                                     << "S000003" << true;
+        QTest::newRow("four letters that lost their dot") << "CU00001jpeg"
+                                                          << "CU00001" << true;
+        QTest::newRow("in other letters") << "cu00001.BMP"
+                                          << "CU00001" << true;
+        QTest::newRow("after two dots") << "S000001.tar.gz"
+                                        << "S000001" << true;
+        QTest::newRow("a longer number") << "CU000012.jpg"
+                                         << "CU00001" << false;
+        QTest::newRow("the stem's sound") << "CU00001M.WAV"
+                                          << "CU00001" << false;
+        QTest::newRow("the sound's own stem") << "CU00001M.WAV"
+                                              << "CU00001M" << true;
     }
 
     void aFileTakesItsStem() {

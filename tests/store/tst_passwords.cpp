@@ -17,7 +17,7 @@ bool Check(const QString& stored, const QString& typed, bool cancel = false) {
     script.On<frmGetPassword>([typed, cancel](frmGetPassword& f) {
         f.txtPassword->setText(typed);
         if (cancel) QTest::keyClick(f.txtPassword, Qt::Key_Escape);
-        else QTest::keyClick(f.txtPassword, Qt::Key_Return);   // Enter acts as OK
+        else QTest::keyClick(f.txtPassword, Qt::Key_Return);  // Enter acts as OK
     });
     const bool granted = CheckPassword(stored);
     if (!script.Done()) QTest::qFail("the password screen never came", __FILE__, __LINE__);
@@ -37,11 +37,16 @@ private slots:
         QTest::addColumn<QString>("stored");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<PasswordJudgement>("judgement");
-        QTest::newRow("trailing spaces don't count") << "Secret  " << "Secret " << PasswordJudgement::Right;
-        QTest::newRow("case counts") << "Secret" << "secret" << PasswordJudgement::Wrong;
-        QTest::newRow("nothing typed") << "Secret" << "" << PasswordJudgement::NothingTyped;
-        QTest::newRow("only spaces typed") << "Secret" << "   " << PasswordJudgement::NothingTyped;
-        QTest::newRow("nothing typed, even for a blank password") << "" << "" << PasswordJudgement::NothingTyped;
+        QTest::newRow("trailing spaces don't count") << "Secret  "
+                                                     << "Secret " << PasswordJudgement::Right;
+        QTest::newRow("case counts") << "Secret"
+                                     << "secret" << PasswordJudgement::Wrong;
+        QTest::newRow("nothing typed") << "Secret"
+                                       << "" << PasswordJudgement::NothingTyped;
+        QTest::newRow("only spaces typed") << "Secret"
+                                           << "   " << PasswordJudgement::NothingTyped;
+        QTest::newRow("nothing typed, even for a blank password") << ""
+                                                                  << "" << PasswordJudgement::NothingTyped;
     }
 
     void judgePassword() {
@@ -70,9 +75,9 @@ private slots:
             // A mismatch empties both boxes and stays.
             QVERIFY(f.txtPassword1->text().isEmpty() && f.txtPassword2->text().isEmpty());
             f.txtPassword1->setText(QStringLiteral("Moon"));
-            QTest::keyClick(f.txtPassword1, Qt::Key_Return);   // Enter moves on
+            QTest::keyClick(f.txtPassword1, Qt::Key_Return);  // Enter moves on
             QTest::keyClicks(f.txtPassword2, QStringLiteral("Moon"));
-            QTest::keyClick(f.txtPassword2, Qt::Key_Return);   // and then acts as OK
+            QTest::keyClick(f.txtPassword2, Qt::Key_Return);  // and then acts as OK
         });
         QCOMPARE(AskNewPassword(QStringLiteral("old")), QStringLiteral("Moon"));
         QCOMPARE(Prompts(), QStringList{QStringLiteral("The two passwords do not match.")});
@@ -104,9 +109,9 @@ private slots:
             f.cmdRename->click();
             offered << f.txtDesignName->text();
             f.txtDesignName->setText(QStringLiteral("   "));
-            f.cmdOK->click();   // blank
+            f.cmdOK->click();  // blank
             f.txtDesignName->setText(QStringLiteral("Taken"));
-            f.cmdOK->click();   // in use
+            f.cmdOK->click();  // in use
             f.cmdCancel->click();
             QVERIFY(f.picDoWhat->isVisible() && f.txtDesignName->text().isEmpty());
             f.cmdRename->click();

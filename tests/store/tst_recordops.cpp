@@ -48,7 +48,8 @@ using Fixtures::NamedReading;
 
 QStringList SpreadNames() {
     QStringList names;
-    for (const SpreadRecord& s : ReadAllRecords<SpreadRecord>(TheRun.Paths.SpreadsPath)) names << s.SpreadName.Trimmed();
+    for (const SpreadRecord& s : ReadAllRecords<SpreadRecord>(TheRun.Paths.SpreadsPath))
+        names << s.SpreadName.Trimmed();
     return names;
 }
 
@@ -144,14 +145,14 @@ private slots:
     void aSpreadIsSavedInOneStep_data() {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<bool>("withPicture");
-        QTest::addColumn<int>("record");   // where it lands, and the record it replaces; 0: refused
+        QTest::addColumn<int>("record");  // where it lands, and the record it replaces; 0: refused
         QTest::addColumn<Integer>("id");
         QTest::addColumn<QString>("background");
         QTest::newRow("a new name") << "Gamma" << true << 3 << Integer(3) << "S000003.bmp";
-        QTest::newRow("its own name, its old picture's name retaken") << "  Alpha " << true << 1 << Integer(1)
-                                                                      << "S000001.bmp";
-        QTest::newRow("another spread's name, whose locations stay") << "Beta" << true << 2 << Integer(1)
-                                                                     << "S000002.bmp";
+        QTest::newRow("its own name, its old picture's name retaken")
+            << "  Alpha " << true << 1 << Integer(1) << "S000001.bmp";
+        QTest::newRow("another spread's name, whose locations stay")
+            << "Beta" << true << 2 << Integer(1) << "S000002.bmp";
         QTest::newRow("a picture gone from Temp/") << "Gamma" << false << 3 << Integer(3) << "";
         QTest::newRow("a name of blanks") << "   " << true << 0 << Integer(0) << "";
     }
@@ -164,7 +165,8 @@ private slots:
         for (int n = 1; n <= 2; ++n) {
             Fixtures::MakeSpread(n == 1 ? QStringLiteral("Alpha") : QStringLiteral("Beta"), 2);
             const QString picture = QStringLiteral("S00000%1.bmp").arg(n);
-            ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, n, [&](SpreadRecord& s) { s.BackgroundFile = picture; });
+            ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, n,
+                                       [&](SpreadRecord& s) { s.BackgroundFile = picture; });
             Fixtures::WritePicture(TheRun.Paths.CardsDir + picture);
         }
         SpreadDesign design;
@@ -174,7 +176,8 @@ private slots:
         design.Locations(2).LocationTitle = QStringLiteral("Retitled");
         design.Spread.BackgroundFile = QStringLiteral("sprpic.bmp");
         if (withPicture) Fixtures::WritePicture(TheRun.Paths.TempDir + QStringLiteral("sprpic.bmp"), Qt::green);
-        const QByteArray picture = withPicture ? ReadWholeFile(TheRun.Paths.TempDir + QStringLiteral("sprpic.bmp")) : QByteArray();
+        const QByteArray picture =
+            withPicture ? ReadWholeFile(TheRun.Paths.TempDir + QStringLiteral("sprpic.bmp")) : QByteArray();
         const QByteArray spreadsBefore = ReadWholeFile(TheRun.Paths.SpreadsPath);
 
         const SpreadNameCheck check = CheckSpreadName(typed);
@@ -185,7 +188,7 @@ private slots:
         if (!record) return;
         const QByteArray inHand = EncodeRecord(design.Spread);
         const SpreadDesign saved = SaveSpread(design, check.Name, check.Replacing);
-        QCOMPARE(EncodeRecord(design.Spread), inHand);   // the design passed in stays as it was
+        QCOMPARE(EncodeRecord(design.Spread), inHand);  // the design passed in stays as it was
 
         // Reopened as saved: the record where it belongs, its locations by
         // its id, its picture under its S name; the other spread as it was.
@@ -199,7 +202,8 @@ private slots:
         QCOMPARE(onDisk.BackgroundFile.Trimmed(), background);
         if (withPicture) QCOMPARE(ReadWholeFile(TheRun.Paths.CardsDir + background), picture);
         LoadSpreadLocations(id, 2);
-        for (int i = 1; i <= 2; ++i) QCOMPARE(EncodeRecord(TheRun.SpreadLocations(i)), EncodeRecord(saved.Locations(i)));
+        for (int i = 1; i <= 2; ++i)
+            QCOMPARE(EncodeRecord(TheRun.SpreadLocations(i)), EncodeRecord(saved.Locations(i)));
         QCOMPARE(TheRun.SpreadLocations(2).LocationTitle.Trimmed(), QStringLiteral("Retitled"));
         const int other = record == 1 ? 2 : 1;
         QCOMPARE(SpreadsAt(ReadWholeFile(TheRun.Paths.SpreadsPath), other), SpreadsAt(spreadsBefore, other));
@@ -227,7 +231,8 @@ private slots:
         const Integer a = Fixtures::MakeSpread(QStringLiteral("Alpha"), 2);
         const Integer b = Fixtures::MakeSpread(QStringLiteral("Beta"), 3, {a});
         Fixtures::MakeSpread(QStringLiteral("Gamma"), 1);
-        ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 2, [](SpreadRecord& s) { s.BackgroundFile = QStringLiteral("S000001.bmp"); });
+        ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 2,
+                                   [](SpreadRecord& s) { s.BackgroundFile = QStringLiteral("S000001.bmp"); });
         Fixtures::WritePicture(TheRun.Paths.CardsDir + QStringLiteral("S000001.bmp"));
         const QByteArray spreads = ReadWholeFile(TheRun.Paths.SpreadsPath);
         const QStringList locations = LocationKeys();
@@ -247,7 +252,8 @@ private slots:
         const QString problem = SaveSpreadDecks(spread);
         const QString gone = QStringLiteral("Unable to find this spread. Please 'close' and select another spread.");
         QCOMPARE(problem, found ? QString() : gone);
-        QCOMPARE(SpreadsAt(ReadWholeFile(TheRun.Paths.SpreadsPath), 2), found ? EncodeRecord(spread) : SpreadsAt(spreads, 2));
+        QCOMPARE(SpreadsAt(ReadWholeFile(TheRun.Paths.SpreadsPath), 2),
+                 found ? EncodeRecord(spread) : SpreadsAt(spreads, 2));
         QCOMPARE(ReadWholeFile(TheRun.Paths.SpreadsPath).size(), spreads.size());
         QCOMPARE(LocationKeys(), locations);
     }
@@ -259,14 +265,16 @@ private slots:
         // the reversed side of another: the sound goes, the default stays. A
         // card of the second deck names the first deck's third picture: that
         // stays too.
-        ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 1, [](CardRecord& c) { c.CardSound[0] = QStringLiteral("MCU00001.wav"); });
+        ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 1,
+                                 [](CardRecord& c) { c.CardSound[0] = QStringLiteral("MCU00001.wav"); });
         WriteWholeFile(TheRun.Paths.CardsDir + QStringLiteral("MCU00001.wav"), QByteArray("RIFF"));
         QString ownReversed;
         ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 2, [&ownReversed](CardRecord& c) {
             ownReversed = c.CardPicture[1].Trimmed();
             c.CardPicture[1] = DefaultPictureName;
         });
-        ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 4, [](CardRecord& c) { c.CardPicture[1] = QStringLiteral("CU00003.bmp"); });
+        ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 4,
+                                 [](CardRecord& c) { c.CardPicture[1] = QStringLiteral("CU00003.bmp"); });
 
         DeleteDeck(FindDeckByName(QStringLiteral("First")));
 
@@ -280,9 +288,9 @@ private slots:
             QCOMPARE(after[i].CardTitle.Trimmed(), QStringLiteral("Card %1").arg(i + 1));
             QVERIFY(InCards(after[i].CardPicture[0].Trimmed()) && InCards(after[i].CardPicture[1].Trimmed()));
         }
-        for (const QString& gone : {QStringLiteral("CU00001.bmp"), QStringLiteral("CU00002.bmp"),
-                                    QStringLiteral("CR00001.bmp"), QStringLiteral("CR00003.bmp"),
-                                    QStringLiteral("MCU00001.wav")})
+        for (const QString& gone :
+             {QStringLiteral("CU00001.bmp"), QStringLiteral("CU00002.bmp"), QStringLiteral("CR00001.bmp"),
+              QStringLiteral("CR00003.bmp"), QStringLiteral("MCU00001.wav")})
             QVERIFY2(!InCards(gone), qPrintable(gone));
         QVERIFY(InCards(ownReversed));  // no longer named by any card, so nothing removes it
         QVERIFY(!AnyFileMatches(TheRun.Paths.AppPath + QStringLiteral("*.tmp")));
@@ -307,7 +315,8 @@ private slots:
         DeleteReading(QStringLiteral("Alpha"));
         DeleteDiary(QStringLiteral("Beta"));
         QStringList readings, diaries;
-        for (const auto& r : ReadAllRecords<ReadingRecord>(TheRun.Paths.ReadingsPath)) readings << r.ReadingName.Trimmed();
+        for (const auto& r : ReadAllRecords<ReadingRecord>(TheRun.Paths.ReadingsPath))
+            readings << r.ReadingName.Trimmed();
         for (const auto& d : ReadAllRecords<DiaryRecord>(TheRun.Paths.DiaryPath)) diaries << d.DiaryName.Trimmed();
         QCOMPARE(readings, (QStringList{QStringLiteral("Beta"), QStringLiteral("Gamma")}));
         QCOMPARE(diaries, (QStringList{QStringLiteral("Alpha"), QStringLiteral("Alpha"), QStringLiteral("Gamma")}));
@@ -375,8 +384,13 @@ private slots:
         Fixtures::MakeSpread(QStringLiteral("Any Three"), 3, {}, true);
         Fixtures::MakeSpread(QStringLiteral("Any Two"), 2, {}, true);
         Fixtures::MakeSpread(QStringLiteral("Untied"), 1);
-        for (const auto& [name, usable] : {std::pair{"Missing", false}, {"Empty", false}, {"Untied", false}, {"Pair", true},
-                                           {"Three", false}, {"Any Three", false}, {"Any Two", true}})
+        for (const auto& [name, usable] : {std::pair{"Missing", false},
+                                           {"Empty", false},
+                                           {"Untied", false},
+                                           {"Pair", true},
+                                           {"Three", false},
+                                           {"Any Three", false},
+                                           {"Any Two", true}})
             QVERIFY2(IsSpreadUsable(QLatin1String(name)) == usable, name);
     }
 };

@@ -18,8 +18,8 @@ public:
     void Text(int offset, FixedText<N>& t) {
         ++k_;
         QByteArray b(N, char('A' + k_ % 26));
-        b[0] = char(0x80 + k_ % 100);       // a byte above 127
-        if (N > 2) b[N / 2] = '\0';         // a zero byte inside the text
+        b[0] = char(0x80 + k_ % 100);  // a byte above 127
+        if (N > 2) b[N / 2] = '\0';    // a zero byte inside the text
         std::memcpy(t.Bytes.data(), b.constData(), N);
         expect(offset, b);
     }
@@ -226,7 +226,7 @@ private slots:
         QCOMPARE(t.Raw(), QByteArray("  Tower   "));
         QCOMPARE(t.Trimmed(), QStringLiteral("Tower"));  // outer spaces never survive a reader
         t = QStringLiteral("The Wheel of Fortune");
-        QCOMPARE(t.Raw(), QByteArray("The Wheel "));     // cut to the width
+        QCOMPARE(t.Raw(), QByteArray("The Wheel "));  // cut to the width
         t = QString();
         QCOMPARE(t.Raw(), QByteArray(10, ' '));
 
@@ -241,7 +241,8 @@ private slots:
         // Single-byte text: accents and the euro sign take one byte each and
         // come back; what the code page cannot hold becomes '?'.
         t = QStringLiteral("Été €5");
-        QCOMPARE(t.Raw(), QByteArray("\xC9t\xE9 \x80" "5    "));
+        QCOMPARE(t.Raw(), QByteArray("\xC9t\xE9 \x80"
+                                     "5    "));
         QCOMPARE(t.Trimmed(), QStringLiteral("Été €5"));
         t = QStringLiteral("Star \u2605 \U0001F319");
         QCOMPARE(t.Trimmed(), QStringLiteral("Star ? ?"));
@@ -250,12 +251,12 @@ private slots:
     void partialAndMissingFiles() {
         const QString path = file("partial.crd");
         QFile::remove(path);
-        QCOMPARE(CountRecords<CardRecord>(path), 0);   // a missing file holds no records
+        QCOMPARE(CountRecords<CardRecord>(path), 0);  // a missing file holds no records
         CardRecord card;
         QVERIFY(!GetRecord(path, 1, card));
 
         WriteWholeFile(path, QByteArray());
-        QCOMPARE(CountRecords<CardRecord>(path), 0);   // a 0-byte file is a valid empty file
+        QCOMPARE(CountRecords<CardRecord>(path), 0);  // a 0-byte file is a valid empty file
 
         CardRecord a;
         a.CardTitle = QStringLiteral("The Fool");
@@ -339,12 +340,12 @@ private slots:
     // and nothing of them reaches the disk.
     void heldFilesChangeAsFilesOnTheDisk() {
         const QString disk = file("disk.crd"), held = file("held.crd");
-        WriteWholeFile(disk, QByteArray(CardRecord::Length + 9, '\1'));   // a record and a partial one
+        WriteWholeFile(disk, QByteArray(CardRecord::Length + 9, '\1'));  // a record and a partial one
         RecordFilesInMemory::Hold(held, ReadWholeFile(disk));
         CardRecord card;
         card.CardTitle = QStringLiteral("The Star");
         for (const QString& path : {disk, held}) {
-            PutRecord(path, 3, card);   // past the end: record 2 all zero
+            PutRecord(path, 3, card);  // past the end: record 2 all zero
             AppendRecord(path, card);
             RecordEdit<CardRecord> edit(path);
             edit.Put(1, card);

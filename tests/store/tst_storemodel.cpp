@@ -155,7 +155,8 @@ std::optional<Planned> SaveADeck(Run& run, QRandomGenerator& rng) {
                   .arg(name, replacing >= 0 ? QStringLiteral(" over the deck of that name") : QString()),
               run.Now};
     QList<Card>& saved = p.After.Decks[name] = {};
-    for (const CardRecord& c : TheRun.CurrentDeck.DeckCards) saved << CardIn(TheRun.Paths.TempDir, c, TheRun.CurrentDeck.IncludesReversed);
+    for (const CardRecord& c : TheRun.CurrentDeck.DeckCards)
+        saved << CardIn(TheRun.Paths.TempDir, c, TheRun.CurrentDeck.IncludesReversed);
     p.Write = [deck = TheRun.CurrentDeck, name, replacing] {
         const DeckSaveResult result = SaveDeck(deck, name, replacing);
         return result.Failure ? result.Failure->Description() : result.Problems.join(QLatin1Char(' '));

@@ -38,11 +38,12 @@ struct RecordFileKind {
     int length;
 };
 
-const RecordFileKind kFiles[] = {{&TheRun.Paths.DecksPath, DeckRecord::Length},       {&TheRun.Paths.CardsPath, CardRecord::Length},
-                                 {&TheRun.Paths.SpreadsPath, SpreadRecord::Length},   {&TheRun.Paths.LocationsPath, LocationRecord::Length},
-                                 {&TheRun.Paths.ReadingsPath, ReadingRecord::Length}, {&TheRun.Paths.DiaryPath, DiaryRecord::Length}};
+const RecordFileKind kFiles[] = {
+    {&TheRun.Paths.DecksPath, DeckRecord::Length},       {&TheRun.Paths.CardsPath, CardRecord::Length},
+    {&TheRun.Paths.SpreadsPath, SpreadRecord::Length},   {&TheRun.Paths.LocationsPath, LocationRecord::Length},
+    {&TheRun.Paths.ReadingsPath, ReadingRecord::Length}, {&TheRun.Paths.DiaryPath, DiaryRecord::Length}};
 
-using Snapshot = std::map<QString, QByteArray>;   // file name ("Cards/" name) -> bytes
+using Snapshot = std::map<QString, QByteArray>;  // file name ("Cards/" name) -> bytes
 
 Snapshot Snap() {
     Snapshot s;
@@ -117,10 +118,13 @@ void MakeFixture(const QString& dir) {
     Fixtures::MakeDeck(QStringLiteral("Deck B"), 2, false);
     Fixtures::MakeSpread(QStringLiteral("Spread A"), 3, {deckA});
     Fixtures::MakeSpread(QStringLiteral("Spread B"), 2, {}, true);
-    ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1, [](SpreadRecord& s) { s.BackgroundFile = QStringLiteral("S000001.bmp"); });
+    ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1,
+                               [](SpreadRecord& s) { s.BackgroundFile = QStringLiteral("S000001.bmp"); });
     Fixtures::WritePicture(TheRun.Paths.CardsDir + QStringLiteral("S000001.bmp"));
-    for (const char* name : {"First", "Second", "Third"}) AppendRecord(TheRun.Paths.ReadingsPath, NamedReading(QLatin1String(name)));
-    for (const char* name : {"Monday", "Tuesday"}) AppendRecord(TheRun.Paths.DiaryPath, NamedDiary(QLatin1String(name)));
+    for (const char* name : {"First", "Second", "Third"})
+        AppendRecord(TheRun.Paths.ReadingsPath, NamedReading(QLatin1String(name)));
+    for (const char* name : {"Monday", "Tuesday"})
+        AppendRecord(TheRun.Paths.DiaryPath, NamedDiary(QLatin1String(name)));
 
     const Integer packed = Fixtures::MakeDeck(QStringLiteral("Packed"), 2, true);
     Fixtures::MakeSpread(QStringLiteral("Packed spread"), 2, {packed});
@@ -141,7 +145,8 @@ void OpenDeckForSaving(int record) {
     LoadDeck(removed);
     for (const CardRecord& card : TheRun.CurrentDeck.DeckCards)
         for (const auto& picture : card.CardPicture)
-            if (!FileExists(TheRun.Paths.TempDir + picture.Value())) FileCopy(TheRun.Paths.CardsDir + picture.Value(), TheRun.Paths.TempDir + picture.Value());
+            if (!FileExists(TheRun.Paths.TempDir + picture.Value()))
+                FileCopy(TheRun.Paths.CardsDir + picture.Value(), TheRun.Paths.TempDir + picture.Value());
 }
 
 // Spread A as the designer holds it: a location retitled, a new picture in
@@ -158,7 +163,7 @@ void HoldSpreadA() {
 
 struct Operation {
     const char* name;
-    std::function<void()> prepare;   // untouched by faults
+    std::function<void()> prepare;  // untouched by faults
     std::function<void()> run;
 };
 
@@ -169,7 +174,9 @@ void SaveDeckAs(const QString& name) {
 
 const QList<Operation>& Operations() {
     static const QList<Operation> all = {
-        {"reading saved anew", {}, [] { SaveEntry(NamedReading(QStringLiteral("New")), QStringLiteral("New"), 0, {}); }},
+        {"reading saved anew",
+         {},
+         [] { SaveEntry(NamedReading(QStringLiteral("New")), QStringLiteral("New"), 0, {}); }},
         {"reading saved over", {}, [] { SaveEntry(NamedReading(QString()), QStringLiteral("Second"), 2, {}); }},
         {"diary entry saved over", {}, [] { SaveEntry(NamedDiary(QString()), QStringLiteral("Moonday"), 1, {}); }},
         {"reading deleted", {}, [] { DeleteEntry(EntryKind::Reading, QStringLiteral("Second")); }},
@@ -194,7 +201,8 @@ const QList<Operation>& Operations() {
          [] { SaveDeckAs(QStringLiteral("Deck C")); }},
         // Deck B over deck A: its pictures take the names of A's.
         {"deck saved over another", [] { OpenDeckForSaving(2); }, [] { SaveDeckAs(QStringLiteral("Deck A")); }},
-        {"package installed", {},
+        {"package installed",
+         {},
          [] {
              InstallAnswers answers;
              answers.Chosen = {QStringLiteral("Packed")};
@@ -244,8 +252,9 @@ class TestWriteFaults : public QObject {
         MsgBoxScript::Clear();
         QVERIFY2(RunStartup(dir), qPrintable(what));
         QCOMPARE(MsgBoxScript::Unanswered(), 0);
-        for (const QString& left : {TheRun.Paths.AppPath + QStringLiteral("*.new"), TheRun.Paths.CardsDir + QStringLiteral("*.staged"),
-                                    TheRun.Paths.AppPath + QStringLiteral("Cartomar.commit")})
+        for (const QString& left :
+             {TheRun.Paths.AppPath + QStringLiteral("*.new"), TheRun.Paths.CardsDir + QStringLiteral("*.staged"),
+              TheRun.Paths.AppPath + QStringLiteral("Cartomar.commit")})
             QVERIFY2(!AnyFileMatches(left), qPrintable(what + QStringLiteral(": left ") + left));
         const Snapshot now = Snap();
         for (const RecordFileKind& f : kFiles) {
@@ -281,7 +290,7 @@ class TestWriteFaults : public QObject {
 private slots:
     void initTestCase() {
         MsgBoxScript::Enable();
-        WriteFaults::SetSyncs(false);   // throwaway folders; a kill loses no unsynced write
+        WriteFaults::SetSyncs(false);  // throwaway folders; a kill loses no unsynced write
     }
 
     void cleanupTestCase() {

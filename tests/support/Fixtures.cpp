@@ -1,8 +1,8 @@
 #include "support/Fixtures.h"
 
-#include <QImage>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <QImage>
 
 #include "core/platform/FileSys.h"
 #include "core/platform/OleDate.h"
@@ -21,8 +21,11 @@ void UseProgramDir(const QString& dir) {
     ResetRun();
     FormPaths(dir);
 
-    for (const QString& folder : {TheRun.Paths.CardsDir, TheRun.Paths.PackagesDir, TheRun.Paths.AttachmentsDir, TheRun.Paths.TempDir}) MkDirIgnoringErrors(folder);
-    for (const QString& file : {TheRun.Paths.ReadingsPath, TheRun.Paths.DiaryPath, TheRun.Paths.SpreadsPath, TheRun.Paths.DecksPath, TheRun.Paths.CardsPath, TheRun.Paths.LocationsPath})
+    for (const QString& folder :
+         {TheRun.Paths.CardsDir, TheRun.Paths.PackagesDir, TheRun.Paths.AttachmentsDir, TheRun.Paths.TempDir})
+        MkDirIgnoringErrors(folder);
+    for (const QString& file : {TheRun.Paths.ReadingsPath, TheRun.Paths.DiaryPath, TheRun.Paths.SpreadsPath,
+                                TheRun.Paths.DecksPath, TheRun.Paths.CardsPath, TheRun.Paths.LocationsPath})
         WriteWholeFile(file, QByteArray());
     WritePicture(TheRun.Paths.DefaultPicturePath, QColor(Qt::white));
 }

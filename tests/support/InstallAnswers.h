@@ -25,7 +25,8 @@ struct InstallAnswers : InstallationQuestions {
         for (const DeckRecord& deck : decks) {
             Offered << deck.DeckName.Trimmed();
             if (Chosen.contains(deck.DeckName.Trimmed()))
-                TheRun.CurrentSpread.AllowedDeckId[static_cast<std::size_t>(TheRun.CurrentSpread.AllowedDeckCount++)] = deck.DeckId;
+                TheRun.CurrentSpread.AllowedDeckId[static_cast<std::size_t>(TheRun.CurrentSpread.AllowedDeckCount++)] =
+                    deck.DeckId;
         }
     }
 };

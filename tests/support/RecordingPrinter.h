@@ -10,13 +10,13 @@
 #include "core/platform/Printer.h"
 
 struct PrinterCall {
-    QString Op;            // "Print", "PrintInBox", "FillRect", "PaintPicture", "NewPage", "EndDoc", "KillDoc", "Close"
-    QString Text;          // the text printed
-    int X = 0, Y = 0;      // the print position (Print) or the box's corner
-    int W = 0, H = 0;      // the box's size
+    QString Op;        // "Print", "PrintInBox", "FillRect", "PaintPicture", "NewPage", "EndDoc", "KillDoc", "Close"
+    QString Text;      // the text printed
+    int X = 0, Y = 0;  // the print position (Print) or the box's corner
+    int W = 0, H = 0;  // the box's size
     bool Bold = false;
     int Size = 0;
-    int Colour = 0;        // the font's colour, or the fill's
+    int Colour = 0;  // the font's colour, or the fill's
 };
 
 class RecordingPrinter : public Printer {

@@ -28,7 +28,10 @@ QString WithoutMnemonic(const QString& text) {
 void Check(QStringList& out, const QWidget& w, const QString& text, const char* measure, int needs, int room) {
     if (needs <= room) return;
     const QString name = QString::fromLatin1(w.metaObject()->className()) + QLatin1Char(' ') + w.objectName();
-    out << QStringLiteral("%1 \"%2\": %3 %4, room %5").arg(name.trimmed(), text, QLatin1String(measure)).arg(needs).arg(room);
+    out << QStringLiteral("%1 \"%2\": %3 %4, room %5")
+               .arg(name.trimmed(), text, QLatin1String(measure))
+               .arg(needs)
+               .arg(room);
 }
 
 // The widest line, without the spaces that end it, which show nothing.

@@ -49,11 +49,14 @@ void OpenWorkingFolder(const DeckRecord& deck, bool copyIn, bool skipDefaultReve
         while (seen < deck.CardCount && reader.Next(card)) {
             if (card.CardDeckId != deck.DeckId) continue;
             ++seen;
-            FileCopy(TheRun.Paths.CardsDir + card.CardPicture[0].Value(), TheRun.Paths.TempDir + card.CardPicture[0].Value());
+            FileCopy(TheRun.Paths.CardsDir + card.CardPicture[0].Value(),
+                     TheRun.Paths.TempDir + card.CardPicture[0].Value());
             if (!skipDefaultReversed || card.CardPicture[1].Value() != DefaultPictureName)
-                FileCopy(TheRun.Paths.CardsDir + card.CardPicture[1].Value(), TheRun.Paths.TempDir + card.CardPicture[1].Value());
+                FileCopy(TheRun.Paths.CardsDir + card.CardPicture[1].Value(),
+                         TheRun.Paths.TempDir + card.CardPicture[1].Value());
             for (const auto& sound : card.CardSound)
-                if (!sound.IsBlank()) FileCopy(TheRun.Paths.CardsDir + sound.Value(), TheRun.Paths.TempDir + sound.Value());
+                if (!sound.IsBlank())
+                    FileCopy(TheRun.Paths.CardsDir + sound.Value(), TheRun.Paths.TempDir + sound.Value());
         }
     }
     FileCopy(TheRun.Paths.DefaultPicturePath, TheRun.Paths.TempDir + DefaultPictureName);

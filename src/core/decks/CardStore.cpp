@@ -18,7 +18,8 @@ void RenameWorkingFile(const QString& workingName, const QString& finalName, boo
 }
 
 QString PlaceWorkingPicture(int side, const QString& workingName, bool keepWorkingFile) {
-    const QString finalName = CardPictureStem(side, FreeCardNumber(side, {TheRun.Paths.TempDir})) + workingName.right(4);
+    const QString finalName =
+        CardPictureStem(side, FreeCardNumber(side, {TheRun.Paths.TempDir})) + workingName.right(4);
     RenameWorkingFile(workingName, finalName, keepWorkingFile);
     return finalName;
 }
@@ -27,7 +28,8 @@ void StoreWorkingFiles(CardRecord& card) {
     CardWorkingFiles& files = WorkingFiles();
     if (files.Picture[0].startsWith(UprightPictureStem)) card.CardPicture[0] = PlaceWorkingPicture(0, files.Picture[0]);
     if (files.Picture[1].startsWith(ReversedPictureStem))
-        card.CardPicture[1] = PlaceWorkingPicture(1, files.Picture[1], files.Picture[1] == TheRun.Paths.DefaultPicturePath);
+        card.CardPicture[1] =
+            PlaceWorkingPicture(1, files.Picture[1], files.Picture[1] == TheRun.Paths.DefaultPicturePath);
     const QString soundStems[2] = {UprightSoundStem, ReversedSoundStem};
     for (std::size_t side = 0; side < 2; ++side) {
         const QString& working = files.Sound[side];

@@ -37,7 +37,8 @@ std::vector<QString> NameRow(int side, int count, const QStringList& going) {
     std::vector<QString> row;
     const TakenStems taken({TheRun.Paths.CardsDir, TheRun.Paths.TempDir}, going);
     const auto isTaken = [&](int n) {
-        return taken.Contains(CardPictureStem(side, n)) || taken.Contains(QStringLiteral("M") + CardPictureStem(side, n));
+        return taken.Contains(CardPictureStem(side, n)) ||
+               taken.Contains(QStringLiteral("M") + CardPictureStem(side, n));
     };
     int n = 1;
     for (int i = 0; i < count; ++i) {
@@ -178,13 +179,14 @@ DeckSaveResult SaveDeck(const DeckInMemory& inHand, const QString& name, int rep
             cards += EncodeRecord(card);
             ++i;
         }
-        commit.AddRecordFile(TheRun.Paths.CardsPath, CardRecord::Length, [&](const char* card, int) {
-            return goes(card) ? nullptr : card;
-        }, cards);
+        commit.AddRecordFile(
+            TheRun.Paths.CardsPath, CardRecord::Length,
+            [&](const char* card, int) { return goes(card) ? nullptr : card; }, cards);
         const DeckRecord& record = deck;
-        commit.AddRecordFile(TheRun.Paths.DecksPath, DeckRecord::Length, [&](const char* r, int number) {
-            return replacingOne && number == replacing ? nullptr : r;
-        }, EncodeRecord(record));
+        commit.AddRecordFile(
+            TheRun.Paths.DecksPath, DeckRecord::Length,
+            [&](const char* r, int number) { return replacingOne && number == replacing ? nullptr : r; },
+            EncodeRecord(record));
         for (const QString& file : going) commit.DropFile(file);
         commit.Commit();
         // The save is made: the working folder follows it.
@@ -201,10 +203,11 @@ DeckDeleteCheck CheckDeckDelete(const QString& name) {
     DeckDeleteCheck check;
     check.RecordNumber = FindDeckByName(name);
     DeckRecord deck;
-    if (check.RecordNumber < 0 || !GetRecord(TheRun.Paths.DecksPath, check.RecordNumber, deck)) RaiseError(errInputPastEndOfFile);
-    check.Questions << QCoreApplication::translate("DeckStore",
-                                                   "Are you sure you want to delete deck '%1' ?\n"
-                                                   "Be aware that this deck will be removed from all spreads that use it.")
+    if (check.RecordNumber < 0 || !GetRecord(TheRun.Paths.DecksPath, check.RecordNumber, deck))
+        RaiseError(errInputPastEndOfFile);
+    check.Questions << QCoreApplication::translate(
+                           "DeckStore", "Are you sure you want to delete deck '%1' ?\n"
+                                        "Be aware that this deck will be removed from all spreads that use it.")
                            .arg(name);
     check.Questions << (IsSoleDeckOfASpread(deck.DeckId)
                             ? QCoreApplication::translate("DeckStore",

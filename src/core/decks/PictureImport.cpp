@@ -142,7 +142,7 @@ FolderPictures ListFolderPictures(const QString& folder, int cardType) {
         const QString key = QFileInfo(name).completeBaseName().toCaseFolded();
         if (!byName.contains(key)) byName.insert(key, name);
     }
-    QHash<QString, QString> reversedOf;   // upright -> its reversed file
+    QHash<QString, QString> reversedOf;  // upright -> its reversed file
     QSet<QString> reversedFiles;
     for (const QString& name : pictures) {
         const QString upright = UprightPartnerOf(name, byName);
@@ -255,8 +255,8 @@ PictureImport::~PictureImport() { Cancel(); }
 
 void PictureImport::Start() {
     for (std::size_t i = 0; i < jobs_.size(); ++i)
-        RunForOwner<Worked>(pool_, [job = jobs_[i]] { return WorkOn(job); }, static_cast<int>(i), handedOver_, this,
-                            "Take");
+        RunForOwner<Worked>(
+            pool_, [job = jobs_[i]] { return WorkOn(job); }, static_cast<int>(i), handedOver_, this, "Take");
 }
 
 PictureImport::Worked PictureImport::WorkOn(const Job& job) {

@@ -10,9 +10,9 @@
 #include <QImage>
 #include <QList>
 #include <QObject>
+#include <QRunnable>
 #include <QString>
 #include <QStringList>
-#include <QRunnable>
 #include <QThreadPool>
 #include <functional>
 #include <mutex>
@@ -40,8 +40,8 @@ enum class ReversedSide { None, Turned, OwnFile };
 
 // One picture of the folder offered as a card.
 struct ProposedCard {
-    QString File;           // its name in the folder
-    QString ReversedFile;   // its reversed side found by name; empty when none
+    QString File;          // its name in the folder
+    QString ReversedFile;  // its reversed side found by name; empty when none
     QString Title;
     int CardType = 0;
     bool Included = true;
@@ -102,8 +102,8 @@ struct HandedOver {
 // thread. The work must hold its own copies of all it reads: the owner goes
 // on meanwhile. into.Results must have its places before the work starts.
 template <class Result>
-void RunForOwner(QThreadPool& pool, std::function<Result()> work, int index, HandedOver<Result>& into,
-                 QObject* owner, const char* method) {
+void RunForOwner(QThreadPool& pool, std::function<Result()> work, int index, HandedOver<Result>& into, QObject* owner,
+                 const char* method) {
     class Runner : public QRunnable {
     public:
         Runner(std::function<Result()> w, int i, HandedOver<Result>& o, QObject* q, const char* m)
@@ -140,7 +140,7 @@ class PictureImport : public QObject {
     Q_OBJECT
 public:
     PictureImport(const QString& folder, const QList<ProposedCard>& cards, ReversedSide reversed);
-    ~PictureImport() override;   // cancels what is left
+    ~PictureImport() override;  // cancels what is left
 
     void Start();
     // Waits for every picture and takes in the results.
@@ -160,17 +160,17 @@ signals:
 private:
     // What one worker is given: a card's sources and where its working files go.
     struct Job {
-        QString Upright;         // the picture's path
-        QString Reversed;        // the reversed side's source; empty for none
-        bool Turn = false;       // the reversed side is the upright turned
-        QString Folder;          // where the working files go (Temp/)
-        QString Number;          // tells this card's working files apart
+        QString Upright;    // the picture's path
+        QString Reversed;   // the reversed side's source; empty for none
+        bool Turn = false;  // the reversed side is the upright turned
+        QString Folder;     // where the working files go (Temp/)
+        QString Number;     // tells this card's working files apart
     };
     // What a worker hands back.
     struct Worked {
-        QString Upright;      // name written in Temp/, empty on failure
-        QString Reversed;     // empty when the side stays on the default picture
-        QString Unreadable;   // the source that failed; empty when none did
+        QString Upright;     // name written in Temp/, empty on failure
+        QString Reversed;    // empty when the side stays on the default picture
+        QString Unreadable;  // the source that failed; empty when none did
     };
     static Worked WorkOn(const Job& job);
 

@@ -75,18 +75,17 @@ void LayOutBars(const ChartData& chart, const QRectF& inner, const ChartMetrics&
     for (std::size_t i = 0; i < shown; ++i) {
         const ChartBar& bar = chart.Bars[i];
         const QRectF row(inner.left(), inner.top() + static_cast<double>(i) * pitch, inner.width(), pitch);
-        const QRectF whole(plotLeft, row.top() + pitch * 0.1, plotWidth * (bar.First + bar.Second) / most,
-                           pitch * 0.8);
+        const QRectF whole(plotLeft, row.top() + pitch * 0.1, plotWidth * (bar.First + bar.Second) / most, pitch * 0.8);
         AddParts(bar, whole, true, d);
         d.Texts.push_back({QRectF(row.left(), row.top(), labelWidth, pitch),
                            ElideToWidth(bar.Label, labelWidth, m.Width), bar.Label, Qt::AlignRight | Qt::AlignVCenter});
         const QString figure = FigureText(bar.First + bar.Second);
-        d.Texts.push_back(
-            {QRectF(whole.right() + m.Gap / 2, row.top(), figures, pitch), figure, figure, Qt::AlignLeft | Qt::AlignVCenter});
+        d.Texts.push_back({QRectF(whole.right() + m.Gap / 2, row.top(), figures, pitch), figure, figure,
+                           Qt::AlignLeft | Qt::AlignVCenter});
         d.Bands.push_back(row);
     }
-    d.Blocks.push_back({QRectF(plotLeft - m.Hairline, inner.top(), m.Hairline, pitch * static_cast<double>(shown)),
-                        ChartInk::Axis});
+    d.Blocks.push_back(
+        {QRectF(plotLeft - m.Hairline, inner.top(), m.Hairline, pitch * static_cast<double>(shown)), ChartInk::Axis});
 }
 
 // The finest step of 1, 2 or 5 times a power of ten that puts at most
@@ -111,7 +110,7 @@ int LabelEvery(double labelWidth, double pitch) {
 // under its column where there is one for each column, else from the start
 // of its period on.
 void LayOutColumns(const ChartData& chart, const QRectF& inner, const ChartMetrics& m, ChartDrawing& d) {
-    const double top = inner.top() + m.LineHeight;   // room for the figure over the tallest column
+    const double top = inner.top() + m.LineHeight;  // room for the figure over the tallest column
     const double height = inner.bottom() - m.LineHeight - m.Gap / 2 - top;
     if (height < 2 * m.LineHeight) return;
     const int most = Largest(chart.Bars, chart.Bars.size());
@@ -139,7 +138,8 @@ void LayOutColumns(const ChartData& chart, const QRectF& inner, const ChartMetri
     double labelsEnd = labelsLeft - m.Gap;
     for (std::size_t i = 0; i < chart.Bars.size(); ++i) {
         const ChartBar& bar = chart.Bars[i];
-        const QRectF band(plot.left() + static_cast<double>(i) * pitch, inner.top(), pitch, plot.bottom() - inner.top());
+        const QRectF band(plot.left() + static_cast<double>(i) * pitch, inner.top(), pitch,
+                          plot.bottom() - inner.top());
         const double share = height * (bar.First + bar.Second) / scaleTop;
         const QRectF whole(band.left() + pitch * 0.1, plot.bottom() - share, pitch * 0.8, share);
         AddParts(bar, whole, false, d);

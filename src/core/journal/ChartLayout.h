@@ -16,8 +16,8 @@
 
 struct ChartBar {
     QString Label;
-    int First = 0;    // upright, or the whole figure
-    int Second = 0;   // reversed; 0 in one-part charts
+    int First = 0;   // upright, or the whole figure
+    int Second = 0;  // reversed; 0 in one-part charts
 };
 
 enum class ChartShape { Bars, Columns };
@@ -25,8 +25,8 @@ enum class ChartShape { Bars, Columns };
 struct ChartData {
     ChartShape Shape = ChartShape::Bars;
     std::vector<ChartBar> Bars;
-    QString FirstPart;    // what the parts of a bar stand for, named in the legend;
-    QString SecondPart;   // both empty in a one-part chart, which has no legend
+    QString FirstPart;   // what the parts of a bar stand for, named in the legend;
+    QString SecondPart;  // both empty in a one-part chart, which has no legend
     // The number of the first column in its series (a month's number), so
     // that thinned labels fall on whole periods: every January, say.
     int FirstNumber = 0;
@@ -36,8 +36,8 @@ struct ChartData {
 struct ChartMetrics {
     std::function<double(const QString&)> Width;
     double LineHeight = 0;
-    double Gap = 0;        // between a text and what it names
-    double Hairline = 0;   // the width of an axis
+    double Gap = 0;       // between a text and what it names
+    double Hairline = 0;  // the width of an axis
 };
 
 enum class ChartInk { First, Second, Axis, Grid };
@@ -49,7 +49,7 @@ struct ChartBlock {
 
 struct ChartText {
     QRectF Box;
-    QString Text;   // as drawn: Full, or Full cut short with an ellipsis where the box is narrower
+    QString Text;  // as drawn: Full, or Full cut short with an ellipsis where the box is narrower
     QString Full;
     int Align = 0;  // Qt::Alignment within the box
 };

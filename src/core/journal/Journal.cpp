@@ -40,9 +40,8 @@ const std::array<char, 256>& FoldTable() {
         for (int b = 0; b < 256; ++b) {
             const char byte = static_cast<char>(b);
             const QByteArray folded = ToAnsi(FromAnsi(&byte, 1).toCaseFolded());
-            t[static_cast<std::size_t>(b)] = folded.size() == 1 && AnsiRepresentable(FromAnsi(&byte, 1).toCaseFolded())
-                                                 ? folded[0]
-                                                 : byte;
+            t[static_cast<std::size_t>(b)] =
+                folded.size() == 1 && AnsiRepresentable(FromAnsi(&byte, 1).toCaseFolded()) ? folded[0] : byte;
         }
         return t;
     }();
@@ -92,10 +91,11 @@ struct EntryLayout {
 
 template <class R, class N, class T>
 EntryLayout LayoutOf(N R::*name, T R::*notes) {
-    return {OffsetOf(&R::SavedOn),      OffsetOf(name),           OffsetOf(&R::Issue),
-            OffsetOf(&R::ReadingSpreadId), OffsetOf(&R::ReadingDeckId), OffsetOf(&R::ReadingDeckRevision),
-            OffsetOf(&R::DealtCard),    OffsetOf(&R::DealtUpright), OffsetOf(&R::EntryLocked),
-            OffsetOf(notes)};
+    return {OffsetOf(&R::SavedOn),       OffsetOf(name),
+            OffsetOf(&R::Issue),         OffsetOf(&R::ReadingSpreadId),
+            OffsetOf(&R::ReadingDeckId), OffsetOf(&R::ReadingDeckRevision),
+            OffsetOf(&R::DealtCard),     OffsetOf(&R::DealtUpright),
+            OffsetOf(&R::EntryLocked),   OffsetOf(notes)};
 }
 
 EntryStanding StandingOf(const JournalEntry& entry, std::span<const DealtLocation> cards, const JournalDeck* deck,
@@ -162,8 +162,8 @@ bool Matches(const JournalEntry& entry, const JournalQuery& query, const std::ve
     // each of them costs more than it saves.
     for (const std::string& word : words)
         if (entry.SearchText.find(word) == std::string_view::npos) return false;
-    const bool needsCards = query.SpreadId != -1 || query.DeckId != -1 || query.CardNumber != 0 ||
-                            query.Orientation != Facing::Any;
+    const bool needsCards =
+        query.SpreadId != -1 || query.DeckId != -1 || query.CardNumber != 0 || query.Orientation != Facing::Any;
     if (!needsCards) return true;
     // What a locked entry hides cannot select it.
     if (entry.Locked) return false;
@@ -360,7 +360,7 @@ JournalCatalogue LoadJournalCatalogue() {
     QHash<Integer, std::size_t> deckAt;
     std::vector<int> cardCount;
     for (const DeckRecord& d : ReadAllRecords<DeckRecord>(TheRun.Paths.DecksPath)) {
-        if (deckAt.contains(d.DeckId)) continue;   // the first of an id is the deck, as lookups find it
+        if (deckAt.contains(d.DeckId)) continue;  // the first of an id is the deck, as lookups find it
         deckAt.insert(d.DeckId, catalogue.Decks.size());
         JournalDeck deck{d.DeckId, d.DeckRevision, d.DeckName.Trimmed(), {}, {}};
         for (std::size_t t = 0; t < 4; ++t) deck.TypeNames[t] = d.CardTypeName[t].Trimmed();
@@ -416,7 +416,8 @@ Journal ReadJournal(const JournalCatalogue& catalogue) {
         JournalEntry& entry = journal.Entries[i];
         const EntryExtent& extent = extents[i];
         entry.Cards = dealt.subspan(extent.DealtAt, extent.DealtCount);
-        entry.SearchText = text.substr(static_cast<std::size_t>(extent.TextAt), static_cast<std::size_t>(extent.TextLength));
+        entry.SearchText =
+            text.substr(static_cast<std::size_t>(extent.TextAt), static_cast<std::size_t>(extent.TextLength));
         if (entry.Month < 0) continue;
         journal.FirstMonth = dated ? std::min(journal.FirstMonth, entry.Month) : entry.Month;
         journal.LastMonth = dated ? std::max(journal.LastMonth, entry.Month) : entry.Month;
@@ -479,7 +480,7 @@ JournalStatistics TallyJournal(const Journal& journal, const std::vector<int>& s
 
 std::vector<LocationTally> TallyLocations(const Journal& journal, const std::vector<int>& selected,
                                           const JournalCatalogue& catalogue, Integer spreadId, int top) {
-    std::vector<CardCounter> perLocation(MaxSpreadLocations + 1);   // by location number
+    std::vector<CardCounter> perLocation(MaxSpreadLocations + 1);  // by location number
     for (const int i : selected) {
         const JournalEntry& entry = journal.Entries[static_cast<std::size_t>(i)];
         if (entry.Locked || entry.SpreadId != spreadId) continue;
@@ -524,13 +525,13 @@ QString EntryDeckText(const JournalEntry& entry, const JournalCatalogue& catalog
     }
 }
 
-QByteArray JournalCsv(const Journal& journal, const std::vector<int>& selected,
-                      const JournalCatalogue& catalogue) {
+QByteArray JournalCsv(const Journal& journal, const std::vector<int>& selected, const JournalCatalogue& catalogue) {
     // The byte order mark tells spreadsheets that the file is UTF-8.
     QByteArray csv("\xEF\xBB\xBF");
-    csv += QCoreApplication::translate("Journal", "Date,Kind,Entry,Spread,Location,Location Title,Deck,Card,Orientation")
-               .toUtf8() +
-           "\r\n";
+    csv +=
+        QCoreApplication::translate("Journal", "Date,Kind,Entry,Spread,Location,Location Title,Deck,Card,Orientation")
+            .toUtf8() +
+        "\r\n";
     for (const int i : selected) {
         const JournalEntry& entry = journal.Entries[static_cast<std::size_t>(i)];
         if (entry.Locked) continue;
@@ -549,8 +550,8 @@ QByteArray JournalCsv(const Journal& journal, const std::vector<int>& selected,
 
 QString CardLabel(const CardTally& card) {
     return QCoreApplication::translate("Journal", "%1 (%2)")
-        .arg(card.Title, card.DeckInstalled ? card.DeckName
-                                            : QCoreApplication::translate("Journal", "no longer installed"));
+        .arg(card.Title,
+             card.DeckInstalled ? card.DeckName : QCoreApplication::translate("Journal", "no longer installed"));
 }
 
 QString MonthText(int month) {
@@ -558,10 +559,13 @@ QString MonthText(int month) {
 }
 
 ChartData CardsChart(const JournalStatistics& statistics, std::size_t top) {
-    ChartData chart{ChartShape::Bars, {}, QCoreApplication::translate("Journal", "Upright"),
+    ChartData chart{ChartShape::Bars,
+                    {},
+                    QCoreApplication::translate("Journal", "Upright"),
                     QCoreApplication::translate("Journal", "Reversed")};
     for (std::size_t i = 0; i < statistics.Cards.size() && i < top; ++i)
-        chart.Bars.push_back({CardLabel(statistics.Cards[i]), statistics.Cards[i].Upright, statistics.Cards[i].Reversed});
+        chart.Bars.push_back(
+            {CardLabel(statistics.Cards[i]), statistics.Cards[i].Upright, statistics.Cards[i].Reversed});
     return chart;
 }
 
@@ -589,9 +593,9 @@ ChartData MonthsChart(const JournalStatistics& statistics) {
 
 namespace {
 
-constexpr int PrintMargin = 1080;     // three quarters of an inch
-constexpr int PrintChartFont = 9;     // points: small, but read at arm's length
-constexpr int PrintGap = 240;         // twips between the columns of the table
+constexpr int PrintMargin = 1080;  // three quarters of an inch
+constexpr int PrintChartFont = 9;  // points: small, but read at arm's length
+constexpr int PrintGap = 240;      // twips between the columns of the table
 
 // A long colour (&HBBGGRR) as the printer takes it.
 int LongColour(const QColor& colour) { return colour.red() | colour.green() << 8 | colour.blue() << 16; }
@@ -641,9 +645,12 @@ void PrintJournalStatistics(Printer& printer, const JournalStatistics& statistic
     printer.FontBold = false;
     line(QCoreApplication::translate("Journal", "Entries: %1").arg(number(statistics.Entries)));
     line(QCoreApplication::translate("Journal", "Locked, not counted: %1").arg(number(statistics.Locked)));
-    line(QCoreApplication::translate("Journal", "Not attributable to a present card: %1").arg(number(statistics.Unattributable)));
-    line(QCoreApplication::translate("Journal", "Upright: %1    Reversed: %2").arg(number(statistics.Upright), number(statistics.Reversed)));
-    for (const NamedCount& type : statistics.Types) line(QCoreApplication::translate("Journal", "%1: %2").arg(type.Name, number(type.Count)));
+    line(QCoreApplication::translate("Journal", "Not attributable to a present card: %1")
+             .arg(number(statistics.Unattributable)));
+    line(QCoreApplication::translate("Journal", "Upright: %1    Reversed: %2")
+             .arg(number(statistics.Upright), number(statistics.Reversed)));
+    for (const NamedCount& type : statistics.Types)
+        line(QCoreApplication::translate("Journal", "%1: %2").arg(type.Name, number(type.Count)));
 
     // Each chart under a heading, as tall as its bars need at the chart's font.
     const auto chart = [&](const QString& heading, const ChartData& data, int height) {
@@ -666,7 +673,9 @@ void PrintJournalStatistics(Printer& printer, const JournalStatistics& statistic
 
     // The table: three columns of figures, each as wide as its widest text,
     // then the card in the width left; the headings again on each new page.
-    const QString headings[] = {QCoreApplication::translate("Journal", "Total"), QCoreApplication::translate("Journal", "Upright"), QCoreApplication::translate("Journal", "Reversed"), QCoreApplication::translate("Journal", "Card")};
+    const QString headings[] = {
+        QCoreApplication::translate("Journal", "Total"), QCoreApplication::translate("Journal", "Upright"),
+        QCoreApplication::translate("Journal", "Reversed"), QCoreApplication::translate("Journal", "Card")};
     int columns[3] = {0, 0, 0};
     printer.FontBold = true;
     for (int c = 0; c < 3; ++c) columns[c] = printer.TextWidth(headings[c]);
@@ -675,7 +684,7 @@ void PrintJournalStatistics(Printer& printer, const JournalStatistics& statistic
         const int figures[] = {card.Total(), card.Upright, card.Reversed};
         for (int c = 0; c < 3; ++c) columns[c] = std::max(columns[c], printer.TextWidth(number(figures[c])));
     }
-    const auto row = [&](const QString (&cells)[4]) {
+    const auto row = [&](const QString(&cells)[4]) {
         const int height = printer.TextHeight();
         int x = PrintMargin;
         for (int c = 0; c < 3; ++c) {

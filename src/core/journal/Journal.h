@@ -25,16 +25,16 @@ enum class Facing { Any, Upright, Reversed };
 
 // How far an entry's cards can be trusted to name the deck's present cards.
 enum class EntryStanding {
-    Present,       // the deck as it was saved with
-    DeckRevised,   // the deck was saved again since
-    DeckGone,      // the deck is no longer installed
-    Damaged,       // a card number beyond its deck, or a date out of range
+    Present,      // the deck as it was saved with
+    DeckRevised,  // the deck was saved again since
+    DeckGone,     // the deck is no longer installed
+    Damaged,      // a card number beyond its deck, or a date out of range
 };
 
 // The designs that entries point at, as they stand now.
 struct JournalCard {
     QString Title;
-    Integer Type = 0;   // 0 to 3, into the deck's TypeNames
+    Integer Type = 0;  // 0 to 3, into the deck's TypeNames
 };
 
 struct JournalDeck {
@@ -42,14 +42,14 @@ struct JournalDeck {
     Integer Revision = 0;
     QString Name;
     std::array<QString, 4> TypeNames;
-    std::vector<JournalCard> Cards;   // card n is Cards[n - 1]
+    std::vector<JournalCard> Cards;  // card n is Cards[n - 1]
 };
 
 struct JournalSpread {
     Integer Id = 0;
     Integer Revision = 0;
     QString Name;
-    std::vector<QString> LocationTitles;   // location n is [n - 1]
+    std::vector<QString> LocationTitles;  // location n is [n - 1]
 };
 
 struct JournalCatalogue {
@@ -64,23 +64,23 @@ struct JournalCatalogue {
 JournalCatalogue LoadJournalCatalogue();
 
 struct DealtLocation {
-    int Location = 0;    // 1 to 32
-    Integer Card = 0;    // the stored card number
+    int Location = 0;  // 1 to 32
+    Integer Card = 0;  // the stored card number
     bool Upright = true;
 };
 
 struct JournalEntry {
     EntryKind Kind = EntryKind::Reading;
-    QDate Date;            // invalid when the stored date is out of range
-    int Month = -1;        // year * 12 + month - 1 of Date, worked out once; -1 when Date is invalid
+    QDate Date;      // invalid when the stored date is out of range
+    int Month = -1;  // year * 12 + month - 1 of Date, worked out once; -1 when Date is invalid
     QString Name;
-    bool Locked = false;   // locked, and its password not given in this run
+    bool Locked = false;  // locked, and its password not given in this run
     Integer SpreadId = 0;
     Integer DeckId = 0;
     EntryStanding Standing = EntryStanding::Present;
-    std::span<const DealtLocation> Cards;   // in the journal's Dealt; empty while locked
-    std::string_view SearchText;   // in the journal's Text: name, issue and notes in the record's code page,
-                                   // case-folded; the name alone while locked
+    std::span<const DealtLocation> Cards;  // in the journal's Dealt; empty while locked
+    std::string_view SearchText;           // in the journal's Text: name, issue and notes in the record's code page,
+                                           // case-folded; the name alone while locked
 };
 
 // Every saved entry, read once. A search runs on every keystroke over every
@@ -91,7 +91,7 @@ struct Journal {
     std::vector<JournalEntry> Entries;
     std::vector<DealtLocation> Dealt;
     QByteArray Text;
-    int FirstMonth = 0;   // the months of the dated entries, as JournalEntry::Month
+    int FirstMonth = 0;  // the months of the dated entries, as JournalEntry::Month
     int LastMonth = -1;
 
     Journal() = default;
@@ -110,15 +110,15 @@ void RememberEntryUnlocked(EntryKind kind, const QString& name);
 bool IsEntryUnlocked(EntryKind kind, const QString& name);
 
 struct JournalQuery {
-    QString Words;             // each must occur in the name, issue or notes, case ignored
+    QString Words;  // each must occur in the name, issue or notes, case ignored
     bool Readings = true;
     bool Diary = true;
-    Integer SpreadId = -1;     // -1: any spread
-    Integer DeckId = -1;       // -1: any deck
-    Integer CardDeckId = -1;   // a card: its deck and number; -1 and 0 for any card
+    Integer SpreadId = -1;    // -1: any spread
+    Integer DeckId = -1;      // -1: any deck
+    Integer CardDeckId = -1;  // a card: its deck and number; -1 and 0 for any card
     Integer CardNumber = 0;
-    Facing Orientation = Facing::Any;   // of the chosen card, or of any card
-    QDate From;                // null: open
+    Facing Orientation = Facing::Any;  // of the chosen card, or of any card
+    QDate From;                        // null: open
     QDate To;
 };
 
@@ -130,7 +130,7 @@ struct CardTally {
     Integer Number = 0;
     QString Title;
     QString DeckName;
-    QString TypeName;   // empty when the card is not in the deck now
+    QString TypeName;  // empty when the card is not in the deck now
     bool DeckInstalled = true;
     int Upright = 0;
     int Reversed = 0;
@@ -143,19 +143,19 @@ struct NamedCount {
 };
 
 struct MonthCount {
-    int Month = 0;   // as JournalEntry::Month
+    int Month = 0;  // as JournalEntry::Month
     int Count = 0;
 };
 
 struct JournalStatistics {
-    int Entries = 0;          // selected
-    int Locked = 0;           // selected, but locked: not counted
-    int Unattributable = 0;   // counted, but not attributable to present cards
+    int Entries = 0;         // selected
+    int Locked = 0;          // selected, but locked: not counted
+    int Unattributable = 0;  // counted, but not attributable to present cards
     int Upright = 0;
     int Reversed = 0;
-    std::vector<CardTally> Cards;   // most frequent first, then by deck and number
-    std::vector<NamedCount> Types;  // by the type names of the decks, most frequent first
-    std::vector<MonthCount> Months; // every month from the first to the last
+    std::vector<CardTally> Cards;    // most frequent first, then by deck and number
+    std::vector<NamedCount> Types;   // by the type names of the decks, most frequent first
+    std::vector<MonthCount> Months;  // every month from the first to the last
 };
 
 JournalStatistics TallyJournal(const Journal& journal, const std::vector<int>& selected,
@@ -164,7 +164,7 @@ JournalStatistics TallyJournal(const Journal& journal, const std::vector<int>& s
 struct LocationTally {
     int Location = 0;
     QString Title;
-    std::vector<CardTally> Cards;   // the most frequent, at most `top`
+    std::vector<CardTally> Cards;  // the most frequent, at most `top`
 };
 
 // For one spread: the cards that came up most in each of its locations.
@@ -192,8 +192,7 @@ QString EntryDeckText(const JournalEntry& entry, const JournalCatalogue& catalog
 // dealt location; locked entries give none. A text that a spreadsheet would
 // take for a formula (one starting with =, +, -, @, a tab or a carriage
 // return) is given a leading apostrophe, so opening the file runs nothing.
-QByteArray JournalCsv(const Journal& journal, const std::vector<int>& selected,
-                      const JournalCatalogue& catalogue);
+QByteArray JournalCsv(const Journal& journal, const std::vector<int>& selected, const JournalCatalogue& catalogue);
 
 // The statistics on the printer: the figures, the cards chart (the `top`
 // cards) and the months chart drawn at the page's width, and the table of

@@ -173,6 +173,6 @@ bool CreatePackageFile(const QString& sourceFolder, const QString& packagePath, 
 }
 
 bool ExtractPackageFile(const QString& packagePath, const QString& targetFolder) {
-    (void)targetFolder;   // the members always go to Temp/
+    (void)targetFolder;  // the members always go to Temp/
     return UnpackPackage(packagePath);
 }

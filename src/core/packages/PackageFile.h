@@ -23,7 +23,8 @@ struct PackageMemberHeader {
 // Packs every plain file of sourceFolder into packagePath. False when the
 // package could not be written whole; `failure` then holds the error that
 // stopped it.
-bool CreatePackageFile(const QString& sourceFolder, const QString& packagePath, std::optional<RuntimeError>* failure = nullptr);
+bool CreatePackageFile(const QString& sourceFolder, const QString& packagePath,
+                       std::optional<RuntimeError>* failure = nullptr);
 // Unpacks every member of packagePath into Temp/. The target folder is
 // passed over: the members always go to Temp/. False when the package could
 // not be opened or read.

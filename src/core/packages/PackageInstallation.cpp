@@ -198,10 +198,8 @@ void AddRecords(DesignCommit& commit, const QString& path, const std::vector<R>&
     QByteArray added;
     for (int n : changed) {
         const QByteArray bytes = EncodeRecord(records[static_cast<std::size_t>(n - 1)]);
-        if (n <= before)
-            replaced[n] = bytes;
-        else
-            added += bytes;
+        if (n <= before) replaced[n] = bytes;
+        else added += bytes;
     }
     commit.AddRecordFile(
         path, R::Length,
@@ -618,10 +616,8 @@ void PackageInstallation::Commit() {
     for (std::size_t k = 0; k < files_.size(); ++k) {
         const bool takenAgain = std::any_of(files_.begin() + static_cast<std::ptrdiff_t>(k) + 1, files_.end(),
                                             [&](const FileTake& later) { return later.From == files_[k].From; });
-        if (takenAgain)
-            commit.AddFile(TheRun.Paths.TempDir + files_[k].From, files_[k].To);
-        else
-            commit.MoveFile(TheRun.Paths.TempDir + files_[k].From, files_[k].To);
+        if (takenAgain) commit.AddFile(TheRun.Paths.TempDir + files_[k].From, files_[k].To);
+        else commit.MoveFile(TheRun.Paths.TempDir + files_[k].From, files_[k].To);
     }
 
     // The decks and spreads as they will be, and the ids this installation

@@ -47,8 +47,8 @@ struct GrownIdList {
 
 // What the user said to a design whose name is installed already.
 struct DesignExistsReply {
-    int Choice = 0;    // a DesignExistsAnswer
-    QString NewName;   // after a rename
+    int Choice = 0;   // a DesignExistsAnswer
+    QString NewName;  // after a rename
 };
 
 class InstallationQuestions {
@@ -70,10 +70,10 @@ public:
 };
 
 enum class InstallOutcome {
-    Installed,             // the summary follows
-    AttachmentCancelled,   // nothing installed
-    Incompatible,          // record files of foreign lengths; nothing installed
-    Refused,               // records that contradict each other; see Refusal
+    Installed,            // the summary follows
+    AttachmentCancelled,  // nothing installed
+    Incompatible,         // record files of foreign lengths; nothing installed
+    Refused,              // records that contradict each other; see Refusal
 };
 
 // Why the package unpacked in Temp/ cannot be installed as it stands (the
@@ -93,7 +93,7 @@ public:
     int DecksInstalled = 0;
     int SpreadsInstalled = 0;
     bool AttachmentSaved = false;
-    QString AttachmentFile;   // the attachment's name, then where it was saved
+    QString AttachmentFile;  // the attachment's name, then where it was saved
     QString Refusal;
 
     // The rename check of the design-exists question: the padded name it
@@ -128,13 +128,13 @@ private:
     BoundedArray<QString> NewUprightNames, NewReversedNames, NewUprightSoundNames, NewReversedSoundNames;
     GrownIdList PackageDeckIds, NewDeckIds, InstalledDeckIds;
     GrownIdList PackageSpreadIds, NewSpreadIds, InstalledSpreadIds;
-    BoundedArray<QString> InstalledDeckNames, InstalledSpreadNames;   // 50 characters, untrimmed
+    BoundedArray<QString> InstalledDeckNames, InstalledSpreadNames;  // 50 characters, untrimmed
     Integer LastOldDeckId = 0;
     Integer LastNewDeckId = 0;
     int ChosenDeckCount = -1;
     std::array<Integer, 10> ChosenDeckIds{};
     bool FirstLinkPending = true;
-    QString newDesignName_;   // the answer to the last rename
+    QString newDesignName_;  // the answer to the last rename
 
     // The plan. Decks.dck and Spreads.spr as they will be, and which of
     // their records change; the ids decks held before; each overwritten
@@ -149,8 +149,8 @@ private:
     std::vector<CardRecord> cards_;
     std::vector<std::pair<Integer, std::vector<LocationRecord>>> locations_;
     struct FileTake {
-        QString From;   // a name in Temp/
-        QString To;     // a fresh name in Cards/
+        QString From;  // a name in Temp/
+        QString To;    // a fresh name in Cards/
     };
     std::vector<FileTake> files_;
     QStringList oldBackgrounds_;

@@ -28,10 +28,8 @@ bool NamesAFile(const FixedText<N>& field) {
 template <int N>
 void StageOrBlank(FixedText<N>& field) {
     if (field.IsBlank()) return;
-    if (NamesAFile(field))
-        StageFile(field.Trimmed());
-    else
-        field = QString();
+    if (NamesAFile(field)) StageFile(field.Trimmed());
+    else field = QString();
 }
 
 // A spread is forgiving: its file that cannot be copied, for whatever

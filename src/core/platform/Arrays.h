@@ -19,9 +19,7 @@ public:
         items_.assign(upper >= lower ? static_cast<std::size_t>(upper - lower + 1) : 0, T{});
     }
     // Sizes it lower .. upper keeping what fits.
-    void RedimPreserve(int upper) {
-        items_.resize(upper >= lower_ ? static_cast<std::size_t>(upper - lower_ + 1) : 0);
-    }
+    void RedimPreserve(int upper) { items_.resize(upper >= lower_ ? static_cast<std::size_t>(upper - lower_ + 1) : 0); }
     void Clear() { items_.clear(); }
 
     int LBound() const { return lower_; }

@@ -1,9 +1,9 @@
 #include "core/platform/BinaryFile.h"
 
+#include <unistd.h>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <unistd.h>
 
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
@@ -75,8 +75,7 @@ AtomicFileWriter::AtomicFileWriter(const QString& newPath, const QString& realPa
     : file_(std::make_unique<QFile>(NativePath(newPath))),
       newPath_(NativePath(newPath)),
       realPath_(NativePath(realPath)) {
-    if (!file_->open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
-        RaiseError(errPathNotFound);
+    if (!file_->open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) RaiseError(errPathNotFound);
     pending_.reserve(kBlockBytes * 2);
 }
 
@@ -94,7 +93,7 @@ void AtomicFileWriter::Write(const char* bytes, qint64 length) {
 
 void AtomicFileWriter::Flush() {
     WriteOrRaise(*file_, pending_.constData(), pending_.size());
-    pending_.resize(0);   // keeps the block's memory for the next one
+    pending_.resize(0);  // keeps the block's memory for the next one
 }
 
 void AtomicFileWriter::Finish() {

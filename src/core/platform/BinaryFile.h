@@ -32,9 +32,9 @@ private:
     std::unique_ptr<QFile> file_;
     int length_;
     int count_ = 0;
-    int current_ = 0;   // number of the last record returned
+    int current_ = 0;  // number of the last record returned
     QByteArray buffer_;
-    int bufferFirst_ = 1;    // record number of the buffer's first record
+    int bufferFirst_ = 1;  // record number of the buffer's first record
     int bufferRecords_ = 0;
 };
 

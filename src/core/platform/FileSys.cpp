@@ -1,13 +1,13 @@
 #include "core/platform/FileSys.h"
 
+#include <fcntl.h>
+#include <unistd.h>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <cerrno>
 #include <cstdio>
-#include <fcntl.h>
-#include <unistd.h>
 
 #include "core/platform/Errors.h"
 #include "core/platform/WriteFaults.h"
@@ -23,8 +23,8 @@ const QString UnfinishedCopySuffix = QStringLiteral(".part");
 bool WildMatch(const QString& pattern, const QString& name) {
     qsizetype p = 0, n = 0, starP = -1, starN = 0;
     while (n < name.size()) {
-        if (p < pattern.size() && (pattern[p] == QLatin1Char('?') ||
-                                   pattern[p].toCaseFolded() == name[n].toCaseFolded())) {
+        if (p < pattern.size() &&
+            (pattern[p] == QLatin1Char('?') || pattern[p].toCaseFolded() == name[n].toCaseFolded())) {
             ++p;
             ++n;
         } else if (p < pattern.size() && pattern[p] == QLatin1Char('*')) {
@@ -49,9 +49,7 @@ void SplitPattern(const QString& pattern, QString& folder, QString& mask) {
     if (mask == QLatin1String("*.*")) mask = QStringLiteral("*");
 }
 
-bool HasWildcards(const QString& s) {
-    return s.contains(QLatin1Char('*')) || s.contains(QLatin1Char('?'));
-}
+bool HasWildcards(const QString& s) { return s.contains(QLatin1Char('*')) || s.contains(QLatin1Char('?')); }
 
 void SyncFile(const QString& path) {
     if (!WriteFaults::Syncs()) return;

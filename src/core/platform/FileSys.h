@@ -12,9 +12,9 @@
 // turns backslashes into '/'.
 QString NativePath(const QString& path);
 
-bool FileExists(const QString& path);          // a regular file
+bool FileExists(const QString& path);  // a regular file
 bool DirExists(const QString& path);
-bool AnyFileMatches(const QString& pattern);   // Dir(pattern) <> ""
+bool AnyFileMatches(const QString& pattern);  // Dir(pattern) <> ""
 
 // Names (not paths) of the regular files in the pattern's folder whose names
 // match the pattern's last part ('*' and '?', "*.*" matches every name),
@@ -40,20 +40,20 @@ void RemoveUnfinishedCopies(const QString& folder);
 // Waits until everything written to the file system that holds folder is
 // on the disk.
 void SyncFileSystem(const QString& folder);
-void Name(const QString& oldPath, const QString& newPath);         // rename; fails if new exists
+void Name(const QString& oldPath, const QString& newPath);  // rename; fails if new exists
 // Replaces a file by another in one step (rename over it): a reader finds
 // either the old or the new file, never none.
 void ReplaceFile(const QString& newFile, const QString& realFile);
 // The same for a new file its writer has synced already: renames it over the
 // real one and syncs the folder.
 void RenameOver(const QString& newFile, const QString& realFile);
-void Kill(const QString& pattern);                   // fails when nothing matches
-void KillIgnoringErrors(const QString& pattern);     // deletes matching files
+void Kill(const QString& pattern);                // fails when nothing matches
+void KillIgnoringErrors(const QString& pattern);  // deletes matching files
 void MkDir(const QString& path);
-void MkDirIgnoringErrors(const QString& path);       // one level, like the toolkit
-qint64 FileLen(const QString& path);                 // raises when missing
+void MkDirIgnoringErrors(const QString& path);  // one level, like the toolkit
+qint64 FileLen(const QString& path);            // raises when missing
 
-QByteArray ReadWholeFile(const QString& path);       // raises when missing
+QByteArray ReadWholeFile(const QString& path);  // raises when missing
 // Writes a whole file beside the target, flushes it, and renames it over the
 // target.
 void WriteWholeFile(const QString& path, const QByteArray& bytes);
@@ -65,4 +65,4 @@ QString FolderOf(const QString& path);
 // The part after the last '/' or '\'.
 QString FileNameOf(const QString& path);
 
-QString AddTrailingBackslash(const QString& path);   // ends the path in '/'
+QString AddTrailingBackslash(const QString& path);  // ends the path in '/'

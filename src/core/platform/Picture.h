@@ -7,8 +7,8 @@
 
 struct Picture {
     QImage Image;
-    int Height = 0;   // twips
-    int Width = 0;    // twips
+    int Height = 0;  // twips
+    int Width = 0;   // twips
     bool IsNull() const { return Image.isNull(); }
 };
 

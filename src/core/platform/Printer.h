@@ -20,8 +20,8 @@ public:
     int CurrentX = 0;
     int CurrentY = 0;
     bool FontBold = false;
-    int FontSize = 10;      // points
-    int ForeColor = 0;      // &HBBGGRR, as the palette's long colours: 128 is a dark red
+    int FontSize = 10;  // points
+    int ForeColor = 0;  // &HBBGGRR, as the palette's long colours: 128 is a dark red
 
     // Prints the text at the print position, then moves one line down with
     // CurrentX back to 0.

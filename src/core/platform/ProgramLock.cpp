@@ -1,10 +1,10 @@
 #include "core/platform/ProgramLock.h"
 
-#include <QDir>
-#include <QFile>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
+#include <QDir>
+#include <QFile>
 
 namespace {
 

@@ -11,7 +11,7 @@
 bool FolderIsWritable(const QString& folder) {
     if (!DirExists(folder)) return false;
     QTemporaryFile probe(WithSlash(folder) + QStringLiteral(".cartomar-probe-XXXXXX"));
-    return probe.open();   // removed again when the probe goes
+    return probe.open();  // removed again when the probe goes
 }
 
 QString UserDataHome() {

@@ -1,11 +1,11 @@
 #include "core/platform/WriteFaults.h"
 
+#include <unistd.h>
 #include <QFile>
 #include <QIODevice>
 #include <csignal>
 #include <cstdio>
 #include <mutex>
-#include <unistd.h>
 
 namespace {
 
@@ -84,16 +84,13 @@ qint64 WriteStep(QIODevice& device, const char* bytes, qint64 length) {
         if (met == Fault::DiskFull) plan.diskFull = true;
     }
     switch (met) {
-    case Fault::Fail:
-        return -1;
-    case Fault::DiskFull:
-        return device.write(bytes, length / 2);
+    case Fault::Fail: return -1;
+    case Fault::DiskFull: return device.write(bytes, length / 2);
     case Fault::Kill:
         device.write(bytes, length / 2);
         if (auto* file = qobject_cast<QFileDevice*>(&device)) file->flush();
         Die();
-    case Fault::None:
-        break;
+    case Fault::None: break;
     }
     return device.write(bytes, length);
 }

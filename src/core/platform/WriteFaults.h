@@ -14,9 +14,9 @@ namespace WriteFaults {
 
 enum class Fault {
     None,
-    Fail,       // the step does nothing and reports failure
-    DiskFull,   // a write stores half its bytes; every later write stores none
-    Kill,       // the process dies at the step (a write stores half first)
+    Fail,      // the step does nothing and reports failure
+    DiskFull,  // a write stores half its bytes; every later write stores none
+    Kill,      // the process dies at the step (a write stores half first)
 };
 
 // Counts steps from 1 afresh; step number `step` meets the fault.

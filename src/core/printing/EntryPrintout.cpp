@@ -10,8 +10,8 @@
 #include "core/platform/Palette.h"
 #include "core/platform/Picture.h"
 #include "core/platform/PictureFit.h"
-#include "core/readings/Deal.h"
 #include "core/platform/Printer.h"
+#include "core/readings/Deal.h"
 #include "core/store/Lookups.h"
 #include "core/store/MakerAddresses.h"
 #include "core/store/RunState.h"
@@ -96,7 +96,7 @@ void PrintBackground(Printer& printer) {
     try {
         background = LoadPicture(TheRun.Paths.CardsDir + TheRun.CurrentSpread.BackgroundFile.Trimmed());
     } catch (const RuntimeError&) {
-        return;   // a background that has gone leaves the canvas plain, as on the screen
+        return;  // a background that has gone leaves the canvas plain, as on the screen
     }
     if (TheRun.CurrentSpread.StretchBackground != 0) {
         printer.PaintPicture(background.Image, CanvasLeft, CanvasTop, CanvasWidth, CanvasHeight);
@@ -156,10 +156,10 @@ bool PrintSpreadPage(Printer& printer, const EntryPrintout& entry, const Picture
         QString caption, value;
         int top, height;
     } lines[] = {
-        {QCoreApplication::translate("EntryPrintout", "Spread:"), SpreadNameById(TheRun.CurrentSpread.SpreadId).trimmed(),
-         10560, LineHeight},
-        {QCoreApplication::translate("EntryPrintout", "Deck:"), DeckNameById(TheRun.CurrentDeck.DeckId).trimmed(), 11040,
-         LineHeight},
+        {QCoreApplication::translate("EntryPrintout", "Spread:"),
+         SpreadNameById(TheRun.CurrentSpread.SpreadId).trimmed(), 10560, LineHeight},
+        {QCoreApplication::translate("EntryPrintout", "Deck:"), DeckNameById(TheRun.CurrentDeck.DeckId).trimmed(),
+         11040, LineHeight},
         {QCoreApplication::translate("EntryPrintout", "Date & Time:"),
          FormatLongDayDate(now) + QStringLiteral(" - ") + entry.FormatTime(now), 11520, LineHeight},
         {QCoreApplication::translate("EntryPrintout", "Title:"), entry.Issue.trimmed(), 12000, 975},
@@ -173,7 +173,8 @@ bool PrintSpreadPage(Printer& printer, const EntryPrintout& entry, const Picture
     const QString deckLine = QCoreApplication::translate("EntryPrintout", "Deck © Copyright 2001 By %1.");
     PrintLabel(printer, CopyrightLine(spreadLine, TheRun.CurrentSpread.SpreadDesigner), 1680, 13080, 8415, 255,
                CopyrightPoints);
-    PrintLabel(printer, CopyrightLine(deckLine, TheRun.CurrentDeck.DeckDesigner), 1680, 13560, 8415, 255, CopyrightPoints);
+    PrintLabel(printer, CopyrightLine(deckLine, TheRun.CurrentDeck.DeckDesigner), 1680, 13560, 8415, 255,
+               CopyrightPoints);
     return fitted;
 }
 

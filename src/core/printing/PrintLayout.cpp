@@ -19,9 +19,9 @@ constexpr int FirstPageSaving = 1800;
 constexpr int PictureGap = 100;
 constexpr int BlockGap = 500;
 constexpr int HeaderRoom = 400;
-constexpr int BottomRoom = 800;    // below the last line of a text
+constexpr int BottomRoom = 800;  // below the last line of a text
 constexpr int SummaryY = 1600;
-constexpr int SummaryColour = 128; // a dark red
+constexpr int SummaryColour = 128;  // a dark red
 
 const QChar CR = QLatin1Char('\r');
 const QChar LF = QLatin1Char('\n');
@@ -44,9 +44,7 @@ QString WithLineEnds(const QString& text) {
 }
 
 // 1-based position of the next ch at or after position, 0 if none.
-int Find(const QString& text, QChar ch, int position) {
-    return static_cast<int>(text.indexOf(ch, position - 1)) + 1;
-}
+int Find(const QString& text, QChar ch, int position) { return static_cast<int>(text.indexOf(ch, position - 1)) + 1; }
 
 QString Mid(const QString& text, int position, int length) { return text.mid(position - 1, length); }
 }  // namespace
@@ -163,7 +161,7 @@ bool PrintLayout::PrintSummary(const QString& text) {
 }
 
 bool PrintLayout::PrintBlock(const QImage& picture, const QString& locationTitle, const QString& locationText,
-                const QString& cardTitle, const QString& cardText) {
+                             const QString& cardTitle, const QString& cardText) {
     if (!job_.PrintActive) return false;
     Printer& printer = printer_;
     printer.CurrentX = LeftMargin;

@@ -16,23 +16,23 @@ class Printer;
 // What stopped a print short, for the screen to tell the user.
 enum class PrintFault {
     None,
-    PrinterNotReady,   // the printer could not be opened for output
-    PictureUnfit,      // a picture's size matched no case of the fit: a state held impossible
+    PrinterNotReady,  // the printer could not be opened for output
+    PictureUnfit,     // a picture's size matched no case of the fit: a state held impossible
 };
 
 struct PrintJob {
-    bool PrintActive = false;     // a job is under way
-    Integer PageNumber = 0;       // the page being printed
-    Integer TotalPages = 0;       // the job's pages, as far as they can be foreseen
-    Integer BlockCount = 0;       // blocks announced to StartPrint
+    bool PrintActive = false;  // a job is under way
+    Integer PageNumber = 0;    // the page being printed
+    Integer TotalPages = 0;    // the job's pages, as far as they can be foreseen
+    Integer BlockCount = 0;    // blocks announced to StartPrint
     Integer BlocksPerPage = 0;
-    Integer BlockSlot = 0;        // blocks already placed on the present page
-    QString PageTitle;            // left part of every header
+    Integer BlockSlot = 0;  // blocks already placed on the present page
+    QString PageTitle;      // left part of every header
     QString HeaderSpread;
     QString HeaderDeck;
-    Integer PictureBoxHeight = 3000;   // the box a card picture is fitted into
+    Integer PictureBoxHeight = 3000;  // the box a card picture is fitted into
     Integer PictureBoxWidth = 3000;
-    PrintFault Fault = PrintFault::None;   // the first fault met
+    PrintFault Fault = PrintFault::None;  // the first fault met
 };
 
 class PrintLayout {

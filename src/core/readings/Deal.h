@@ -31,10 +31,10 @@ struct Deal {
     // the location is empty.
     BoundedArray<Integer> DealtCard = BoundedArray<Integer>(1, MaxLocations);
     BoundedArray<Integer> DealtUpright = BoundedArray<Integer>(1, MaxLocations);
-    Integer ThisLocationNumber = 1;   // receives the next card; cards dealt = this - 1
-    Integer DeckCardsLeft = 0;        // cards left on the table
-    Integer MaxCardsUsed = 0;         // positions in use: bounds the random pick and the animation
-    bool LoadingReading = false;      // a saved reading is being restored: the shuffle leaves its record alone
+    Integer ThisLocationNumber = 1;  // receives the next card; cards dealt = this - 1
+    Integer DeckCardsLeft = 0;       // cards left on the table
+    Integer MaxCardsUsed = 0;        // positions in use: bounds the random pick and the animation
+    bool LoadingReading = false;     // a saved reading is being restored: the shuffle leaves its record alone
 };
 
 // What a reading chose on its selection screen.

@@ -18,13 +18,13 @@ struct DeckInMemory;
 
 struct CardRow {
     QString Text;
-    Integer Card = 0;   // the card's number; 0 for the row of no card and for a card that came back
+    Integer Card = 0;  // the card's number; 0 for the row of no card and for a card that came back
 };
 
 struct DiaryCardLists {
     static constexpr int MaxLocations = 32;
     BoundedArray<QList<CardRow>> Rows = BoundedArray<QList<CardRow>>(1, MaxLocations);
-    BoundedArray<int> Selected = BoundedArray<int>(1, MaxLocations);   // the row each location stands on; -1 for none
+    BoundedArray<int> Selected = BoundedArray<int>(1, MaxLocations);  // the row each location stands on; -1 for none
 };
 
 // The text of the row of no card.
@@ -32,7 +32,8 @@ QString SelectPrompt();
 
 // Lists afresh, for each of the spread's locations, the row of no card and the
 // cards of the chosen types, and puts every location on its row of no card.
-void FillCardLists(DiaryCardLists& lists, const DeckInMemory& deck, int locationCount, const std::array<bool, 4>& types);
+void FillCardLists(DiaryCardLists& lists, const DeckInMemory& deck, int locationCount,
+                   const std::array<bool, 4>& types);
 // The first row of a location's list that is the row of no card.
 int IndexOfNone(const DiaryCardLists& lists, int location);
 // The text and the card number of the row the location stands on ("" and 0

@@ -20,17 +20,17 @@ std::vector<std::pair<double, QString>> SavedEntryDates(EntryKind kind);
 
 // What a name typed on a save screen comes to.
 struct EntryNameCheck {
-    QString Problem;     // it is no name: the message to show; nothing may be written
-    QString Question;    // an entry has the name: ask this before writing over it
-    int Replacing = 0;   // the record of that name, 0 for a new one
+    QString Problem;    // it is no name: the message to show; nothing may be written
+    QString Question;   // an entry has the name: ask this before writing over it
+    int Replacing = 0;  // the record of that name, 0 for a new one
 };
 EntryNameCheck CheckEntryName(EntryKind kind, const QString& typed);
 
 template <class R>
 struct EntrySave {
-    R Saved;              // the entry as written: named, dated, counted, with its card types
+    R Saved;  // the entry as written: named, dated, counted, with its card types
     int RecordNumber = 0;
-    QString Problem;      // when set, nothing was written
+    QString Problem;  // when set, nothing was written
 };
 
 // Writes the entry under the name (trimmed) in place of record `replacing`
@@ -52,17 +52,17 @@ void DeleteEntry(EntryKind kind, const QString& name);
 // (still installed; if changed, the user's consent). A refusal ends the
 // opening; so does a question answered No. Nothing is written either way.
 struct OpeningStep {
-    bool Refusal = false;   // told with the information icon; else asked Yes or No
+    bool Refusal = false;  // told with the information icon; else asked Yes or No
     QString Text;
 };
 template <class R>
 struct EntryOpening {
-    bool Found = false;   // an entry of that name is saved
+    bool Found = false;  // an entry of that name is saved
     R Entry;
     bool Locked = false;
     QString Password;
     QList<OpeningStep> Steps;
-    DeckRecord Deck;       // the entry's deck and spread as they stand, to take once it opens
+    DeckRecord Deck;  // the entry's deck and spread as they stand, to take once it opens
     SpreadRecord Spread;
 };
 // Only the cards of the first locations are checked against a changed deck.

@@ -75,10 +75,8 @@ public:
     // Held bytes are read as they stand when the reader is made, as an open
     // file is read whatever replaces it meanwhile.
     explicit RecordReader(const QString& path) {
-        if (const QByteArray* held = RecordFilesInMemory::Find(path))
-            held_ = *held;
-        else
-            reader_.emplace(path, R::Length);
+        if (const QByteArray* held = RecordFilesInMemory::Find(path)) held_ = *held;
+        else reader_.emplace(path, R::Length);
     }
     bool Next(R& r) {
         const char* bytes = NextRaw();
@@ -95,16 +93,14 @@ public:
     int Current() const { return reader_ ? reader_->Current() : current_; }
     int Count() const { return reader_ ? reader_->RecordCount() : static_cast<int>(held_.size() / R::Length); }
     void Seek(int recordNumber) {
-        if (reader_)
-            reader_->Seek(recordNumber);
-        else
-            current_ = std::max(0, recordNumber - 1);
+        if (reader_) reader_->Seek(recordNumber);
+        else current_ = std::max(0, recordNumber - 1);
     }
 
 private:
     std::optional<RecordFileReader> reader_;
     QByteArray held_;
-    int current_ = 0;   // the number of the record read last, in held bytes
+    int current_ = 0;  // the number of the record read last, in held bytes
 };
 
 template <class R>
@@ -145,14 +141,15 @@ public:
     void Commit() {
         if (edit_) return edit_->Commit();
         if (QByteArray* held = RecordFilesInMemory::Find(path_))
-            for (const auto& [number, bytes] : held_) RecordFilesInMemory::Put(*held, R::Length, number, bytes.constData());
+            for (const auto& [number, bytes] : held_)
+                RecordFilesInMemory::Put(*held, R::Length, number, bytes.constData());
         held_.clear();
     }
 
 private:
     QString path_;
     std::optional<RecordFileEdit> edit_;
-    std::map<int, QByteArray> held_;   // the puts to held bytes
+    std::map<int, QByteArray> held_;  // the puts to held bytes
 };
 
 // Builds a replacement for a record file record by record.
@@ -164,10 +161,8 @@ public:
     }
     void Add(const R& r) { AddRaw(EncodeRecord(r).constData()); }
     void AddRaw(const char* bytes) {
-        if (writer_)
-            writer_->Write(bytes, R::Length);
-        else
-            held_.append(bytes, R::Length);
+        if (writer_) writer_->Write(bytes, R::Length);
+        else held_.append(bytes, R::Length);
     }
     void Prepare() {
         if (writer_) writer_->Finish();
@@ -180,5 +175,5 @@ public:
 private:
     QString realPath_;
     std::optional<AtomicFileWriter> writer_;
-    QByteArray held_;   // the replacement of held bytes
+    QByteArray held_;  // the replacement of held bytes
 };

@@ -103,7 +103,9 @@ public:
     void operator()(const Integer& v) { Mark(&v, 2); }
     void operator()(const double& v) { Mark(&v, 8); }
     template <int N>
-    void operator()(const FixedText<N>& t) { Mark(&t, N); }
+    void operator()(const FixedText<N>& t) {
+        Mark(&t, N);
+    }
     template <class T, std::size_t K>
     void operator()(const std::array<T, K>& a) {
         Mark(&a, 0);
@@ -138,50 +140,144 @@ template <class V, class R>
 void Visit(V& v, R& r) {
     using T = std::remove_const_t<R>;
     if constexpr (std::is_same_v<T, DeckRecord>) {
-        v(r.IncludesReversed); v(r.DeckName); v(r.DisplayCardTitles); v(r.DeckAttachment);
-        v(r.DeckTitle); v(r.DeckDesigner); v(r.ModifiedOn); v(r.DeckDescription);
-        v(r.DeckComments); v(r.DeckLocked); v(r.DeckPassword); v(r.CardCount);
-        v(r.DeckRevision); v(r.DeckId); v(r.CardTypeName); v(r.CardTypeUsed); v(r.DeckReserved);
+        v(r.IncludesReversed);
+        v(r.DeckName);
+        v(r.DisplayCardTitles);
+        v(r.DeckAttachment);
+        v(r.DeckTitle);
+        v(r.DeckDesigner);
+        v(r.ModifiedOn);
+        v(r.DeckDescription);
+        v(r.DeckComments);
+        v(r.DeckLocked);
+        v(r.DeckPassword);
+        v(r.CardCount);
+        v(r.DeckRevision);
+        v(r.DeckId);
+        v(r.CardTypeName);
+        v(r.CardTypeUsed);
+        v(r.DeckReserved);
     } else if constexpr (std::is_same_v<T, CardRecord>) {
-        v(r.CardType); v(r.CardTitle); v(r.CardDescription); v(r.CardKeywords);
-        v(r.CardPicture); v(r.CardSound); v(r.CardDeckId); v(r.CardReserved);
+        v(r.CardType);
+        v(r.CardTitle);
+        v(r.CardDescription);
+        v(r.CardKeywords);
+        v(r.CardPicture);
+        v(r.CardSound);
+        v(r.CardDeckId);
+        v(r.CardReserved);
     } else if constexpr (std::is_same_v<T, SpreadRecord>) {
-        v(r.SpreadName); v(r.SpreadTitle); v(r.SpreadId); v(r.AllowedDeckId);
-        v(r.AllowedDeckCount); v(r.SpreadDesigner); v(r.ModifiedOn); v(r.SpreadDescription);
-        v(r.SpreadLocked); v(r.SpreadPassword); v(r.SpreadComments); v(r.AskQuestion);
-        v(r.SpreadReservedText); v(r.LocationCount); v(r.SpreadRevision);
-        v(r.StretchBackground); v(r.BackgroundFile); v(r.SpreadAttachment);
+        v(r.SpreadName);
+        v(r.SpreadTitle);
+        v(r.SpreadId);
+        v(r.AllowedDeckId);
+        v(r.AllowedDeckCount);
+        v(r.SpreadDesigner);
+        v(r.ModifiedOn);
+        v(r.SpreadDescription);
+        v(r.SpreadLocked);
+        v(r.SpreadPassword);
+        v(r.SpreadComments);
+        v(r.AskQuestion);
+        v(r.SpreadReservedText);
+        v(r.LocationCount);
+        v(r.SpreadRevision);
+        v(r.StretchBackground);
+        v(r.BackgroundFile);
+        v(r.SpreadAttachment);
     } else if constexpr (std::is_same_v<T, LocationRecord>) {
-        v(r.LocationTitle); v(r.LocationSpreadId); v(r.LocationNumber);
-        v(r.LocationDescription); v(r.LocationQuestion); v(r.LocationLeft);
-        v(r.LocationTop); v(r.LocationAttachment);
+        v(r.LocationTitle);
+        v(r.LocationSpreadId);
+        v(r.LocationNumber);
+        v(r.LocationDescription);
+        v(r.LocationQuestion);
+        v(r.LocationLeft);
+        v(r.LocationTop);
+        v(r.LocationAttachment);
     } else if constexpr (std::is_same_v<T, ReadingRecord>) {
-        v(r.IssueAsked); v(r.SavedOn); v(r.ReadingName); v(r.Issue);
-        v(r.ReadingSpreadId); v(r.ReadingSpreadRevision); v(r.ReadingDeckId);
-        v(r.ReadingDeckRevision); v(r.DealtCard); v(r.DealtUpright); v(r.EntryLocked);
-        v(r.EntryPassword); v(r.SaveCount); v(r.ReadingNotes); v(r.DealtCount);
-        v(r.TableCardVisible); v(r.CardTypeSelected); v(r.UseReversed);
-        v(r.AllowDuplicateCards); v(r.LocationCard); v(r.LocationIsUpright); v(r.ReadingTail);
+        v(r.IssueAsked);
+        v(r.SavedOn);
+        v(r.ReadingName);
+        v(r.Issue);
+        v(r.ReadingSpreadId);
+        v(r.ReadingSpreadRevision);
+        v(r.ReadingDeckId);
+        v(r.ReadingDeckRevision);
+        v(r.DealtCard);
+        v(r.DealtUpright);
+        v(r.EntryLocked);
+        v(r.EntryPassword);
+        v(r.SaveCount);
+        v(r.ReadingNotes);
+        v(r.DealtCount);
+        v(r.TableCardVisible);
+        v(r.CardTypeSelected);
+        v(r.UseReversed);
+        v(r.AllowDuplicateCards);
+        v(r.LocationCard);
+        v(r.LocationIsUpright);
+        v(r.ReadingTail);
     } else if constexpr (std::is_same_v<T, DiaryRecord>) {
-        v(r.IssueAsked); v(r.SavedOn); v(r.DiaryName); v(r.Issue);
-        v(r.ReadingSpreadId); v(r.ReadingSpreadRevision); v(r.ReadingDeckId);
-        v(r.ReadingDeckRevision); v(r.DealtCard); v(r.DealtUpright); v(r.EntryLocked);
-        v(r.EntryPassword); v(r.SaveCount); v(r.DiaryChoice); v(r.DiaryNotes);
-        v(r.CardTypeSelected); v(r.UseReversed); v(r.AllowDuplicateCards); v(r.DiaryTail);
+        v(r.IssueAsked);
+        v(r.SavedOn);
+        v(r.DiaryName);
+        v(r.Issue);
+        v(r.ReadingSpreadId);
+        v(r.ReadingSpreadRevision);
+        v(r.ReadingDeckId);
+        v(r.ReadingDeckRevision);
+        v(r.DealtCard);
+        v(r.DealtUpright);
+        v(r.EntryLocked);
+        v(r.EntryPassword);
+        v(r.SaveCount);
+        v(r.DiaryChoice);
+        v(r.DiaryNotes);
+        v(r.CardTypeSelected);
+        v(r.UseReversed);
+        v(r.AllowDuplicateCards);
+        v(r.DiaryTail);
     } else if constexpr (std::is_same_v<T, OldDeckRecord>) {
-        v(r.OldIncludesReversed); v(r.OldDeckName); v(r.OldDeckTitle); v(r.OldDesigner);
-        v(r.OldModifiedOn); v(r.OldDescription); v(r.OldComments); v(r.OldLocked);
-        v(r.OldPassword); v(r.OldCardCount); v(r.OldRevision); v(r.OldDeckId);
-        v(r.OldTypeName); v(r.OldTypeUsed);
+        v(r.OldIncludesReversed);
+        v(r.OldDeckName);
+        v(r.OldDeckTitle);
+        v(r.OldDesigner);
+        v(r.OldModifiedOn);
+        v(r.OldDescription);
+        v(r.OldComments);
+        v(r.OldLocked);
+        v(r.OldPassword);
+        v(r.OldCardCount);
+        v(r.OldRevision);
+        v(r.OldDeckId);
+        v(r.OldTypeName);
+        v(r.OldTypeUsed);
     } else if constexpr (std::is_same_v<T, OldCardRecord>) {
-        v(r.OldCardType); v(r.OldCardTitle); v(r.OldCardDescription);
-        v(r.OldCardKeywords); v(r.OldCardPicture); v(r.OldCardDeckId);
+        v(r.OldCardType);
+        v(r.OldCardTitle);
+        v(r.OldCardDescription);
+        v(r.OldCardKeywords);
+        v(r.OldCardPicture);
+        v(r.OldCardDeckId);
     } else if constexpr (std::is_same_v<T, OldSpreadRecord>) {
-        v(r.OldSpreadName); v(r.OldSpreadTitle); v(r.OldSpreadId); v(r.OldAllowedDeckId);
-        v(r.OldAllowedDeckCount); v(r.OldDesigner); v(r.OldModifiedOn); v(r.OldDescription);
-        v(r.OldLocked); v(r.OldPassword); v(r.OldComments); v(r.OldAskQuestion);
-        v(r.OldReservedText); v(r.OldLocationCount); v(r.OldLocations); v(r.OldRevision);
-        v(r.OldStretch); v(r.OldBackgroundFile);
+        v(r.OldSpreadName);
+        v(r.OldSpreadTitle);
+        v(r.OldSpreadId);
+        v(r.OldAllowedDeckId);
+        v(r.OldAllowedDeckCount);
+        v(r.OldDesigner);
+        v(r.OldModifiedOn);
+        v(r.OldDescription);
+        v(r.OldLocked);
+        v(r.OldPassword);
+        v(r.OldComments);
+        v(r.OldAskQuestion);
+        v(r.OldReservedText);
+        v(r.OldLocationCount);
+        v(r.OldLocations);
+        v(r.OldRevision);
+        v(r.OldStretch);
+        v(r.OldBackgroundFile);
     }
 }
 
@@ -224,7 +320,7 @@ void EncodeText(const QString& value, char* bytes, int width) {
     std::memset(bytes + n, ' ', static_cast<std::size_t>(width - n));
 }
 
-#define CARTOMAR_RECORD_CODEC(R) \
+#define CARTOMAR_RECORD_CODEC(R)                                 \
     void EncodeRecord(const R& r, char* out) { Encode(r, out); } \
     void DecodeRecord(const char* in, R& r) { Decode(in, r); }
 

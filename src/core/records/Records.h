@@ -33,7 +33,10 @@ struct FixedText {
     // Cut to the width and padded with spaces; characters the code page
     // cannot hold become '?'.
     void Set(const QString& value);
-    FixedText& operator=(const QString& value) { Set(value); return *this; }
+    FixedText& operator=(const QString& value) {
+        Set(value);
+        return *this;
+    }
     bool IsBlank() const { return Trimmed().isEmpty(); }
     QByteArray Raw() const { return QByteArray(Bytes.data(), N); }
     bool operator==(const FixedText& other) const { return Bytes == other.Bytes; }
@@ -44,9 +47,13 @@ QString DecodeText(const char* bytes, int width);
 void EncodeText(const QString& value, char* bytes, int width);
 
 template <int N>
-QString FixedText<N>::Value() const { return DecodeText(Bytes.data(), N); }
+QString FixedText<N>::Value() const {
+    return DecodeText(Bytes.data(), N);
+}
 template <int N>
-void FixedText<N>::Set(const QString& value) { EncodeText(value, Bytes.data(), N); }
+void FixedText<N>::Set(const QString& value) {
+    EncodeText(value, Bytes.data(), N);
+}
 
 struct Designer {
     FixedText<40> DesignerName;
@@ -141,7 +148,7 @@ struct ReadingRecord {
     Integer ReadingSpreadRevision = 0;
     Integer ReadingDeckId = 0;
     Integer ReadingDeckRevision = 0;
-    std::array<Integer, 32> DealtCard{};      // index 0 is location 1
+    std::array<Integer, 32> DealtCard{};  // index 0 is location 1
     std::array<Integer, 32> DealtUpright{};
     Integer EntryLocked = 0;
     FixedText<25> EntryPassword;

@@ -18,6 +18,6 @@ QString NumberedLocationTitle(int number, const QString& title) {
 
 bool FitsLocationTitle(const QString& text) {
     const QRect label(0, 0, TwipsToPixels(LocationTitleWidth), TwipsToPixels(LocationTitleHeight));
-    return label.contains(QFontMetrics(LocationTitleFont())
-                              .boundingRect(label, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text));
+    return label.contains(
+        QFontMetrics(LocationTitleFont()).boundingRect(label, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text));
 }

@@ -24,8 +24,7 @@ SpreadNameCheck CheckSpreadName(const QString& typed) {
     // The lookups take a blank name for a name like any other: it is
     // refused here first.
     if (check.Name.isEmpty()) {
-        check.Problem =
-            QCoreApplication::translate("SpreadStore", "Please select a name to save the spread as.");
+        check.Problem = QCoreApplication::translate("SpreadStore", "Please select a name to save the spread as.");
         return check;
     }
     check.Replacing = std::max(FindSpreadByName(check.Name), 0);
@@ -73,13 +72,15 @@ SpreadDesign SaveSpread(SpreadDesign design, const QString& name, int replacing)
         locations += EncodeRecord(location);
     }
     const int idAt = OffsetOf(&LocationRecord::LocationSpreadId);
-    commit.AddRecordFile(TheRun.Paths.LocationsPath, LocationRecord::Length, [&](const char* location, int) {
-        return RawInteger(location, idAt) == spread.SpreadId ? nullptr : location;
-    }, locations);
+    commit.AddRecordFile(
+        TheRun.Paths.LocationsPath, LocationRecord::Length,
+        [&](const char* location, int) { return RawInteger(location, idAt) == spread.SpreadId ? nullptr : location; },
+        locations);
     const QByteArray record = EncodeRecord(spread);
-    commit.AddRecordFile(TheRun.Paths.SpreadsPath, SpreadRecord::Length, [&](const char* r, int number) {
-        return number == replacing ? record.constData() : r;
-    }, anew ? record : QByteArray());
+    commit.AddRecordFile(
+        TheRun.Paths.SpreadsPath, SpreadRecord::Length,
+        [&](const char* r, int number) { return number == replacing ? record.constData() : r; },
+        anew ? record : QByteArray());
     commit.DropFile(going);
     commit.Commit();
     return design;
@@ -118,8 +119,8 @@ WorkingBackground OpenWorkingBackground(SpreadRecord spread) {
 
 QString WorkingBackgroundQuestion(const SpreadRecord& spread, const QString& typed) {
     if (!TrimField(typed).isEmpty() || !spread.BackgroundFile.Value().contains(QLatin1Char('.'))) return QString();
-    return QCoreApplication::translate(
-        "SpreadStore", "Are you sure you want to remove the currently selected background picture?");
+    return QCoreApplication::translate("SpreadStore",
+                                       "Are you sure you want to remove the currently selected background picture?");
 }
 
 WorkingBackground ChooseWorkingBackground(SpreadRecord spread, const QString& typed, bool stretch) {

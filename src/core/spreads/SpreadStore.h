@@ -20,10 +20,10 @@ struct SpreadDesign {
 
 // What saving under a typed name finds before anything is written.
 struct SpreadNameCheck {
-    QString Problem;     // why nothing can be saved under it, or empty
-    QString Name;        // the name as it is saved: trimmed
-    int Replacing = 0;   // the record of the spread of that name, 0 when the name is new
-    QString Question;    // to ask before a spread is replaced, or empty
+    QString Problem;    // why nothing can be saved under it, or empty
+    QString Name;       // the name as it is saved: trimmed
+    int Replacing = 0;  // the record of the spread of that name, 0 when the name is new
+    QString Question;   // to ask before a spread is replaced, or empty
 };
 SpreadNameCheck CheckSpreadName(const QString& typed);
 
@@ -49,10 +49,10 @@ bool DeleteSpreadNamed(const QString& name);
 
 // The background as the designer works on it: a copy in Temp/.
 struct WorkingBackground {
-    QString Problem;        // why the chosen file cannot be the background; nothing changed then
-    SpreadRecord Spread;    // with its background's name (blank for none) and stretch
-    QString Path;           // the copy in Temp/ to show, or empty for none
-    QImage Picture;         // the chosen picture, for a preview
+    QString Problem;      // why the chosen file cannot be the background; nothing changed then
+    SpreadRecord Spread;  // with its background's name (blank for none) and stretch
+    QString Path;         // the copy in Temp/ to show, or empty for none
+    QImage Picture;       // the chosen picture, for a preview
 };
 
 // The copy of the spread's background from Cards/ that the designer opens

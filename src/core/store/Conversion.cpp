@@ -87,9 +87,7 @@ CardRecord ConvertCard(const OldCardRecord& old) {
     return card;
 }
 
-int OldLocationsHeld(const OldSpreadRecord& old) {
-    return std::clamp<int>(old.OldLocationCount, 0, OldLocationPlaces);
-}
+int OldLocationsHeld(const OldSpreadRecord& old) { return std::clamp<int>(old.OldLocationCount, 0, OldLocationPlaces); }
 
 SpreadRecord ConvertSpread(const OldSpreadRecord& old) {
     SpreadRecord spread;  // the reserved text and the attachment stay blank
@@ -151,7 +149,8 @@ void ConvertSpreadFile(const QString& oldPath, const QString& newSpreadsPath, co
 void ConvertDatabase() {
     // The copies come first, so that the old data survive whatever follows;
     // their presence also keeps a later start from converting again.
-    for (const QString& path : {TheRun.Paths.DecksPath, TheRun.Paths.SpreadsPath, TheRun.Paths.CardsPath, TheRun.Paths.ReadingsPath, TheRun.Paths.DiaryPath})
+    for (const QString& path : {TheRun.Paths.DecksPath, TheRun.Paths.SpreadsPath, TheRun.Paths.CardsPath,
+                                TheRun.Paths.ReadingsPath, TheRun.Paths.DiaryPath})
         FileCopy(path, path + QStringLiteral(".bkp"));
 
     const QString tempDecks = TheRun.Paths.TempDir + QStringLiteral("Temp.dck");

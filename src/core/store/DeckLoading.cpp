@@ -81,7 +81,8 @@ int CountCardsOfTypeName(const QString& typeName) {
 }
 
 int CountSelectedCardsOfType(const BoundedArray<CardRecord>& cards, int cardCount, int typeIndex) {
-    if (typeIndex < 0 || typeIndex >= static_cast<int>(TheRun.CardTypeSelected.size())) RaiseError(errSubscriptOutOfRange);
+    if (typeIndex < 0 || typeIndex >= static_cast<int>(TheRun.CardTypeSelected.size()))
+        RaiseError(errSubscriptOutOfRange);
     if (!TheRun.CardTypeSelected[static_cast<std::size_t>(typeIndex)]) return 0;
     int count = 0;
     for (int i = 1; i <= cardCount; ++i) {
@@ -109,9 +110,7 @@ QString SpreadPictureName(int number) {
     return QStringLiteral("S0") + digits;
 }
 
-QString CardPictureStem(int side, int number) {
-    return side == 0 ? CardUprightName(number) : CardReversedName(number);
-}
+QString CardPictureStem(int side, int number) { return side == 0 ? CardUprightName(number) : CardReversedName(number); }
 
 TakenStems::TakenStems(const QStringList& folders, const QStringList& going) {
     // One listing per folder; each name enters every stem it takes, so that
@@ -135,7 +134,9 @@ void TakenStems::Take(const QString& fileName) {
         stems_.insert(folded.left(dot));
 }
 
-QString NewBackgroundName(const QString& sourcePath) { return NewBackgroundName(sourcePath, TakenStems({TheRun.Paths.CardsDir})); }
+QString NewBackgroundName(const QString& sourcePath) {
+    return NewBackgroundName(sourcePath, TakenStems({TheRun.Paths.CardsDir}));
+}
 
 QString NewBackgroundName(const QString& sourcePath, const TakenStems& taken) {
     int n = 1;

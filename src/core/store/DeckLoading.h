@@ -13,7 +13,7 @@
 // cards into DeckCards. False when cards are missing: the deck cannot be
 // used, and the screen that asked for it offers to remove it.
 bool LoadDeckCards();
-void StoreListDeck();   // CurrentDeck's fields into ListDeck
+void StoreListDeck();  // CurrentDeck's fields into ListDeck
 // Points each side whose picture file is missing from Cards/ at the default
 // picture; true if it changed anything.
 bool ValidateCardPictures(CardRecord& card);
@@ -26,10 +26,10 @@ int CountCardsOfTypeName(const QString& typeName);
 // CardTypeSelected.
 int CountSelectedCardsOfType(const BoundedArray<CardRecord>& cards, int cardCount, int typeIndex);
 
-QString CardUprightName(int number);     // "CU00012"
-QString CardReversedName(int number);    // "CR00012"
-QString CardPictureStem(int side, int number);   // by side: 0 upright, 1 reversed
-QString SpreadPictureName(int number);   // "S000007"
+QString CardUprightName(int number);            // "CU00012"
+QString CardReversedName(int number);           // "CR00012"
+QString CardPictureStem(int side, int number);  // by side: 0 upright, 1 reversed
+QString SpreadPictureName(int number);          // "S000007"
 
 // The stems ("CU00012", "S000007") that the files of some folders take. A
 // file takes a stem when its name is the stem followed by a dot and anything,

@@ -113,25 +113,28 @@ QStringList LeavingCardFiles::Files() const {
 void DeleteSpread(int recordNumber) {
     DesignCommit commit;
     std::optional<SpreadRecord> gone;
-    commit.AddRecordFile(TheRun.Paths.SpreadsPath, SpreadRecord::Length, [&](const char* raw, int number) -> const char* {
-        if (number != recordNumber) return raw;
-        DecodeRecord(raw, gone.emplace());
-        return nullptr;
-    }, {});
+    commit.AddRecordFile(TheRun.Paths.SpreadsPath, SpreadRecord::Length,
+                         [&](const char* raw, int number) -> const char* {
+                             if (number != recordNumber) return raw;
+                             DecodeRecord(raw, gone.emplace());
+                             return nullptr;
+                         },
+                         {});
     if (!gone) return;
     const int idAt = OffsetOf(&LocationRecord::LocationSpreadId);
-    commit.AddRecordFile(TheRun.Paths.LocationsPath, LocationRecord::Length, [&](const char* raw, int) -> const char* {
-        return RawInteger(raw, idAt) == gone->SpreadId ? nullptr : raw;
-    }, {});
+    commit.AddRecordFile(
+        TheRun.Paths.LocationsPath, LocationRecord::Length,
+        [&](const char* raw, int) -> const char* { return RawInteger(raw, idAt) == gone->SpreadId ? nullptr : raw; },
+        {});
     commit.DropFile(DesignFilePath(gone->BackgroundFile.Value()));
     commit.Commit();
 }
 
 void DeleteSpreadLocations(Integer spreadId) {
     const int idAt = OffsetOf(&LocationRecord::LocationSpreadId);
-    RewriteWithout<LocationRecord>(TheRun.Paths.LocationsPath, TheRun.Paths.AppPath + LocationTmpName, [&](const char* raw) {
-        return RawInteger(raw, idAt) == spreadId;
-    }, [](const LocationRecord&) {});
+    RewriteWithout<LocationRecord>(
+        TheRun.Paths.LocationsPath, TheRun.Paths.AppPath + LocationTmpName,
+        [&](const char* raw) { return RawInteger(raw, idAt) == spreadId; }, [](const LocationRecord&) {});
 }
 
 void ReplaceSpreadLocations(Integer spreadId, int count) {
@@ -157,17 +160,18 @@ void DeleteReading(const QString& name) {
 }
 
 void DeleteDiary(const QString& name) {
-    RewriteWithout<DiaryRecord>(TheRun.Paths.DiaryPath, TheRun.Paths.AppPath + DiariesTmpName, NameField(&DiaryRecord::DiaryName, name),
-                                [](const DiaryRecord&) {});
+    RewriteWithout<DiaryRecord>(TheRun.Paths.DiaryPath, TheRun.Paths.AppPath + DiariesTmpName,
+                                NameField(&DiaryRecord::DiaryName, name), [](const DiaryRecord&) {});
 }
 
 void DeleteDeck(int recordNumber) {
     std::vector<Integer> gone;
-    RewriteWithout<DeckRecord>(TheRun.Paths.DecksPath, TheRun.Paths.TempDir + DecksTmpName, [&](const DeckRecord& r, int number) {
-        if (number != recordNumber) return false;
-        gone.push_back(r.DeckId);
-        return true;
-    });
+    RewriteWithout<DeckRecord>(TheRun.Paths.DecksPath, TheRun.Paths.TempDir + DecksTmpName,
+                               [&](const DeckRecord& r, int number) {
+                                   if (number != recordNumber) return false;
+                                   gone.push_back(r.DeckId);
+                                   return true;
+                               });
     for (Integer deckId : gone)
         if (FindDeckRecordById(deckId) < 0) DeleteDeckCards(deckId);
 }
@@ -182,10 +186,13 @@ void DeleteDeckCards(Integer deckId) {
         while (const char* raw = reader.NextRaw())
             if (RawInteger(raw, idAt) == deckId) files.Leaving(raw);
     }
-    RewriteWithout<CardRecord>(TheRun.Paths.CardsPath, TheRun.Paths.AppPath + CardsTmpName, [&](const char* raw) {
-        if (RawInteger(raw, idAt) == deckId) return true;
-        files.Staying(raw);
-        return false;
-    }, [](const CardRecord&) {});
+    RewriteWithout<CardRecord>(
+        TheRun.Paths.CardsPath, TheRun.Paths.AppPath + CardsTmpName,
+        [&](const char* raw) {
+            if (RawInteger(raw, idAt) == deckId) return true;
+            files.Staying(raw);
+            return false;
+        },
+        [](const CardRecord&) {});
     for (const QString& file : files.Files()) KillIgnoringErrors(file);
 }

@@ -11,13 +11,13 @@
 
 // Each builds the file anew without what goes and puts it in place of the old
 // one; the order of what stays does not change.
-void DeleteSpread(int recordNumber);          // with its locations and background
+void DeleteSpread(int recordNumber);  // with its locations and background
 void DeleteSpreadLocations(Integer spreadId);
 // Saves SpreadLocations(1 .. count) as the spread's locations, numbered 1 to
 // count, after the locations of every other spread.
 void ReplaceSpreadLocations(Integer spreadId, int count);
-void DeleteReading(const QString& name);      // every reading of that name
-void DeleteDiary(const QString& name);        // every diary entry of that name
+void DeleteReading(const QString& name);  // every reading of that name
+void DeleteDiary(const QString& name);    // every diary entry of that name
 // With its cards and their files, unless another deck record carries its id
 // (a damaged file): the cards of an id belong to the decks that carry it.
 void DeleteDeck(int recordNumber);
@@ -47,6 +47,6 @@ public:
     QStringList Files() const;
 
 private:
-    QHash<QByteArray, QString> leaving_;   // a name's bytes as the file system meets them -> its path
+    QHash<QByteArray, QString> leaving_;  // a name's bytes as the file system meets them -> its path
     QSet<QByteArray> kept_;
 };

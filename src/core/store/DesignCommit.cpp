@@ -22,7 +22,9 @@ QString PlanPath() { return TheRun.Paths.AppPath + QStringLiteral("Cartomar.comm
 
 // The plan names files relative to the program folder, so that it still
 // holds if the folder has moved before the next start.
-QString Relative(const QString& path) { return QDir(NativePath(TheRun.Paths.AppPath)).relativeFilePath(NativePath(path)); }
+QString Relative(const QString& path) {
+    return QDir(NativePath(TheRun.Paths.AppPath)).relativeFilePath(NativePath(path));
+}
 QString Absolute(const QString& relative) { return QDir(NativePath(TheRun.Paths.AppPath)).filePath(relative); }
 
 struct Plan {
@@ -119,8 +121,8 @@ void DesignCommit::Commit() {
     SyncFileSystem(TheRun.Paths.CardsDir);
     Plan plan{renames_, {}};
     for (const QString& drop : drops_) {
-        const bool retaken = std::any_of(renames_.begin(), renames_.end(),
-                                         [&](const auto& rename) { return rename.second == drop; });
+        const bool retaken =
+            std::any_of(renames_.begin(), renames_.end(), [&](const auto& rename) { return rename.second == drop; });
         if (!retaken && !plan.drops.contains(drop)) plan.drops << drop;
     }
     AtomicFileWriter writer(PlanPath() + QStringLiteral(".new"), PlanPath());

@@ -49,7 +49,7 @@ public:
     void Commit();
 
 private:
-    std::vector<std::pair<QString, QString>> renames_;   // prepared -> real, full paths
+    std::vector<std::pair<QString, QString>> renames_;  // prepared -> real, full paths
     QStringList drops_;
     bool planned_ = false;
 };

@@ -24,7 +24,8 @@ void MakeRecordFileIfMissing(const QString& path) {
 // as the plan says, from the files it had prepared.
 void RemoveUnfinishedWrites() {
     FinishUnfinishedCommit();
-    for (const QString* path : {&TheRun.Paths.ReadingsPath, &TheRun.Paths.DiaryPath, &TheRun.Paths.SpreadsPath, &TheRun.Paths.LocationsPath, &TheRun.Paths.DecksPath, &TheRun.Paths.CardsPath})
+    for (const QString* path : {&TheRun.Paths.ReadingsPath, &TheRun.Paths.DiaryPath, &TheRun.Paths.SpreadsPath,
+                                &TheRun.Paths.LocationsPath, &TheRun.Paths.DecksPath, &TheRun.Paths.CardsPath})
         KillIgnoringErrors(NewFileBeside(*path));
     RemoveUnfinishedRewrites();
     RemoveUnfinishedCopies(TheRun.Paths.CardsDir);
@@ -67,7 +68,8 @@ void InitDatabase() {
     MkDirIgnoringErrors(TheRun.Paths.AttachmentsDir);
     // Location.loc is left out on purpose: its absence is what marks a
     // database of the old format.
-    for (const QString* path : {&TheRun.Paths.ReadingsPath, &TheRun.Paths.DiaryPath, &TheRun.Paths.SpreadsPath, &TheRun.Paths.DecksPath, &TheRun.Paths.CardsPath})
+    for (const QString* path : {&TheRun.Paths.ReadingsPath, &TheRun.Paths.DiaryPath, &TheRun.Paths.SpreadsPath,
+                                &TheRun.Paths.DecksPath, &TheRun.Paths.CardsPath})
         MakeRecordFileIfMissing(*path);
     RemoveUnfinishedWrites();
     MkDirIgnoringErrors(TheRun.Paths.CardsDir);

@@ -48,7 +48,8 @@ int FindDeckRecordById(Integer deckId, int leavingOut) {
 
 int FindSpreadRecordById(Integer spreadId) {
     const int idAt = OffsetOf(&SpreadRecord::SpreadId);
-    return FindRaw<SpreadRecord>(TheRun.Paths.SpreadsPath, [&](const char* raw) { return RawInteger(raw, idAt) == spreadId; });
+    return FindRaw<SpreadRecord>(TheRun.Paths.SpreadsPath,
+                                 [&](const char* raw) { return RawInteger(raw, idAt) == spreadId; });
 }
 
 QString DeckNameById(Integer deckId) {
@@ -81,7 +82,9 @@ Integer NextDeckId(int leavingOut) { return SmallestFreeId(TheRun.Paths.DecksPat
 
 Integer NextSpreadId() { return SmallestFreeId(TheRun.Paths.SpreadsPath, &SpreadRecord::SpreadId); }
 
-void LoadSpreadLocations(Integer spreadId, int count) { LoadLocationsFrom(TheRun.Paths.LocationsPath, spreadId, count); }
+void LoadSpreadLocations(Integer spreadId, int count) {
+    LoadLocationsFrom(TheRun.Paths.LocationsPath, spreadId, count);
+}
 
 void LoadSpreadLocationsFrom(const QString& path, Integer spreadId, int count) {
     LoadLocationsFrom(path, spreadId, count);

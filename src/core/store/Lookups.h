@@ -32,13 +32,13 @@ int FindSpreadByName(const QString& name);
 int FindDeckByName(const QString& name);
 int FindReadingByName(const QString& name);
 int FindDiaryByName(const QString& name);
-Integer FindDeckIdByName(const QString& name);     // the DeckId, or -1
+Integer FindDeckIdByName(const QString& name);  // the DeckId, or -1
 // The first deck record carrying the id, record number leavingOut not
 // counted.
 int FindDeckRecordById(Integer deckId, int leavingOut = 0);
 int FindSpreadRecordById(Integer spreadId);
-QString DeckNameById(Integer deckId);              // untrimmed, or ""
-QString SpreadNameById(Integer spreadId);          // untrimmed, or ""
+QString DeckNameById(Integer deckId);      // untrimmed, or ""
+QString SpreadNameById(Integer spreadId);  // untrimmed, or ""
 
 // The smallest positive id that no record carries: ids of deleted designs are
 // used again. A deck save that replaces a deck asks as if the replaced

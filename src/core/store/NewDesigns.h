@@ -11,4 +11,4 @@ void ResetDiary(DiaryRecord& diary = TheRun.CurrentDiary);
 void ResetCard(CardRecord& card = TheRun.CurrentCard);
 void ResetLocation(LocationRecord& location);
 void ResetDesigner(Designer& designer);
-void ResetDeck();   // CurrentDeck, with an empty card array
+void ResetDeck();  // CurrentDeck, with an empty card array

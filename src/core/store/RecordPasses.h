@@ -31,7 +31,9 @@ class NameField {
 public:
     template <class R, int N>
     NameField(FixedText<N> R::*field, const QString& name)
-        : offset_(OffsetOf(field)), width_(N), possible_(AnsiRepresentable(TrimField(name))),
+        : offset_(OffsetOf(field)),
+          width_(N),
+          possible_(AnsiRepresentable(TrimField(name))),
           bytes_(ToAnsi(TrimField(name))) {}
 
     bool operator()(const char* raw) const {

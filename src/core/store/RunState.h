@@ -59,10 +59,10 @@ struct RunState {
 
     // The records in hand.
     DeckInMemory CurrentDeck;
-    DeckRecord ListDeck;   // the deck chosen on a list, before it is loaded
+    DeckRecord ListDeck;  // the deck chosen on a list, before it is loaded
     CardRecord CurrentCard;
     SpreadRecord CurrentSpread;
-    BoundedArray<LocationRecord> SpreadLocations;   // indexed by LocationNumber
+    BoundedArray<LocationRecord> SpreadLocations;  // indexed by LocationNumber
     ReadingRecord CurrentReading;
     DiaryRecord CurrentDiary;
     // The deal of the reading in hand, and the cards the locations of the
@@ -81,14 +81,14 @@ struct RunState {
     SpreadRecord ScratchSpread;
 
     // The options of the run.
-    int DesignMode = 0;   // 1: designer opened for a new design, 0: existing
+    int DesignMode = 0;  // 1: designer opened for a new design, 0: existing
     bool UseReversed = false;
     bool AllowDuplicateCards = false;
     std::array<bool, 4> CardTypeSelected{};
     int SelectedLocation = 0;
     bool ChooserManageMode = false;
     bool InstallAllSpreads = false;
-    int DesignExistsChoice = 0;   // a DesignExistsAnswer
+    int DesignExistsChoice = 0;  // a DesignExistsAnswer
     // During an installation: the decks the deck chooser offers, those the
     // installation adds included, since they are not in Decks.dck yet.
     const std::vector<DeckRecord>* DecksOnOffer = nullptr;
@@ -105,9 +105,6 @@ extern RunState TheRun;
 // generator's included (tests start several runs in one process). The clock
 // and the seed a test fixes are the test's and stay.
 void ResetRun();
-
-
-
 
 // The kinds of design the design-exists question names.
 enum DesignKind : int { DesignCard = 0, DesignDeck = 1, DesignSpread = 2 };

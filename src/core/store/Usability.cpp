@@ -15,7 +15,8 @@ bool IsReversedComplete(Integer deckId, int cardCount) {
         // The trimmed name never equals the default constant, which ends in a
         // space, so only a missing file fails here: a deck whose reversed
         // sides still show the default picture counts as complete.
-        if (!FileExists(TheRun.Paths.CardsDir + card.CardPicture[1].Value()) || card.CardPicture[1].Trimmed() == DefaultPictureName)
+        if (!FileExists(TheRun.Paths.CardsDir + card.CardPicture[1].Value()) ||
+            card.CardPicture[1].Trimmed() == DefaultPictureName)
             return false;
     }
     return checked >= cardCount;

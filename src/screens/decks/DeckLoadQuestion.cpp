@@ -11,11 +11,10 @@
 bool LoadDeck(bool& DeckRemoved) {
     DeckRemoved = false;
     if (LoadDeckCards()) return true;
-    const int answer =
-        MsgBox(QCoreApplication::translate("DeckLoadQuestion",
-                                           "This deck is missing some pictures. Cannot continue loading.\n"
-                                           "Do you want to remove it?"),
-               vbYesNo | vbCritical);
+    const int answer = MsgBox(
+        QCoreApplication::translate("DeckLoadQuestion", "This deck is missing some pictures. Cannot continue loading.\n"
+                                                        "Do you want to remove it?"),
+        vbYesNo | vbCritical);
     if (answer == vbYes) {
         DeleteDeck(FindDeckByName(TheRun.ListDeck.DeckName.Value()));
         DeckRemoved = true;

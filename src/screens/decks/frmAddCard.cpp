@@ -90,7 +90,8 @@ void frmAddCard::txtCardTitle_Change() {
 
 void frmAddCard::txtDescription_Change() {
     ClipText(txtDescription, 1500);
-    TheRun.CurrentCard.CardDescription[static_cast<std::size_t>(CheckedSide())] = TrimField(txtDescription->toPlainText());
+    TheRun.CurrentCard.CardDescription[static_cast<std::size_t>(CheckedSide())] =
+        TrimField(txtDescription->toPlainText());
     DesignModified = true;
 }
 
@@ -108,9 +109,7 @@ void frmAddCard::lstCardType_Click() {
 
 void frmAddCard::imgCard_Click() { cmdEditImage_Click(); }
 
-void frmAddCard::cmdEditImage_Click() {
-    Get<frmGetImageFile>().ShowFor(optUpright->isChecked() ? 1 : 2);
-}
+void frmAddCard::cmdEditImage_Click() { Get<frmGetImageFile>().ShowFor(optUpright->isChecked() ? 1 : 2); }
 
 void frmAddCard::cmdGetSound_Click() {
     MediaPlayer1->Close();

@@ -220,7 +220,7 @@ void frmDecks::cmdDelete_Click() {
     lstDecks->RemoveItem(line);
     lstDecks->setListIndex(line - 1);
     if (lstDecks->ListIndex() < 0 && lstDecks->ListCount() > 0) lstDecks->setListIndex(0);
-    if (lstDecks->ListIndex() < 0) lstDecks_Click();   // nothing left: the brief info empties
+    if (lstDecks->ListIndex() < 0) lstDecks_Click();  // nothing left: the brief info empties
     UpdateButtons();
     SetScreenPointer(MousePointer::Arrow);
 }

@@ -38,9 +38,8 @@ frmDesignDeck::frmDesignDeck() : DeckScreen(tr("Deck Design"), true) {
     const std::pair<QLineEdit*, FixedText<40>*> narrow[] = {{txtDeckDesigner, &designer.DesignerName},
                                                             {txtDesignerEmail, &designer.DesignerEmail}};
     for (const auto& [box, field] : narrow)
-        connect(box, &QLineEdit::textChanged, this, Handler([this, box = box, field = field] {
-                    StoreDeckField(*field, box->text());
-                }));
+        connect(box, &QLineEdit::textChanged, this,
+                Handler([this, box = box, field = field] { StoreDeckField(*field, box->text()); }));
     connect(txtDesignerWebPage, &QLineEdit::textChanged, this, Handler([this] {
                 StoreDeckField(TheRun.CurrentDeck.DeckDesigner.DesignerWebPage, txtDesignerWebPage->text());
             }));

@@ -34,8 +34,7 @@ frmImportPictures::frmImportPictures() {
     lblFolder = MakeLabel(this, QString(), At(240, 120, 9120, 285), "lblFolder");
 
     mdlPictures = new QStandardItemModel(0, 4, this);
-    mdlPictures->setHorizontalHeaderLabels(
-        {tr("Picture"), tr("Title"), tr("Type"), tr("Reversed Side")});
+    mdlPictures->setHorizontalHeaderLabels({tr("Picture"), tr("Title"), tr("Type"), tr("Reversed Side")});
     tblPictures = new QTableView(this);
     tblPictures->setObjectName(QStringLiteral("tblPictures"));
     tblPictures->setModel(mdlPictures);
@@ -138,8 +137,9 @@ void frmImportPictures::LoadThumbnails() {
     thumbnails_.Results.resize(static_cast<std::size_t>(proposed_.size()));
     for (int row = 0; row < proposed_.size(); ++row) {
         const QString path = QDir(folder_).filePath(proposed_[row].File);
-        RunForOwner<QImage>(thumbnailPool_, [path] { return PictureThumbnail(path, ThumbnailSide); }, row, thumbnails_,
-                            this, "ShowThumbnail");
+        RunForOwner<QImage>(
+            thumbnailPool_, [path] { return PictureThumbnail(path, ThumbnailSide); }, row, thumbnails_, this,
+            "ShowThumbnail");
     }
 }
 
@@ -199,8 +199,7 @@ void frmImportPictures::cmdOK_Click() {
                vbCritical);
     if (!within.isEmpty()) {
         PictureImport run(folder_, within, ChosenReversedSide());
-        QProgressDialog progress(tr("Importing pictures..."), tr("Cancel"), 0,
-                                 static_cast<int>(within.size()), this);
+        QProgressDialog progress(tr("Importing pictures..."), tr("Cancel"), 0, static_cast<int>(within.size()), this);
         progress.setWindowModality(Qt::WindowModal);
         progress.setMinimumDuration(400);
         QEventLoop waiting;

@@ -63,8 +63,7 @@ void frmSaveDeck::Form_KeyDown(int key, Qt::KeyboardModifiers, bool& handled) {
     if (key == Qt::Key_Escape) {
         handled = true;
         cmdCancel_Click();
-    } else if ((key == Qt::Key_Return || key == Qt::Key_Enter) &&
-               (txtSaveAs->hasFocus() || lstDeckNames->hasFocus())) {
+    } else if ((key == Qt::Key_Return || key == Qt::Key_Enter) && (txtSaveAs->hasFocus() || lstDeckNames->hasFocus())) {
         handled = true;
         cmdSave_Click();
     }

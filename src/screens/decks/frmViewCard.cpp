@@ -26,8 +26,8 @@ void frmViewCard::Form_Load() {
 
 void frmViewCard::ShowCardType() {
     const int type = TheRun.CurrentCard.CardType;
-    txtCardType->setText(type >= 0 && type < 4 ? TheRun.CurrentDeck.CardTypeName[static_cast<std::size_t>(type)].Trimmed()
-                                               : QString());
+    txtCardType->setText(
+        type >= 0 && type < 4 ? TheRun.CurrentDeck.CardTypeName[static_cast<std::size_t>(type)].Trimmed() : QString());
 }
 
 // Closing a card empties Temp/: every card viewed after it in this viewing

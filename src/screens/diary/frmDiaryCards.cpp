@@ -19,8 +19,7 @@ namespace {
 
 frmNewDiary& Diary() { return Get<frmNewDiary>(); }
 
-QLabel* MakeNamedCaption(QWidget* parent, const QString& name, const QString& caption, int left, int top,
-                         int width) {
+QLabel* MakeNamedCaption(QWidget* parent, const QString& name, const QString& caption, int left, int top, int width) {
     QLabel* label = MakeCaption(parent, caption, left, top, width);
     label->setObjectName(name);
     return label;
@@ -46,8 +45,7 @@ frmDiaryCards::frmDiaryCards() {
     lstCardTypes->setSelectionMode(QAbstractItemView::MultiSelection);
     lblCards = MakeNamedCaption(this, QStringLiteral("lblCards"), tr("Cards:"), 120, 1755, 2655);
     lstCards = MakeList(this, QStringLiteral("lstCards"), 120, 2055, 2655, 3015);
-    lblCardImage =
-        MakeNamedCaption(this, QStringLiteral("lblCardImage"), tr("Card Image:"), 2955, 120, 2655);
+    lblCardImage = MakeNamedCaption(this, QStringLiteral("lblCardImage"), tr("Card Image:"), 2955, 120, 2655);
     imgCard = new ImageBox(this);
     imgCard->setObjectName(QStringLiteral("imgCard"));
     imgCard->Move(2955, 420, 2655, 4215);
@@ -88,8 +86,9 @@ void frmDiaryCards::Form_Load() {
 
 void frmDiaryCards::ShowCardTypes() {
     for (std::size_t i = 0; i < 4; ++i)
-        if (TheRun.CurrentDeck.CardTypeUsed[i] != 0) lstCardTypes->AddItem(TheRun.CurrentDeck.CardTypeName[i].Trimmed());
-    const QSignalBlocker quiet(lstCardTypes);   // the cards are listed next, once
+        if (TheRun.CurrentDeck.CardTypeUsed[i] != 0)
+            lstCardTypes->AddItem(TheRun.CurrentDeck.CardTypeName[i].Trimmed());
+    const QSignalBlocker quiet(lstCardTypes);  // the cards are listed next, once
     lstCardTypes->selectAll();
 }
 
@@ -116,7 +115,7 @@ void frmDiaryCards::ShowSelectedCard() {
     for (int r = 0; r < lstCards->ListCount(); ++r) {
         if (lstCards->ItemData(r) != dealt) continue;
         chkReserved->setChecked(Element(TheRun.CurrentDiary.DealtUpright, pick_) == 0);
-        lstCards->setListIndex(r);   // shows the picture through lstCards_Click
+        lstCards->setListIndex(r);  // shows the picture through lstCards_Click
         return;
     }
 }

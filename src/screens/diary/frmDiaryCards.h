@@ -22,7 +22,7 @@ public:
     ListBox* lstCards = nullptr;
     QLabel* lblCardImage = nullptr;
     ImageBox* imgCard = nullptr;
-    QCheckBox* chkReserved = nullptr;   // "Reversed"
+    QCheckBox* chkReserved = nullptr;  // "Reversed"
     QPushButton* cmdSelect = nullptr;
     QPushButton* cmdCancel = nullptr;
 

@@ -11,13 +11,13 @@ frmDiaryInterpretLocation::frmDiaryInterpretLocation() : InterpretLocationScreen
 
 int frmDiaryInterpretLocation::Location() const { return Get<frmNewDiary>().PickLocation; }
 
-bool frmDiaryInterpretLocation::CardLiesThere() const {
-    return HasCardIn(TheRun.DiaryLists, Location());
-}
+bool frmDiaryInterpretLocation::CardLiesThere() const { return HasCardIn(TheRun.DiaryLists, Location()); }
 
 int frmDiaryInterpretLocation::CardNumber() const { return Element(TheRun.CurrentDiary.DealtCard, Location()); }
 
-bool frmDiaryInterpretLocation::CardUpright() const { return Element(TheRun.CurrentDiary.DealtUpright, Location()) != 0; }
+bool frmDiaryInterpretLocation::CardUpright() const {
+    return Element(TheRun.CurrentDiary.DealtUpright, Location()) != 0;
+}
 
 void frmDiaryInterpretLocation::MarkLocation(int location, bool marked) {
     if (frmNewDiary* diary = ScreenSlot<frmNewDiary>()) diary->MarkLocation(location, marked);

@@ -32,8 +32,7 @@ void SetBoxColours(QCheckBox* box, const QColor& back, const QColor& fore) {
 
 }  // namespace
 
-frmNewDiary::frmNewDiary()
-    : EntryScreen(tr("Diary")), cmdCardTitle(1, MaxLocations), chkReversed(1, MaxLocations) {
+frmNewDiary::frmNewDiary() : EntryScreen(tr("Diary")), cmdCardTitle(1, MaxLocations), chkReversed(1, MaxLocations) {
     setObjectName(QStringLiteral("frmNewDiary"));
     cmdContinue = AddPanelButton(QStringLiteral("cmdContinue"), tr("C&ontinue"), 120, true);
     cmdInterpret = AddPanelButton(QStringLiteral("cmdInterpret"), tr("&Interpret"), 600, false);
@@ -189,8 +188,9 @@ void frmNewDiary::SelectRow(int index, int row) {
         TheRun.DiaryLists.Selected(index) = row;
         return;
     }
-    const int n = ChooseRow(TheRun.DiaryLists, TheRun.CurrentDiary, index, row, SelectedCardText, TheRun.AllowDuplicateCards,
-                            FillingLocation, TheRun.CurrentDeck, TheRun.CurrentSpread.LocationCount);
+    const int n =
+        ChooseRow(TheRun.DiaryLists, TheRun.CurrentDiary, index, row, SelectedCardText, TheRun.AllowDuplicateCards,
+                  FillingLocation, TheRun.CurrentDeck, TheRun.CurrentSpread.LocationCount);
     if (FocusLocation != index) GiveFocusToCard(index);
     if (n > 0) {
         ShowCardInLocation(index, n, !chkReversed(index)->isChecked());
@@ -221,8 +221,7 @@ void frmNewDiary::chkReversed_Click(int Index) {
     Element(TheRun.CurrentDiary.DealtUpright, Index) = Flag(!chkReversed(Index)->isChecked());
     if (TheRun.DiaryLists.Selected(Index) != IndexOfNone(TheRun.DiaryLists, Index))
         ShowCardInLocation(Index, Element(TheRun.CurrentDiary.DealtCard, Index), !chkReversed(Index)->isChecked());
-    else
-        ClearLocationCard(Index);
+    else ClearLocationCard(Index);
     cmdCardTitle(Index)->show();
     if (Index != FocusLocation) GiveFocusToCard(Index);
 }
@@ -247,7 +246,8 @@ void frmNewDiary::cmdPrint_Click() { PrintEntry(DiaryPrintout(TheRun.CurrentDiar
 void frmNewDiary::cmdQuickHelp_Click() { Get<frmDiaryHelp>().Show(); }
 
 void frmNewDiary::cmdSave_Click() {
-    GatherDiary(TheRun.CurrentDiary, TheRun.CurrentDeck, TheRun.CurrentSpread, txtIssue->text().trimmed(), FocusLocation);
+    GatherDiary(TheRun.CurrentDiary, TheRun.CurrentDeck, TheRun.CurrentSpread, txtIssue->text().trimmed(),
+                FocusLocation);
     Get<frmSaveDiary>().Show(true);
 }
 

@@ -17,10 +17,10 @@ public:
     frmNewDiary();
 
     bool DiaryChanged = false;
-    bool OpeningDiary = false;       // a saved entry is being rebuilt
-    Integer PickLocation = 0;        // the location the card choice and the interpretation work on
-    Integer FocusLocation = 1;       // the location in focus; saved with the entry
-    QString SelectedCardText;        // the focused location's row before the present change
+    bool OpeningDiary = false;  // a saved entry is being rebuilt
+    Integer PickLocation = 0;   // the location the card choice and the interpretation work on
+    Integer FocusLocation = 1;  // the location in focus; saved with the entry
+    QString SelectedCardText;   // the focused location's row before the present change
     bool FillingLocation = false;
 
     BoundedArray<QPushButton*> cmdCardTitle;  // the location's button, captioned with its row

@@ -6,7 +6,7 @@
 
 frmOpenDiary::frmOpenDiary()
     : OpenEntryScreen(EntryKind::Diary, {tr("Open Diary"), QStringLiteral("lstDiaries"), tr("Select Diary:"),
-                                          tr("Are you sure you want to delete diary '%1' ?")}) {
+                                         tr("Are you sure you want to delete diary '%1' ?")}) {
     setObjectName(QStringLiteral("frmOpenDiary"));
 }
 

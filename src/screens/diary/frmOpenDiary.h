@@ -15,5 +15,5 @@ protected:
     void CloseEntryScreen() override;
 
 private:
-    DiaryRecord diary_;   // the screen's own copy until the opening succeeds
+    DiaryRecord diary_;  // the screen's own copy until the opening succeeds
 };

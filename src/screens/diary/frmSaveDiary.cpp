@@ -4,13 +4,13 @@
 #include "core/store/RunState.h"
 #include "screens/diary/frmNewDiary.h"
 
-frmSaveDiary::frmSaveDiary()
-    : SaveEntryScreen(EntryKind::Diary, {tr("Save Diary"), QStringLiteral("lstDiaryNames")}) {
+frmSaveDiary::frmSaveDiary() : SaveEntryScreen(EntryKind::Diary, {tr("Save Diary"), QStringLiteral("lstDiaryNames")}) {
     setObjectName(QStringLiteral("frmSaveDiary"));
 }
 
 QString frmSaveDiary::ProposedName() const {
-    return FirstNonBlank({TheRun.CurrentDiary.DiaryName.Trimmed(), TheRun.CurrentDiary.Issue.Trimmed(), TheRun.CurrentSpread.SpreadName.Trimmed()});
+    return FirstNonBlank({TheRun.CurrentDiary.DiaryName.Trimmed(), TheRun.CurrentDiary.Issue.Trimmed(),
+                          TheRun.CurrentSpread.SpreadName.Trimmed()});
 }
 
 void frmSaveDiary::SaveAs(const QString& name, int replacing) {

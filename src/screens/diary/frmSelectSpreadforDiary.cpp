@@ -4,8 +4,7 @@
 #include "screens/diary/frmNewDiary.h"
 #include "screens/platform/ShellHooks.h"
 
-frmSelectSpreadforDiary::frmSelectSpreadforDiary()
-    : SelectSpreadScreen(tr("Select a Spread for the Diary")) {
+frmSelectSpreadforDiary::frmSelectSpreadforDiary() : SelectSpreadScreen(tr("Select a Spread for the Diary")) {
     setObjectName(QStringLiteral("frmSelectSpreadforDiary"));
 }
 

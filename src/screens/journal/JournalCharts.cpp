@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr double Gap = 6;   // pixels
+constexpr double Gap = 6;  // pixels
 
 }  // namespace
 
@@ -29,9 +29,9 @@ ChartDrawing JournalChart::Layout(const QSize& size, const QPaintDevice& surface
     // Measured on the surface drawn on: a picture may count its pixels to
     // the inch otherwise than the screen does.
     const QFontMetricsF metrics(font(), &surface);
-    return LayOutChart(chart_, QRectF(QPointF(0, 0), size),
-                       {[metrics](const QString& text) { return metrics.horizontalAdvance(text); }, metrics.height(),
-                        Gap, 1});
+    return LayOutChart(
+        chart_, QRectF(QPointF(0, 0), size),
+        {[metrics](const QString& text) { return metrics.horizontalAdvance(text); }, metrics.height(), Gap, 1});
 }
 
 void JournalChart::Draw(QPainter& p, const QRect& all) const {

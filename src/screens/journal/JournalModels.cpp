@@ -46,7 +46,8 @@ void JournalTable::sort(int column, Qt::SortOrder order) {
     for (const QModelIndex& index : before) sourceOf.push_back(SourceRow(index.row()));
     Order();
     std::vector<int> rowOf(order_.size());
-    for (std::size_t row = 0; row < order_.size(); ++row) rowOf[static_cast<std::size_t>(order_[row])] = static_cast<int>(row);
+    for (std::size_t row = 0; row < order_.size(); ++row)
+        rowOf[static_cast<std::size_t>(order_[row])] = static_cast<int>(row);
     QModelIndexList after;
     for (qsizetype i = 0; i < before.size(); ++i)
         after << index(rowOf[static_cast<std::size_t>(sourceOf[static_cast<std::size_t>(i)])], before[i].column());
@@ -105,7 +106,9 @@ QString Figure(int n) { return QLocale().toString(n); }
 
 JournalResultsModel::JournalResultsModel(const Journal& journal, const JournalCatalogue& catalogue, QObject* parent)
     : JournalTable({tr("Date"), tr("Kind"), tr("Name"), tr("Spread"), tr("Deck"), tr("Cards")}, {ResultCards}, parent),
-      journal_(journal), catalogue_(catalogue), entriesInOrder_(2 * (ResultCards + 1)) {}
+      journal_(journal),
+      catalogue_(catalogue),
+      entriesInOrder_(2 * (ResultCards + 1)) {}
 
 void JournalResultsModel::SetSelection(const std::vector<int>& selected) {
     Replace([&] { selected_ = selected; });
@@ -141,7 +144,8 @@ std::vector<qint64> JournalResultsModel::EntryKeys(int column) const {
             keys.push_back(entry(i).Date.isValid() ? entry(i).Date.toJulianDay() : std::numeric_limits<qint64>::min());
         return keys;
     case ResultCards:
-        for (int i = 0; i < count; ++i) keys.push_back(entry(i).Locked ? -1 : static_cast<qint64>(entry(i).Cards.size()));
+        for (int i = 0; i < count; ++i)
+            keys.push_back(entry(i).Locked ? -1 : static_cast<qint64>(entry(i).Cards.size()));
         return keys;
     default:
         // The text each entry's cell shows.
@@ -166,7 +170,8 @@ std::vector<int> JournalResultsModel::SortedRows(int column, bool ascending) con
     // The selection is in file order, as is the journal: the entries in the
     // column's order, those selected kept, are the selection sorted.
     std::vector<int> rowOf(journal_.Entries.size(), -1);
-    for (std::size_t row = 0; row < selected_.size(); ++row) rowOf[static_cast<std::size_t>(selected_[row])] = static_cast<int>(row);
+    for (std::size_t row = 0; row < selected_.size(); ++row)
+        rowOf[static_cast<std::size_t>(selected_[row])] = static_cast<int>(row);
     std::vector<int> rows;
     rows.reserve(selected_.size());
     for (const int entry : EntriesInOrder(column, ascending))
@@ -196,7 +201,8 @@ QString JournalCardsModel::Text(int source, int column) const {
 }
 
 std::vector<int> JournalCardsModel::SortedRows(int column, bool ascending) const {
-    if (column >= CardCard) return StableOrder(TextKeys(SourceCount(), [&](int i) { return Text(i, column); }), ascending);
+    if (column >= CardCard)
+        return StableOrder(TextKeys(SourceCount(), [&](int i) { return Text(i, column); }), ascending);
     std::vector<qint64> keys;
     for (const CardTally& c : cards_)
         keys.push_back(column == CardTotal ? c.Total() : column == CardUpright ? c.Upright : c.Reversed);

@@ -84,7 +84,7 @@ private:
     const Journal& journal_;
     const JournalCatalogue& catalogue_;
     std::vector<int> selected_;
-    mutable std::vector<std::vector<int>> entriesInOrder_;   // by column, ascending then descending
+    mutable std::vector<std::vector<int>> entriesInOrder_;  // by column, ascending then descending
 };
 
 // Every card counted: total, upright, reversed, card, deck, type.

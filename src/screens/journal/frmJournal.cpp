@@ -33,10 +33,10 @@
 
 namespace {
 
-constexpr std::size_t TopCards = 20;   // cards in the bar chart
-constexpr int TopPerLocation = 3;      // cards named for each location
-constexpr int SearchDelay = 150;       // ms of quiet typing before the search runs
-constexpr int NameLength = 20;         // characters a box of designs' names shows at the least
+constexpr std::size_t TopCards = 20;  // cards in the bar chart
+constexpr int TopPerLocation = 3;     // cards named for each location
+constexpr int SearchDelay = 150;      // ms of quiet typing before the search runs
+constexpr int NameLength = 20;        // characters a box of designs' names shows at the least
 
 QTableView* MakeTable(JournalTable* model, int sortColumn, Qt::SortOrder order, QWidget* parent) {
     auto* view = new QTableView(parent);
@@ -181,7 +181,8 @@ frmJournal::frmJournal() {
     connect(txtWords, &QLineEdit::textChanged, tmrSearch, qOverload<>(&QTimer::start));
     for (QComboBox* combo : {cboCard, cboOrientation, cboSpread, cboDeck, cboKind})
         connect(combo, &QComboBox::currentIndexChanged, this, Handler([this] { Search(); }));
-    for (QDateEdit* date : {dtpFrom, dtpTo}) connect(date, &QDateEdit::dateChanged, tmrSearch, qOverload<>(&QTimer::start));
+    for (QDateEdit* date : {dtpFrom, dtpTo})
+        connect(date, &QDateEdit::dateChanged, tmrSearch, qOverload<>(&QTimer::start));
     connect(chkFrom, &QCheckBox::toggled, this, Handler([this] {
                 dtpFrom->setEnabled(chkFrom->isChecked());
                 Search();
@@ -296,8 +297,9 @@ void frmJournal::ShowStatistics() {
     const int largest = s.Cards.empty() ? 0 : s.Cards.front().Total();
     const int margin = 2 * (grdCards->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, grdCards) + 1);
     for (int figure = 0; figure < 3; ++figure)
-        grdCards->setColumnWidth(figure, std::max(grdCards->horizontalHeader()->sectionSizeHint(figure),
-                                                  grdCards->fontMetrics().horizontalAdvance(QLocale().toString(largest)) + margin));
+        grdCards->setColumnWidth(
+            figure, std::max(grdCards->horizontalHeader()->sectionSizeHint(figure),
+                             grdCards->fontMetrics().horizontalAdvance(QLocale().toString(largest)) + margin));
     chtTypes->setChart(TypesChart(s));
     chtFacing->setChart(FacingChart(s));
     chtMonths->setChart(MonthsChart(s));

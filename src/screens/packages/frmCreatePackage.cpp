@@ -285,10 +285,8 @@ void frmCreatePackage::CheckInputs() {
         const QString path = AddTrailingBackslash(dirSelection->Path()) + txtFilename->text().trimmed();
         if (!FileExists(path)) return;
         SetScreenPointer(MousePointer::Default);
-        if (MsgBox(tr("Package already exists. Overwrite?"), vbYesNo | vbQuestion) == vbYes)
-            KillIgnoringErrors(path);
-        else
-            AbortCreate = true;
+        if (MsgBox(tr("Package already exists. Overwrite?"), vbYesNo | vbQuestion) == vbYes) KillIgnoringErrors(path);
+        else AbortCreate = true;
     }
 }
 
@@ -356,7 +354,8 @@ void frmCreatePackage::WarnProtectedDesign() {
 
 void frmCreatePackage::StageAttachment() {
     try {
-        FileCopyUnsynced(txtAttachment->text(), TheRun.Paths.TempDir + QStringLiteral("ATT - ") + AttachmentName.trimmed());
+        FileCopyUnsynced(txtAttachment->text(),
+                         TheRun.Paths.TempDir + QStringLiteral("ATT - ") + AttachmentName.trimmed());
         AttachmentStaged = true;
     } catch (const RuntimeError&) {
         AttachmentStaged = false;

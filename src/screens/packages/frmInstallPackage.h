@@ -32,7 +32,7 @@ public:
 
     bool HasAttachment = false;
     bool AttachmentSaved = false;
-    QString AttachmentFile;   // the attachment's name, then where it was saved
+    QString AttachmentFile;  // the attachment's name, then where it was saved
     bool PackageExtracted = false;
     bool ExtractFailed = false;
 

@@ -8,10 +8,10 @@ class CommonDialog {
 public:
     // "Description|pattern|Description|pattern...", patterns separated by ';'.
     QString Filter;
-    int FilterIndex = 1;        // 1-based
+    int FilterIndex = 1;  // 1-based
     QString DialogTitle;
-    QString FileName;           // in: the proposed file; out: the chosen path
-    QString FileTitle;          // out: the chosen file's name without folder
+    QString FileName;   // in: the proposed file; out: the chosen path
+    QString FileTitle;  // out: the chosen file's name without folder
     int Flags = 0;
     bool CancelError = false;
     // Printer dialogue results, noted and otherwise unused.

@@ -9,7 +9,9 @@
 // hourglass it may have put up: the box waits for the user.
 void ReportError(const RuntimeError& error) {
     SetScreenPointer(MousePointer::Default);
-    MsgBox(QCoreApplication::translate("ErrorReport", "Run-time error '%1':\n\n%2").arg(error.Number()).arg(error.Description()),
+    MsgBox(QCoreApplication::translate("ErrorReport", "Run-time error '%1':\n\n%2")
+               .arg(error.Number())
+               .arg(error.Description()),
            vbOKOnly | vbCritical);
 }
 

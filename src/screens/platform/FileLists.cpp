@@ -72,9 +72,8 @@ void DriveListBox::setDrive(const QString& path) {
 }
 
 DirListBox::DirListBox(QWidget* parent) : QListWidget(parent) {
-    connect(this, &QListWidget::itemDoubleClicked, this, [this](QListWidgetItem* item) {
-        setPath(item->data(Qt::UserRole).toString());
-    });
+    connect(this, &QListWidget::itemDoubleClicked, this,
+            [this](QListWidgetItem* item) { setPath(item->data(Qt::UserRole).toString()); });
 }
 
 void DirListBox::setPath(const QString& path) {
@@ -85,7 +84,7 @@ void DirListBox::setPath(const QString& path) {
     clear();
     // Ancestors from the root, each one level deeper, then the folder itself.
     QStringList chain;
-    for (QDir d(folder);; ) {
+    for (QDir d(folder);;) {
         chain.prepend(d.absolutePath());
         if (d.isRoot() || !d.cdUp()) break;
     }

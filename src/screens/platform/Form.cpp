@@ -44,7 +44,7 @@ void KeepToCodePage(QPlainTextEdit* box) {
     const int scrolled = box->verticalScrollBar()->value();
     QTextCursor all(box->document());
     all.select(QTextCursor::Document);
-    all.insertText(AsRecordText(text));   // raises textChanged once more, representable now
+    all.insertText(AsRecordText(text));  // raises textChanged once more, representable now
     QTextCursor back(box->document());
     back.setPosition(std::min(cursor, static_cast<int>(box->document()->characterCount()) - 1));
     box->setTextCursor(back);
@@ -55,7 +55,8 @@ void WatchTextBox(QObject* child) {
     static const char* kept = "cartomarCodePageKept";
     if (child->property(kept).toBool()) return;
     if (auto* line = qobject_cast<QLineEdit*>(child)) {
-        QObject::connect(line, &QLineEdit::textEdited, line, [line](const QString& text) { KeepToCodePage(line, text); });
+        QObject::connect(line, &QLineEdit::textEdited, line,
+                         [line](const QString& text) { KeepToCodePage(line, text); });
     } else if (auto* plain = qobject_cast<QPlainTextEdit*>(child)) {
         QObject::connect(plain, &QPlainTextEdit::textChanged, plain, [plain] { KeepToCodePage(plain); });
     } else {
@@ -114,15 +115,13 @@ QPoint Form::FrameOrigin() const {
     return QPoint(0, 0);
 }
 
-void Form::ApplyPosition() {
-    outer()->move(FrameOrigin() + QPoint(TwipsToPixels(left_), TwipsToPixels(top_)));
-}
+void Form::ApplyPosition() { outer()->move(FrameOrigin() + QPoint(TwipsToPixels(left_), TwipsToPixels(top_))); }
 
 void Form::enterFrame() {
     if (sub_ || !gArea) return;
     setWindowModality(Qt::NonModal);
-    sub_ = gArea->addSubWindow(this, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                                         Qt::WindowCloseButtonHint);
+    sub_ = gArea->addSubWindow(
+        this, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     sub_->setAttribute(Qt::WA_DeleteOnClose, false);
     sub_->installEventFilter(this);
     sub_->adjustSize();
@@ -269,8 +268,7 @@ bool Form::event(QEvent* e) {
             top_ = PixelsToTwips(p.y());
         }
         break;
-    default:
-        break;
+    default: break;
     }
     return QWidget::event(e);
 }
@@ -305,8 +303,7 @@ bool Form::eventFilter(QObject* watched, QEvent* e) {
     case QEvent::KeyRelease:
         if (KeyToForm(static_cast<QKeyEvent*>(e))) return true;
         break;
-    default:
-        break;
+    default: break;
     }
     return QWidget::eventFilter(watched, e);
 }
@@ -324,7 +321,7 @@ void Form::closeEvent(QCloseEvent* e) {
             RunUnload(vbFormControlMenu);
             return;
         }
-        const std::function<void()> wayOut = wayOut_;   // the way out may unload the screen
+        const std::function<void()> wayOut = wayOut_;  // the way out may unload the screen
         wayOut();
     });
 }

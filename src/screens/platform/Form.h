@@ -74,12 +74,23 @@ protected:
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
     virtual void Form_Deactivate() {}
-    virtual void Form_QueryUnload(bool& cancel, int unloadMode) { (void)cancel; (void)unloadMode; }
+    virtual void Form_QueryUnload(bool& cancel, int unloadMode) {
+        (void)cancel;
+        (void)unloadMode;
+    }
     virtual void Form_Unload(bool& cancel) { (void)cancel; }
     // Key preview: the screen sees keys before its controls. Set handled to
     // keep the key from the control.
-    virtual void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) { (void)key; (void)shift; (void)handled; }
-    virtual void Form_KeyUp(int key, Qt::KeyboardModifiers shift, bool& handled) { (void)key; (void)shift; (void)handled; }
+    virtual void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) {
+        (void)key;
+        (void)shift;
+        (void)handled;
+    }
+    virtual void Form_KeyUp(int key, Qt::KeyboardModifiers shift, bool& handled) {
+        (void)key;
+        (void)shift;
+        (void)handled;
+    }
 
     QSize sizeHint() const override { return size(); }
     bool event(QEvent* e) override;
@@ -105,7 +116,7 @@ private:
     QPoint FrameOrigin() const;
     void ApplyPosition();
 
-    int left_ = 0;   // twips, relative to the frame's inner area
+    int left_ = 0;  // twips, relative to the frame's inner area
     int top_ = 0;
     bool loaded_ = false;
     bool unloading_ = false;

@@ -54,6 +54,6 @@ protected:
 
 private:
     bool sorted_ = false;
-    bool quiet_ = false;        // filling or emptying: no Click
-    bool changed_ = false;      // the selection changed since the press began
+    bool quiet_ = false;    // filling or emptying: no Click
+    bool changed_ = false;  // the selection changed since the press began
 };

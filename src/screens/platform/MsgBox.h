@@ -50,9 +50,9 @@ struct Shown {
 void Enable();
 void Disable();
 bool Enabled();
-void Answer(int answer);          // queue one answer
-void Clear();                     // forget shown boxes, queued answers, unanswered count
-const QList<Shown>& History();    // every box shown since the last Clear
-int Pending();                    // answers still queued
-int Unanswered();                 // boxes that needed an answer and found none
+void Answer(int answer);        // queue one answer
+void Clear();                   // forget shown boxes, queued answers, unanswered count
+const QList<Shown>& History();  // every box shown since the last Clear
+int Pending();                  // answers still queued
+int Unanswered();               // boxes that needed an answer and found none
 }  // namespace MsgBoxScript

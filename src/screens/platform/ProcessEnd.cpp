@@ -18,7 +18,8 @@ EndProcessHook& TheEndProcessHook() {
 void FatalError() {
     // The text keeps the catalogue context it has always had, so that its
     // translations still find it.
-    MsgBox(QCoreApplication::translate("Startup", "Cartomar Error. If this problem persists, please contact Ondine Software Inc."),
+    MsgBox(QCoreApplication::translate("Startup",
+                                       "Cartomar Error. If this problem persists, please contact Ondine Software Inc."),
            vbCritical);
     EndProcess(1);
 }

@@ -18,9 +18,7 @@ namespace {
 constexpr double TwipsPerPoint = 20.0;
 constexpr double TwipsPerInch = 1440.0;
 
-QColor FromLongColour(int colour) {
-    return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
-}
+QColor FromLongColour(int colour) { return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF); }
 
 // A font of the given points, measured in twips: painting happens in twips.
 QFont TwipsFont(QFont font, double points, bool bold) {
@@ -40,19 +38,13 @@ QtPrinter::~QtPrinter() {
     if (painter_.isActive()) painter_.end();
 }
 
-int QtPrinter::Width() const {
-    return qRound(printer_.pageLayout().fullRectPoints().width() * TwipsPerPoint);
-}
+int QtPrinter::Width() const { return qRound(printer_.pageLayout().fullRectPoints().width() * TwipsPerPoint); }
 
-int QtPrinter::Height() const {
-    return qRound(printer_.pageLayout().fullRectPoints().height() * TwipsPerPoint);
-}
+int QtPrinter::Height() const { return qRound(printer_.pageLayout().fullRectPoints().height() * TwipsPerPoint); }
 
 QFont QtPrinter::Font() const { return TwipsFont(QApplication::font(), FontSize, FontBold); }
 
-int QtPrinter::TextWidth(const QString& text) const {
-    return qRound(QFontMetricsF(Font()).horizontalAdvance(text));
-}
+int QtPrinter::TextWidth(const QString& text) const { return qRound(QFontMetricsF(Font()).horizontalAdvance(text)); }
 
 int QtPrinter::TextHeight() const { return qRound(QFontMetricsF(Font()).height()); }
 
@@ -157,7 +149,7 @@ namespace {
 
 struct DialogScript {
     bool enabled = false;
-    QList<std::shared_ptr<Printer>> answers;   // null cancels
+    QList<std::shared_ptr<Printer>> answers;  // null cancels
     QList<int> shown;
 };
 

@@ -49,9 +49,9 @@ private:
 
     QPrinter printer_;
     QPainter painter_;
-    QList<Page> pages_;       // the job's pages, the last one open while pageOpen_
+    QList<Page> pages_;  // the job's pages, the last one open while pageOpen_
     bool pageOpen_ = false;
-    int pagesOut_ = 0;        // pages already sent to the output
+    int pagesOut_ = 0;  // pages already sent to the output
 };
 
 // The printer that print routines use. Until one is chosen, it is the

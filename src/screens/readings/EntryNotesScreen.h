@@ -33,5 +33,5 @@ protected:
     void Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handled) override;
 
 private:
-    QString original_;   // the text as it was at opening
+    QString original_;  // the text as it was at opening
 };

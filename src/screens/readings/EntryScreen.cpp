@@ -79,7 +79,9 @@ ClickLabel* MakeClickLabel(QWidget* parent, const QString& name, int left, int t
 }  // namespace
 
 EntryScreen::EntryScreen(const QString& caption)
-    : picLocation(1, MaxLocations), imgCard(1, MaxLocations), lblCardTitle(1, MaxLocations),
+    : picLocation(1, MaxLocations),
+      imgCard(1, MaxLocations),
+      lblCardTitle(1, MaxLocations),
       lblCardNumber(1, MaxLocations) {
     setCaption(caption);
     resize(TwipsToPixels(PanelLeft + PanelWidth + 120), TwipsToPixels(PageTop + PageHeight + 120));
@@ -102,8 +104,8 @@ EntryScreen::EntryScreen(const QString& caption)
     lblSpreadTitle->setFont(titleFont);
     lblSpreadDescription =
         MakeLabel(picIntroduction, QStringLiteral("lblSpreadDescription"), QString(), 2640, 840, 6735, 3135);
-    lblIssue = MakeLabel(picIntroduction, QStringLiteral("lblIssue"), tr("Issue Addressed by this Spread:"),
-                         2640, 4200, 6735, 285);
+    lblIssue = MakeLabel(picIntroduction, QStringLiteral("lblIssue"), tr("Issue Addressed by this Spread:"), 2640, 4200,
+                         6735, 285);
     txtIssue = new QLineEdit(picIntroduction);
     txtIssue->setObjectName(QStringLiteral("txtIssue"));
     txtIssue->setMaxLength(125);
@@ -122,8 +124,8 @@ EntryScreen::EntryScreen(const QString& caption)
     imgBackground->Move(0, 0, PageWidth, PageHeight);
 
     for (int i = 1; i <= MaxLocations; ++i) {
-        ClickLabel* location = MakeClickLabel(picSpread, QStringLiteral("picLocation"), 0, 0, LocationWidth,
-                                              LocationHeight);
+        ClickLabel* location =
+            MakeClickLabel(picSpread, QStringLiteral("picLocation"), 0, 0, LocationWidth, LocationHeight);
         location->setProperty("Index", i);
         location->hide();
         picLocation(i) = location;
@@ -132,8 +134,8 @@ EntryScreen::EntryScreen(const QString& caption)
         card->setProperty("Index", i);
         card->Move(0, 0, 735, 975);
         imgCard(i) = card;
-        lblCardTitle(i) = MakeClickLabel(location, QStringLiteral("lblCardTitle"), 720, 0, LocationTitleWidth,
-                                         LocationTitleHeight);
+        lblCardTitle(i) =
+            MakeClickLabel(location, QStringLiteral("lblCardTitle"), 720, 0, LocationTitleWidth, LocationTitleHeight);
         lblCardTitle(i)->setFont(LocationTitleFont());
         lblCardNumber(i) = MakeClickLabel(location, QStringLiteral("lblCardNumber"), 240, 360, 255, 255);
         lblCardNumber(i)->setAlignment(Qt::AlignCenter);
@@ -265,7 +267,7 @@ void EntryScreen::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool& handl
 
 void EntryScreen::MarkLocation(int location, bool marked) {
     if (location < 1 || location > MaxLocations) return;
-    static const QColor MarkedLocationColour(192, 0, 0);   // bright red
+    static const QColor MarkedLocationColour(192, 0, 0);  // bright red
     const QColor colour = marked ? MarkedLocationColour : QBColor(TheRun.CurrentLocationColour);
     // The labels inside stand on the location's colour, so they take it too.
     picLocation(location)->setBackColor(colour);

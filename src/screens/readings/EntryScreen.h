@@ -57,7 +57,7 @@ public:
     QLabel* lblSpreadDescription = nullptr;
     QLabel* lblIssue = nullptr;
     QLineEdit* txtIssue = nullptr;
-    QLabel* lblTheIssue = nullptr;   // the issue as it is saved and printed; never shown
+    QLabel* lblTheIssue = nullptr;  // the issue as it is saved and printed; never shown
     ImageBox* imgSide = nullptr;
 
     QWidget* picSpread = nullptr;
@@ -139,5 +139,5 @@ protected:
 
 private:
     void txtIssue_Enter();
-    bool enteringIssue_ = false;   // Enter is moving the focus from the issue box to Continue
+    bool enteringIssue_ = false;  // Enter is moving the focus from the issue box to Continue
 };

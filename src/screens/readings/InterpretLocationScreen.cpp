@@ -130,7 +130,8 @@ void InterpretLocationScreen::Form_Load() {
     lblTitle->setText(title.isEmpty() ? tr("[UNTITLED LOCATION]") : title);
     lblDescription->setText(location.LocationDescription.Trimmed());
     QString questions = location.LocationQuestion[0].Trimmed() + QLatin1Char('\n');
-    if (!location.LocationQuestion[1].IsBlank()) questions += location.LocationQuestion[1].Trimmed() + QLatin1Char('\n');
+    if (!location.LocationQuestion[1].IsBlank())
+        questions += location.LocationQuestion[1].Trimmed() + QLatin1Char('\n');
     questions += location.LocationQuestion[2].Trimmed();
     lblQuestions->setText(questions);
 
@@ -171,9 +172,9 @@ void InterpretLocationScreen::ArrangeLocationText() {
     if (CardLiesThere()) return;
 
     // The compact page of the location alone.
-    for (QWidget* control : {static_cast<QWidget*>(lblCardTitle), static_cast<QWidget*>(lblText),
-                             static_cast<QWidget*>(imgCard), static_cast<QWidget*>(optDescription),
-                             static_cast<QWidget*>(optKeywords)})
+    for (QWidget* control :
+         {static_cast<QWidget*>(lblCardTitle), static_cast<QWidget*>(lblText), static_cast<QWidget*>(imgCard),
+          static_cast<QWidget*>(optDescription), static_cast<QWidget*>(optKeywords)})
         control->hide();
     FitHeightToText(lblTitle);
     FitHeightToText(lblDescription);

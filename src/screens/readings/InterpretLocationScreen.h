@@ -49,7 +49,7 @@ protected:
     // What the twin screens tell about the location in question.
     virtual int Location() const = 0;
     virtual bool CardLiesThere() const = 0;
-    virtual int CardNumber() const = 0;     // 0: none
+    virtual int CardNumber() const = 0;  // 0: none
     virtual bool CardUpright() const = 0;
     // Marks the location on its screen while the page is open, or unmarks it.
     virtual void MarkLocation(int location, bool marked) = 0;

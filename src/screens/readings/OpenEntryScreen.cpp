@@ -66,9 +66,7 @@ void OpenEntryScreen::lstEntries_Click() {
     cmdOpen->setEnabled(true);
 }
 
-QString OpenEntryScreen::SelectedName() const {
-    return lstEntries->Text().mid(NameStart);
-}
+QString OpenEntryScreen::SelectedName() const { return lstEntries->Text().mid(NameStart); }
 
 void OpenEntryScreen::cmdDelete_Click() {
     if (lstEntries->ListIndex() < 0) return;

@@ -14,10 +14,10 @@ class ListBox;
 class QPushButton;
 
 struct OpenEntryTexts {
-    QString Caption;            // "Open Reading"
-    QString ListName;           // "lstReadings"
-    QString ListLabel;          // "Select Reading:"
-    QString DeleteQuestion;     // "Are you sure you want to delete reading '%1' ?"
+    QString Caption;         // "Open Reading"
+    QString ListName;        // "lstReadings"
+    QString ListLabel;       // "Select Reading:"
+    QString DeleteQuestion;  // "Are you sure you want to delete reading '%1' ?"
 };
 
 // What the screen needs of the core's judgement of a saved entry.

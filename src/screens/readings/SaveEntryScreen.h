@@ -12,8 +12,8 @@ class ListBox;
 class QPushButton;
 
 struct SaveEntryTexts {
-    QString Caption;          // "Save Reading"
-    QString ListName;         // "lstReadingNames"
+    QString Caption;   // "Save Reading"
+    QString ListName;  // "lstReadingNames"
 };
 
 class SaveEntryScreen : public Form {

@@ -111,7 +111,8 @@ void SelectSpreadScreen::lstSpreads_Click() {
     GetRecord(TheRun.Paths.SpreadsPath, FindSpreadByName(lstSpreads->Text()), TheRun.CurrentSpread);
     const int locations = TheRun.CurrentSpread.LocationCount;
     if (TheRun.CurrentSpread.AllowedDeckCount >= 0) {
-        const int tied = qMin<int>(TheRun.CurrentSpread.AllowedDeckCount, static_cast<int>(TheRun.CurrentSpread.AllowedDeckId.size()));
+        const int tied = qMin<int>(TheRun.CurrentSpread.AllowedDeckCount,
+                                   static_cast<int>(TheRun.CurrentSpread.AllowedDeckId.size()));
         for (int i = 0; i < tied; ++i) {
             const Integer id = TheRun.CurrentSpread.AllowedDeckId[static_cast<std::size_t>(i)];
             if (IsDeckUsable(id, locations)) AddDeck(DeckNameById(id).trimmed());
@@ -177,7 +178,6 @@ void SelectSpreadScreen::chkAllowDuplicateCards_Click() {
     if (!SpreadAndDeckSelected()) chkAllowDuplicateCards->setChecked(LastAllowDuplicateCards);
 }
 
-
 void SelectSpreadScreen::cmdSelect_Click() {
     if (lstDecks->ListIndex() < 0) return;
     bool removed = false;
@@ -236,4 +236,3 @@ void SelectSpreadScreen::Form_KeyDown(int key, Qt::KeyboardModifiers shift, bool
         cmdSelect_Click();
     }
 }
-

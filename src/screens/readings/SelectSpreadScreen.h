@@ -27,7 +27,7 @@ public:
     QPushButton* cmdSelect = nullptr;
     QPushButton* cmdCancel = nullptr;
     QLabel* lblIssue = nullptr;
-    QLineEdit* txtIssue = nullptr;   // never shown here; its text goes to the entry
+    QLineEdit* txtIssue = nullptr;  // never shown here; its text goes to the entry
 
     // The duplicates box from one selection to the next, for readings and
     // diary entries alike, within a run of the program.
@@ -46,8 +46,7 @@ protected:
     explicit SelectSpreadScreen(const QString& caption);
 
     // Puts the chosen options into the entry's record.
-    virtual void StoreEntryOptions(bool issueAsked, const QString& issue, bool useReversed,
-                                   bool allowDuplicates) = 0;
+    virtual void StoreEntryOptions(bool issueAsked, const QString& issue, bool useReversed, bool allowDuplicates) = 0;
     // The entry screen below this one.
     virtual EntryScreen& Entry() = 0;
     // The entry screen goes and the main screen comes back.

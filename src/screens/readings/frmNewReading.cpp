@@ -159,8 +159,8 @@ void frmNewReading::cmdContinue_Click() {
         if (Forward) Table().ShowTable();
         else Table().HideTable();
     }
-    for (QPushButton* button : {cmdNotes, cmdInterpret, cmdSave, cmdQuickHelp, cmdPrint,
-                                static_cast<QPushButton*>(cmdFakeShuffle)})
+    for (QPushButton* button :
+         {cmdNotes, cmdInterpret, cmdSave, cmdQuickHelp, cmdPrint, static_cast<QPushButton*>(cmdFakeShuffle)})
         button->setEnabled(Forward);
     cmdContinue->setText(Forward ? tr("&Back") : tr("C&ontinue"));
 
@@ -290,7 +290,8 @@ void frmNewReading::cmdPrint_Click() { PrintEntry(ReadingPrintout(TheRun.Reading
 void frmNewReading::cmdQuickHelp_Click() { Get<frmQuickHelp>().Show(); }
 
 void frmNewReading::cmdSave_Click() {
-    GatherReading(TheRun.ReadingDeal, TheRun.CurrentReading, TheRun.CurrentDeck, TheRun.CurrentSpread, lblTheIssue->text());
+    GatherReading(TheRun.ReadingDeal, TheRun.CurrentReading, TheRun.CurrentDeck, TheRun.CurrentSpread,
+                  lblTheIssue->text());
     Get<frmSaveReading>().Show(true);
 }
 
@@ -344,7 +345,8 @@ bool frmNewReading::OpenSavedReading() {
 
 void frmNewReading::FillFields() {
     Initialize();
-    RestoreDeal(TheRun.ReadingDeal, TheRun.CurrentReading, TheRun.CurrentDeck, TheRun.CurrentSpread.LocationCount, RunDealOptions());
+    RestoreDeal(TheRun.ReadingDeal, TheRun.CurrentReading, TheRun.CurrentDeck, TheRun.CurrentSpread.LocationCount,
+                RunDealOptions());
     const int dealt = TheRun.CurrentReading.DealtCount;
     QueryLocation = static_cast<Integer>(dealt + 1);
 

@@ -36,14 +36,14 @@ public:
 
     bool ReadingChanged = false;
     bool frmReadingCardsIsLoaded = false;
-    Integer QueryLocation = 0;        // the location the interpretation shows
+    Integer QueryLocation = 0;  // the location the interpretation shows
 
     QPushButton* cmdDeal = nullptr;
     QPushButton* cmdNextCard = nullptr;
     QPushButton* cmdAllCards = nullptr;
     ShuffleButton* cmdFakeShuffle = nullptr;
-    BoundedArray<ClickLabel*> lblCardName;   // the dealt card's title in each location
-    QTimer* Timer1 = nullptr;                // keeps the table below this screen
+    BoundedArray<ClickLabel*> lblCardName;  // the dealt card's title in each location
+    QTimer* Timer1 = nullptr;               // keeps the table below this screen
 
     void Initialize() override;
     // Rebuilds the screen, the table and the dealt cards from a saved reading
@@ -97,8 +97,8 @@ private:
     // Shows the card the deal holds in a location.
     void ShowDealtCard(int location);
 
-    bool TableShown = false;       // the table was shown once for this reading
-    bool DealWasEnabled = false;   // cmdDeal's state, kept while the introduction page is up
+    bool TableShown = false;      // the table was shown once for this reading
+    bool DealWasEnabled = false;  // cmdDeal's state, kept while the introduction page is up
     int lastTop_ = 0;
     int lastLeft_ = 0;
 };

@@ -6,7 +6,7 @@
 
 frmOpenReading::frmOpenReading()
     : OpenEntryScreen(EntryKind::Reading, {tr("Open Reading"), QStringLiteral("lstReadings"), tr("Select Reading:"),
-                                          tr("Are you sure you want to delete reading '%1' ?")}) {
+                                           tr("Are you sure you want to delete reading '%1' ?")}) {
     setObjectName(QStringLiteral("frmOpenReading"));
 }
 

@@ -15,5 +15,5 @@ protected:
     void CloseEntryScreen() override;
 
 private:
-    ReadingRecord reading_;   // the screen's own copy until the opening succeeds
+    ReadingRecord reading_;  // the screen's own copy until the opening succeeds
 };

@@ -2,10 +2,9 @@
 
 frmQuickHelp::frmQuickHelp()
     : HelpPanelForm(tr("Quick Help"),
-                    tr(
-                        "The Tarot Spread is meant to aid you in your everyday life.  Examine the spread as a whole "
-                        "and use the additional tools included on the spread to help you understand the meaning "
-                        "behind each card.  By clicking on a card, you get the description of the specific spread "
-                        "location and the interpretation and keywords of the card itself if it has been opened. "
-                        "Furthermore, you can enlarge the card's picture for a closer view."),
+                    tr("The Tarot Spread is meant to aid you in your everyday life.  Examine the spread as a whole "
+                       "and use the additional tools included on the spread to help you understand the meaning "
+                       "behind each card.  By clicking on a card, you get the description of the specific spread "
+                       "location and the interpretation and keywords of the card itself if it has been opened. "
+                       "Furthermore, you can enlarge the card's picture for a closer view."),
                     false) {}

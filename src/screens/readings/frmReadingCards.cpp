@@ -86,7 +86,8 @@ void frmReadingCards::Form_Load() {
 
     CardBackColor = QBColor(TheRun.CurrentLocationColour);
     // A saved reading being restored brings its table with it.
-    if (!TheRun.ReadingDeal.LoadingReading) LayTable(TheRun.ReadingDeal, TheRun.CurrentDeck, RunDealOptions(), TheRun.CurrentReading);
+    if (!TheRun.ReadingDeal.LoadingReading)
+        LayTable(TheRun.ReadingDeal, TheRun.CurrentDeck, RunDealOptions(), TheRun.CurrentReading);
     ShowFaceDown();
     if (reading) reading->TakeFocus();
 }

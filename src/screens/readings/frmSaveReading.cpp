@@ -10,7 +10,8 @@ frmSaveReading::frmSaveReading()
 }
 
 QString frmSaveReading::ProposedName() const {
-    return FirstNonBlank({TheRun.CurrentReading.ReadingName.Trimmed(), TheRun.CurrentReading.Issue.Trimmed(), TheRun.CurrentSpread.SpreadName.Trimmed()});
+    return FirstNonBlank({TheRun.CurrentReading.ReadingName.Trimmed(), TheRun.CurrentReading.Issue.Trimmed(),
+                          TheRun.CurrentSpread.SpreadName.Trimmed()});
 }
 
 void frmSaveReading::SaveAs(const QString& name, int replacing) {

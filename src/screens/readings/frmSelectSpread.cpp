@@ -8,8 +8,7 @@ frmSelectSpread::frmSelectSpread() : SelectSpreadScreen(tr("Select a Spread for 
     setObjectName(QStringLiteral("frmSelectSpread"));
 }
 
-void frmSelectSpread::StoreEntryOptions(bool issueAsked, const QString& issue, bool useReversed,
-                                        bool allowDuplicates) {
+void frmSelectSpread::StoreEntryOptions(bool issueAsked, const QString& issue, bool useReversed, bool allowDuplicates) {
     TheRun.CurrentReading.Issue = issue;
     TheRun.CurrentReading.IssueAsked = Flag(issueAsked);
     TheRun.CurrentReading.UseReversed = Flag(useReversed);

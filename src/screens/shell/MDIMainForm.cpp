@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr int FrameWidth = 1024;   // pixels
+constexpr int FrameWidth = 1024;  // pixels
 constexpr int FrameHeight = 740;
 
 QString& TheProgramDirectory() {

@@ -9,10 +9,10 @@
 #include <QString>
 
 struct ProgramFolderPlaces {
-    QString ExecutableFolder;    // where the running executable lies
-    QString ExecutableName;      // never copied into a user's folder
+    QString ExecutableFolder;  // where the running executable lies
+    QString ExecutableName;    // never copied into a user's folder
     bool ExecutableFolderWritable = false;
-    QString UserDataHome;        // $XDG_DATA_HOME or ~/.local/share
+    QString UserDataHome;  // $XDG_DATA_HOME or ~/.local/share
 };
 
 // The folder name under the user's data folder.

@@ -40,7 +40,8 @@ bool RunStartup(const QString& programDir, bool offerInstall) {
     // Before anything is touched: a second copy on the same folder would
     // empty the first one's Temp/ under its feet.
     if (!TakeProgramLock(programDir)) {
-        MsgBox(QCoreApplication::translate("Startup", "Cartomar is already running from the folder '%1'. Only one copy can "
+        MsgBox(QCoreApplication::translate("Startup",
+                                           "Cartomar is already running from the folder '%1'. Only one copy can "
                                            "work on the same designs at a time.")
                    .arg(programDir),
                vbExclamation);
@@ -58,7 +59,8 @@ bool RunStartup(const QString& programDir, bool offerInstall) {
         if (FileExists(TheRun.Paths.DecksPath + QStringLiteral(".bkp"))) {
             // A conversion was begun here before; doing it again would
             // overwrite the only copies of the old data.
-            MsgBox(QCoreApplication::translate("Startup", "Unable to convert to new database format as existing backups exist.  "
+            MsgBox(QCoreApplication::translate("Startup",
+                                               "Unable to convert to new database format as existing backups exist.  "
                                                "Please reinstall in a new directory or contact %1.")
                        .arg(SupportAddress));
             EndProcess(1);
@@ -73,7 +75,8 @@ bool RunStartup(const QString& programDir, bool offerInstall) {
     const int deckCount = CountDecks();
     ShowMainScreen();
     if (offerInstall && spreadCount == 0 && deckCount == 0) {
-        const int answer = MsgBox(QCoreApplication::translate("Startup", "You don't have any designs installed. Do you want install any now?"),
+        const int answer = MsgBox(QCoreApplication::translate(
+                                      "Startup", "You don't have any designs installed. Do you want install any now?"),
                                   vbYesNo | vbInformation);
         if (answer == vbYes) {
             frmMainScreen& mainScreen = Get<frmMainScreen>();

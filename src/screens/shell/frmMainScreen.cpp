@@ -32,7 +32,7 @@
 
 namespace {
 
-constexpr int ScreenWidth = 640;    // pixels
+constexpr int ScreenWidth = 640;  // pixels
 constexpr int ScreenHeight = 480;
 
 const QColor Gold(222, 184, 92);
@@ -40,11 +40,11 @@ const QColor PaleGold(240, 222, 170);
 
 struct ButtonDesign {
     int Index;
-    int Column;   // 0 Readings, 1 Diary, 2 Design, 3 Package, 4 File Menu
+    int Column;  // 0 Readings, 1 Diary, 2 Design, 3 Package, 4 File Menu
     int Row;
     const char* Caption;
     const char* ToolTip;
-    int Columns = 1;   // the journal spans the two groups whose entries it searches
+    int Columns = 1;  // the journal spans the two groups whose entries it searches
 };
 
 // The diary buttons carry the tooltips of the reading buttons; their group
@@ -54,7 +54,8 @@ constexpr ButtonDesign Buttons[] = {
     {2, 0, 1, QT_TRANSLATE_NOOP("frmMainScreen", "Past"), QT_TRANSLATE_NOOP("frmMainScreen", "Open a Saved Reading")},
     {3, 1, 0, QT_TRANSLATE_NOOP("frmMainScreen", "New"), QT_TRANSLATE_NOOP("frmMainScreen", "Make a New Reading")},
     {4, 1, 1, QT_TRANSLATE_NOOP("frmMainScreen", "Past"), QT_TRANSLATE_NOOP("frmMainScreen", "Open a Saved Reading")},
-    {5, 2, 0, QT_TRANSLATE_NOOP("frmMainScreen", "Decks"), QT_TRANSLATE_NOOP("frmMainScreen", "Create, Edit or View Decks")},
+    {5, 2, 0, QT_TRANSLATE_NOOP("frmMainScreen", "Decks"),
+     QT_TRANSLATE_NOOP("frmMainScreen", "Create, Edit or View Decks")},
     {6, 2, 1, QT_TRANSLATE_NOOP("frmMainScreen", "Spreads"),
      QT_TRANSLATE_NOOP("frmMainScreen", "Create, Edit, View or Manage Spreads")},
     {7, 3, 0, QT_TRANSLATE_NOOP("frmMainScreen", "Install"), QT_TRANSLATE_NOOP("frmMainScreen", "Install a Package")},
@@ -126,8 +127,8 @@ frmMainScreen::frmMainScreen() {
     const QStringList headings = {tr("Readings"), tr("Diary"), tr("Design"), tr("Package"), tr("File Menu")};
     QLabel** headingLabels[] = {&lblReadings, &lblDiary, &lblTools, &lblPackage, &lblFileMenu};
     for (int column = 0; column < 5; ++column)
-        *headingLabels[column] = MakeCaption(this, headings[column],
-                                             QRect(ColumnLeft(column), HeadingTop, ColumnWidth, 26), 13, true, PaleGold);
+        *headingLabels[column] = MakeCaption(
+            this, headings[column], QRect(ColumnLeft(column), HeadingTop, ColumnWidth, 26), 13, true, PaleGold);
 
     for (const ButtonDesign& b : Buttons) {
         auto* label = new ClickLabel(this);
@@ -226,52 +227,51 @@ void frmMainScreen::OpenFirstLevelScreen(int Index) {
 
 void frmMainScreen::OpenSubsystem(int Index) {
     switch (Index) {
-    case 1:   // a new reading: frmNewReading, with frmSelectSpread over it
+    case 1:  // a new reading: frmNewReading, with frmSelectSpread over it
         ResetSpread(TheRun.CurrentSpread);
         ResetReading(TheRun.CurrentReading);
         Hide();
         Get<frmNewReading>().Show();
         Get<frmSelectSpread>().Show(true);
         break;
-    case 2:   // a saved reading: frmNewReading, with frmOpenReading over it
+    case 2:  // a saved reading: frmNewReading, with frmOpenReading over it
         ResetSpread(TheRun.CurrentSpread);
         ResetReading(TheRun.CurrentReading);
         Hide();
         Get<frmNewReading>().Show();
         Get<frmOpenReading>().Show(true);
         break;
-    case 3:   // a new diary entry: frmNewDiary, with frmSelectSpreadforDiary over it
+    case 3:  // a new diary entry: frmNewDiary, with frmSelectSpreadforDiary over it
         ResetSpread(TheRun.CurrentSpread);
         ResetDiary(TheRun.CurrentDiary);
         Hide();
         Get<frmNewDiary>().Show();
         Get<frmSelectSpreadforDiary>().Show(true);
         break;
-    case 4:   // a saved diary entry: frmNewDiary, with frmOpenDiary over it
+    case 4:  // a saved diary entry: frmNewDiary, with frmOpenDiary over it
         ResetSpread(TheRun.CurrentSpread);
         ResetDiary(TheRun.CurrentDiary);
         Hide();
         Get<frmNewDiary>().Show();
         Get<frmOpenDiary>().Show(true);
         break;
-    case 5:   // frmDecks
+    case 5:  // frmDecks
         Hide();
         Get<frmDecks>().Show();
         break;
-    case 6:   // frmSpreads
+    case 6:  // frmSpreads
         Hide();
         Get<frmSpreads>().Show();
         break;
-    case 7:   // frmInstallPackage
+    case 7:  // frmInstallPackage
         Hide();
         Get<frmInstallPackage>().Show();
         break;
-    case 8:   // frmCreatePackage
+    case 8:  // frmCreatePackage
         Hide();
         Get<frmCreatePackage>().Show();
         break;
-    default:
-        break;
+    default: break;
     }
 }
 
@@ -292,9 +292,7 @@ void frmMainScreen::LaunchHelp() {
            vbCritical);
 }
 
-void frmMainScreen::lblButton_MouseDown(int Index) {
-    lblButton(Index)->setBackColor(ButtonDownColour_);
-}
+void frmMainScreen::lblButton_MouseDown(int Index) { lblButton(Index)->setBackColor(ButtonDownColour_); }
 
 void frmMainScreen::lblButton_MouseMove(int Index, Qt::MouseButtons buttons, int x, int y) {
     if (buttons != Qt::LeftButton) return;
@@ -303,6 +301,4 @@ void frmMainScreen::lblButton_MouseMove(int Index, Qt::MouseButtons buttons, int
     label->setBackColor(inside ? ButtonDownColour_ : QBColor(0));
 }
 
-void frmMainScreen::lblButton_MouseUp(int Index) {
-    lblButton(Index)->setBackColor(QBColor(0));
-}
+void frmMainScreen::lblButton_MouseUp(int Index) { lblButton(Index)->setBackColor(QBColor(0)); }

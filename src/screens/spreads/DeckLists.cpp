@@ -17,7 +17,8 @@ void RestoreListPosition(ListBox* list, int noted) {
 }
 
 void DeckLists::ShowDeckLists() {
-    const std::vector<DeckRecord> onFile = Decks ? std::vector<DeckRecord>() : ReadAllRecords<DeckRecord>(TheRun.Paths.DecksPath);
+    const std::vector<DeckRecord> onFile =
+        Decks ? std::vector<DeckRecord>() : ReadAllRecords<DeckRecord>(TheRun.Paths.DecksPath);
     for (const DeckRecord& deck : Decks ? *Decks : onFile) lstAvailableDecks->AddItem(deck.DeckName.Trimmed());
     if (lstAvailableDecks->ListCount() > 0) lstAvailableDecks->setListIndex(0);
     if (lstDecks->ListCount() > 0) lstDecks->setListIndex(0);

@@ -80,9 +80,7 @@ void LocationAttributesForm::cmdClose_Click() { Unload(); }
 
 void LocationAttributesForm::Form_Deactivate() { Unload(); }
 
-void LocationAttributesForm::Form_Unload(bool&) {
-    FocusAttributesButtonBeneath();
-}
+void LocationAttributesForm::Form_Unload(bool&) { FocusAttributesButtonBeneath(); }
 
 void LocationAttributesForm::Form_KeyUp(int key, Qt::KeyboardModifiers, bool& handled) {
     if (key != Qt::Key_Escape) return;

@@ -18,7 +18,7 @@ class LocationAttributesForm : public Form {
 public:
     TextBox* txtTitle;
     MultiLineTextBox* txtDescription;
-    TextBox* txtQuestion(int Index) const;   // 1 to 3
+    TextBox* txtQuestion(int Index) const;  // 1 to 3
     QPushButton* cmdClose;
 
     void cmdClose_Click();

@@ -252,9 +252,7 @@ bool SpreadCanvas::eventFilter(QObject* watched, QEvent* e) {
     if (!button) return QWidget::eventFilter(watched, e);
     const int Index = static_cast<LocationBox*>(button->parentWidget())->Index();
     switch (e->type()) {
-    case QEvent::FocusIn:
-        emit GotFocus(Index, LocationPart::Attributes);
-        break;
+    case QEvent::FocusIn: emit GotFocus(Index, LocationPart::Attributes); break;
     case QEvent::KeyPress: {
         auto* k = static_cast<QKeyEvent*>(e);
         bool handled = false;
@@ -267,8 +265,7 @@ bool SpreadCanvas::eventFilter(QObject* watched, QEvent* e) {
         emit KeyUp(Index, LocationPart::Attributes, k->key(), ShiftArgument(k->modifiers()));
         break;
     }
-    default:
-        break;
+    default: break;
     }
     return QWidget::eventFilter(watched, e);
 }

@@ -19,8 +19,8 @@ class QPushButton;
 constexpr int MaxLocations = 32;
 constexpr int LocationWidth = 1695;
 constexpr int LocationHeight = 975;
-constexpr int HorizontalGridLines = 34;   // indices 0 .. 33
-constexpr int VerticalGridLines = 48;     // indices 0 .. 47
+constexpr int HorizontalGridLines = 34;  // indices 0 .. 33
+constexpr int VerticalGridLines = 48;    // indices 0 .. 47
 // The end of every horizontal grid line, whatever the canvas.
 constexpr int GridLineRight = 11655;
 

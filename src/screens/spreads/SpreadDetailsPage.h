@@ -25,7 +25,7 @@ public:
     TextBox* txtDesignerWebPage = nullptr;
     QCheckBox* chkQuestion = nullptr;
     QLabel* lblModifiedOnDate = nullptr;
-    MultiLineTextBox* txtComments = nullptr;   // the viewer's only
+    MultiLineTextBox* txtComments = nullptr;  // the viewer's only
 
     // Fills the boxes from the spread's fields, trimmed; filling raises the
     // boxes' change events as typing does.

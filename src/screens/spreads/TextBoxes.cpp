@@ -54,8 +54,8 @@ int MultiLineTextBox::RoomLeft() const {
 
 void MultiLineTextBox::keyPressEvent(QKeyEvent* e) {
     const QString typed = e->text();
-    const bool inserts = !typed.isEmpty() && (typed.at(0).isPrint() || e->key() == Qt::Key_Return ||
-                                              e->key() == Qt::Key_Enter);
+    const bool inserts =
+        !typed.isEmpty() && (typed.at(0).isPrint() || e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter);
     if (inserts && !isReadOnly() && RoomLeft() < 1) {
         e->accept();
         return;

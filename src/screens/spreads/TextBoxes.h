@@ -25,8 +25,8 @@ protected:
     void keyPressEvent(QKeyEvent* e) override;
 
 private:
-    int maxLength_ = 0;   // 0: no limit
-    QString shown_;       // the text at the last Change
+    int maxLength_ = 0;  // 0: no limit
+    QString shown_;      // the text at the last Change
 };
 
 class MultiLineTextBox : public QPlainTextEdit {
@@ -50,5 +50,5 @@ protected:
 private:
     int RoomLeft() const;
     int maxLength_ = 0;
-    QString shown_;   // the text at the last Change
+    QString shown_;  // the text at the last Change
 };

@@ -178,9 +178,8 @@ frmDesignSpread::frmDesignSpread() {
     connect(canvas, &SpreadCanvas::MouseMove, this, [this](int i, int b, int s, double x, double y) {
         Guarded([&] { picLocation_MouseMove(i, b, s, x, y); });
     });
-    connect(canvas, &SpreadCanvas::MouseUp, this, [this](int i, int b, int s, double x, double y) {
-        Guarded([&] { picLocation_MouseUp(i, b, s, x, y); });
-    });
+    connect(canvas, &SpreadCanvas::MouseUp, this,
+            [this](int i, int b, int s, double x, double y) { Guarded([&] { picLocation_MouseUp(i, b, s, x, y); }); });
     connect(canvas, &SpreadCanvas::GotFocus, this,
             [this](int i, LocationPart) { Guarded([&] { picLocation_GotFocus(i); }); });
     connect(canvas, &SpreadCanvas::KeyDown, this, [this](int i, LocationPart, int k, int s, bool& handled) {
@@ -280,7 +279,12 @@ void frmDesignSpread::ClearBackground() {
 // ---- Pages ---------------------------------------------------------------------------------
 
 void frmDesignSpread::ShowPage(SpreadPages::Page page) {
-    const SpreadPages pages{picDesignInfo, picDesignLocations, picDecks, cmdDesignInfo, cmdSpread, cmdDecks,
+    const SpreadPages pages{picDesignInfo,
+                            picDesignLocations,
+                            picDecks,
+                            cmdDesignInfo,
+                            cmdSpread,
+                            cmdDecks,
                             {cmdAddCard, cmdRemoveCard, cmdGrid, cmdSnap}};
     pages.Show(page);
 }
@@ -354,7 +358,8 @@ void frmDesignSpread::cmdRemoveCard_Click() {
     lblCardTitle(count)->clear();
 
     TheRun.CurrentSpread.LocationCount = static_cast<Integer>(count - 1);
-    if (TheRun.CurrentSpread.LocationCount > 0) SetFocusTo(picLocation(TheRun.CurrentSpread.LocationCount), TheRun.CurrentSpread.LocationCount);
+    if (TheRun.CurrentSpread.LocationCount > 0)
+        SetFocusTo(picLocation(TheRun.CurrentSpread.LocationCount), TheRun.CurrentSpread.LocationCount);
     SpreadDirty = true;
 }
 

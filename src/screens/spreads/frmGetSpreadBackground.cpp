@@ -67,7 +67,8 @@ void frmGetSpreadBackground::cmdOK_Click() {
     const QString typed = txtFilename->Text();
     const QString question = WorkingBackgroundQuestion(TheRun.CurrentSpread, typed);
     if (!question.isEmpty() && MsgBox(question, vbYesNo | vbQuestion) == vbNo) return;
-    const WorkingBackground chosen = ChooseWorkingBackground(TheRun.CurrentSpread, typed, chkStretchPicture->isChecked());
+    const WorkingBackground chosen =
+        ChooseWorkingBackground(TheRun.CurrentSpread, typed, chkStretchPicture->isChecked());
     if (!chosen.Problem.isEmpty()) {
         MsgBox(chosen.Problem, vbCritical);
         return;

@@ -23,7 +23,8 @@ frmLocationAttributes::frmLocationAttributes() : LocationAttributesForm(false, 6
 void frmLocationAttributes::txtTitle_Change() {
     MarkDesignChanged();
     TheRun.SpreadLocations(TheRun.SelectedLocation).LocationTitle = txtTitle->Text();
-    if (IsLoaded<frmDesignSpread>()) Get<frmDesignSpread>().ShowLocationTitle(TheRun.SelectedLocation, txtTitle->Text());
+    if (IsLoaded<frmDesignSpread>())
+        Get<frmDesignSpread>().ShowLocationTitle(TheRun.SelectedLocation, txtTitle->Text());
 }
 
 void frmLocationAttributes::txtDescription_Change() {

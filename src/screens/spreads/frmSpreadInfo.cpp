@@ -24,7 +24,6 @@ constexpr int PageTop = 120;
 constexpr int CanvasWidth = 9615;
 constexpr int CanvasHeight = 5895;
 
-
 QPushButton* Button(QWidget* parent, const QString& name, const QString& caption, int left, int top) {
     auto* button = new QPushButton(caption, parent);
     button->setObjectName(name);
@@ -80,9 +79,7 @@ void frmSpreadInfo::FocusAttributesButton(int Index) const {
     if (QPushButton* button = cmdCardAttributes(Index)) button->setFocus();
 }
 
-QPushButton* frmSpreadInfo::cmdCardAttributes(int Index) const {
-    return picDesignLocations->cmdCardAttributes(Index);
-}
+QPushButton* frmSpreadInfo::cmdCardAttributes(int Index) const { return picDesignLocations->cmdCardAttributes(Index); }
 
 void frmSpreadInfo::Form_Load() {
     RememberedSpreadName = IsLoaded<frmSpreads>() ? Get<frmSpreads>().ChosenSpreadName() : QString();
@@ -124,8 +121,7 @@ void frmSpreadInfo::AddDeckNames() {
 }
 
 void frmSpreadInfo::ShowPage(int page) {
-    const SpreadPages pages{picDesignInfo, picDesignLocations, picDecks, cmdDesignInfo, cmdSpread, cmdDecks,
-                            {cmdGrid}};
+    const SpreadPages pages{picDesignInfo, picDesignLocations, picDecks, cmdDesignInfo, cmdSpread, cmdDecks, {cmdGrid}};
     pages.Show(static_cast<SpreadPages::Page>(page));
 }
 

@@ -126,8 +126,8 @@ void frmSpreads::BriefInfo() {
     lblCardsField->setText(QString::number(TheRun.CurrentSpread.LocationCount));
     lblDesignDateField->setText(FormatLongDate(TheRun.CurrentSpread.ModifiedOn));
     lblDesignerNameField->setText(TheRun.CurrentSpread.SpreadDesigner.DesignerName.Value());
-    lblDecksField->setText(TheRun.CurrentSpread.AllowedDeckCount < 0 ? tr("All")
-                                                              : QString::number(TheRun.CurrentSpread.AllowedDeckCount));
+    lblDecksField->setText(
+        TheRun.CurrentSpread.AllowedDeckCount < 0 ? tr("All") : QString::number(TheRun.CurrentSpread.AllowedDeckCount));
     lblTitleField->setText(TheRun.CurrentSpread.SpreadTitle.Value());
 }
 

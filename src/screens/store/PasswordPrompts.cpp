@@ -13,7 +13,7 @@ bool CheckPassword(const QString& storedPassword) {
     // Cancel unloads the screen; what it left in Password was "".
     const QString typed = IsLoaded<frmGetPassword>() ? screen.Password : QString();
     const PasswordJudgement judgement = JudgePassword(storedPassword, typed);
-    if (judgement == PasswordJudgement::Wrong) 
+    if (judgement == PasswordJudgement::Wrong)
         MsgBox(QCoreApplication::translate("PasswordPrompts", "Incorrect password. Access Denied."), vbCritical);
     const bool result = judgement == PasswordJudgement::Right;
     UnloadScreen<frmGetPassword>();

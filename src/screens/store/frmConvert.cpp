@@ -30,9 +30,10 @@ frmConvert::frmConvert() {
     setCaption(tr("Cartomar Converter"));
     setFixedSize(TwipsToPixels(6600), TwipsToPixels(2400));
 
-    lblMessage = new QLabel(tr(
-        "Cartomar detected an older database version.  Would you like to convert the old files to a new "
-        "compatible version?  (Note that a *.bkp copies will be created of the old database files.)"), this);
+    lblMessage =
+        new QLabel(tr("Cartomar detected an older database version.  Would you like to convert the old files to a new "
+                      "compatible version?  (Note that a *.bkp copies will be created of the old database files.)"),
+                   this);
     lblMessage->setObjectName(QStringLiteral("lblMessage"));
     lblMessage->setWordWrap(true);
     cmdConvert = new QPushButton(tr("Con&vert"), this);

@@ -16,8 +16,8 @@ class frmDesignExists : public Form {
 public:
     frmDesignExists();
 
-    int Design = DesignDeck;   // the kind of design
-    QString Title;             // the design's name
+    int Design = DesignDeck;  // the kind of design
+    QString Title;            // the design's name
     // After a rename: the new name, at most 30 characters. It outlives the
     // screen, which unloads as it answers, so the installer can read it.
     static inline QString NewDesignName;

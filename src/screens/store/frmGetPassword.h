@@ -9,7 +9,7 @@ class frmGetPassword : public Form {
     Q_OBJECT
 public:
     frmGetPassword();
-    QString Password;   // the text taken from the box; "" when cancelled
+    QString Password;  // the text taken from the box; "" when cancelled
 
     QLineEdit* txtPassword;
     QPushButton* cmdOK;

@@ -38,9 +38,7 @@ void ClickLabel::mousePressEvent(QMouseEvent* e) {
     emit MouseDown(e->button(), e->modifiers(), TwipsX(e), TwipsY(e));
 }
 
-void ClickLabel::mouseMoveEvent(QMouseEvent* e) {
-    emit MouseMove(e->buttons(), e->modifiers(), TwipsX(e), TwipsY(e));
-}
+void ClickLabel::mouseMoveEvent(QMouseEvent* e) { emit MouseMove(e->buttons(), e->modifiers(), TwipsX(e), TwipsY(e)); }
 
 void ClickLabel::mouseReleaseEvent(QMouseEvent* e) {
     const bool click = pressed_ && e->button() == Qt::LeftButton && rect().contains(e->position().toPoint());

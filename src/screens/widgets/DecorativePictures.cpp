@@ -43,7 +43,7 @@ private:
 // lit from the right while waxing.
 QPainterPath MoonPhase(QPointF centre, double r, double phase) {
     QPainterPath lit;
-    const double k = std::cos(phase * 2 * M_PI);   // 1 new, -1 full
+    const double k = std::cos(phase * 2 * M_PI);  // 1 new, -1 full
     const bool waxing = phase < 0.5;
     // Outer limb: half a circle on the lit side; terminator: half an
     // ellipse whose width follows the phase.
@@ -207,7 +207,8 @@ QImage MainScreenPicture(int width, int height) {
     tagline.setPointSize(12);
     p.setFont(tagline);
     p.setPen(PaleGold);
-    p.drawText(QRect(0, 160, width, 30), Qt::AlignCenter, QCoreApplication::translate("DecorativePictures", "Unlock the Door to Future Possibilities"));
+    p.drawText(QRect(0, 160, width, 30), Qt::AlignCenter,
+               QCoreApplication::translate("DecorativePictures", "Unlock the Door to Future Possibilities"));
     p.end();
     return image;
 }

@@ -20,8 +20,9 @@ Picture LoadPictureOrDefault(const QString& path) {
     try {
         return LoadPicture(source);
     } catch (const RuntimeError&) {
-        MsgBox(QCoreApplication::translate("FitPicture", "Error while loading the picture. A default picture is selected instead.\n"
-                              "Please save all your work, exit Cartomar, and then run it again"),
+        MsgBox(QCoreApplication::translate("FitPicture",
+                                           "Error while loading the picture. A default picture is selected instead.\n"
+                                           "Please save all your work, exit Cartomar, and then run it again"),
                vbCritical);
     }
     return LoadPicture(TheRun.Paths.DefaultPicturePath);

@@ -17,7 +17,7 @@ constexpr int PictureHeight = 300;
 const QColor Table(36, 30, 78);
 const QColor Gold(222, 184, 92);
 const QColor Ink(250, 244, 225);
-const QColor Marker(255, 255, 0);   // the yellow of a location not in focus
+const QColor Marker(255, 255, 0);  // the yellow of a location not in focus
 
 // The parts of the sample location, in pixels of the picture.
 const QRect LocationBox(150, 44, 120, 200);
@@ -62,12 +62,14 @@ void HelpPicture::paintEvent(QPaintEvent*) {
     p.drawText(QRect(LocationBox.left(), CardBox.bottom() + 6, LocationBox.width(), 20), Qt::AlignCenter,
                QCoreApplication::translate("HelpPanel", "The Star"));
 
-    Pointer(p, QCoreApplication::translate("HelpPanel", "Location Title"), QPoint(136, 40), QPoint(LocationBox.left() + 8, LocationBox.top() + 16),
-            Qt::AlignLeft);
-    Pointer(p, QCoreApplication::translate("HelpPanel", "Spread Location"), QPoint(136, 130), QPoint(LocationBox.left(), 130), Qt::AlignLeft);
-    Pointer(p, QCoreApplication::translate("HelpPanel", "Card Image"), QPoint(300, 110), QPoint(CardBox.right() - 10, 110), Qt::AlignRight);
-    Pointer(p, QCoreApplication::translate("HelpPanel", "Card Title"), QPoint(136, 262), QPoint(LocationBox.left() + 22, CardBox.bottom() + 16),
-            Qt::AlignLeft);
+    Pointer(p, QCoreApplication::translate("HelpPanel", "Location Title"), QPoint(136, 40),
+            QPoint(LocationBox.left() + 8, LocationBox.top() + 16), Qt::AlignLeft);
+    Pointer(p, QCoreApplication::translate("HelpPanel", "Spread Location"), QPoint(136, 130),
+            QPoint(LocationBox.left(), 130), Qt::AlignLeft);
+    Pointer(p, QCoreApplication::translate("HelpPanel", "Card Image"), QPoint(300, 110),
+            QPoint(CardBox.right() - 10, 110), Qt::AlignRight);
+    Pointer(p, QCoreApplication::translate("HelpPanel", "Card Title"), QPoint(136, 262),
+            QPoint(LocationBox.left() + 22, CardBox.bottom() + 16), Qt::AlignLeft);
 
     if (!withCardsList_) return;
     // The diary's list of the deck's cards, with the state check box below.
@@ -75,9 +77,12 @@ void HelpPicture::paintEvent(QPaintEvent*) {
     p.setBrush(QColor(250, 248, 240));
     p.drawRect(CardsList);
     p.setPen(QColor(30, 30, 30));
-    const QStringList cards = {QCoreApplication::translate("HelpPanel", "The Fool"), QCoreApplication::translate("HelpPanel", "The Magician"),
-                               QCoreApplication::translate("HelpPanel", "The High Priestess"), QCoreApplication::translate("HelpPanel", "The Empress"),
-                               QCoreApplication::translate("HelpPanel", "The Emperor"), QCoreApplication::translate("HelpPanel", "The Star")};
+    const QStringList cards = {QCoreApplication::translate("HelpPanel", "The Fool"),
+                               QCoreApplication::translate("HelpPanel", "The Magician"),
+                               QCoreApplication::translate("HelpPanel", "The High Priestess"),
+                               QCoreApplication::translate("HelpPanel", "The Empress"),
+                               QCoreApplication::translate("HelpPanel", "The Emperor"),
+                               QCoreApplication::translate("HelpPanel", "The Star")};
     // The last card is the one chosen.
     for (int i = 0; i < cards.size(); ++i) {
         const QRect line(CardsList.left() + 4, CardsList.top() + 4 + i * 20, CardsList.width() - 8, 20);
@@ -90,8 +95,8 @@ void HelpPicture::paintEvent(QPaintEvent*) {
     p.drawRect(QRect(CardsList.left(), CardsList.bottom() + 12, 12, 12));
     p.drawText(QRect(CardsList.left() + 18, CardsList.bottom() + 8, 100, 20), Qt::AlignVCenter | Qt::AlignLeft,
                QCoreApplication::translate("HelpPanel", "Reversed"));
-    Pointer(p, QCoreApplication::translate("HelpPanel", "Cards List"), QPoint(390, 40), QPoint(CardsList.left() + 20, CardsList.top()),
-            Qt::AlignLeft);
+    Pointer(p, QCoreApplication::translate("HelpPanel", "Cards List"), QPoint(390, 40),
+            QPoint(CardsList.left() + 20, CardsList.top()), Qt::AlignLeft);
 }
 
 HelpPanelForm::HelpPanelForm(const QString& caption, const QString& helpText, bool withCardsList) {

@@ -45,7 +45,7 @@ protected:
 private:
     void ApplyGeometry();
 
-    int left_ = 0, top_ = 0, width_ = 0, height_ = 0;   // twips
+    int left_ = 0, top_ = 0, width_ = 0, height_ = 0;  // twips
     bool applying_ = false;
     bool stretch_ = false;
     bool pressed_ = false;

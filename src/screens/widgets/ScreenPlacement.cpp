@@ -19,9 +19,7 @@ int CentredLeftBeside(const Form& form) { return Centred(FrameInnerWidth(), form
 
 }  // namespace
 
-void CentreInFrame(Form& form) {
-    form.Move(CentredLeft(form), CentredTop(form));
-}
+void CentreInFrame(Form& form) { form.Move(CentredLeft(form), CentredTop(form)); }
 
 void PlaceInFrameRight(Form& form, bool atFrameTop) {
     const int top = atFrameTop ? FrameOwnTop() + OwnEdgeOffset : EdgeMargin;
