@@ -76,7 +76,9 @@ AtomicFileWriter::AtomicFileWriter(const QString& newPath, const QString& realPa
       newPath_(NativePath(newPath)),
       realPath_(NativePath(realPath)) {
     if (!file_->open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) RaiseError(errPathNotFound);
-    pending_.reserve(kBlockBytes * 2);
+    // The block grows as records come: most files written are a few records
+    // (a plan, a spread's locations), and a block taken whole in advance
+    // would cost each of them two megabytes.
 }
 
 AtomicFileWriter::~AtomicFileWriter() {

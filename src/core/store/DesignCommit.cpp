@@ -11,6 +11,7 @@
 #include "core/platform/BinaryFile.h"
 #include "core/platform/Errors.h"
 #include "core/platform/FileSys.h"
+#include "core/records/RecordFile.h"
 #include "core/store/RunState.h"
 
 namespace {
@@ -104,6 +105,17 @@ void DesignCommit::DropFile(const QString& path) {
 
 void DesignCommit::AddRecordFile(const QString& path, int recordLength, const RecordEditor& edit,
                                  const QByteArray& appended) {
+    // A file held in memory is edited there and put in place at the commit.
+    if (const QByteArray* held = RecordFilesInMemory::Find(path)) {
+        QByteArray edited;
+        const qsizetype whole = held->size() / recordLength * recordLength;
+        int number = 0;
+        for (qsizetype at = 0; at < whole; at += recordLength)
+            if (const char* bytes = edit(held->constData() + at, ++number)) edited.append(bytes, recordLength);
+        edited += appended;
+        heldEdits_.emplace_back(path, edited);
+        return;
+    }
     AtomicFileWriter writer(NewFileBeside(path), path);
     {
         RecordFileReader reader(path, recordLength);
@@ -130,6 +142,8 @@ void DesignCommit::Commit() {
     writer.Commit();
     planned_ = true;
     CarryOut(plan);
+    for (const auto& [path, bytes] : heldEdits_)
+        if (QByteArray* held = RecordFilesInMemory::Find(path)) *held = bytes;
 }
 
 void FinishUnfinishedCommit() {

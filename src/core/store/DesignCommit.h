@@ -51,6 +51,9 @@ public:
 private:
     std::vector<std::pair<QString, QString>> renames_;  // prepared -> real, full paths
     QStringList drops_;
+    // Record files held in memory (see RecordFilesInMemory) as they are to
+    // be, put in place at the commit as a file on the disk is renamed.
+    std::vector<std::pair<QString, QByteArray>> heldEdits_;
     bool planned_ = false;
 };
 
