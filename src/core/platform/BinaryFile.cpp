@@ -11,6 +11,7 @@
 
 namespace {
 constexpr qint64 kBlockBytes = 1 << 20;
+constexpr qint64 kSmallFileBytes = 64 << 10;
 
 void OpenOrRaise(QFile& file, QIODevice::OpenMode mode) {
     if (!file.open(mode)) RaiseError(file.exists() ? errPermissionDenied : errFileNotFound);
@@ -76,9 +77,6 @@ AtomicFileWriter::AtomicFileWriter(const QString& newPath, const QString& realPa
       newPath_(NativePath(newPath)),
       realPath_(NativePath(realPath)) {
     if (!file_->open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) RaiseError(errPathNotFound);
-    // The block grows as records come: most files written are a few records
-    // (a plan, a spread's locations), and a block taken whole in advance
-    // would cost each of them two megabytes.
 }
 
 AtomicFileWriter::~AtomicFileWriter() {
@@ -89,6 +87,11 @@ AtomicFileWriter::~AtomicFileWriter() {
 }
 
 void AtomicFileWriter::Write(const char* bytes, qint64 length) {
+    // The whole block is taken once a file outgrows a few records: most files
+    // written are small (a plan, a spread's locations), and a block taken in
+    // advance would cost each of them two megabytes.
+    if (pending_.capacity() < kBlockBytes && pending_.size() + length > kSmallFileBytes)
+        pending_.reserve(kBlockBytes * 2);
     pending_.append(bytes, length);
     if (pending_.size() >= kBlockBytes) Flush();
 }
