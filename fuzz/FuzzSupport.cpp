@@ -1,9 +1,12 @@
 #include "FuzzSupport.h"
 
+#include <unistd.h>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 
@@ -214,22 +217,23 @@ const QStringList PictureNames = {QStringLiteral("CU00001.bmp"), QStringLiteral(
                                   QStringLiteral("CU00003.bmp"), QStringLiteral("S000001.bmp"),
                                   QStringLiteral("C000000.bmp")};
 
-QByteArray PictureBytes() {
-    static const QByteArray bytes = [] {
-        QImage image(4, 3, QImage::Format_RGB32);
-        image.fill(Qt::darkBlue);
-        const QString path = Root().path() + QStringLiteral("/picture.bmp");
-        SavePictureAsBmp(image, path);
-        QByteArray read = ReadWholeFile(path);
-        QFile::remove(path);
-        return read;
-    }();
-    return bytes;
+// One bitmap, kept beside the program directory; the pictures of Cards/ are
+// links to it, so that putting back what a delete pass took is one call a
+// picture instead of a file written whole.
+QString PictureMaster() { return Root().path() + QStringLiteral("/picture.bmp"); }
+
+void WritePictureMaster() {
+    QImage image(4, 3, QImage::Format_RGB32);
+    image.fill(Qt::darkBlue);
+    SavePictureAsBmp(image, PictureMaster());
 }
 
 }  // namespace
 
 void Initialize(int* argc, char*** argv) {
+    // Dates are shown in local time; with no zone named, the C library looks
+    // at the zone file again for every date shown.
+    qputenv("TZ", "UTC");
     static QCoreApplication app(*argc, *argv);
     // The program folder is thrown away after the run: its record files
     // need not wait for the disk, and the fuzzer runs many more inputs.
@@ -239,6 +243,7 @@ void Initialize(int* argc, char*** argv) {
     for (const QString& dir : {TheRun.Paths.TempDir, TheRun.Paths.CardsDir, TheRun.Paths.AttachmentsDir})
         QDir().mkpath(dir);
     WriteWholeFile(KeeperPath(), KeeperBytes);
+    WritePictureMaster();
 }
 
 QByteArray Bytes(const std::uint8_t* data, std::size_t size) {
@@ -286,8 +291,11 @@ void LayDatabase(FuzzedFile fuzzed, const QByteArray& input) {
     for (int i = 0; i < 6; ++i) RecordFilesInMemory::Hold(PathOf(kinds[i]), kinds[i] == fuzzed ? input : files[i]);
     // A delete pass may have taken a picture with its card: put back what is
     // gone. A file a fuzzed record made stays; it does no harm.
-    for (const QString& name : PictureNames)
-        if (!FileExists(TheRun.Paths.CardsDir + name)) WriteWholeFile(TheRun.Paths.CardsDir + name, PictureBytes());
+    static const QByteArray master = QFile::encodeName(PictureMaster());
+    for (const QString& name : PictureNames) {
+        const QByteArray path = QFile::encodeName(TheRun.Paths.CardsDir + name);
+        if (::link(master.constData(), path.constData()) != 0 && errno != EEXIST) Fail("a picture was not put back");
+    }
 }
 
 void Handled(const std::function<void()>& operation) {

@@ -71,6 +71,14 @@ std::vector<R> ReadAndCheck(const QString& path) {
     return all;
 }
 
+// The fuzzed file is read every way and checked; the others hold the same
+// baseline for every input, whose checks would only repeat, so they are only
+// read.
+template <class R>
+std::vector<R> Read(const QString& path) {
+    return path == Fuzz::PathOf(FuzzedRecordFile) ? ReadAndCheck<R>(path) : ReadAllRecords<R>(path);
+}
+
 template <class R, class Id>
 bool AnyCarries(const std::vector<R>& records, Id R::*field, Integer id) {
     return std::any_of(records.begin(), records.end(), [&](const R& r) { return r.*field == id; });
@@ -178,12 +186,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::vector<ReadingRecord> readings;
     std::vector<DiaryRecord> diaries;
     Handled([&] {
-        decks = ReadAndCheck<DeckRecord>(TheRun.Paths.DecksPath);
-        (void)ReadAndCheck<CardRecord>(TheRun.Paths.CardsPath);
-        spreads = ReadAndCheck<SpreadRecord>(TheRun.Paths.SpreadsPath);
-        (void)ReadAndCheck<LocationRecord>(TheRun.Paths.LocationsPath);
-        readings = ReadAndCheck<ReadingRecord>(TheRun.Paths.ReadingsPath);
-        diaries = ReadAndCheck<DiaryRecord>(TheRun.Paths.DiaryPath);
+        decks = Read<DeckRecord>(TheRun.Paths.DecksPath);
+        (void)Read<CardRecord>(TheRun.Paths.CardsPath);
+        spreads = Read<SpreadRecord>(TheRun.Paths.SpreadsPath);
+        (void)Read<LocationRecord>(TheRun.Paths.LocationsPath);
+        readings = Read<ReadingRecord>(TheRun.Paths.ReadingsPath);
+        diaries = Read<DiaryRecord>(TheRun.Paths.DiaryPath);
     });
     LookUpDecks(decks);
     LookUpSpreads(spreads);
