@@ -19,7 +19,6 @@ inline void FreshDiaryRun(const QString& dir) {
     UnloadScreen<frmOpenDiary>();
     UnloadScreen<frmNewDiary>();
     FreshRun(dir);
-    SelectSpreadScreen::LastAllowDuplicateCards = false;
 }
 
 // After each test: no box left unanswered, the card choice and the open

@@ -332,7 +332,6 @@ private slots:
         QVERIFY(TheRun.AllowDuplicateCards && TheRun.UseReversed &&
                 TheRun.CurrentReading.AllowDuplicateCards == True16);
         QVERIFY(Get<frmSelectSpread>().chkAllowDuplicateCards->isChecked());
-        SelectSpreadScreen::LastAllowDuplicateCards = false;
         UnloadScreen<frmSelectSpread>();
     }
 

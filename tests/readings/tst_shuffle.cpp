@@ -82,10 +82,7 @@ private slots:
 
     void init() { FreshRun(NewDir()); }
 
-    void cleanup() {
-        CloseReadingScreens();
-        SelectSpreadScreen::LastAllowDuplicateCards = false;
-    }
+    void cleanup() { CloseReadingScreens(); }
 
     void theShuffleIsTheFormulaWorkedByHand_data() {
         QTest::addColumn<std::uint32_t>("seed");

@@ -127,7 +127,7 @@ private slots:
         QCOMPARE(h[1].prompt, QStringLiteral("You already have a design with this name. Please enter a change the "
                                              "name or click 'Cancel' to return to the previous page."));
         QCOMPARE(TheRun.DesignExistsChoice, 1);
-        QCOMPARE(frmDesignExists::NewDesignName, QStringLiteral("Celtic Cross Mine"));
+        QCOMPARE(TheRun.DesignExistsNewName, QStringLiteral("Celtic Cross Mine"));
     }
 
     // A password typed with characters no record can hold is kept as the

@@ -84,11 +84,17 @@ struct RunState {
     int DesignMode = 0;  // 1: designer opened for a new design, 0: existing
     bool UseReversed = false;
     bool AllowDuplicateCards = false;
+    // The duplicates box of the spread chooser from one selection to the
+    // next, for readings and diary entries alike.
+    bool LastAllowDuplicateCards = false;
     std::array<bool, 4> CardTypeSelected{};
     int SelectedLocation = 0;
     bool ChooserManageMode = false;
     bool InstallAllSpreads = false;
     int DesignExistsChoice = 0;  // a DesignExistsAnswer
+    // After a rename: the new name, at most 30 characters. The question's
+    // screen unloads as it answers, so the installer reads it here.
+    QString DesignExistsNewName;
     // During an installation: the decks the deck chooser offers, those the
     // installation adds included, since they are not in Decks.dck yet.
     const std::vector<DeckRecord>* DecksOnOffer = nullptr;

@@ -241,7 +241,7 @@ DesignExistsReply frmInstallPackage::DesignExists(int design, const QString& tit
     frmDesignExists& question = Get<frmDesignExists>();
     question.NameInUse = [nameInUse](int, const QString& padded) { return nameInUse(padded); };
     question.Ask(design, title);
-    return {TheRun.DesignExistsChoice, frmDesignExists::NewDesignName};
+    return {TheRun.DesignExistsChoice, TheRun.DesignExistsNewName};
 }
 
 void frmInstallPackage::ChooseDecks(const std::vector<DeckRecord>& decks) {

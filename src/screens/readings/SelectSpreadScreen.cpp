@@ -19,8 +19,6 @@
 #include "screens/readings/EntryScreen.h"
 #include "screens/widgets/ScreenPlacement.h"
 
-bool SelectSpreadScreen::LastAllowDuplicateCards = false;
-
 namespace {
 
 QString IssueText(bool asked) {
@@ -83,7 +81,7 @@ SelectSpreadScreen::SelectSpreadScreen(const QString& caption) {
 
 void SelectSpreadScreen::Form_Load() {
     CentreInFrame(*this);
-    chkAllowDuplicateCards->setChecked(LastAllowDuplicateCards);
+    chkAllowDuplicateCards->setChecked(TheRun.LastAllowDuplicateCards);
     {
         RecordReader<SpreadRecord> reader(TheRun.Paths.SpreadsPath);
         SpreadRecord spread;
@@ -175,7 +173,7 @@ void SelectSpreadScreen::chkUseReversed_Click() {
 }
 
 void SelectSpreadScreen::chkAllowDuplicateCards_Click() {
-    if (!SpreadAndDeckSelected()) chkAllowDuplicateCards->setChecked(LastAllowDuplicateCards);
+    if (!SpreadAndDeckSelected()) chkAllowDuplicateCards->setChecked(TheRun.LastAllowDuplicateCards);
 }
 
 void SelectSpreadScreen::cmdSelect_Click() {
@@ -208,7 +206,7 @@ void SelectSpreadScreen::cmdSelect_Click() {
     const bool issueAsked = chkIssue->isChecked();
     const QString issue = issueAsked ? txtIssue->text().trimmed() : QString();
     StoreEntryOptions(issueAsked, issue, TheRun.UseReversed, TheRun.AllowDuplicateCards);
-    LastAllowDuplicateCards = chkAllowDuplicateCards->isChecked();
+    TheRun.LastAllowDuplicateCards = chkAllowDuplicateCards->isChecked();
 
     EntryScreen& entry = Entry();
     entry.TakeIssue(issue);

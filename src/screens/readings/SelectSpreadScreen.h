@@ -29,10 +29,6 @@ public:
     QLabel* lblIssue = nullptr;
     QLineEdit* txtIssue = nullptr;  // never shown here; its text goes to the entry
 
-    // The duplicates box from one selection to the next, for readings and
-    // diary entries alike, within a run of the program.
-    static bool LastAllowDuplicateCards;
-
     void lstSpreads_Click();
     void lstDecks_Click();
     void ShowDeckOptions();

@@ -14,8 +14,6 @@
 #include "screens/platform/Events.h"
 #include "screens/widgets/ClickLabel.h"
 
-bool frmReadingCards::StopShuffleFlag = false;
-
 namespace {
 
 // Twips of the table's inner area.

@@ -23,8 +23,9 @@ public:
 
     frmReadingCards();
 
-    // One flag for every run of the animation, nested ones included.
-    static bool StopShuffleFlag;
+    // One flag for every run of the animation on this screen, nested ones
+    // included.
+    bool StopShuffleFlag = false;
 
     QColor CardBackColor;
     // The face-down cards; position 0 is the template and never shows.

@@ -128,7 +128,7 @@ void frmDesignExists::cmdOK_Click() {
                vbInformation);
         return;
     }
-    NewDesignName = name.trimmed();
+    TheRun.DesignExistsNewName = name.trimmed();
     Choose(DesignExistsRename);
 }
 

@@ -18,9 +18,6 @@ public:
 
     int Design = DesignDeck;  // the kind of design
     QString Title;            // the design's name
-    // After a rename: the new name, at most 30 characters. It outlives the
-    // screen, which unloads as it answers, so the installer can read it.
-    static inline QString NewDesignName;
     // The installer's test whether a new name is taken, given the name padded
     // to 30 characters. Without one every name is free.
     std::function<bool(int design, const QString& padded)> NameInUse;
