@@ -1,14 +1,11 @@
 // The language the program speaks: the first of the user's languages that it
 // has, as the system lists them, with Qt's own texts in the same language; and
 // what it writes, the same bytes whatever the language. Every screen in every
-// language. Nothing the program shows escapes
-// translation: every screen, opened under the pseudo-translation (each letter
-// of a translated text accented), shows no plain letter but in the user's
-// data, file names and accelerators; and neither do the message boxes a
-// screen gives on the way. In each of the program's languages every screen
-// shows its texts whole: captions, labels, buttons, check boxes, options and
-// tabs each fit their control, the screens keeping the sizes they have in
-// English.
+// language: under the pseudo-translation (each letter of a translated text
+// accented) none shows a plain letter but in the user's data, file names and
+// accelerators, nor do the message boxes it gives on the way; in each of the
+// program's languages every text fits its control, the screens keeping the
+// sizes they have in English.
 #include <QAbstractItemView>
 #include <QGroupBox>
 #include <QRegularExpression>
@@ -168,7 +165,7 @@ class TestLanguages : public QObject {
 
 private slots:
     void initTestCase() {
-        // The frame and the main screen are made in the language too.
+        // The frame is made in the pseudo-translation too.
         QCOMPARE(UseLanguages({QStringLiteral("pseudo")}), QStringLiteral("pseudo"));
         MsgBoxScript::Enable();
         MediaPlayerScript::Enable();

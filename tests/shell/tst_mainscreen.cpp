@@ -1,12 +1,9 @@
-// The frame and the main screen: the manual as the user meets it (laid beside
-// the program as the build lays it, Cartomar.hlp with its pictures in
-// Help/images, opened by the Help button in the program's help viewer, every
-// picture loading and every link of its contents leading somewhere), Esc
-// doing nothing, the pressed look, a missing manual, the quick help panels,
-// placing screens in the frame (the centring rule and its variants, at and
-// around their thresholds), fitting pictures into image boxes (each case,
-// centring, the default picture for a missing or broken file), and the exit
-// question as the only way out.
+// The frame and the main screen: the manual laid beside the program as the
+// build lays it and opened by Help, every picture loading and every link
+// leading somewhere; Esc doing nothing, the pressed look, a missing manual,
+// the quick help panels; screens placed in the frame at and around their
+// thresholds; pictures fitted into image boxes; and the exit question as the
+// only way out.
 #include <QDir>
 #include <QRegularExpression>
 #include <QTextBlock>

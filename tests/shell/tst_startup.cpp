@@ -1,11 +1,9 @@
 // Start-up on a program folder: the files and folders a first and a second
-// start make, Temp/ emptied, the default picture rewritten, the
-// old-database test with its two outcomes, the offer to install designs, and
-// the ways the process ends. Which folder a run works on: the executable's
-// own when it can take files, else the user's own copy, filled once from the
-// installed folder and never over the user's files; and a run started on a
-// package file, which opens the installer on it instead of offering to
-// install designs.
+// start make, Temp/ emptied, the default picture rewritten, the old-database
+// test, the offer to install designs, and the ways the process ends; which
+// folder a run works on (the executable's own when it can take files, else
+// the user's own copy, filled from the installed folder and never over the
+// user's files); and a start on a package file, which opens the installer.
 #include <sys/wait.h>
 #include <unistd.h>
 #include <QDir>

@@ -1,11 +1,8 @@
-// The spread screens. A spread laid out on the designer from start to end and
-// opened again unchanged to the byte; the details' dirty rules and the closing question;
-// bad input on every box; and the canvas: the
-// grid and snapping arithmetic to the twip, the limits of adding and removing
-// locations, the keys of a rectangle, and what opening the notes or a
-// location's attributes changes. The spread list, the viewer and the deck
-// chooser, and spreads whose location file holds what does not belong to
-// them.
+// The spread screens: a spread laid out on the designer from start to end and
+// opened again unchanged to the byte; the details' dirty rules and the
+// closing question; bad input on every box; the canvas's grid and snapping to
+// the twip, its limits, the keys of a rectangle and what opening the notes or
+// a location's attributes changes; the list, the viewer and the deck chooser.
 #include "SpreadTestKit.h"
 #include "core/platform/OleDate.h"
 #include "core/spreads/SpreadBackground.h"
