@@ -87,16 +87,11 @@ Opener After(const Steps& steps = [] {}) {
 // The first deck or spread on its list (chosen as the list opens), then a
 // button of the list; then, as the case may be, a page of the screen it led
 // to, the first card or location taken up.
-inline Steps OnDecks(void (frmDecks::*button)()) {
+template <class T>
+Steps On(void (T::*button)()) {
     return [button] {
-        Get<frmDecks>().Show();
-        (Get<frmDecks>().*button)();
-    };
-}
-inline Steps OnSpreads(void (frmSpreads::*button)()) {
-    return [button] {
-        Get<frmSpreads>().Show();
-        (Get<frmSpreads>().*button)();
+        Get<T>().Show();
+        (Get<T>().*button)();
     };
 }
 template <class T>
@@ -127,10 +122,11 @@ inline const Steps Dealing = [] {
     for (QPushButton* button : {reading.cmdContinue, reading.cmdAllCards, reading.cmdDeal}) button->click();
 };
 inline const Steps Keeping = [] { DiaryFixtures::NewDiary().cmdContinue->click(); };
-inline Steps Interpreting(const Steps& steps) {
+template <class T = frmNewReading>
+Steps Interpreting(const Steps& steps) {
     return [steps] {
         steps();
-        Get<frmNewReading>().cmdInterpret->click();
+        Get<T>().cmdInterpret->click();
     };
 }
 
@@ -155,95 +151,72 @@ inline void OfferDecks() {
     TheRun.DecksOnOffer = &offered;
 }
 
-// The picture import over the deck designer, the sample's card pictures
-// proposed, which runs modally.
-inline void ImportPictures(const Look& look) {
-    OnDecks (&frmDecks::cmdEdit_Click)();
-    ModalScript script;
-    script.On<frmImportPictures>([look](frmImportPictures& screen) {
-        look(screen);
-        screen.cmdCancel->click();
-    });
-    Get<frmImportPictures>().ShowFolder(TheRun.Paths.CardsDir);
+// T, which runs modally, opened by `open` after the steps: looked at inside
+// its own run, then cancelled.
+template <class T>
+Opener Modal(const Steps& steps, const Steps& open) {
+    return [steps, open](const Look& look) {
+        steps();
+        ModalScript script;
+        script.On<T>([look](T& screen) {
+            look(screen);
+            screen.cmdCancel->click();
+        });
+        open();
+    };
 }
 
-// The card choice of the diary's first location, which runs modally.
-inline void DiaryCards(const Look& look) {
-    Keeping();
-    ModalScript script;
-    script.On<frmDiaryCards>([look](frmDiaryCards& cards) {
-        look(cards);
-        cards.cmdCancel->click();
-    });
-    Get<frmNewDiary>().cmdCardTitle(1)->click();
+// A row for each of the screens T, named by its class, shown after the same
+// steps.
+template <class... T>
+QList<Screen> Rows(const Steps& steps = [] {}) {
+    return {Screen{T::staticMetaObject.className(), After<T>(steps)}...};
 }
 
 inline QList<Screen> Every() {
-    const Steps edit = OnDecks(&frmDecks::cmdEdit_Click), view = OnDecks(&frmDecks::cmdInfo_Click);
-    const Steps design = OnSpreads(&frmSpreads::cmdEdit_Click), info = OnSpreads(&frmSpreads::cmdInfo_Click);
-    return {
-        {"frmMainScreen", After<frmMainScreen>()},
-        {"frmQuickHelp", After<frmQuickHelp>()},
-        {"frmDiaryHelp", After<frmDiaryHelp>()},
-        {"frmHelpViewer", After<frmHelpViewer>()},
-        {"frmConvert", After<frmConvert>()},
-        {"frmDesignExists", After<frmDesignExists>()},
-        {"frmGetPassword", After<frmGetPassword>()},
-        {"frmSetPassword", After<frmSetPassword>()},
-        {"frmDecks", After<frmDecks>()},
-        {"frmDesignDeck", After<frmDesignDeck>(edit)},
-        {"frmDeckInfo", After<frmDeckInfo>(view)},
-        {"frmAddCard", After<frmAddCard>(FirstCard(edit))},
-        {"frmViewCard", After<frmViewCard>(FirstCard(view))},
-        {"frmDeckCardProperties", After<frmDeckCardProperties>(edit)},
-        {"frmDeckCardPropertiesInfo", After<frmDeckCardPropertiesInfo>(view)},
-        {"frmDeckComments", After<frmDeckComments>(edit)},
-        {"frmDeckCommentsInfo", After<frmDeckCommentsInfo>(view)},
-        {"frmGetImageFile", After<frmGetImageFile>(FirstCard(edit))},
-        {"frmGetSoundFile", After<frmGetSoundFile>(FirstCard(edit))},
-        {"frmImportPictures", ImportPictures},
-        {"frmSaveDeck", After<frmSaveDeck>(edit)},
-        {"frmBrowseDeck", After<frmBrowseDeck>()},
-        {"frmSpreads", After<frmSpreads>()},
+    const Steps edit = On(&frmDecks::cmdEdit_Click), view = On(&frmDecks::cmdInfo_Click);
+    const Steps design = On(&frmSpreads::cmdEdit_Click), info = On(&frmSpreads::cmdInfo_Click);
+    QList<Screen> every = {
+        // The picture import over the deck designer, the sample's pictures
+        // proposed; the card choice of the diary's first location.
+        {"frmImportPictures",
+         Modal<frmImportPictures>(edit, [] { Get<frmImportPictures>().ShowFolder(TheRun.Paths.CardsDir); })},
+        {"frmDiaryCards", Modal<frmDiaryCards>(Keeping, [] { Get<frmNewDiary>().cmdCardTitle(1)->click(); })},
         {"frmDesignSpread details", After<frmDesignSpread>(design)},
         {"frmDesignSpread layout", After<frmDesignSpread>(Page(design, &frmDesignSpread::cmdSpread_Click))},
         {"frmDesignSpread decks", After<frmDesignSpread>(Page(design, &frmDesignSpread::cmdDecks_Click))},
         {"frmSpreadInfo details", After<frmSpreadInfo>(info)},
         {"frmSpreadInfo layout", After<frmSpreadInfo>(Page(info, &frmSpreadInfo::cmdSpread_Click))},
         {"frmSpreadInfo decks", After<frmSpreadInfo>(Page(info, &frmSpreadInfo::cmdDecks_Click))},
-        {"frmDeckChooser managing", After<frmDeckChooser>(OnSpreads(&frmSpreads::cmdManager_Click))},
+        {"frmDeckChooser managing", After<frmDeckChooser>(On(&frmSpreads::cmdManager_Click))},
         {"frmDeckChooser installing", After<frmDeckChooser>(OfferDecks)},
-        {"frmSpreadComments", After<frmSpreadComments>(design)},
-        {"frmLocationAttributes", After<frmLocationAttributes>(FirstLocation(design))},
-        {"frmSpreadInfo_LocationAttributes", After<frmSpreadInfo_LocationAttributes>(FirstLocation(info))},
-        {"frmSaveSpread", After<frmSaveSpread>(design)},
-        {"frmGetSpreadBackground", After<frmGetSpreadBackground>(design)},
-        {"frmCreatePackage", After<frmCreatePackage>()},
         {"frmCreatePackageSummary", After<frmCreatePackageSummary>(Counted<frmCreatePackageSummary>(true))},
-        {"frmInstallPackage", After<frmInstallPackage>()},
-        {"frmPackageInfo", After<frmPackageInfo>()},
         {"frmPackageSummary", After<frmPackageSummary>(Counted<frmPackageSummary>(false))},
-        {"frmSelectSpread", After<frmSelectSpread>()},
-        {"frmNewReading", After<frmNewReading>(NewReading)},
-        {"frmReadingCards", After<frmReadingCards>(NewReading)},
         {"frmNewReading dealing", After<frmNewReading>(Dealing)},
-        {"frmReadingInterpretLocation", After<frmReadingInterpretLocation>(Interpreting(Dealing))},
-        {"frmReadingNotes", After<frmReadingNotes>(NewReading)},
-        {"frmSaveReading", After<frmSaveReading>(NewReading)},
-        {"frmOpenReading", After<frmOpenReading>()},
-        {"frmSelectSpreadforDiary", After<frmSelectSpreadforDiary>()},
-        {"frmNewDiary", After<frmNewDiary>(NewDiary)},
-        {"frmDiaryCards", DiaryCards},
         {"frmNewDiary keeping", After<frmNewDiary>(Keeping)},
-        {"frmDiaryInterpretLocation", After<frmDiaryInterpretLocation>([] {
-             Keeping();
-             Get<frmNewDiary>().cmdInterpret->click();
-         })},
-        {"frmDiaryNotes", After<frmDiaryNotes>(NewDiary)},
-        {"frmSaveDiary", After<frmSaveDiary>(NewDiary)},
-        {"frmOpenDiary", After<frmOpenDiary>()},
-        {"frmJournal", After<frmJournal>()},
+        {"frmDiaryInterpretLocation", After<frmDiaryInterpretLocation>(Interpreting<frmNewDiary>(Keeping))},
     };
+    return every << Rows<frmMainScreen, frmQuickHelp, frmDiaryHelp, frmHelpViewer, frmConvert, frmDesignExists,
+                         frmGetPassword, frmSetPassword, frmDecks, frmBrowseDeck, frmSpreads, frmCreatePackage,
+                         frmInstallPackage, frmPackageInfo, frmSelectSpread, frmOpenReading, frmSelectSpreadforDiary,
+                         frmOpenDiary, frmJournal>()
+                 << Rows<frmDesignDeck, frmDeckCardProperties, frmDeckComments, frmSaveDeck>(edit)
+                 << Rows<frmDeckInfo, frmDeckCardPropertiesInfo, frmDeckCommentsInfo>(view)
+                 << Rows<frmAddCard, frmGetImageFile, frmGetSoundFile>(FirstCard(edit))
+                 << Rows<frmViewCard>(FirstCard(view))
+                 << Rows<frmSpreadComments, frmSaveSpread, frmGetSpreadBackground>(design)
+                 << Rows<frmLocationAttributes>(FirstLocation(design))
+                 << Rows<frmSpreadInfo_LocationAttributes>(FirstLocation(info))
+                 << Rows<frmNewReading, frmReadingCards, frmReadingNotes, frmSaveReading>(NewReading)
+                 << Rows<frmNewDiary, frmDiaryNotes, frmSaveDiary>(NewDiary)
+                 << Rows<frmReadingInterpretLocation>(Interpreting(Dealing));
+}
+
+// The rows of a test over every screen, one for each, by its name.
+inline void AddRows() {
+    QTest::addColumn<int>("row");
+    const QList<Screen> screens = Every();
+    for (int row = 0; row < screens.size(); ++row) QTest::newRow(screens[row].Name) << row;
 }
 
 // Takes down every screen but the frame, asking nothing, so that the next

@@ -1,9 +1,7 @@
 // Printing a reading and a diary entry on a recording printer, and through
-// Qt's printer into a PDF file read back with poppler.
+// Qt's printer into a PDF file.
 #include <QPainter>
-#include <QProcess>
 #include <QRegularExpression>
-#include <QStandardPaths>
 
 #include "core/platform/OleDate.h"
 #include "core/platform/Picture.h"
@@ -91,31 +89,6 @@ QList<int> CheckLocations(const QList<PrinterCall>& page, int canvasHeight) {
     return drawn;
 }
 
-QString Tool(const QString& name) { return QStandardPaths::findExecutable(name); }
-
-QString Run(const QString& program, const QStringList& args) {
-    QProcess process;
-    process.start(program, args);
-    process.waitForFinished(60000);
-    return QString::fromUtf8(process.readAllStandardOutput());
-}
-
-int PdfPages(const QString& pdf) {
-    const QString info = Run(Tool(QStringLiteral("pdfinfo")), {pdf});
-    return QRegularExpression(QStringLiteral("Pages:\\s+(\\d+)")).match(info).captured(1).toInt();
-}
-
-// Each text found after the one before it.
-bool InOrder(const QString& text, const QStringList& parts) {
-    qsizetype at = 0;
-    for (const QString& part : parts) {
-        at = text.indexOf(part, at);
-        if (at < 0) return false;
-        at += part.size();
-    }
-    return true;
-}
-
 }  // namespace
 
 class TestPrintEntry : public QObject, ScreenRun {
@@ -164,11 +137,6 @@ class TestPrintEntry : public QObject, ScreenRun {
         reading.cmdContinue->click();
         if (dealt) reading.cmdAllCards->click();
         return reading;
-    }
-
-    QString OutputDir() const {
-        const QString kept = qEnvironmentVariable("CARTOMAR_PRINTOUT_DIR");
-        return kept.isEmpty() ? RunDir() : kept;
     }
 
 private slots:
@@ -302,24 +270,18 @@ private slots:
         QCOMPARE(MsgBoxScript::History()[1].style, int(vbCritical));
     }
 
+    // The one print through Qt's printer: the reading's five pages reach a
+    // PDF file.
     void aReadingPrintsToAPdfFile() {
-        if (Tool(QStringLiteral("pdftotext")).isEmpty() || Tool(QStringLiteral("pdfinfo")).isEmpty())
-            QSKIP("poppler-utils (pdftotext, pdfinfo) is not installed");
-        const QString readingPdf = OutputDir() + QStringLiteral("/reading.pdf");
-        QFile::remove(readingPdf);
-
+        const QString pdf = RunDir() + QStringLiteral("/reading.pdf");
         frmNewReading& reading = Reading();
-        TheRun.CurrentReading.ReadingNotes =
-            QStringLiteral("The weather turns by the end of the week.\nTake an umbrella.");
-        PrinterDialogScript::PrintToPdf(readingPdf);
+        TheRun.CurrentReading.ReadingNotes = QStringLiteral("Take an umbrella.");
+        PrinterDialogScript::PrintToPdf(pdf);
         reading.cmdPrint->click();
         QVERIFY(MsgBoxScript::History().isEmpty());
-        QCOMPARE(PdfPages(readingPdf), 5);
-        const QString readingText =
-            Run(Tool(QStringLiteral("pdftotext")), {QStringLiteral("-layout"), readingPdf, QStringLiteral("-")});
-        QVERIFY2(InOrder(readingText, {"Page 1", "Cartomar", "Iris Vane", "Page 2", "Summary", "umbrella", "Page 3",
-                                       "Location: Position 1", "Card: ", "Location: Position 10", "Card: "}),
-                 qPrintable(readingText));
+        const QString bytes = QString::fromLatin1(ReadWholeFile(pdf));
+        QVERIFY(bytes.startsWith(QLatin1String("%PDF-")));
+        QCOMPARE(bytes.count(QRegularExpression(QStringLiteral("/Type\\s*/Page\\b"))), 5);
     }
 };
 

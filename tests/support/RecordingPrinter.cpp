@@ -4,10 +4,7 @@ RecordingPrinter::RecordingPrinter(int width, int height, int charWidth, int lin
     : width_(width), height_(height), charWidth_(charWidth), lineHeight_(lineHeight) {}
 
 int RecordingPrinter::TextWidth(const QString& text) const {
-    int count = 0;
-    for (QChar c : text)
-        if (c != QLatin1Char('\r') && c != QLatin1Char('\n')) ++count;
-    return count * charWidth_;
+    return static_cast<int>(text.size() - text.count(QLatin1Char('\r')) - text.count(QLatin1Char('\n'))) * charWidth_;
 }
 
 void RecordingPrinter::Record(const QString& op, const QString& text, int x, int y, int w, int h) {
@@ -16,8 +13,7 @@ void RecordingPrinter::Record(const QString& op, const QString& text, int x, int
 
 void RecordingPrinter::DrawText(const QString& text) { Record(QStringLiteral("Print"), text, CurrentX, CurrentY); }
 
-void RecordingPrinter::PaintPicture(const QImage& picture, int x, int y, int width, int height) {
-    (void)picture;
+void RecordingPrinter::PaintPicture(const QImage&, int x, int y, int width, int height) {
     Record(QStringLiteral("PaintPicture"), QString(), x, y, width, height);
 }
 
@@ -31,8 +27,7 @@ void RecordingPrinter::FillRect(int x, int y, int width, int height, int colour)
     Calls.last().Colour = colour;
 }
 
-void RecordingPrinter::PrintInBox(const QString& text, int x, int y, int width, int height, int flags) {
-    (void)flags;
+void RecordingPrinter::PrintInBox(const QString& text, int x, int y, int width, int height, int) {
     Record(QStringLiteral("PrintInBox"), text, x, y, width, height);
 }
 
