@@ -37,16 +37,14 @@ private slots:
         QTest::addColumn<QString>("stored");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<PasswordJudgement>("judgement");
-        QTest::newRow("trailing spaces don't count") << "Secret  "
-                                                     << "Secret " << PasswordJudgement::Right;
-        QTest::newRow("case counts") << "Secret"
-                                     << "secret" << PasswordJudgement::Wrong;
-        QTest::newRow("nothing typed") << "Secret"
-                                       << "" << PasswordJudgement::NothingTyped;
-        QTest::newRow("only spaces typed") << "Secret"
-                                           << "   " << PasswordJudgement::NothingTyped;
-        QTest::newRow("nothing typed, even for a blank password") << ""
-                                                                  << "" << PasswordJudgement::NothingTyped;
+        const auto row = [](const char* name, const char* stored, const char* typed, PasswordJudgement judgement) {
+            QTest::newRow(name) << QString::fromLatin1(stored) << QString::fromLatin1(typed) << judgement;
+        };
+        row("trailing spaces don't count", "Secret  ", "Secret ", PasswordJudgement::Right);
+        row("case counts", "Secret", "secret", PasswordJudgement::Wrong);
+        row("nothing typed", "Secret", "", PasswordJudgement::NothingTyped);
+        row("only spaces typed", "Secret", "   ", PasswordJudgement::NothingTyped);
+        row("nothing typed, even for a blank password", "", "", PasswordJudgement::NothingTyped);
     }
 
     void judgePassword() {
@@ -121,11 +119,10 @@ private slots:
         Get<frmDesignExists>().Ask(DesignSpread, QStringLiteral("A Very Long Spread Name Indeed"));
         QVERIFY(script.Done());
         QCOMPARE(offered, QStringList({QStringLiteral("A Very Long Spread Name (Copy)")}));
-        const auto& h = MsgBoxScript::History();
-        QCOMPARE(h.size(), 2);
-        QCOMPARE(h[0].prompt, QStringLiteral("You must enter a design name."));
-        QCOMPARE(h[1].prompt, QStringLiteral("You already have a design with this name. Please enter a change the "
-                                             "name or click 'Cancel' to return to the previous page."));
+        QCOMPARE(Prompts(), (QStringList{QStringLiteral("You must enter a design name."),
+                                         QStringLiteral("You already have a design with this name. Please enter a "
+                                                        "change the name or click 'Cancel' to return to the "
+                                                        "previous page.")}));
         QCOMPARE(TheRun.DesignExistsChoice, 1);
         QCOMPARE(frmDesignExists::NewDesignName, QStringLiteral("Celtic Cross Mine"));
     }
