@@ -123,7 +123,6 @@ class TestConversion : public QObject {
 
 private slots:
     void init() {
-        QVERIFY(dir_.isValid());
         for (const QString& name : QDir(dir_.path()).entryList(QDir::Files)) QFile::remove(dir_.filePath(name));
         Fixtures::UseProgramDir(dir_.path());
         Kill(TheRun.Paths.LocationsPath);
