@@ -1,9 +1,12 @@
 // Loading a deck into memory, what a vanished picture does to it, card types,
 // and the names of picture files in Cards/.
+#include <QTemporaryDir>
+#include <QtTest>
 #include "core/store/DeckLoading.h"
+
+#include "core/platform/FileSys.h"
 #include "core/store/Lookups.h"
-#include "screens/decks/DeckLoadQuestion.h"
-#include "support/ScreenTest.h"
+#include "support/Fixtures.h"
 
 namespace {
 
@@ -33,12 +36,9 @@ private:
     std::unique_ptr<QTemporaryDir> dir_;
 
 private slots:
-    void initTestCase() { MsgBoxScript::Enable(); }
-
     void init() {
         dir_ = std::make_unique<QTemporaryDir>();
         Fixtures::UseProgramDir(dir_->path());
-        MsgBoxScript::Clear();
     }
 
     void missingPictureBlanksTheCardThenTheDeckFails() {
@@ -65,29 +65,6 @@ private slots:
 
         // The next load finds only four cards.
         QVERIFY(!LoadDeckCards());
-    }
-
-    // The screens' question about a deck that lost cards: No keeps it, Yes
-    // removes it (what goes with it is DeleteDeck's, checked with the delete
-    // passes).
-    void aDeckThatLostCardsIsOfferedForRemoval() {
-        const Integer id = Fixtures::MakeDeck(QStringLiteral("Tarot"), 2, false);
-        bool removed = true;
-        SelectDeck(QStringLiteral("Tarot"));
-        QVERIFY(LoadDeck(removed));  // a whole deck loads without a word
-        QVERIFY(!removed && Prompts().isEmpty());
-
-        TheRun.ListDeck.CardCount = 3;
-        MsgBoxScript::Answer(vbNo);
-        QVERIFY(!LoadDeck(removed) && !removed);
-        QCOMPARE(Prompts(), QStringList{QStringLiteral("This deck is missing some pictures. Cannot continue loading.\n"
-                                                       "Do you want to remove it?")});
-        QCOMPARE(FindDeckRecordById(id), 1);
-
-        MsgBoxScript::Answer(vbYes);
-        QVERIFY(!LoadDeck(removed) && removed);
-        QCOMPARE(MsgBoxScript::Unanswered(), 0);
-        QCOMPARE(FindDeckRecordById(id), -1);
     }
 
     void cardCountDecidesHowManyCardsLoad() {

@@ -1,6 +1,7 @@
 // The record store: counts, lookups by name and id, free ids, the delete
 // passes with the files they take along, locations, every write of a spread,
-// and the tests of whether a spread or deck can be dealt.
+// the tests of whether a spread or deck can be dealt, and what a typed
+// password opens.
 #include <QTemporaryDir>
 #include <QtTest>
 #include <algorithm>
@@ -13,9 +14,12 @@
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
+#include "core/store/Passwords.h"
 #include "core/store/RunState.h"
 #include "core/store/Usability.h"
 #include "support/Fixtures.h"
+
+Q_DECLARE_METATYPE(PasswordJudgement)
 
 namespace {
 
@@ -348,6 +352,26 @@ private slots:
 
         DeleteSpreadLocations(5);
         QCOMPARE(LocationKeys(), QStringList{QStringLiteral("8:1:eight-one")});
+    }
+
+    void judgePassword_data() {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<PasswordJudgement>("judgement");
+        const auto row = [](const char* name, const char* stored, const char* typed, PasswordJudgement judgement) {
+            QTest::newRow(name) << QString::fromLatin1(stored) << QString::fromLatin1(typed) << judgement;
+        };
+        row("trailing spaces don't count", "Secret  ", "Secret ", PasswordJudgement::Right);
+        row("case counts", "Secret", "secret", PasswordJudgement::Wrong);
+        row("nothing typed", "Secret", "", PasswordJudgement::NothingTyped);
+        row("only spaces typed", "Secret", "   ", PasswordJudgement::NothingTyped);
+        row("nothing typed, even for a blank password", "", "", PasswordJudgement::NothingTyped);
+    }
+
+    void judgePassword() {
+        QFETCH(QString, stored);
+        QFETCH(QString, typed);
+        QTEST(JudgePassword(stored, typed), "judgement");
     }
 
     void usabilityOfDecksAndSpreads() {
