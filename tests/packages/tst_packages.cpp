@@ -55,6 +55,16 @@ QByteArray Int16s(std::initializer_list<int> values) {
     return bytes;
 }
 
+// The named designs staged in Temp/ as the creation screen stages them.
+void Stage(const QStringList& decks, const QStringList& spreads) {
+    PackageStaging staging;
+    staging.DeckNames = decks;
+    staging.SpreadNames = spreads;
+    staging.StageDecks();
+    staging.StageCards();
+    staging.StageSpreads();
+}
+
 // Designs staged in `from` as the creation screen stages them, laid in Temp/
 // of `to` (which holds a deck and a spread "Mine") as an extraction leaves
 // them: decks "Tarot" (two cards, reversed sides, sounds), "Lenormand" (one
@@ -71,12 +81,8 @@ void StagePackage(const QString& from, const QString& to) {
     ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1,
                                [](SpreadRecord& s) { s.BackgroundFile = QStringLiteral("S000001.bmp"); });
     Fixtures::WritePicture(TheRun.Paths.CardsDir + QStringLiteral("S000001.bmp"));
-    PackageStaging staging;
-    staging.DeckNames = {QStringLiteral("Tarot"), QStringLiteral("Lenormand"), QStringLiteral("Empty")};
-    staging.SpreadNames = {QStringLiteral("Cross"), QStringLiteral("Line")};
-    staging.StageDecks();
-    staging.StageCards();
-    staging.StageSpreads();
+    Stage({QStringLiteral("Tarot"), QStringLiteral("Lenormand"), QStringLiteral("Empty")},
+          {QStringLiteral("Cross"), QStringLiteral("Line")});
     const QString staged = TheRun.Paths.TempDir;
     FreshRun(to);
     Fixtures::MakeDeck(QStringLiteral("Mine"), 1, false);
@@ -391,12 +397,7 @@ private slots:
                     packed.Decks.contains(deck))
                     ties << deck;
         }
-        PackageStaging staging;
-        staging.DeckNames = packed.Decks;
-        staging.SpreadNames = packed.Spreads;
-        staging.StageDecks();
-        staging.StageCards();
-        staging.StageSpreads();
+        Stage(packed.Decks, packed.Spreads);
         const QString package = a.path() + QStringLiteral("/p.pck");
         QVERIFY(CreatePackageFile(TheRun.Paths.TempDir, package));
 

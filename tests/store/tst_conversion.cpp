@@ -83,6 +83,7 @@ QByteArray Spaces(int n) { return QByteArray(n, ' '); }
 
 struct OldDatabase {
     QByteArray decks, cards, spreads, readings, diary;
+    QList<QByteArray> InFileOrder() const { return {decks, spreads, cards, readings, diary}; }  // as RecordFiles()
 };
 
 // Two decks, three cards (and a partial fourth), two spreads of 3 and 15
@@ -123,7 +124,6 @@ class TestConversion : public QObject {
 
 private slots:
     void init() {
-        QVERIFY(dir_.isValid());
         for (const QString& name : QDir(dir_.path()).entryList(QDir::Files)) QFile::remove(dir_.filePath(name));
         Fixtures::UseProgramDir(dir_.path());
         Kill(TheRun.Paths.LocationsPath);
@@ -136,8 +136,7 @@ private slots:
         WriteWholeFile(TheRun.Paths.LocationsPath, QByteArray(1100, 'X'));  // a stray locations file goes first
         ConvertDatabase();
 
-        const QList<QByteArray> olds = {db.decks, db.spreads, db.cards, db.readings, db.diary};
-        for (int i = 0; i < olds.size(); ++i) QCOMPARE(ReadWholeFile(RecordFiles()[i] + ".bkp"), olds[i]);
+        for (int i = 0; i < 5; ++i) QCOMPARE(ReadWholeFile(RecordFiles()[i] + ".bkp"), db.InFileOrder()[i]);
         QCOMPARE(ReadWholeFile(TheRun.Paths.ReadingsPath), db.readings);
         QCOMPARE(ReadWholeFile(TheRun.Paths.DiaryPath), db.diary);
 
@@ -197,9 +196,8 @@ private slots:
         QVERIFY(!RunConversionScreen());
         QVERIFY(script.Done());
 
-        const QList<QByteArray> olds = {db.decks, db.spreads, db.cards, db.readings, db.diary};
-        for (int i = 0; i < olds.size(); ++i) {
-            QCOMPARE(ReadWholeFile(RecordFiles()[i]), olds[i]);
+        for (int i = 0; i < 5; ++i) {
+            QCOMPARE(ReadWholeFile(RecordFiles()[i]), db.InFileOrder()[i]);
             QVERIFY(!FileExists(RecordFiles()[i] + ".bkp"));
         }
         QVERIFY(!FileExists(TheRun.Paths.LocationsPath));
@@ -211,8 +209,8 @@ private slots:
         Get<frmConvert>().Show();
         frmConvert* screen = ScreenSlot<frmConvert>();
         QTest::mouseClick(screen->cmdConvert, Qt::LeftButton);
-        QCOMPARE(MsgBoxScript::History().size(), 1);
-        QVERIFY(MsgBoxScript::History()[0].prompt.startsWith("Run-time error '53'"));
+        QCOMPARE(Prompts().size(), 1);
+        QVERIFY(Prompts()[0].startsWith("Run-time error '53'"));
         QVERIFY(IsLoaded<frmConvert>());
         QVERIFY(!screen->cmdConvert->isEnabled());
         QCOMPARE(ReadWholeFile(TheRun.Paths.DecksPath), db.decks);

@@ -1,9 +1,12 @@
 // Loading a deck into memory, what a vanished picture does to it, card types,
 // and the names of picture files in Cards/.
+#include <QTemporaryDir>
+#include <QtTest>
 #include "core/store/DeckLoading.h"
+
+#include "core/platform/FileSys.h"
 #include "core/store/Lookups.h"
-#include "screens/decks/DeckLoadQuestion.h"
-#include "support/ScreenTest.h"
+#include "support/Fixtures.h"
 
 namespace {
 
@@ -33,13 +36,9 @@ private:
     std::unique_ptr<QTemporaryDir> dir_;
 
 private slots:
-    void initTestCase() { MsgBoxScript::Enable(); }
-
     void init() {
         dir_ = std::make_unique<QTemporaryDir>();
-        QVERIFY(dir_->isValid());
         Fixtures::UseProgramDir(dir_->path());
-        MsgBoxScript::Clear();
     }
 
     void missingPictureBlanksTheCardThenTheDeckFails() {
@@ -66,31 +65,6 @@ private slots:
 
         // The next load finds only four cards.
         QVERIFY(!LoadDeckCards());
-    }
-
-    // The screens' question about a deck that lost cards: No keeps it, Yes
-    // removes it (what goes with it is DeleteDeck's, checked with the delete
-    // passes).
-    void aDeckThatLostCardsIsOfferedForRemoval() {
-        const Integer id = Fixtures::MakeDeck(QStringLiteral("Tarot"), 2, false);
-        bool removed = true;
-        SelectDeck(QStringLiteral("Tarot"));
-        QVERIFY(LoadDeck(removed));  // a whole deck loads without a word
-        QVERIFY(!removed && Prompts().isEmpty());
-
-        TheRun.ListDeck.CardCount = 3;
-        MsgBoxScript::Answer(vbNo);
-        QVERIFY(!LoadDeck(removed));
-        QVERIFY(!removed);
-        QCOMPARE(Prompts(), QStringList{QStringLiteral("This deck is missing some pictures. Cannot continue loading.\n"
-                                                       "Do you want to remove it?")});
-        QCOMPARE(FindDeckRecordById(id), 1);
-
-        MsgBoxScript::Answer(vbYes);
-        QVERIFY(!LoadDeck(removed));
-        QVERIFY(removed);
-        QCOMPARE(MsgBoxScript::Unanswered(), 0);
-        QCOMPARE(FindDeckRecordById(id), -1);
     }
 
     void cardCountDecidesHowManyCardsLoad() {
@@ -141,22 +115,17 @@ private slots:
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("stem");
         QTest::addColumn<bool>("taken");
-        QTest::newRow("with an extension") << "CU00001.jpg"
-                                           << "CU00001" << true;
-        QTest::newRow("without one") << "S000003"
-                                     << "S000003" << true;
-        QTest::newRow("four letters that lost their dot") << "CU00001jpeg"
-                                                          << "CU00001" << true;
-        QTest::newRow("in other letters") << "cu00001.BMP"
-                                          << "CU00001" << true;
-        QTest::newRow("after two dots") << "S000001.tar.gz"
-                                        << "S000001" << true;
-        QTest::newRow("a longer number") << "CU000012.jpg"
-                                         << "CU00001" << false;
-        QTest::newRow("the stem's sound") << "CU00001M.WAV"
-                                          << "CU00001" << false;
-        QTest::newRow("the sound's own stem") << "CU00001M.WAV"
-                                              << "CU00001M" << true;
+        const auto row = [](const char* name, const char* file, const char* stem, bool taken) {
+            QTest::newRow(name) << QString::fromLatin1(file) << QString::fromLatin1(stem) << taken;
+        };
+        row("with an extension", "CU00001.jpg", "CU00001", true);
+        row("without one", "S000003", "S000003", true);
+        row("four letters that lost their dot", "CU00001jpeg", "CU00001", true);
+        row("in other letters", "cu00001.BMP", "CU00001", true);
+        row("after two dots", "S000001.tar.gz", "S000001", true);
+        row("a longer number", "CU000012.jpg", "CU00001", false);
+        row("the stem's sound", "CU00001M.WAV", "CU00001", false);
+        row("the sound's own stem", "CU00001M.WAV", "CU00001M", true);
     }
 
     void aFileTakesItsStem() {

@@ -1,15 +1,17 @@
-// Design passwords and the design-exists question: what the user types
-// decides access, cancelling stays silent, and the installer gets the answer;
-// text past the limits and text no record can hold.
-#include "core/store/Passwords.h"
+// The store's questions: design passwords, the design-exists question and
+// the offer to remove a deck that lost cards. What the user types decides
+// access, cancelling stays silent, and the installer gets the answer; text
+// past the limits and text no record can hold.
+#include <QTemporaryDir>
+
+#include "core/store/Lookups.h"
+#include "screens/decks/DeckLoadQuestion.h"
 #include "screens/store/PasswordPrompts.h"
 #include "screens/store/frmDesignExists.h"
 #include "screens/store/frmGetPassword.h"
 #include "screens/store/frmSetPassword.h"
 #include "support/BadInput.h"
 #include "support/ScreenTest.h"
-
-Q_DECLARE_METATYPE(PasswordJudgement)
 
 namespace {
 bool Check(const QString& stored, const QString& typed, bool cancel = false) {
@@ -31,28 +33,6 @@ private slots:
     void init() {
         MsgBoxScript::Enable();
         MsgBoxScript::Clear();
-    }
-
-    void judgePassword_data() {
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<PasswordJudgement>("judgement");
-        QTest::newRow("trailing spaces don't count") << "Secret  "
-                                                     << "Secret " << PasswordJudgement::Right;
-        QTest::newRow("case counts") << "Secret"
-                                     << "secret" << PasswordJudgement::Wrong;
-        QTest::newRow("nothing typed") << "Secret"
-                                       << "" << PasswordJudgement::NothingTyped;
-        QTest::newRow("only spaces typed") << "Secret"
-                                           << "   " << PasswordJudgement::NothingTyped;
-        QTest::newRow("nothing typed, even for a blank password") << ""
-                                                                  << "" << PasswordJudgement::NothingTyped;
-    }
-
-    void judgePassword() {
-        QFETCH(QString, stored);
-        QFETCH(QString, typed);
-        QTEST(JudgePassword(stored, typed), "judgement");
     }
 
     // The screen: Enter acts as OK, a wrong password is told, a cancel is not.
@@ -121,13 +101,37 @@ private slots:
         Get<frmDesignExists>().Ask(DesignSpread, QStringLiteral("A Very Long Spread Name Indeed"));
         QVERIFY(script.Done());
         QCOMPARE(offered, QStringList({QStringLiteral("A Very Long Spread Name (Copy)")}));
-        const auto& h = MsgBoxScript::History();
-        QCOMPARE(h.size(), 2);
-        QCOMPARE(h[0].prompt, QStringLiteral("You must enter a design name."));
-        QCOMPARE(h[1].prompt, QStringLiteral("You already have a design with this name. Please enter a change the "
-                                             "name or click 'Cancel' to return to the previous page."));
+        QCOMPARE(Prompts(), (QStringList{QStringLiteral("You must enter a design name."),
+                                         QStringLiteral("You already have a design with this name. Please enter a "
+                                                        "change the name or click 'Cancel' to return to the "
+                                                        "previous page.")}));
         QCOMPARE(TheRun.DesignExistsChoice, 1);
         QCOMPARE(TheRun.DesignExistsNewName, QStringLiteral("Celtic Cross Mine"));
+    }
+
+    // The screens' question about a deck that lost cards: No keeps it, Yes
+    // removes it (what goes with it is DeleteDeck's, checked with the delete
+    // passes).
+    void aDeckThatLostCardsIsOfferedForRemoval() {
+        QTemporaryDir dir;
+        Fixtures::UseProgramDir(dir.path());
+        const Integer id = Fixtures::MakeDeck(QStringLiteral("Tarot"), 2, false);
+        bool removed = true;
+        GetRecord(TheRun.Paths.DecksPath, 1, TheRun.ListDeck);
+        QVERIFY(LoadDeck(removed));  // a whole deck loads without a word
+        QVERIFY(!removed && Prompts().isEmpty());
+
+        TheRun.ListDeck.CardCount = 3;
+        MsgBoxScript::Answer(vbNo);
+        QVERIFY(!LoadDeck(removed) && !removed);
+        QCOMPARE(Prompts(), QStringList{QStringLiteral("This deck is missing some pictures. Cannot continue loading.\n"
+                                                       "Do you want to remove it?")});
+        QCOMPARE(FindDeckRecordById(id), 1);
+
+        MsgBoxScript::Answer(vbYes);
+        QVERIFY(!LoadDeck(removed) && removed);
+        QCOMPARE(MsgBoxScript::Unanswered(), 0);
+        QCOMPARE(FindDeckRecordById(id), -1);
     }
 
     // A password typed with characters no record can hold is kept as the

@@ -1,6 +1,7 @@
 // The record store: counts, lookups by name and id, free ids, the delete
 // passes with the files they take along, locations, every write of a spread,
-// and the tests of whether a spread or deck can be dealt.
+// the tests of whether a spread or deck can be dealt, and what a typed
+// password opens.
 #include <QTemporaryDir>
 #include <QtTest>
 #include <algorithm>
@@ -13,9 +14,12 @@
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
+#include "core/store/Passwords.h"
 #include "core/store/RunState.h"
 #include "core/store/Usability.h"
 #include "support/Fixtures.h"
+
+Q_DECLARE_METATYPE(PasswordJudgement)
 
 namespace {
 
@@ -62,7 +66,6 @@ QStringList LocationKeys() {
 
 bool InCards(const QString& name) { return FileExists(TheRun.Paths.CardsDir + name); }
 
-// Record n of a file of spreads, as bytes.
 QByteArray SpreadsAt(const QByteArray& file, int n) {
     return file.mid((n - 1) * SpreadRecord::Length, SpreadRecord::Length);
 }
@@ -78,7 +81,6 @@ private:
 private slots:
     void init() {
         dir_ = std::make_unique<QTemporaryDir>();
-        QVERIFY(dir_->isValid());
         Fixtures::UseProgramDir(dir_->path());
     }
 
@@ -324,10 +326,9 @@ private slots:
     }
 
     void spreadLocationsLoadByNumberAndSaveAtTheEnd() {
-        AppendRecord(TheRun.Paths.LocationsPath, Location(5, 2, QStringLiteral("five-two")));
-        AppendRecord(TheRun.Paths.LocationsPath, Location(8, 1, QStringLiteral("eight-one")));
-        AppendRecord(TheRun.Paths.LocationsPath, Location(5, 4, QStringLiteral("five-four")));
-        AppendRecord(TheRun.Paths.LocationsPath, Location(5, 1, QStringLiteral("five-one")));
+        for (const auto& [spread, number, title] :
+             {std::tuple{5, 2, "five-two"}, {8, 1, "eight-one"}, {5, 4, "five-four"}, {5, 1, "five-one"}})
+            AppendRecord(TheRun.Paths.LocationsPath, Location(spread, number, QLatin1String(title)));
 
         LoadSpreadLocations(5, 3);
         QCOMPARE(TheRun.SpreadLocations.LBound(), 1);
@@ -336,7 +337,6 @@ private slots:
         QCOMPARE(TheRun.SpreadLocations(2).LocationTitle.Trimmed(), QStringLiteral("five-two"));
         // Number 3 was not found: the element is all zero bytes, read as empty.
         QCOMPARE(EncodeRecord(TheRun.SpreadLocations(3)), QByteArray(LocationRecord::Length, '\0'));
-        QVERIFY(TheRun.SpreadLocations(3).LocationTitle.Trimmed().isEmpty());
 
         TheRun.SpreadLocations(3).LocationTitle = QStringLiteral("five-three");
         ReplaceSpreadLocations(5, 3);
@@ -354,24 +354,41 @@ private slots:
         QCOMPARE(LocationKeys(), QStringList{QStringLiteral("8:1:eight-one")});
     }
 
+    void judgePassword_data() {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<PasswordJudgement>("judgement");
+        const auto row = [](const char* name, const char* stored, const char* typed, PasswordJudgement judgement) {
+            QTest::newRow(name) << QString::fromLatin1(stored) << QString::fromLatin1(typed) << judgement;
+        };
+        row("trailing spaces don't count", "Secret  ", "Secret ", PasswordJudgement::Right);
+        row("case counts", "Secret", "secret", PasswordJudgement::Wrong);
+        row("nothing typed", "Secret", "", PasswordJudgement::NothingTyped);
+        row("only spaces typed", "Secret", "   ", PasswordJudgement::NothingTyped);
+        row("nothing typed, even for a blank password", "", "", PasswordJudgement::NothingTyped);
+    }
+
+    void judgePassword() {
+        QFETCH(QString, stored);
+        QFETCH(QString, typed);
+        QTEST(JudgePassword(stored, typed), "judgement");
+    }
+
     void usabilityOfDecksAndSpreads() {
         const Integer small = Fixtures::MakeDeck(QStringLiteral("Small"), 2, false);
         const Integer reversed = Fixtures::MakeDeck(QStringLiteral("Reversed"), 4, true);
         QVERIFY(IsDeckUsable(small, 2));
         QVERIFY(!IsDeckUsable(small, 3));
         QVERIFY(!IsDeckUsable(42, 0));
-        QVERIFY(IsReversedComplete(reversed, 4));
-        QVERIFY(IsDeckUsable(reversed, 4));
+        QVERIFY(IsReversedComplete(reversed, 4) && IsDeckUsable(reversed, 4));
         QVERIFY(!IsReversedComplete(reversed, 5));  // the file ends before a fifth card
 
         // A reversed side on the default picture still counts: only a
         // missing file makes the deck incomplete.
-        CardRecord card;
-        QVERIFY(GetRecord(TheRun.Paths.CardsPath, 3, card));
-        QCOMPARE(card.CardDeckId, reversed);
-        card.CardPicture[1] = DefaultPictureName;
-        PutRecord(TheRun.Paths.CardsPath, 3, card);
+        ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, 3,
+                                 [](CardRecord& c) { c.CardPicture[1] = DefaultPictureName; });
         QVERIFY(IsReversedComplete(reversed, 4));
+        CardRecord card;
         QVERIFY(GetRecord(TheRun.Paths.CardsPath, 4, card));
         QVERIFY(QFile::remove(TheRun.Paths.CardsDir + card.CardPicture[1].Trimmed()));
         QVERIFY(!IsReversedComplete(reversed, 4));

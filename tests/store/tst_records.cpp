@@ -254,26 +254,20 @@ private slots:
         QCOMPARE(CountRecords<CardRecord>(path), 0);  // a missing file holds no records
         CardRecord card;
         QVERIFY(!GetRecord(path, 1, card));
-
         WriteWholeFile(path, QByteArray());
         QCOMPARE(CountRecords<CardRecord>(path), 0);  // a 0-byte file is a valid empty file
 
-        CardRecord a;
-        a.CardTitle = QStringLiteral("The Fool");
-        AppendRecord(path, a);
         // A truncated second record: counts and reads ignore it.
-        QFile f(path);
-        QVERIFY(f.open(QIODevice::Append));
-        f.write(QByteArray(100, 'x'));
-        f.close();
+        card.CardTitle = QStringLiteral("The Fool");
+        WriteWholeFile(path, EncodeRecord(card) + QByteArray(100, 'x'));
         QCOMPARE(CountRecords<CardRecord>(path), 1);
         QVERIFY(!GetRecord(path, 2, card));
         QCOMPARE(ReadAllRecords<CardRecord>(path).size(), size_t(1));
 
         // An append writes over the partial tail, so records stay aligned.
-        CardRecord b;
-        b.CardTitle = QStringLiteral("The Magician");
-        AppendRecord(path, b);
+        card.CardTitle = QStringLiteral("The Magician");
+        AppendRecord(path, card);
+        card = CardRecord();
         QCOMPARE(FileLen(path), qint64(2 * CardRecord::Length));
         QVERIFY(GetRecord(path, 2, card));
         QCOMPARE(card.CardTitle.Trimmed(), QStringLiteral("The Magician"));
@@ -307,8 +301,7 @@ private slots:
     }
 
     void rewriterReplacesOnlyOnCommit() {
-        const QString real = file("Spreads.spr");
-        const QString temp = file("Spreads.tmp");
+        const QString real = file("Spreads.spr"), temp = file("Spreads.tmp");
         SpreadRecord s;
         s.SpreadName = QStringLiteral("Old");
         QFile::remove(real);

@@ -19,9 +19,9 @@
 #include "core/platform/WriteFaults.h"
 #include "core/readings/EntryStore.h"
 #include "core/spreads/SpreadStore.h"
+#include "core/store/DeckLoading.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/Lookups.h"
-#include "screens/decks/DeckLoadQuestion.h"
 #include "screens/platform/MsgBox.h"
 #include "screens/shell/Startup.h"
 #include "support/Fixtures.h"
@@ -141,8 +141,7 @@ void MakeFixture(const QString& dir) {
 // finds it.
 void OpenDeckForSaving(int record) {
     GetRecord(TheRun.Paths.DecksPath, record, TheRun.ListDeck);
-    bool removed = false;
-    LoadDeck(removed);
+    LoadDeckCards();
     for (const CardRecord& card : TheRun.CurrentDeck.DeckCards)
         for (const auto& picture : card.CardPicture)
             if (!FileExists(TheRun.Paths.TempDir + picture.Value()))
