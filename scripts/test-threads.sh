@@ -6,7 +6,7 @@
 # than scripts/test.sh; not part of CI. Extra arguments go to ctest.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-tests=(decks_tst_pictureimport)
+tests=(decks_tst_pictureimport decks_tst_cardrules)
 # Lightly optimised, with line tables only, as the other sanitized build.
 cmake -S . -B build-tsan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g1" \
   -DCMAKE_CXX_FLAGS="-fsanitize=thread -fno-omit-frame-pointer" \

@@ -1,12 +1,18 @@
-// The rules of the deck designer and the card editor as the screens apply
-// them, and the bad input they meet.
+// The rules of the deck list, the deck designer, the card editor and the
+// picture import as the screens apply them, and the bad input they meet.
+#include <QStandardItemModel>
+#include <QTableView>
+
 #include "DeckDriver.h"
 #include "core/decks/CardEditing.h"
 #include "core/decks/CardStore.h"
 #include "core/decks/CardTypeNames.h"
+#include "core/decks/DeckStore.h"
+#include "core/decks/PictureImport.h"
 #include "core/store/Lookups.h"
 #include "screens/decks/DeckLoadQuestion.h"
 #include "screens/decks/frmAddCard.h"
+#include "screens/decks/frmBrowseDeck.h"
 #include "screens/decks/frmDeckCardProperties.h"
 #include "screens/decks/frmDeckCardPropertiesInfo.h"
 #include "screens/decks/frmDeckInfo.h"
@@ -14,17 +20,24 @@
 #include "screens/decks/frmDesignDeck.h"
 #include "screens/decks/frmGetImageFile.h"
 #include "screens/decks/frmGetSoundFile.h"
+#include "screens/decks/frmImportPictures.h"
 #include "screens/decks/frmSaveDeck.h"
 #include "screens/platform/CommonDialog.h"
 #include "screens/platform/MediaPlayer.h"
 #include "screens/platform/ProcessEnd.h"
 #include "screens/shell/Startup.h"
+#include "screens/shell/frmMainScreen.h"
+#include "screens/store/frmGetPassword.h"
 #include "support/BadInput.h"
 
 class TestCardRules : public QObject {
     Q_OBJECT
     QTemporaryDir program_;
     QTemporaryDir sources_;
+    QTemporaryDir pictures_;  // a folder of six cards to import, one with a reversed file
+    // The import walk's program directory, emptied for each row; the tests
+    // after it go on there.
+    QTemporaryDir importRun_;
     QString src_;
 
     // Loads a saved deck as the deck list does before it opens a screen on it.
@@ -63,8 +76,17 @@ private slots:
         Fixtures::UseProgramDir(program_.path());
         src_ = sources_.path();
         Fixtures::WritePicture(src_ + QStringLiteral("/good.bmp"), Qt::green);
-        Fixtures::MakeDeck(QStringLiteral("Full"), MaxDeckCards, false);
+        Fixtures::MakeSpread(QStringLiteral("Solo"), 2,
+                             {Fixtures::MakeDeck(QStringLiteral("Full"), MaxDeckCards, false)});
         Fixtures::MakeDeck(QStringLiteral("Plain"), 2, false);
+        // Plain carries a design password, which only the deck list asks.
+        ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 2, [](DeckRecord& d) {
+            d.DeckLocked = True16;
+            d.DeckPassword = QStringLiteral("secret");
+        });
+        for (const char* name : {"1 sun.bmp", "2 moon.bmp", "2 moon-reversed.bmp", "3 star.bmp", "4 tower.bmp",
+                                 "5 world.bmp", "6 left out.bmp"})
+            Fixtures::WritePicture(pictures_.path() + QLatin1Char('/') + QLatin1String(name));
     }
 
     void cleanup() { Leave(); }
@@ -205,6 +227,144 @@ private slots:
         QVERIFY(FilesIn(TheRun.Paths.TempDir).isEmpty());
         GetRecord(TheRun.Paths.DecksPath, FindDeckByName(QStringLiteral("Plain")), TheRun.ListDeck);
         QCOMPARE(TheRun.ListDeck.DeckTitle.Trimmed(), QStringLiteral("Plain"));
+    }
+
+    void browseHandsTheChosenDeckToTheSpreadDesigner() {
+        QStringList chosen;
+        frmBrowseDeck& browse = Get<frmBrowseDeck>();
+        browse.DeckChosen = [&chosen](const QString& name) { chosen.append(name.trimmed()); };
+        ClickLine(browse.lstDecks, QStringLiteral("Plain"));
+        browse.cmdSelect_Click();
+        QCOMPARE(chosen, QStringList{QStringLiteral("Plain")});
+        QVERIFY(!IsLoaded<frmBrowseDeck>());
+    }
+
+    // Which second question comes, and what the spreads do, is the table's
+    // below; here the list asks, stops at No, and deletes at Yes.
+    void deleteAsksAndUntiesSpreads() {
+        frmDecks& decks = Get<frmDecks>();
+        const int count = CountDecks();
+        MsgBoxScript::Answer(vbNo);
+        decks.cmdDelete_Click();
+        QCOMPARE(CountDecks(), count);
+        QCOMPARE(Prompts(), CheckDeckDelete(decks.lstDecks->Text()).Questions.mid(0, 1));
+        QCOMPARE(MsgBoxScript::History()[0].style, vbYesNo | vbQuestion | vbDefaultButton2);
+
+        MsgBoxScript::Answer(vbYes);
+        MsgBoxScript::Answer(vbYes);
+        decks.cmdDelete_Click();
+        QCOMPARE(CountDecks(), count - 1);
+        SpreadRecord solo;
+        GetRecord(TheRun.Paths.SpreadsPath, FindSpreadByName(QStringLiteral("Solo")), solo);
+        QCOMPARE(solo.AllowedDeckCount, 0);
+        // The line went; the first line is selected in its place.
+        QCOMPARE(decks.lblTitleField->text(), QStringLiteral("Plain"));
+    }
+
+    void lockedDeckAsksPasswordToEditOnly() {
+        frmDecks& decks = Get<frmDecks>();
+        ClickLine(decks.lstDecks, QStringLiteral("Plain"));
+        ModalScript wrong;
+        wrong.On<frmGetPassword>([](frmGetPassword& p) {
+            p.txtPassword->setText(QStringLiteral("Secret"));
+            p.cmdOK_Click();
+        });
+        decks.cmdEdit_Click();
+        QVERIFY(wrong.Done());
+        QVERIFY(!IsLoaded<frmDesignDeck>());  // the wrong password is refused
+
+        // Viewing asks nothing.
+        decks.cmdInfo_Click();
+        QCOMPARE(Get<frmDeckInfo>().lstCards->count(), 2);
+        Get<frmDeckInfo>().cmdBack_Click();
+        QCOMPARE(Get<frmDecks>().lstDecks->Text().trimmed(), QStringLiteral("Plain"));
+
+        ModalScript right;
+        right.On<frmGetPassword>([](frmGetPassword& p) {
+            p.txtPassword->setText(QStringLiteral("secret"));
+            p.cmdOK_Click();
+        });
+        Get<frmDecks>().cmdEdit_Click();
+        QVERIFY(right.Done());
+        QVERIFY(IsLoaded<frmDesignDeck>() && TheRun.DesignMode == 0);
+        Get<frmDesignDeck>().cmdBack_Click();
+        QCOMPARE(Get<frmDecks>().lstDecks->Text().trimmed(), QStringLiteral("Plain"));
+    }
+
+    void theMainScreenOpensTheListAndTakesItBack() {
+        frmMainScreen& main = Get<frmMainScreen>();
+        main.Show();
+        main.lblButton_Click(5);
+        QVERIFY(!main.Visible());
+        QVERIFY(IsLoaded<frmDecks>() && Get<frmDecks>().Visible());
+        Get<frmDecks>().cmdClose_Click();
+        QVERIFY(!IsLoaded<frmDecks>() && main.Visible());
+    }
+
+    // Every choice of the screen, in a deck with and without reversed cards,
+    // saved by the designer's Save as a user saves and opened by Edit on the
+    // deck list: no box comes, every card is whole, and every file its record
+    // names is in Cards/. On the way, the screen's own steps: a title edited,
+    // a row left out by Space on its title, another by Delete and taken in
+    // again by Space, the type of a selection set.
+    void importedDecksSaveAndOpenWhole_data() {
+        QTest::addColumn<int>("reversed");
+        QTest::addColumn<bool>("deckReversed");
+        for (const bool deckReversed : {true, false}) {
+            const char* deck = deckReversed ? "reversed cards" : "upright only";
+            QTest::addRow("%s, none", deck) << int(ReversedSide::None) << deckReversed;
+            QTest::addRow("%s, turned", deck) << int(ReversedSide::Turned) << deckReversed;
+            QTest::addRow("%s, own file", deck) << int(ReversedSide::OwnFile) << deckReversed;
+        }
+    }
+    void importedDecksSaveAndOpenWhole() {
+        QFETCH(int, reversed);
+        QFETCH(bool, deckReversed);
+        Fixtures::UseProgramDir(importRun_.path());
+        Fixtures::MakeDeck(QStringLiteral("Before"), 2, deckReversed);
+        ClickLine(Get<frmDecks>().lstDecks, QStringLiteral("Before"));
+        Get<frmDecks>().cmdEdit->click();
+        frmDesignDeck& designer = Get<frmDesignDeck>();
+        MsgBoxScript::Clear();
+        CommonDialogScript::Answer(pictures_.path());
+        ModalScript script;
+        script.On<frmImportPictures>([reversed](frmImportPictures& s) {
+            s.mdlPictures->item(1, 1)->setText(QStringLiteral("Moon Rising"));
+            s.tblPictures->setFocus();
+            s.tblPictures->setCurrentIndex(s.mdlPictures->index(5, 1));
+            QTest::keyClick(s.tblPictures, Qt::Key_Space);
+            s.tblPictures->selectRow(4);
+            QTest::keyClick(s.tblPictures, Qt::Key_Delete);
+            QTest::keyClick(s.tblPictures, Qt::Key_Space);
+            s.tblPictures->selectRow(0);
+            s.cboType->setCurrentIndex(1);
+            s.cmdSetType->click();
+            // Greyed in a deck without reversed cards: what it shows must do too.
+            QRadioButton* option = std::array{s.optNone, s.optTurned, s.optOwnFile}[std::size_t(reversed)];
+            if (option->isEnabled()) option->click();
+            else option->setChecked(true);
+            s.cmdOK->click();
+        });
+        script.On<frmSaveDeck>([](frmSaveDeck& s) {
+            s.txtSaveAs->setText(QStringLiteral("Imported"));
+            s.cmdSave->click();
+        });
+        designer.cmdImportPictures->click();
+        designer.cmdSave->click();
+        QVERIFY(script.Done());
+        designer.cmdBack->click();
+        ClickLine(Get<frmDecks>().lstDecks, QStringLiteral("Imported"));
+        Get<frmDecks>().cmdEdit->click();
+        QVERIFY2(MsgBoxScript::History().isEmpty(), qPrintable(MsgBoxScript::History().value(0).prompt));
+        QCOMPARE(TheRun.CurrentDeck.CardCount, 7);
+        QCOMPARE(TheRun.CurrentDeck.DeckCards(3).CardType, 1);
+        QCOMPARE(TheRun.CurrentDeck.DeckCards(4).CardTitle.Trimmed(), QStringLiteral("Moon Rising"));
+        QVERIFY(LineOf(Get<frmDesignDeck>().lstCards, QStringLiteral("Moon Rising")) >= 0);
+        for (const CardRecord& card : TheRun.CurrentDeck.DeckCards) {
+            for (const auto& picture : card.CardPicture)
+                QVERIFY2(FileExists(TheRun.Paths.CardsDir + picture.Value()), qPrintable(picture.Value()));
+            QCOMPARE(card.CardPicture[1].Value() == DefaultPictureName, !deckReversed);
+        }
     }
 
     // The properties, the designer and the save screen; a deck name the code

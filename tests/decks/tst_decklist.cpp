@@ -1,24 +1,19 @@
-// The saved decks: the deck list's wiring (the delete and its questions, the
-// password of a locked deck for editing but not for viewing, coming back to
-// the deck left, the spread designer's deck chooser), and the
-// deck store's rules, checked on the core: which spreads let go of a deleted
-// deck, and what a save leaves on the disk whatever the folder held before.
+// The deck store's rules: which spreads let go of a deleted deck, and what a
+// save leaves on the disk whatever the folder held before.
+#include <QTemporaryDir>
+#include <QtTest>
+#include <map>
 
-#include "DeckDriver.h"
 #include "core/decks/CardEditing.h"
 #include "core/decks/CardStore.h"
 #include "core/decks/DeckStore.h"
+#include "core/platform/FileSys.h"
 #include "core/spreads/AllowedDecks.h"
 #include "core/store/DeckLoading.h"
 #include "core/store/Lookups.h"
 #include "core/store/NewDesigns.h"
-#include "screens/decks/frmBrowseDeck.h"
-#include "screens/decks/frmDeckInfo.h"
-#include "screens/decks/frmDecks.h"
-#include "screens/decks/frmDesignDeck.h"
-#include "screens/shell/frmMainScreen.h"
-#include "screens/store/frmGetPassword.h"
-#include "support/ScreenTest.h"
+#include "core/store/RunState.h"
+#include "support/Fixtures.h"
 
 namespace {
 
@@ -66,11 +61,11 @@ QStringList Held(const BoundedArray<CardRecord>& cards, const QString& folder) {
     QStringList held;
     for (const CardRecord& card : cards) {
         held << card.CardTitle.Trimmed();
-        for (const auto& picture : card.CardPicture)
-            held.last() += QLatin1Char('|') + QString::fromLatin1(ReadWholeFile(FileExists(folder + picture.Value())
-                                                                                    ? folder + picture.Value()
-                                                                                    : TheRun.Paths.DefaultPicturePath)
-                                                                      .toHex());
+        for (const auto& picture : card.CardPicture) {
+            const QString path =
+                FileExists(folder + picture.Value()) ? folder + picture.Value() : TheRun.Paths.DefaultPicturePath;
+            held.last() += QLatin1Char('|') + QString::fromLatin1(ReadWholeFile(path).toHex());
+        }
     }
     return held;
 }
@@ -85,104 +80,8 @@ QStringList Loaded(const QString& name) {
 
 class TestDeckList : public QObject {
     Q_OBJECT
-    QTemporaryDir program_;
-
-    static SpreadRecord Spread(const QString& name) {
-        SpreadRecord spread;
-        GetRecord(TheRun.Paths.SpreadsPath, FindSpreadByName(name), spread);
-        return spread;
-    }
 
 private slots:
-    void initTestCase() {
-        MsgBoxScript::Enable();
-        Fixtures::UseProgramDir(program_.path());
-        const Integer alpha = Fixtures::MakeDeck(QStringLiteral("Alpha"), 3, true);
-        Fixtures::MakeDeck(QStringLiteral("Beta"), 2, false);
-        Fixtures::MakeDeck(QStringLiteral("Gamma"), 2, false);
-        // Beta carries a design password.
-        ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 2, [](DeckRecord& d) {
-            d.DeckLocked = True16;
-            d.DeckPassword = QStringLiteral("secret");
-        });
-        Fixtures::MakeSpread(QStringLiteral("Solo"), 2, {alpha});
-    }
-
-    // Which second question comes, and what the spreads do, is the table's
-    // below; here the list asks, stops at No, and deletes at Yes.
-    void deleteAsksAndUntiesSpreads() {
-        frmDecks& decks = Get<frmDecks>();
-        MsgBoxScript::Clear();
-        MsgBoxScript::Answer(vbNo);
-        decks.cmdDelete_Click();
-        QCOMPARE(CountDecks(), 3);
-        QCOMPARE(Prompts(), CheckDeckDelete(decks.lstDecks->Text()).Questions.mid(0, 1));
-        QCOMPARE(MsgBoxScript::History()[0].style, vbYesNo | vbQuestion | vbDefaultButton2);
-
-        MsgBoxScript::Answer(vbYes);
-        MsgBoxScript::Answer(vbYes);
-        decks.cmdDelete_Click();
-        QCOMPARE(CountDecks(), 2);
-        QCOMPARE(Spread(QStringLiteral("Solo")).AllowedDeckCount, 0);
-        // The line went; the first line is selected in its place.
-        QCOMPARE(decks.lblTitleField->text(), QStringLiteral("Beta"));
-    }
-
-    void lockedDeckAsksPasswordToEditOnly() {
-        frmDecks& decks = Get<frmDecks>();
-        ClickLine(decks.lstDecks, QStringLiteral("Beta"));
-        MsgBoxScript::Clear();
-        ModalScript wrong;
-        wrong.On<frmGetPassword>([](frmGetPassword& p) {
-            p.txtPassword->setText(QStringLiteral("Secret"));
-            p.cmdOK_Click();
-        });
-        decks.cmdEdit_Click();
-        QVERIFY(wrong.Done());
-        QVERIFY(!IsLoaded<frmDesignDeck>());  // the wrong password is refused
-
-        // Viewing asks nothing.
-        decks.cmdInfo_Click();
-        QVERIFY(IsLoaded<frmDeckInfo>());
-        QCOMPARE(Get<frmDeckInfo>().lstCards->count(), 2);
-        Get<frmDeckInfo>().cmdBack_Click();
-        QCOMPARE(Get<frmDecks>().lstDecks->Text().trimmed(), QStringLiteral("Beta"));
-
-        ModalScript right;
-        right.On<frmGetPassword>([](frmGetPassword& p) {
-            p.txtPassword->setText(QStringLiteral("secret"));
-            p.cmdOK_Click();
-        });
-        Get<frmDecks>().cmdEdit_Click();
-        QVERIFY(right.Done());
-        QVERIFY(IsLoaded<frmDesignDeck>());
-        QCOMPARE(TheRun.DesignMode, 0);
-        Get<frmDesignDeck>().cmdBack_Click();
-        QCOMPARE(Get<frmDecks>().lstDecks->Text().trimmed(), QStringLiteral("Beta"));
-    }
-
-    void browseHandsTheChosenDeckToTheSpreadDesigner() {
-        QStringList chosen;
-        frmBrowseDeck& browse = Get<frmBrowseDeck>();
-        browse.DeckChosen = [&chosen](const QString& name) { chosen.append(name); };
-        ClickLine(browse.lstDecks, QStringLiteral("Gamma"));
-        browse.cmdSelect_Click();
-        QCOMPARE(chosen.size(), 1);
-        QCOMPARE(chosen[0].trimmed(), QStringLiteral("Gamma"));
-        QVERIFY(!IsLoaded<frmBrowseDeck>());
-    }
-
-    void theMainScreenOpensTheListAndTakesItBack() {
-        UnloadScreen<frmDecks>();
-        frmMainScreen& main = Get<frmMainScreen>();
-        main.Show();
-        main.lblButton_Click(5);
-        QVERIFY(!main.Visible());
-        QVERIFY(IsLoaded<frmDecks>() && Get<frmDecks>().Visible());
-        Get<frmDecks>().cmdClose_Click();
-        QVERIFY(!IsLoaded<frmDecks>());
-        QVERIFY(main.Visible());
-    }
 
     // A spread tied to the decks `allowed` when deck 4 goes: the decks after
     // it move up and the freed place is -1. A spread that does not list it is
@@ -228,7 +127,8 @@ private slots:
         RemoveDeck(check.RecordNumber);
         QCOMPARE(CountDecks(), 0);
         if (anyDeck || !allowed.contains(4)) QCOMPARE(ReadWholeFile(TheRun.Paths.SpreadsPath), before);
-        const SpreadRecord spread = Spread(QStringLiteral("Tied"));
+        SpreadRecord spread;
+        GetRecord(TheRun.Paths.SpreadsPath, 1, spread);
         QCOMPARE(int(spread.AllowedDeckCount), anyDeck ? -1 : int(after.size()));
         for (int i = 0; i < 10; ++i) QCOMPARE(spread.AllowedDeckId[std::size_t(i)], after.value(i, -1));
     }

@@ -1,28 +1,23 @@
 // A deck made from a folder of pictures: the order, titles, types and
 // reversed sides of the cards, the card names they take in Temp/, the limit,
 // what cannot be read, and a cancelled import that leaves everything as it was;
-// the same import repeated, its pictures worked on threads; and every choice
-// of the screen saved by the designer's Save and opened again whole.
-// And the titles a new card may take, however it joins the deck, and the names
-// of the deck's card types.
+// the same import repeated, its pictures worked on threads. And the titles a
+// new card may take, however it joins the deck, and the names of the deck's
+// card types.
 #include <QDir>
 #include <QImage>
 #include <QImageReader>
-#include <QStandardItemModel>
-#include <QTableView>
+#include <QTemporaryDir>
+#include <QtTest>
 
-#include "DeckDriver.h"
 #include "core/decks/CardStore.h"
 #include "core/decks/CardTypeNames.h"
 #include "core/decks/PictureImport.h"
+#include "core/platform/FileSys.h"
 #include "core/store/DeletePasses.h"
 #include "core/store/NewDesigns.h"
-#include "screens/decks/frmDecks.h"
-#include "screens/decks/frmDesignDeck.h"
-#include "screens/decks/frmImportPictures.h"
-#include "screens/decks/frmSaveDeck.h"
-#include "screens/platform/CommonDialog.h"
-#include "support/ScreenTest.h"
+#include "core/store/RunState.h"
+#include "support/Fixtures.h"
 
 namespace {
 
@@ -65,8 +60,6 @@ class TestPictureImport : public QObject {
 
 private slots:
     void initTestCase() {
-        MsgBoxScript::Enable();
-        CommonDialogScript::Enable();
         const QString c = clean_.path() + QLatin1Char('/'), f = folder_.path() + QLatin1Char('/');
         for (const auto& [name, format] : {std::pair{"1 sun.bmp", "BMP"},
                                            {"2 moon.jpg", "JPEG"},
@@ -99,19 +92,16 @@ private slots:
     void titles_data() {
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("title");
-        QTest::newRow("leading number only orders") << "01_the-fool.jpg"
-                                                    << "The Fool";
-        QTest::newRow("a name that is only a number") << "07.jpg"
-                                                      << "07";
-        QTest::newRow("separators and capitals") << "ace-of__cups.v2.jpeg"
-                                                 << "Ace Of Cups V2";
-        QTest::newRow("capitals inside words kept") << "page of WANDS.bmp"
-                                                    << "Page Of WANDS";
-        QTest::newRow("a number inside kept") << "the 2nd tower.gif"
-                                              << "The 2nd Tower";
-        QTest::newRow("cut to the field") << QString(60, QLatin1Char('a')) + ".jpg"
-                                          << "A" + QString(49, QLatin1Char('a'));
-        QTest::newRow("as the record holds it") << QStringLiteral("луна_sol.jpg") << "???? Sol";
+        const auto row = [](const char* name, const QString& file, const QString& title) {
+            QTest::newRow(name) << file << title;
+        };
+        row("leading number only orders", "01_the-fool.jpg", "The Fool");
+        row("a name that is only a number", "07.jpg", "07");
+        row("separators and capitals", "ace-of__cups.v2.jpeg", "Ace Of Cups V2");
+        row("capitals inside words kept", "page of WANDS.bmp", "Page Of WANDS");
+        row("a number inside kept", "the 2nd tower.gif", "The 2nd Tower");
+        row("cut to the field", QString(60, QLatin1Char('a')) + ".jpg", "A" + QString(49, QLatin1Char('a')));
+        row("as the record holds it", QStringLiteral("луна_sol.jpg"), "???? Sol");
     }
     void titles() {
         QFETCH(QString, file);
@@ -231,80 +221,6 @@ private slots:
             QCOMPARE(TheRun.CurrentDeck.CardCount, 6);
             QCOMPARE(QDir(TheRun.Paths.TempDir).entryList(QDir::Files).size(), 12);
         }
-    }
-
-    // Every choice of the screen, in a deck with and without reversed cards,
-    // saved by the designer's Save as a user saves and opened by Edit on the
-    // deck list: no box comes, every card is whole, and every file its record
-    // names is in Cards/. On the way, the screen's own steps: a title edited,
-    // a row left out by Space on its title, another by Delete and taken in
-    // again by Space, the type of a selection set.
-    void importedDecksSaveAndOpenWhole_data() {
-        QTest::addColumn<int>("reversed");
-        QTest::addColumn<bool>("deckReversed");
-        for (const bool deckReversed : {true, false}) {
-            const char* deck = deckReversed ? "reversed cards" : "upright only";
-            QTest::addRow("%s, none", deck) << int(ReversedSide::None) << deckReversed;
-            QTest::addRow("%s, turned", deck) << int(ReversedSide::Turned) << deckReversed;
-            QTest::addRow("%s, own file", deck) << int(ReversedSide::OwnFile) << deckReversed;
-        }
-    }
-    void importedDecksSaveAndOpenWhole() {
-        QFETCH(int, reversed);
-        QFETCH(bool, deckReversed);
-        const QTemporaryDir program;
-        Fixtures::UseProgramDir(program.path());
-        Fixtures::MakeDeck(QStringLiteral("Before"), 2, deckReversed);
-        ClickLine(Get<frmDecks>().lstDecks, QStringLiteral("Before"));
-        Get<frmDecks>().cmdEdit->click();
-        frmDesignDeck& designer = Get<frmDesignDeck>();
-        MsgBoxScript::Clear();
-        CommonDialogScript::Answer(clean_.path());
-        ModalScript script;
-        script.On<frmImportPictures>([reversed](frmImportPictures& s) {
-            s.mdlPictures->item(1, 1)->setText(QStringLiteral("Moon Rising"));
-            s.tblPictures->setFocus();
-            s.tblPictures->setCurrentIndex(s.mdlPictures->index(5, 1));
-            QTest::keyClick(s.tblPictures, Qt::Key_Space);
-            s.tblPictures->selectRow(4);
-            QTest::keyClick(s.tblPictures, Qt::Key_Delete);
-            QTest::keyClick(s.tblPictures, Qt::Key_Space);
-            s.tblPictures->selectRow(0);
-            s.cboType->setCurrentIndex(1);
-            s.cmdSetType->click();
-            // Greyed in a deck without reversed cards: what it shows must do too.
-            QRadioButton* option = std::array{s.optNone, s.optTurned, s.optOwnFile}[std::size_t(reversed)];
-            if (option->isEnabled()) option->click();
-            else option->setChecked(true);
-            s.cmdOK->click();
-        });
-        script.On<frmSaveDeck>([](frmSaveDeck& s) {
-            s.txtSaveAs->setText(QStringLiteral("Imported"));
-            s.cmdSave->click();
-        });
-        designer.cmdImportPictures->click();
-        designer.cmdSave->click();
-        QVERIFY(script.Done());
-        designer.cmdBack->click();
-        ClickLine(Get<frmDecks>().lstDecks, QStringLiteral("Imported"));
-        Get<frmDecks>().cmdEdit->click();
-        QVERIFY2(MsgBoxScript::History().isEmpty(), qPrintable(MsgBoxScript::History().value(0).prompt));
-        QCOMPARE(TheRun.CurrentDeck.CardCount, 7);
-        QCOMPARE(TheRun.CurrentDeck.DeckCards(3).CardType, 1);
-        QCOMPARE(TheRun.CurrentDeck.DeckCards(4).CardTitle.Trimmed(), QStringLiteral("Moon Rising"));
-        QVERIFY(LineOf(Get<frmDesignDeck>().lstCards, QStringLiteral("Moon Rising")) >= 0);
-        for (const CardRecord& card : TheRun.CurrentDeck.DeckCards) {
-            for (const auto& picture : card.CardPicture)
-                QVERIFY2(FileExists(TheRun.Paths.CardsDir + picture.Value()), qPrintable(picture.Value()));
-            QCOMPARE(card.CardPicture[1].Value() == DefaultPictureName, !deckReversed);
-        }
-    }
-    void cleanup() {
-        if (IsLoaded<frmDesignDeck>()) {
-            Get<frmDesignDeck>().DesignModified = false;
-            Get<frmDesignDeck>().cmdBack_Click();
-        }
-        UnloadScreen<frmDecks>();
     }
 
     // Typed in the card editor or made by the import, a title must be given

@@ -1,8 +1,5 @@
-// The cards a diary entry's locations may take, on the core's lists; then a
-// diary entry driven through its screens, and the card choice itself.
-
+// A diary entry driven through its screens, and the card choice itself.
 #include "DiaryFixtures.h"
-#include "core/readings/DiaryCards.h"
 #include "core/store/Lookups.h"
 
 using namespace DiaryFixtures;
@@ -12,17 +9,6 @@ namespace {
 constexpr int Locations = 4;
 constexpr int DeckSize = 30;
 const QString SelectRow = QStringLiteral(" [Select]");
-
-// A location's list in short: "-" the row of no card, "n" card n, "n'" card
-// n come back without its number.
-QString Described(int location) {
-    QStringList rows;
-    for (const CardRow& row : TheRun.DiaryLists.Rows(location)) {
-        if (row.Text == SelectRow) rows << QStringLiteral("-");
-        else rows << row.Text.section(QLatin1Char(' '), 1) + (row.Card == 0 ? QStringLiteral("'") : QString());
-    }
-    return rows.join(QLatin1Char(' '));
-}
 
 }  // namespace
 
@@ -40,54 +26,6 @@ private slots:
     }
 
     void cleanup() { CloseDiaryScreens(); }
-
-    // Choices "location:card" (0 for no card) made in turn on four locations
-    // and a deck of six cards: the cards the entry holds, and the list of one
-    // location afterwards.
-    void theListsFollowTheCardsChosen_data() {
-        QTest::addColumn<bool>("duplicates");
-        QTest::addColumn<QString>("choices");
-        QTest::addColumn<QString>("dealt");
-        QTest::addColumn<int>("location");
-        QTest::addColumn<QString>("list");
-        QTest::newRow("chosen cards leave the other lists") << false << "3:5 1:2"
-                                                            << "2 0 5 0" << 4 << "- 1 3 4 6";
-        QTest::newRow("a replaced card comes back by its title") << false << "4:6 4:1"
-                                                                 << "0 0 0 1" << 2 << "- 2 3 4 5 6'";
-        QTest::newRow("a location set back gives its card back") << false << "1:2 1:0"
-                                                                 << "0 0 0 0" << 3 << "- 1 3 4 5 6 2'";
-        QTest::newRow("a card come back is found by its title") << false << "1:2 1:0 3:2"
-                                                                << "0 0 2 0" << 4 << "- 1 3 4 5 6";
-        QTest::newRow("duplicates leave the lists whole") << true << "1:2 2:2"
-                                                          << "2 2 0 0" << 3 << "- 1 2 3 4 5 6";
-    }
-
-    void theListsFollowTheCardsChosen() {
-        QFETCH(bool, duplicates);
-        QFETCH(QString, choices);
-        QFETCH(int, location);
-        DeckInMemory deck;
-        deck.CardCount = 6;
-        deck.DeckCards.Redim(1, 6);
-        for (int n = 1; n <= 6; ++n) deck.DeckCards(n).CardTitle = CardText(n);
-        DiaryRecord diary;
-        ResetDiary(diary);
-        FillCardLists(TheRun.DiaryLists, deck, 4, {true, false, false, false});
-        for (const QString& choice : choices.split(QLatin1Char(' '))) {
-            const int at = choice.section(QLatin1Char(':'), 0, 0).toInt();
-            const int card = choice.section(QLatin1Char(':'), 1).toInt();
-            int row = IndexOfNone(TheRun.DiaryLists, at);
-            for (int r = 0; card > 0 && r < TheRun.DiaryLists.Rows(at).size(); ++r)
-                if (TheRun.DiaryLists.Rows(at)[r].Text == CardText(card)) row = r;
-            QCOMPARE(ChooseRow(TheRun.DiaryLists, diary, at, row, SelectedText(TheRun.DiaryLists, at), duplicates,
-                               false, deck, 4),
-                     card);
-        }
-        QStringList dealt;
-        for (int i = 0; i < 4; ++i) dealt << QString::number(diary.DealtCard[std::size_t(i)]);
-        QTEST(dealt.join(QLatin1Char(' ')), "dealt");
-        QTEST(Described(location), "list");
-    }
 
     // Cards chosen in any order, reversed, replaced and set back; the focused
     // location interpreted; notes and the closing question; the entry saved
@@ -141,10 +79,6 @@ private slots:
         QVERIFY(GetRecord(TheRun.Paths.DiaryPath, 1, saved));
         QCOMPARE(saved.DiaryName.Trimmed() + saved.DiaryNotes.Trimmed(), QStringLiteral("TuesdayRain came."));
         QCOMPARE(saved.DealtCard, (std::array<Integer, 32>{0, 0, 5, 9}));
-        std::array<Integer, 32> upright;
-        upright.fill(True16);
-        upright[2] = False16;
-        QCOMPARE(saved.DealtUpright, upright);
         // The focused location, duplicates, deck.
         QCOMPARE(QList<Integer>({saved.DiaryChoice, saved.AllowDuplicateCards, saved.ReadingDeckId}),
                  QList<Integer>({4, False16, deckId_}));
@@ -159,7 +93,7 @@ private slots:
             QCOMPARE(Offered(i), offered[i - 1]);
             QCOMPARE(reopened.cmdCardTitle(i)->text(), i == 3 ? longTitle : i == 4 ? CardText(9) : SelectRow);
         }
-        QVERIFY(reopened.chkReversed(3)->isChecked());
+        QVERIFY(reopened.chkReversed(3)->isChecked() && !reopened.chkReversed(4)->isChecked());
         // Yes, then a cancelled save: the entry closes unsaved.
         reopened.DiaryChanged = true;
         MsgBoxScript::Answer(vbYes);

@@ -1,11 +1,11 @@
 // The journal over a small body of entries whose counts were worked out by
 // hand: searches, statistics, CSV, the charts' and the print's texts.
-#include <QCryptographicHash>
 #include <QDirIterator>
 #include <QTabWidget>
 #include <QTableView>
 
 #include "core/journal/Journal.h"
+#include "core/platform/FileSys.h"
 #include "core/platform/OleDate.h"
 #include "core/store/DeletePasses.h"
 #include "screens/journal/JournalCharts.h"
@@ -42,13 +42,12 @@ void Save(const QString& path, R r, Integer deck, Integer spread, const QDate& d
     AppendRecord(path, r);
 }
 
-// Every file of the program folder and its bytes' digest.
+// Every file of the program folder and its bytes.
 QMap<QString, QByteArray> Snapshot(const QString& dir) {
     QMap<QString, QByteArray> files;
     for (QDirIterator it(dir, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
-        QFile f(it.next());
-        f.open(QIODevice::ReadOnly);
-        files[f.fileName()] = QCryptographicHash::hash(f.readAll(), QCryptographicHash::Sha1);
+        const QString path = it.next();
+        files[path] = ReadWholeFile(path);
     }
     return files;
 }
@@ -187,20 +186,17 @@ private slots:
         QTest::addColumn<QString>("type");
         QTest::addColumn<int>("upright");
         QTest::addColumn<int>("reversed");
-        QTest::newRow("the most frequent") << tarot_ << 1 << "Card 1"
-                                           << "Major Arcana" << 2 << 1;
-        QTest::newRow("a damaged entry's good card") << tarot_ << 2 << "Card 2"
-                                                     << "Major Arcana" << 1 << 1;
-        QTest::newRow("upright only") << tarot_ << 5 << "Card 5"
-                                      << "Major Arcana" << 2 << 0;
-        QTest::newRow("a bad date still counts its card") << tarot_ << 3 << "Card 3"
-                                                          << "Major Arcana" << 1 << 0;
-        QTest::newRow("revised deck, stored number") << other_ << 3 << "Card 3"
-                                                     << "Major Arcana" << 1 << 0;
-        QTest::newRow("removed deck, stored number") << gone_ << 4 << "Card 4"
-                                                     << "" << 0 << 1;
-        QTest::newRow("minor") << tarot_ << 23 << "Card 23"
-                               << "Minor Arcana" << 0 << 1;
+        const auto row = [](const char* name, Integer deck, int number, const char* type, int up, int rev) {
+            QTest::newRow(name) << deck << number << QStringLiteral("Card %1").arg(number) << QString(type) << up
+                                << rev;
+        };
+        row("the most frequent", tarot_, 1, "Major Arcana", 2, 1);
+        row("a damaged entry's good card", tarot_, 2, "Major Arcana", 1, 1);
+        row("upright only", tarot_, 5, "Major Arcana", 2, 0);
+        row("a bad date still counts its card", tarot_, 3, "Major Arcana", 1, 0);
+        row("revised deck, stored number", other_, 3, "Major Arcana", 1, 0);
+        row("removed deck, stored number", gone_, 4, "", 0, 1);
+        row("minor", tarot_, 23, "Minor Arcana", 0, 1);
     }
 
     void cardTallies() {
@@ -299,17 +295,16 @@ private slots:
         RecordingPrinter printer;
         PrintJournalStatistics(printer, TallyJournal(journal_, SearchJournal(journal_, {}), catalogue_, {}), 20);
         QStringList boxed;
+        QList<PrinterCall> headings;
         for (const PrinterCall& call : printer.CallsOf(QStringLiteral("PrintInBox"))) {
             boxed << call.Text;
+            if (call.Bold) headings << call;
             QVERIFY2(call.Size >= 8, qPrintable(call.Text));
             QVERIFY2(printer.TextWidth(call.Text) <= call.W, qPrintable(call.Text));
         }
         for (const char* legend : {"Upright", "Reversed", "Card 4 (no longer installed)", "Jan 2024"})
             QVERIFY2(boxed.contains(QLatin1String(legend)), legend);
         QVERIFY(!boxed.join(QLatin1Char('|')).contains(QLatin1String("((")));
-        QList<PrinterCall> headings;
-        for (const PrinterCall& call : printer.CallsOf(QStringLiteral("PrintInBox")))
-            if (call.Bold) headings << call;
         QCOMPARE(headings.size(), 4);
         for (int i = 1; i < headings.size(); ++i) QVERIFY(headings[i - 1].X + headings[i - 1].W < headings[i].X);
     }
@@ -337,7 +332,7 @@ private slots:
 
     // The card table keeps its rows in the chart's order, ties and all; the
     // locations run from the first.
-    void screenShowsTheStatistics() {
+    void screenShowsTheStatisticsSearchesAndOpens() {
         frmJournal& screen = Get<frmJournal>();
         screen.Show();
         screen.tabJournal->setCurrentIndex(1);
@@ -355,18 +350,15 @@ private slots:
         QCOMPARE(locations.join(QLatin1Char(' ')), QStringLiteral("1 2 3"));
         screen.grdResults->sortByColumn(2, Qt::AscendingOrder);
         QCOMPARE(screen.grdResults->model()->index(0, 2).data().toString(), QStringLiteral("Bad date"));
-        UnloadScreen<frmJournal>();
-    }
 
-    // The screen: typing selects, opening goes the Past screens' way.
-    void screenSearchesAndOpens() {
-        Get<frmJournal>().Show();
-        QTest::keyClicks(Get<frmJournal>().txtWords, QStringLiteral("anna"));
-        QTRY_COMPARE(Get<frmJournal>().grdResults->model()->rowCount(), 1);
-        QVERIFY(Get<frmJournal>().lblSummary->text().startsWith(QLatin1String("1 entry;")));  // the English singular
-        QCOMPARE(Get<frmJournal>().grdResults->model()->index(0, 0).data().toString(), QStringLiteral("1/15/24"));
-        Get<frmJournal>().grdResults->selectRow(0);
-        Get<frmJournal>().cmdOpen->click();
+        // Typing selects, opening goes the Past screens' way.
+        screen.tabJournal->setCurrentIndex(0);
+        QTest::keyClicks(screen.txtWords, QStringLiteral("anna"));
+        QTRY_COMPARE(screen.grdResults->model()->rowCount(), 1);
+        QVERIFY(screen.lblSummary->text().startsWith(QLatin1String("1 entry;")));  // the English singular
+        QCOMPARE(screen.grdResults->model()->index(0, 0).data().toString(), QStringLiteral("1/15/24"));
+        screen.grdResults->selectRow(0);
+        screen.cmdOpen->click();
         QTRY_VERIFY(IsLoaded<frmNewReading>() && !IsLoaded<frmJournal>());
         QCOMPARE(TheRun.CurrentReading.ReadingNotes.Trimmed(), QStringLiteral("Talk to Anna"));
         Get<frmNewReading>().CloseReading();

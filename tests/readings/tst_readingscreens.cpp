@@ -1,4 +1,5 @@
-// A whole reading driven through its screens, then Back, Continue and Deal.
+// A whole reading driven through its screens, then Back, Continue and Deal,
+// and the shuffle of the face-down cards.
 #include "ReadingFixtures.h"
 #include "core/store/Lookups.h"
 #include "screens/readings/frmReadingInterpretLocation.h"
@@ -103,9 +104,8 @@ private slots:
         again.cmdClose->click();
         QVERIFY(GetRecord(TheRun.Paths.ReadingsPath, 1, saved));
         QCOMPARE(saved.ReadingNotes.Trimmed(), QStringLiteral("Rain later."));
-        QCOMPARE(QList<Integer>({saved.SaveCount, saved.DealtCount}), QList<Integer>({2, Locations}));
-        for (int i = 1; i <= Locations; ++i)
-            QCOMPARE(saved.DealtCard[std::size_t(i - 1)], TheRun.ReadingDeal.DealtCard(i));
+        QCOMPARE(QList<Integer>({saved.SaveCount, saved.DealtCount, saved.DealtCard[Locations - 1]}),
+                 QList<Integer>({2, Locations, TheRun.ReadingDeal.DealtCard(Locations)}));
 
         // Reopened complete: no table, Deal offered.
         OpenPastReading(0);
@@ -146,6 +146,53 @@ private slots:
         QVERIFY(reading.cmdNextCard->isEnabled() && reading.cmdFakeShuffle->isEnabled());
         MsgBoxScript::Answer(vbNo);
         reading.cmdClose->click();
+    }
+
+    // The shuffle yields while the cards move, puts every card back and stops
+    // when told; with duplicates a card drawn stays and the table shuffles
+    // anew; closing the reading ends a run in progress, and its table with it.
+    void theShuffleYieldsRestoresAndStops() {
+        frmNewReading& reading = NewReading([](frmSelectSpread& s) { s.chkAllowDuplicateCards->setChecked(true); });
+        reading.cmdContinue->click();
+        frmReadingCards& table = Get<frmReadingCards>();
+        int movedAway = 0, timerTurns = 0;
+        // This timer runs while the cards move; it starts a second run on
+        // top, which returns when the stop comes.
+        QTimer watcher;
+        watcher.setInterval(0);
+        connect(&watcher, &QTimer::timeout, [&] {
+            ++timerTurns;
+            for (int i = 1; i <= DeckSize; ++i)
+                if (table.CardLeft(i) != frmReadingCards::HomeLeft(i)) ++movedAway;
+            if (timerTurns == 20) QTimer::singleShot(0, [&] { table.FakeShuffle(); });
+            if (timerTurns == 40) table.StopShuffle();
+        });
+        watcher.start();
+        table.FakeShuffle();
+        watcher.stop();
+        QVERIFY(timerTurns >= 40 && movedAway > 0);
+        for (int i = 1; i <= DeckSize; ++i)
+            QVERIFY(table.CardLeft(i) == frmReadingCards::HomeLeft(i) &&
+                    table.CardTop(i) == frmReadingCards::HomeTop(i));
+        // The order of the cards is not the animation's business.
+        QCOMPARE(TheRun.CurrentReading.LocationCard[0], TheRun.ReadingDeal.LocationCard(1));
+
+        int stops = 0;
+        QTimer stopper;
+        stopper.setInterval(5);
+        connect(&stopper, &QTimer::timeout, [&] {
+            ++stops;
+            reading.cmdFakeShuffle_Release();
+        });
+        stopper.start();
+        table.picCard_Click(4);
+        stopper.stop();
+        QVERIFY(!table.picCard(4)->isHidden() && stops >= 1);
+
+        MsgBoxScript::Answer(vbNo);
+        QTimer::singleShot(20, [&] { reading.cmdClose->click(); });
+        reading.cmdFakeShuffle_Press();
+        QVERIFY(!IsLoaded<frmNewReading>() && !IsLoaded<frmReadingCards>());
     }
 };
 

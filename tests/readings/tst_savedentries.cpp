@@ -1,9 +1,6 @@
 // Saved readings and diary entries alike: the core's judgement of opening
 // one and its saves, read back; the open, save and selection screens' wiring;
 // and bad input.
-#include <QApplication>
-#include <QClipboard>
-
 #include "core/platform/Errors.h"
 #include "core/platform/OleDate.h"
 #include "core/store/DeletePasses.h"
@@ -20,29 +17,13 @@ using namespace DiaryFixtures;
 namespace {
 
 // What has happened to the designs since an entry was saved.
-enum Change {
-    Unchanged,
-    DeckDeleted,
-    SpreadDeleted,
-    CardsRemoved,
-    DeckRevised,
-    SpreadRevised,
-    DeckRevisedSpreadDeleted
-};
+enum Change { Unchanged, DeckGone, SpreadGone, CardsRemoved, DeckRevised, SpreadRevised, DeckRevisedSpreadGone };
 
 // The steps of an opening, a refusal as "!" and a question as "?" before its text.
 QStringList Steps(const QList<OpeningStep>& steps) {
     QStringList out;
     for (const OpeningStep& step : steps) out << (step.Refusal ? QStringLiteral("!") : QStringLiteral("?")) + step.Text;
     return out;
-}
-
-// Pastes text over a line box's text as a user does.
-void PasteInto(QLineEdit* box, const QString& text) {
-    QApplication::clipboard()->setText(text);
-    box->setFocus();
-    box->selectAll();
-    QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
 }
 
 }  // namespace
@@ -153,17 +134,17 @@ private slots:
             "it?\nNOTE: If you choose 'Yes', the diary will be opened with the new spread and the card locations "
             "might very well be corrupted.");
         row("reading, unchanged", false, Unchanged, {});
-        row("reading, deck deleted", false, DeckDeleted, {deckGoneR});
-        row("diary, deck deleted", true, DeckDeleted, {deckGoneD});
-        row("reading, spread deleted", false, SpreadDeleted, {spreadGoneR});
-        row("diary, spread deleted", true, SpreadDeleted, {spreadGoneD});
+        row("reading, deck deleted", false, DeckGone, {deckGoneR});
+        row("diary, deck deleted", true, DeckGone, {deckGoneD});
+        row("reading, spread deleted", false, SpreadGone, {spreadGoneR});
+        row("diary, spread deleted", true, SpreadGone, {spreadGoneD});
         row("reading, card 22 at location 15 of 21", false, CardsRemoved, {cardsGoneR});
         row("diary, card 22 at location 15 of 21", true, CardsRemoved, {cardsGoneD});
         row("diary, card 22 at location 16 of 21", true, CardsRemoved, {deckChangedD}, 16);
         row("reading, deck revised", false, DeckRevised, {deckChangedR});
         row("reading, spread revised", false, SpreadRevised, {spreadChangedR});
         row("diary, spread revised", true, SpreadRevised, {spreadChangedD});
-        row("reading, deck revised and spread deleted", false, DeckRevisedSpreadDeleted, {deckChangedR, spreadGoneR});
+        row("reading, deck revised and spread deleted", false, DeckRevisedSpreadGone, {deckChangedR, spreadGoneR});
     }
 
     void openingASavedEntryMeetsItsChecksInOrder() {
@@ -172,11 +153,11 @@ private slots:
         QFETCH(int, highCardAt);
         if (diary) SavedDiary(highCardAt, 22);
         else SavedReading(highCardAt, 22);
-        if (change == DeckDeleted) DeleteDeck(1);
-        if (change == SpreadDeleted || change == DeckRevisedSpreadDeleted) DeleteSpread(1);
+        if (change == DeckGone) DeleteDeck(1);
+        if (change == SpreadGone || change == DeckRevisedSpreadGone) DeleteSpread(1);
         if (change == SpreadRevised)
             ChangeRecord<SpreadRecord>(TheRun.Paths.SpreadsPath, 1, [](SpreadRecord& s) { s.SpreadRevision = 2; });
-        if (change == CardsRemoved || change == DeckRevised || change == DeckRevisedSpreadDeleted)
+        if (change == CardsRemoved || change == DeckRevised || change == DeckRevisedSpreadGone)
             ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 1, [change](DeckRecord& d) {
                 d.DeckRevision = 2;
                 if (change == CardsRemoved) d.CardCount = 21;
@@ -212,15 +193,16 @@ private slots:
         QTest::addColumn<QString>("problem");
         QTest::addColumn<QString>("question");
         QTest::addColumn<int>("record");
-        const QString none;
-        QTest::newRow("reading, no name") << false << "  "
-                                          << "Please select a name to save the reading as." << none << 0;
-        QTest::newRow("diary, no name") << true << none << "Please select a name to save the diary as." << none << 0;
-        QTest::newRow("reading, name in use")
-            << false << " First " << none << "Reading already exists. Overwrite?" << 1;
-        QTest::newRow("diary, name in use") << true << "First" << none << "Diary already exists. Overwrite?" << 1;
-        QTest::newRow("reading, new name") << false << "Evening " << none << none << 3;
-        QTest::newRow("diary, new name") << true << "Evening" << none << none << 3;
+        const auto row = [](const char* name, bool diary, const char* typed, const char* problem, const char* question,
+                            int record) {
+            QTest::newRow(name) << diary << QString(typed) << QString(problem) << QString(question) << record;
+        };
+        row("reading, no name", false, "  ", "Please select a name to save the reading as.", "", 0);
+        row("diary, no name", true, "", "Please select a name to save the diary as.", "", 0);
+        row("reading, name in use", false, " First ", "", "Reading already exists. Overwrite?", 1);
+        row("diary, name in use", true, "First", "", "Diary already exists. Overwrite?", 1);
+        row("reading, new name", false, "Evening ", "", "", 3);
+        row("diary, new name", true, "Evening", "", "", 3);
     }
 
     void savingAnEntryWritesItWhole() {
@@ -346,7 +328,7 @@ private slots:
         for (int pass = 0; pass < 2; ++pass) {
             frmSaveReading& save = Get<frmSaveReading>();
             if (pass == 0) BadInput::TourTextBoxes(save);
-            PasteInto(save.txtSaveAs, BadInput::Foreign());
+            BadInput::PasteForeign(save.txtSaveAs);
             QCOMPARE(save.txtSaveAs->text(), BadInput::ForeignAsStored);
             if (pass == 1) MsgBoxScript::Answer(vbYes);  // the same name: the overwrite question
             save.cmdSave_Click();

@@ -1,12 +1,16 @@
-// The shuffle against the generator's formula worked by hand; the rules of
-// the deal on the core's value; and the animation of the face-down cards.
-#include "ReadingFixtures.h"
-#include "core/readings/Deal.h"
-#include "core/readings/Shuffle.h"
-#include "core/store/NewDesigns.h"
-#include "screens/widgets/ClickLabel.h"
+// The shuffle against the generator's formula worked by hand, the rules of
+// the deal on the core's value, and the cards a diary entry's locations may
+// take, on the core's lists.
+#include <QtTest>
+#include <cmath>
 
-using namespace ReadingFixtures;
+#include "core/platform/Rnd.h"
+#include "core/readings/Deal.h"
+#include "core/readings/DiaryCards.h"
+#include "core/readings/Shuffle.h"
+#include "core/records/RecordFile.h"
+#include "core/store/NewDesigns.h"
+#include "core/store/RunState.h"
 
 namespace {
 
@@ -57,33 +61,25 @@ QList<Integer> HandShuffle(QList<Integer> list, std::uint32_t seed, bool useReve
     return list + upright;
 }
 
+QString Titled(int n) { return QStringLiteral("Card %1").arg(n); }
+
+// A location's list in short: "-" the row of no card, "n" card n, "n'" card
+// n come back without its number.
+QString Described(int location) {
+    QStringList rows;
+    for (const CardRow& row : TheRun.DiaryLists.Rows(location)) {
+        if (row.Text == SelectPrompt()) rows << QStringLiteral("-");
+        else rows << row.Text.section(QLatin1Char(' '), 1) + (row.Card == 0 ? QStringLiteral("'") : QString());
+    }
+    return rows.join(QLatin1Char(' '));
+}
+
 }  // namespace
 
-class TestShuffle : public QObject, ScreenRun {
+class TestShuffle : public QObject {
     Q_OBJECT
 
-    // A reading on the spread page of a 12-location spread with a deck of
-    // `cards` cards whose types alternate, so that grouping by type shows.
-    frmNewReading& LayTable(int cards, std::uint32_t seed, bool useReversed, bool duplicates = false) {
-        Fixtures::MakeDeck(QStringLiteral("Deck"), cards, true);
-        Fixtures::MakeSpread(QStringLiteral("Line"), qMin(cards, 12), {}, true);
-        for (int n = 1; n <= cards; ++n)
-            ChangeRecord<CardRecord>(TheRun.Paths.CardsPath, n,
-                                     [n](CardRecord& c) { c.CardType = static_cast<Integer>(n % 2); });
-        SetRandomizeSeedForTests(seed);
-        return NewReading([&](frmSelectSpread& select) {
-            select.chkUseReversed->setChecked(useReversed);
-            select.chkAllowDuplicateCards->setChecked(duplicates);
-        });
-    }
-
 private slots:
-    void initTestCase() { StandUp(); }
-
-    void init() { FreshRun(NewDir()); }
-
-    void cleanup() { CloseReadingScreens(); }
-
     void theShuffleIsTheFormulaWorkedByHand_data() {
         QTest::addColumn<std::uint32_t>("seed");
         QTest::addColumn<bool>("useReversed");
@@ -263,55 +259,51 @@ private slots:
         QCOMPARE(PickFaceDownPosition(5, 100, [](int) { return false; }), 0);
     }
 
-    void theAnimationYieldsRestoresAndStops() {
-        frmNewReading& reading = LayTable(20, 9, true);
-        reading.cmdContinue->click();
-        frmReadingCards& table = Get<frmReadingCards>();
-        int movedAway = 0, timerTurns = 0;
-        // Every jump yields: this timer runs while the cards move; it starts
-        // a second run on top, which returns when the stop comes.
-        QTimer watcher;
-        watcher.setInterval(0);
-        connect(&watcher, &QTimer::timeout, [&] {
-            ++timerTurns;
-            for (int i = 1; i <= 20; ++i)
-                if (table.CardLeft(i) != frmReadingCards::HomeLeft(i)) ++movedAway;
-            if (timerTurns == 20) QTimer::singleShot(0, [&] { table.FakeShuffle(); });
-            if (timerTurns == 40) table.StopShuffle();
-        });
-        watcher.start();
-        table.FakeShuffle();
-        watcher.stop();
-        QVERIFY(timerTurns >= 40 && movedAway > 0);
-        for (int i = 1; i <= 20; ++i)
-            QVERIFY(table.CardLeft(i) == frmReadingCards::HomeLeft(i) &&
-                    table.CardTop(i) == frmReadingCards::HomeTop(i));
-        // The order of the cards is not the animation's business.
-        QCOMPARE(TheRun.CurrentReading.LocationCard[0], TheRun.ReadingDeal.LocationCard(1));
-        // Closing the reading ends a run in progress, and its table with it.
-        reading.cmdNextCard->click();
-        MsgBoxScript::Answer(vbNo);
-        QTimer::singleShot(20, [&] { reading.cmdClose->click(); });
-        reading.cmdFakeShuffle_Press();
-        QVERIFY(!IsLoaded<frmNewReading>() && !IsLoaded<frmReadingCards>());
+    // Choices "location:card" (0 for no card) made in turn on four locations
+    // and a deck of six cards: the cards the entry holds, and the list of one
+    // location afterwards.
+    void theListsFollowTheCardsChosen_data() {
+        QTest::addColumn<bool>("duplicates");
+        QTest::addColumn<QString>("choices");
+        QTest::addColumn<QString>("dealt");
+        QTest::addColumn<int>("location");
+        QTest::addColumn<QString>("list");
+        const auto row = [](const char* name, bool duplicates, const char* choices, const char* dealt, int location,
+                            const char* list) {
+            QTest::newRow(name) << duplicates << QString(choices) << QString(dealt) << location << QString(list);
+        };
+        row("chosen cards leave the other lists", false, "3:5 1:2", "2 0 5 0", 4, "- 1 3 4 6");
+        row("a replaced card comes back by its title", false, "4:6 4:1", "0 0 0 1", 2, "- 2 3 4 5 6'");
+        row("a location set back gives its card back", false, "1:2 1:0", "0 0 0 0", 3, "- 1 3 4 5 6 2'");
+        row("a card come back is found by its title", false, "1:2 1:0 3:2", "0 0 2 0", 4, "- 1 3 4 5 6");
+        row("duplicates leave the lists whole", true, "1:2 2:2", "2 2 0 0", 3, "- 1 2 3 4 5 6");
     }
 
-    void duplicatesShuffleBetweenCards() {
-        frmNewReading& reading = LayTable(12, 13, true, true);
-        reading.cmdContinue->click();
-        frmReadingCards& table = Get<frmReadingCards>();
-        int stops = 0;
-        QTimer stopper;
-        stopper.setInterval(5);
-        connect(&stopper, &QTimer::timeout, [&] {
-            ++stops;
-            reading.cmdFakeShuffle_Release();
-        });
-        stopper.start();
-        table.picCard_Click(4);
-        stopper.stop();
-        // The card stays in the pool and the table was shuffled anew.
-        QVERIFY(!table.picCard(4)->isHidden() && stops >= 1);
+    void theListsFollowTheCardsChosen() {
+        QFETCH(bool, duplicates);
+        QFETCH(QString, choices);
+        QFETCH(int, location);
+        DeckInMemory deck;
+        deck.CardCount = 6;
+        deck.DeckCards.Redim(1, 6);
+        for (int n = 1; n <= 6; ++n) deck.DeckCards(n).CardTitle = Titled(n);
+        DiaryRecord diary;
+        ResetDiary(diary);
+        FillCardLists(TheRun.DiaryLists, deck, 4, {true, false, false, false});
+        for (const QString& choice : choices.split(QLatin1Char(' '))) {
+            const int at = choice.section(QLatin1Char(':'), 0, 0).toInt();
+            const int card = choice.section(QLatin1Char(':'), 1).toInt();
+            int row = IndexOfNone(TheRun.DiaryLists, at);
+            for (int r = 0; card > 0 && r < TheRun.DiaryLists.Rows(at).size(); ++r)
+                if (TheRun.DiaryLists.Rows(at)[r].Text == Titled(card)) row = r;
+            QCOMPARE(ChooseRow(TheRun.DiaryLists, diary, at, row, SelectedText(TheRun.DiaryLists, at), duplicates,
+                               false, deck, 4),
+                     card);
+        }
+        QStringList dealt;
+        for (int i = 0; i < 4; ++i) dealt << QString::number(diary.DealtCard[std::size_t(i)]);
+        QTEST(dealt.join(QLatin1Char(' ')), "dealt");
+        QTEST(Described(location), "list");
     }
 };
 
