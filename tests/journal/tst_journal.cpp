@@ -1,46 +1,15 @@
-// The journal over a small body of entries whose counts were worked out by
-// hand: searches, statistics, CSV, the charts' and the print's texts.
+// The journal's rules on a sample of entries: search, tallies, figures, the
+// printed statistics and the CSV, none of which writes a file.
 #include <QDirIterator>
-#include <QTabWidget>
-#include <QTableView>
+#include <QtTest>
 
-#include "core/journal/Journal.h"
+#include "JournalFixtures.h"
 #include "core/platform/FileSys.h"
-#include "core/platform/OleDate.h"
-#include "core/store/DeletePasses.h"
-#include "screens/journal/JournalCharts.h"
-#include "screens/journal/frmJournal.h"
-#include "screens/platform/Application.h"
-#include "screens/readings/frmNewReading.h"
 #include "support/RecordingPrinter.h"
-#include "support/ScreenTest.h"
 
 Q_DECLARE_METATYPE(JournalQuery)
-Q_DECLARE_METATYPE(ChartData)
 
 namespace {
-
-struct Dealt {
-    int Location;
-    Integer Card;
-    bool Upright;
-};
-
-// Saves an entry dealt on a deck and spread on a day.
-template <class R>
-void Save(const QString& path, R r, Integer deck, Integer spread, const QDate& day,
-          std::initializer_list<Dealt> cards) {
-    r.ReadingDeckId = deck;
-    r.ReadingDeckRevision = 1;
-    r.ReadingSpreadId = spread;
-    r.ReadingSpreadRevision = 1;
-    r.SavedOn = ToOleDate(day);
-    for (const Dealt& d : cards) {
-        r.DealtCard[static_cast<std::size_t>(d.Location - 1)] = d.Card;
-        r.DealtUpright[static_cast<std::size_t>(d.Location - 1)] = Flag(d.Upright);
-    }
-    AppendRecord(path, r);
-}
 
 // Every file of the program folder and its bytes.
 QMap<QString, QByteArray> Snapshot(const QString& dir) {
@@ -56,9 +25,8 @@ QMap<QString, QByteArray> Snapshot(const QString& dir) {
 
 class TestJournal : public QObject {
     Q_OBJECT
-    QTemporaryDir frame_, dir_;
-    Integer tarot_ = 0, other_ = 0, gone_ = 0, cross_ = 0, line_ = 0;
-
+    QTemporaryDir dir_;
+    JournalFixtures::Sample s_;
     JournalCatalogue catalogue_;
     Journal journal_;
 
@@ -73,49 +41,10 @@ class TestJournal : public QObject {
     }
 
 private slots:
-    // Readings: R1 "Move, "north"" and R2 "Work" on Tarot, R3 "Secret" locked,
-    // R4 "Bad date". Diary: D1 "Garden" on Tarot, D2 "Old deck" on a deck
-    // revised since, D3 "Gone deck" on a removed deck, D4 "Damaged" with a
-    // card beyond its deck.
     void initTestCase() {
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-        InstallPluralForms();
-        MsgBoxScript::Enable();
-        Fixtures::StandUpFrame(frame_.path());
         Fixtures::UseProgramDir(dir_.path());
-        tarot_ = Fixtures::MakeDeck(QStringLiteral("Tarot"), 30, false);
-        other_ = Fixtures::MakeDeck(QStringLiteral("Other"), 10, false);
-        gone_ = Fixtures::MakeDeck(QStringLiteral("Gone"), 10, false);
-        DeleteDeck(3);
-        ChangeRecord<DeckRecord>(TheRun.Paths.DecksPath, 2, [](DeckRecord& d) { d.DeckRevision = 2; });
-        cross_ = Fixtures::MakeSpread(QStringLiteral("Cross"), 3, {}, true);
-        line_ = Fixtures::MakeSpread(QStringLiteral("Line"), 3, {}, true);
-
-        ReadingRecord r = Fixtures::NamedReading(QStringLiteral("Move, \"north\""));
-        r.Issue = QStringLiteral("the move");
-        r.ReadingNotes = QStringLiteral("Talk to Anna");
-        r.DealtCount = 3;
-        Save(TheRun.Paths.ReadingsPath, r, tarot_, cross_, {2024, 1, 15}, {{1, 1, true}, {2, 23, false}, {3, 5, true}});
-        r = Fixtures::NamedReading(QStringLiteral("Work"));
-        r.ReadingNotes = QStringLiteral("New job; the MOVE maybe");
-        Save(TheRun.Paths.ReadingsPath, r, tarot_, line_, {2024, 3, 2}, {{1, 1, false}, {2, 2, true}});
-        r = Fixtures::NamedReading(QStringLiteral("Secret"));
-        r.Issue = QStringLiteral("hidden words");
-        r.EntryLocked = True16;
-        r.EntryPassword = QStringLiteral("pw");
-        Save(TheRun.Paths.ReadingsPath, r, tarot_, line_, {2024, 3, 10}, {{1, 1, true}});
-        Save(TheRun.Paths.ReadingsPath, Fixtures::NamedReading(QStringLiteral("Bad date")), tarot_, line_, {2024, 1, 1},
-             {{1, 3, true}});
-        ChangeRecord<ReadingRecord>(TheRun.Paths.ReadingsPath, 4, [](ReadingRecord& bad) { bad.SavedOn = 1e9; });
-
-        Save(TheRun.Paths.DiaryPath, Fixtures::NamedDiary(QStringLiteral("Garden")), tarot_, cross_, {2024, 1, 20},
-             {{2, 5, true}, {3, 1, true}});
-        Save(TheRun.Paths.DiaryPath, Fixtures::NamedDiary(QStringLiteral("Old deck")), other_, line_, {2024, 2, 5},
-             {{1, 3, true}});
-        Save(TheRun.Paths.DiaryPath, Fixtures::NamedDiary(QStringLiteral("Gone deck")), gone_, line_, {2024, 2, 6},
-             {{1, 4, false}});
-        Save(TheRun.Paths.DiaryPath, Fixtures::NamedDiary(QStringLiteral("Damaged")), tarot_, line_, {2024, 2, 7},
-             {{1, 45, true}, {2, 2, false}});
+        s_ = JournalFixtures::LaySample();
     }
 
     void init() {
@@ -140,7 +69,7 @@ private slots:
         q.Words = QStringLiteral("secret");
         QTest::newRow("a locked name is searched") << q << false << QStringLiteral("Secret");
         q = {};
-        q.CardDeckId = tarot_;
+        q.CardDeckId = s_.Tarot;
         q.CardNumber = 1;
         QTest::newRow("card") << q << false << QStringLiteral("Move, \"north\"|Work|Garden");
         QTest::newRow("card, the locked one known")
@@ -151,10 +80,10 @@ private slots:
         q.Orientation = Facing::Reversed;
         QTest::newRow("any card reversed") << q << false << QStringLiteral("Move, \"north\"|Work|Gone deck|Damaged");
         q = {};
-        q.SpreadId = cross_;
+        q.SpreadId = s_.Cross;
         QTest::newRow("spread") << q << false << QStringLiteral("Move, \"north\"|Garden");
         q = {};
-        q.DeckId = other_;
+        q.DeckId = s_.Other;
         QTest::newRow("deck") << q << false << QStringLiteral("Old deck");
         q = {};
         q.Readings = false;
@@ -190,13 +119,13 @@ private slots:
             QTest::newRow(name) << deck << number << QStringLiteral("Card %1").arg(number) << QString(type) << up
                                 << rev;
         };
-        row("the most frequent", tarot_, 1, "Major Arcana", 2, 1);
-        row("a damaged entry's good card", tarot_, 2, "Major Arcana", 1, 1);
-        row("upright only", tarot_, 5, "Major Arcana", 2, 0);
-        row("a bad date still counts its card", tarot_, 3, "Major Arcana", 1, 0);
-        row("revised deck, stored number", other_, 3, "Major Arcana", 1, 0);
-        row("removed deck, stored number", gone_, 4, "", 0, 1);
-        row("minor", tarot_, 23, "Minor Arcana", 0, 1);
+        row("the most frequent", s_.Tarot, 1, "Major Arcana", 2, 1);
+        row("a damaged entry's good card", s_.Tarot, 2, "Major Arcana", 1, 1);
+        row("upright only", s_.Tarot, 5, "Major Arcana", 2, 0);
+        row("a bad date still counts its card", s_.Tarot, 3, "Major Arcana", 1, 0);
+        row("revised deck, stored number", s_.Other, 3, "Major Arcana", 1, 0);
+        row("removed deck, stored number", s_.Gone, 4, "", 0, 1);
+        row("minor", s_.Tarot, 23, "Minor Arcana", 0, 1);
     }
 
     void cardTallies() {
@@ -230,63 +159,12 @@ private slots:
                  std::size_t(2));
 
         // Location 2 of Cross: card 23 once, card 5 once; the lower number first.
-        const auto locations = TallyLocations(journal_, SearchJournal(journal_, {}), catalogue_, cross_, 1);
+        const auto locations = TallyLocations(journal_, SearchJournal(journal_, {}), catalogue_, s_.Cross, 1);
         QCOMPARE(locations.size(), std::size_t(3));
         QCOMPARE(locations[1].Title, QStringLiteral("Position 2"));
         QCOMPARE(
             QList<int>({int(locations[1].Cards.size()), locations[1].Cards[0].Number, locations[2].Cards[0].Number}),
             QList<int>({1, 5, 1}));
-    }
-
-    // Every text a chart draws, on the screen and in a saved picture: whole
-    // where it has room, cut only where its box is narrower than it, inside
-    // the chart and clear of every other text.
-    void chartTextsFit_data() {
-        QTest::addColumn<ChartData>("chart");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QStringList>("whole");  // texts that must be drawn uncut
-        const JournalStatistics s = TallyJournal(journal_, SearchJournal(journal_, {}), catalogue_, {});
-        ChartData cards = CardsChart(s, 20);
-        for (int n = 30; cards.Bars.size() < 20; --n)
-            cards.Bars.push_back({QStringLiteral("Card %1 (Tarot)").arg(n), 1, 0});
-        QTest::newRow("twenty cards and the legend")
-            << cards << QSize(480, 360) << QStringList{"Upright", "Reversed", "Card 4 (no longer installed)"};
-        QTest::newRow("card types with room to spare")
-            << TypesChart(s) << QSize(560, 200) << QStringList{"Major Arcana", "Minor Arcana"};
-        ChartData months;
-        months.Shape = ChartShape::Columns;
-        months.FirstNumber = 2015 * 12;
-        for (int m = 2015 * 12; m < 2025 * 12; ++m) months.Bars.push_back({MonthText(m), m % 7, 0});
-        QTest::newRow("120 months") << months << QSize(760, 300) << QStringList{"Jan 2015", "0", "6"};
-    }
-
-    void chartTextsFit() {
-        QFETCH(ChartData, chart);
-        QFETCH(QSize, size);
-        QFETCH(QStringList, whole);
-        JournalChart widget;
-        widget.setChart(chart);
-        const QImage picture(size, QImage::Format_RGB32);
-        for (const QPaintDevice* surface :
-             {static_cast<const QPaintDevice*>(&widget), static_cast<const QPaintDevice*>(&picture)}) {
-            const QFontMetricsF metrics(widget.font(), surface);
-            const ChartDrawing drawing = widget.Layout(size, *surface);
-            QStringList drawn;
-            for (const ChartText& t : drawing.Texts) {
-                drawn << t.Text;
-                QVERIFY2(
-                    metrics.horizontalAdvance(t.Text) <= t.Box.width() && metrics.height() <= t.Box.height() + 0.01,
-                    qPrintable(t.Text));
-                QVERIFY2(QRectF(QPointF(0, 0), size).contains(t.Box), qPrintable(t.Text));
-                QVERIFY2(t.Text == t.Full || metrics.horizontalAdvance(t.Full) > t.Box.width(), qPrintable(t.Full));
-                for (const ChartText& other : drawing.Texts) {
-                    const QRectF overlap = other.Box & t.Box;  // rows that only touch may share a rounding error
-                    QVERIFY2(&other == &t || overlap.width() < 0.01 || overlap.height() < 0.01,
-                             qPrintable(t.Text + " / " + other.Text));
-                }
-            }
-            for (const QString& text : whole) QVERIFY2(drawn.contains(text), qPrintable(text));
-        }
     }
 
     // The print: chart texts of 8 points or more, each in a box it fits, the
@@ -328,40 +206,6 @@ private slots:
         journal_.Entries[0].Name = QStringLiteral("-1, or @me");
         QVERIFY(JournalCsv(journal_, {0}, catalogue_).contains(",Reading,\"'-1, or @me\",Cross,"));
         QCOMPARE(Snapshot(dir_.path()), before);
-    }
-
-    // The card table keeps its rows in the chart's order, ties and all; the
-    // locations run from the first.
-    void screenShowsTheStatisticsSearchesAndOpens() {
-        frmJournal& screen = Get<frmJournal>();
-        screen.Show();
-        screen.tabJournal->setCurrentIndex(1);
-        const JournalStatistics s = TallyJournal(journal_, SearchJournal(journal_, {}), catalogue_, {});
-        const QAbstractItemModel* cards = screen.grdCards->model();
-        QCOMPARE(cards->rowCount(), static_cast<int>(s.Cards.size()));
-        for (int row = 0; row < cards->rowCount(); ++row)
-            QCOMPARE(
-                cards->index(row, 3).data().toString() + '|' + cards->index(row, 4).data().toString(),
-                s.Cards[static_cast<std::size_t>(row)].Title + '|' + s.Cards[static_cast<std::size_t>(row)].DeckName);
-        screen.cboLocationSpread->setCurrentIndex(screen.cboLocationSpread->findText(QStringLiteral("Cross")));
-        QStringList locations;
-        for (int row = 0; row < screen.grdLocations->model()->rowCount(); ++row)
-            locations << screen.grdLocations->model()->index(row, 0).data().toString();
-        QCOMPARE(locations.join(QLatin1Char(' ')), QStringLiteral("1 2 3"));
-        screen.grdResults->sortByColumn(2, Qt::AscendingOrder);
-        QCOMPARE(screen.grdResults->model()->index(0, 2).data().toString(), QStringLiteral("Bad date"));
-
-        // Typing selects, opening goes the Past screens' way.
-        screen.tabJournal->setCurrentIndex(0);
-        QTest::keyClicks(screen.txtWords, QStringLiteral("anna"));
-        QTRY_COMPARE(screen.grdResults->model()->rowCount(), 1);
-        QVERIFY(screen.lblSummary->text().startsWith(QLatin1String("1 entry;")));  // the English singular
-        QCOMPARE(screen.grdResults->model()->index(0, 0).data().toString(), QStringLiteral("1/15/24"));
-        screen.grdResults->selectRow(0);
-        screen.cmdOpen->click();
-        QTRY_VERIFY(IsLoaded<frmNewReading>() && !IsLoaded<frmJournal>());
-        QCOMPARE(TheRun.CurrentReading.ReadingNotes.Trimmed(), QStringLiteral("Talk to Anna"));
-        Get<frmNewReading>().CloseReading();
     }
 };
 
