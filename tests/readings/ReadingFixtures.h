@@ -8,6 +8,7 @@
 #include "core/platform/Palette.h"
 #include "core/platform/Rnd.h"
 #include "core/store/NewDesigns.h"
+#include "readings/EntryFixtures.h"
 #include "screens/platform/MediaPlayer.h"
 #include "screens/readings/frmNewReading.h"
 #include "screens/readings/frmOpenReading.h"
@@ -58,30 +59,6 @@ private:
     QTemporaryDir frameDir_;
     std::unique_ptr<QTemporaryDir> dir_;
 };
-
-// A saved entry "Saved", reading or diary, made with the deck and spread
-// given, card i in location i of the first 20 locations, highCard at
-// highCardAt if any.
-template <class R>
-R StoredEntry(const QString& path, Integer deckId, Integer spreadId, int highCardAt, Integer highCard) {
-    R r;
-    if constexpr (std::is_same_v<R, ReadingRecord>) {
-        r = Fixtures::NamedReading(QStringLiteral("Saved"));
-        r.DealtCount = 20;
-    } else {
-        r = Fixtures::NamedDiary(QStringLiteral("Saved"));
-    }
-    r.SavedOn = 46000;
-    r.ReadingDeckId = deckId;
-    r.ReadingDeckRevision = 1;
-    r.ReadingSpreadId = spreadId;
-    r.ReadingSpreadRevision = 1;
-    for (int i = 1; i <= 20; ++i) r.DealtCard[std::size_t(i - 1)] = Integer(i);
-    if (highCardAt > 0) r.DealtCard[std::size_t(highCardAt - 1)] = highCard;
-    r.CardTypeSelected = {True16, True16, False16, False16};
-    AppendRecord(path, r);
-    return r;
-}
 
 // Opens the given row on a fresh open screen O over the entry screen E; the
 // open screen stays up for checks.
