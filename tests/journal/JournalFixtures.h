@@ -8,6 +8,7 @@
 // since, D3 "Gone deck" on a removed deck, D4 "Damaged" with a card beyond its
 // deck.
 #include <QDate>
+#include <QTemporaryDir>
 #include <initializer_list>
 
 #include "core/journal/Journal.h"
@@ -81,5 +82,24 @@ inline Sample LaySample() {
          {{1, 45, true}, {2, 2, false}});
     return s;
 }
+
+// A program folder holding the sample, and the journal as read from it.
+class JournalRun {
+protected:
+    QTemporaryDir dir_;
+    Sample s_;
+    JournalCatalogue catalogue_;
+    Journal journal_;
+
+    void LayAndRead() {
+        Fixtures::UseProgramDir(dir_.path());
+        s_ = LaySample();
+        Read();
+    }
+    void Read() {
+        catalogue_ = LoadJournalCatalogue();
+        journal_ = ReadJournal(catalogue_);
+    }
+};
 
 }  // namespace JournalFixtures

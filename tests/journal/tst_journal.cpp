@@ -23,17 +23,8 @@ QMap<QString, QByteArray> Snapshot(const QString& dir) {
 
 }  // namespace
 
-class TestJournal : public QObject {
+class TestJournal : public QObject, JournalFixtures::JournalRun {
     Q_OBJECT
-    QTemporaryDir dir_;
-    JournalFixtures::Sample s_;
-    JournalCatalogue catalogue_;
-    Journal journal_;
-
-    void Read() {
-        catalogue_ = LoadJournalCatalogue();
-        journal_ = ReadJournal(catalogue_);
-    }
     QStringList Names(const JournalQuery& query) {
         QStringList names;
         for (int i : SearchJournal(journal_, query)) names << journal_.Entries[static_cast<std::size_t>(i)].Name;
@@ -43,8 +34,7 @@ class TestJournal : public QObject {
 private slots:
     void initTestCase() {
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-        Fixtures::UseProgramDir(dir_.path());
-        s_ = JournalFixtures::LaySample();
+        LayAndRead();
     }
 
     void init() {

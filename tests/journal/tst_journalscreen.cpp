@@ -14,18 +14,9 @@
 
 Q_DECLARE_METATYPE(ChartData)
 
-class TestJournalScreen : public QObject {
+class TestJournalScreen : public QObject, JournalFixtures::JournalRun {
     Q_OBJECT
     QTemporaryDir frame_;
-    QTemporaryDir dir_;
-    JournalFixtures::Sample s_;
-    JournalCatalogue catalogue_;
-    Journal journal_;
-
-    void Read() {
-        catalogue_ = LoadJournalCatalogue();
-        journal_ = ReadJournal(catalogue_);
-    }
 
 private slots:
     void initTestCase() {
@@ -33,9 +24,7 @@ private slots:
         InstallPluralForms();
         MsgBoxScript::Enable();
         Fixtures::StandUpFrame(frame_.path());
-        Fixtures::UseProgramDir(dir_.path());
-        s_ = JournalFixtures::LaySample();
-        Read();  // the charts' table is made from it
+        LayAndRead();  // before the charts' table, which is made from it
     }
 
     // Every text a chart draws, on the screen and in a saved picture: whole

@@ -3,6 +3,7 @@
 #include <type_traits>
 
 #include "core/records/RecordFile.h"
+#include "core/store/RunState.h"
 #include "support/Fixtures.h"
 
 namespace ReadingFixtures {
@@ -30,5 +31,24 @@ R StoredEntry(const QString& path, Integer deckId, Integer spreadId, int highCar
     AppendRecord(path, r);
     return r;
 }
+
+// A deck "Tarot" of 22 cards and a spread "Big" of 20 locations for it, in
+// the program folder in use, and complete entries saved with them.
+class EntryDesigns {
+protected:
+    Integer deckId_ = 0;
+    Integer spreadId_ = 0;
+
+    void MakeDesigns() {
+        deckId_ = Fixtures::MakeDeck(QStringLiteral("Tarot"), 22, false);
+        spreadId_ = Fixtures::MakeSpread(QStringLiteral("Big"), 20, {deckId_});
+    }
+    ReadingRecord SavedReading(int highCardAt = 0, Integer highCard = 0) {
+        return StoredEntry<ReadingRecord>(TheRun.Paths.ReadingsPath, deckId_, spreadId_, highCardAt, highCard);
+    }
+    void SavedDiary(int highCardAt = 0, Integer highCard = 0) {
+        StoredEntry<DiaryRecord>(TheRun.Paths.DiaryPath, deckId_, spreadId_, highCardAt, highCard);
+    }
+};
 
 }  // namespace ReadingFixtures

@@ -9,8 +9,6 @@
 #include "core/store/DeletePasses.h"
 #include "readings/EntryFixtures.h"
 
-using ReadingFixtures::StoredEntry;
-
 namespace {
 
 // What has happened to the designs since an entry was saved.
@@ -25,19 +23,10 @@ QStringList Steps(const QList<OpeningStep>& steps) {
 
 }  // namespace
 
-class TestEntryRules : public QObject {
+class TestEntryRules : public QObject, ReadingFixtures::EntryDesigns {
     Q_OBJECT
     std::unique_ptr<QTemporaryDir> dir_;
-    Integer deckId_ = 0;
-    Integer spreadId_ = 0;
 
-    // A complete reading or diary entry of the 20-location spread, saved as "Saved".
-    void SavedReading(int highCardAt, Integer highCard) {
-        StoredEntry<ReadingRecord>(TheRun.Paths.ReadingsPath, deckId_, spreadId_, highCardAt, highCard);
-    }
-    void SavedDiary(int highCardAt, Integer highCard) {
-        StoredEntry<DiaryRecord>(TheRun.Paths.DiaryPath, deckId_, spreadId_, highCardAt, highCard);
-    }
     // The entry in hand saved under the typed name of the test's row, in a
     // file of "First" and "Second", and read back from the disk.
     template <class R>
@@ -79,8 +68,7 @@ private slots:
     void init() {
         dir_ = std::make_unique<QTemporaryDir>();
         Fixtures::UseProgramDir(dir_->path());
-        deckId_ = Fixtures::MakeDeck(QStringLiteral("Tarot"), 22, false);
-        spreadId_ = Fixtures::MakeSpread(QStringLiteral("Big"), 20, {deckId_});
+        MakeDesigns();
     }
 
     // Each kind of entry in its own words; a card at location 16 of a

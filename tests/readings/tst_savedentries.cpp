@@ -14,18 +14,8 @@
 
 using namespace DiaryFixtures;
 
-class TestSavedEntries : public QObject, ScreenRun {
+class TestSavedEntries : public QObject, ScreenRun, EntryDesigns {
     Q_OBJECT
-    Integer deckId_ = 0;
-    Integer spreadId_ = 0;
-
-    // A complete reading or diary entry of the 20-location spread, saved as "Saved".
-    ReadingRecord SavedReading(int highCardAt = 0, Integer highCard = 0) {
-        return StoredEntry<ReadingRecord>(TheRun.Paths.ReadingsPath, deckId_, spreadId_, highCardAt, highCard);
-    }
-    void SavedDiary(int highCardAt = 0, Integer highCard = 0) {
-        StoredEntry<DiaryRecord>(TheRun.Paths.DiaryPath, deckId_, spreadId_, highCardAt, highCard);
-    }
     static frmOpenReading& TryOpen() { return ReadingFixtures::TryOpen<frmNewReading, frmOpenReading>(); }
 
 private slots:
@@ -34,8 +24,7 @@ private slots:
     void init() {
         UnloadScreen<frmOpenReading>();
         FreshDiaryRun(NewDir());
-        deckId_ = Fixtures::MakeDeck(QStringLiteral("Tarot"), 22, false);
-        spreadId_ = Fixtures::MakeSpread(QStringLiteral("Big"), 20, {deckId_});
+        MakeDesigns();
     }
 
     void cleanup() {
