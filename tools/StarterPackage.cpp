@@ -16,9 +16,7 @@ bool PackStarterPackage(const QStringList& deckNames, const QStringList& spreadN
     PackageStaging staging;
     staging.DeckNames = deckNames;
     staging.SpreadNames = spreadNames;
-    staging.StageDecks();
-    staging.StageCards();
-    staging.StageSpreads();
+    staging.StageAll();
     const bool packed = staging.DecksPacked == deckNames.size() && staging.SpreadsPacked == spreadNames.size() &&
                         CreatePackageFile(TheRun.Paths.TempDir, packagePath);
     ClearTemp();

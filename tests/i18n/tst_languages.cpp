@@ -135,9 +135,7 @@ QMap<QString, QByteArray> MakeEverything(const QString& base) {
     PackageStaging staging;
     staging.DeckNames = {QStringLiteral("Tarot")};
     staging.SpreadNames = {QStringLiteral("Cross")};
-    staging.StageDecks();
-    staging.StageCards();
-    staging.StageSpreads();
+    staging.StageAll();
     const QString package = base + QStringLiteral("/Tarot.pck");
     if (!CreatePackageFile(TheRun.Paths.TempDir, package)) return {};
 

@@ -60,9 +60,7 @@ void Stage(const QStringList& decks, const QStringList& spreads) {
     PackageStaging staging;
     staging.DeckNames = decks;
     staging.SpreadNames = spreads;
-    staging.StageDecks();
-    staging.StageCards();
-    staging.StageSpreads();
+    staging.StageAll();
 }
 
 // Designs staged in `from` as the creation screen stages them, laid in Temp/

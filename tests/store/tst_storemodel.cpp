@@ -198,9 +198,7 @@ std::optional<Planned> InstallAPackage(Run& run, QRandomGenerator& rng) {
     PackageStaging staging;
     if (!deck.isEmpty()) staging.DeckNames = {deck};
     if (!spread.isEmpty()) staging.SpreadNames = {spread};
-    staging.StageDecks();
-    staging.StageCards();
-    staging.StageSpreads();
+    staging.StageAll();
     auto answers = std::make_shared<Answers>();
     answers->Choice = static_cast<int>(rng.bounded(6));
     answers->DeckName = FirstFree(kDecks, run.Now.Decks.keys());

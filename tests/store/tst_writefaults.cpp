@@ -131,9 +131,7 @@ void MakeFixture(const QString& dir) {
     PackageStaging staging;
     staging.DeckNames = {QStringLiteral("Packed")};
     staging.SpreadNames = {QStringLiteral("Packed spread")};
-    staging.StageDecks();
-    staging.StageCards();
-    staging.StageSpreads();
+    staging.StageAll();
     DeleteSpread(CountSpreads());
 }
 

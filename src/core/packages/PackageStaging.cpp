@@ -112,6 +112,14 @@ void PackageStaging::StageCards() {
     StageRecordFile("Temp.crd", staged);
 }
 
+void PackageStaging::StageAll() {
+    if (!DeckNames.isEmpty()) {
+        StageDecks();
+        StageCards();
+    }
+    if (!SpreadNames.isEmpty()) StageSpreads();
+}
+
 void PackageStaging::StageSpreads() {
     SpreadsPacked = 0;
     QByteArray spreads;

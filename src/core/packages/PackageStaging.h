@@ -42,6 +42,9 @@ struct PackageStaging {
     // with their files. A file of a spread that cannot be copied is left out
     // like one that is not there.
     void StageSpreads();
+    // All three, as the creation screen stages a package; a kind with nothing
+    // chosen is skipped, which stages what its step would (nothing).
+    void StageAll();
     // Whether a card's CardDeckId belongs to a deck staged by StageDecks.
     bool IsCardOfPackedDeck(Integer id);
 

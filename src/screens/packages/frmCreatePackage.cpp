@@ -332,11 +332,7 @@ void frmCreatePackage::StageDesigns() {
     staging.UsePassword = chkPassword->isChecked();
     staging.Password = PackagePassword;
     staging.ProtectedDesignMet = [this] { WarnProtectedDesign(); };
-    if (!staging.DeckNames.isEmpty()) {
-        staging.StageDecks();
-        staging.StageCards();
-    }
-    if (!staging.SpreadNames.isEmpty()) staging.StageSpreads();
+    staging.StageAll();
     DecksPacked = staging.DecksPacked;
     SpreadsPacked = staging.SpreadsPacked;
     if (!txtAttachment->text().trimmed().isEmpty()) StageAttachment();
